@@ -1,0 +1,51 @@
+# What every target of the project shares: language level, warnings, sanitizers, folder layout.
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
+
+add_library(quorvel-flags INTERFACE)
+target_include_directories(quorvel-flags INTERFACE ${PROJECT_SOURCE_DIR})
+target_compile_options(quorvel-flags INTERFACE
+    -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wnon-virtual-dtor -Wold-style-cast
+    -Woverloaded-virtual -Wcast-align
+    $<$<BOOL:${QUORVEL_WERROR}>:-Werror>)
+target_compile_definitions(quorvel-flags INTERFACE
+    QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS
+    QT_DISABLE_DEPRECATED_BEFORE=0x060400)
+if(QUORVEL_SANITIZE)
+    target_compile_options(quorvel-flags INTERFACE
+        -fsanitize=${QUORVEL_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer -O1)
+    target_link_options(quorvel-flags INTERFACE -fsanitize=${QUORVEL_SANITIZE})
+endif()
+
+# quorvel_library(NAME SOURCES file... [LINK library...] [QT])
+# One folder's code as a static library. QT runs moc, uic and rcc over it.
+function(quorvel_library name)
+    cmake_parse_arguments(PARSE_ARGV 1 arg "QT" "" "SOURCES;LINK")
+    add_library(${name} STATIC ${arg_SOURCES})
+    target_link_libraries(${name} PUBLIC ${arg_LINK} quorvel-flags)
+    if(arg_QT)
+        set_target_properties(${name} PROPERTIES AUTOMOC ON AUTOUIC ON AUTORCC ON)
+    endif()
+endfunction()
+
+# quorvel_test(NAME SOURCES file... LINK library... [WRAP call...] [LABELS label...])
+# One test program, run by ctest with an offscreen screen and a home of its own.
+# WRAP names system calls that the test replaces at link time by __wrap_CALL.
+# LABELS "threads" puts the test into the thread sanitizer's run.
+function(quorvel_test name)
+    cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;LINK;WRAP;LABELS")
+    add_executable(${name} ${arg_SOURCES})
+    set_target_properties(${name} PROPERTIES AUTOMOC ON
+        RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests)
+    target_link_libraries(${name} PRIVATE ${arg_LINK} Qt6::Test quorvel-flags)
+    foreach(call IN LISTS arg_WRAP)
+        target_link_options(${name} PRIVATE -Wl,--wrap=${call})
+    endforeach()
+    add_test(NAME ${name} COMMAND ${name})
+    set_tests_properties(${name} PROPERTIES
+        LABELS "${arg_LABELS}"
+        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;QT_FORCE_STDERR_LOGGING=1")
+endfunction()

@@ -1,0 +1,51 @@
+#pragma once
+
+#include "virtualkeyer/core/Event.h"
+#include "virtualkeyer/core/Profile.h"
+#include "virtualkeyer/core/Registers.h"
+
+#include <memory>
+#include <optional>
+#include <vector>
+
+namespace virtualkeyer {
+
+/// A Morse keyer as a pure state machine: bytes, paddles, buttons and time go in; events come out.
+///
+/// It reads no clock. Every input carries its time, which must not lie before an earlier one;
+/// everything due before that time happens first. Not thread-safe.
+class Keyer {
+  public:
+    explicit Keyer(const Profile& profile = {});
+    ~Keyer();
+
+    /// A byte from the host that is complete on the line at `at`.
+    void receive(std::uint8_t byte, Time at);
+
+    /// The paddle contacts are closed or open from `at` on.
+    void setPaddle(bool dit, bool dah, Time at);
+
+    /// The speed pot stands at `wpm` from `at` on.
+    void setPot(int wpm, Time at);
+
+    /// The push-buttons held down from `at` on: bits 0, 1, 2 and 4.
+    void setPushButtons(std::uint8_t mask, Time at);
+
+    /// Lets time pass until `until`, with everything that is due up to and including it.
+    void advance(Time until);
+
+    /// When the keyer next does something of its own accord; nothing while it only waits for input.
+    [[nodiscard]] std::optional<Time> nextEvent() const;
+
+    /// What happened since the last call, in order of time.
+    [[nodiscard]] std::vector<Event> takeEvents();
+
+    /// What the host has set, for a panel or a test to read.
+    [[nodiscard]] const Registers& registers() const;
+
+  private:
+    class Machine;
+    std::unique_ptr<Machine> _machine;
+};
+
+} // namespace virtualkeyer
