@@ -1,0 +1,7 @@
+#pragma once
+
+#include <QString>
+
+/// Writes one line to the diagnostic log: standard error, which is the journal in a desktop
+/// session. There are no levels. Any thread.
+void logLine(const QString& line);

@@ -1,0 +1,112 @@
+#include "platform/MainQueue.h"
+
+#include <QSocketNotifier>
+
+#include <cerrno>
+#include <sys/eventfd.h>
+#include <system_error>
+#include <unistd.h>
+
+struct MainQueue::Job {
+    enum class State { Waiting, Running, Finished, Dropped };
+
+    Work work;
+    State state = State::Waiting;
+};
+
+// The queue and its wake-up are made of the C++ library's mutex and of a descriptor, not of Qt's
+// event posting: what one thread wrote before adding work is then visibly written before the main
+// thread reads it, to the reader of this code and to the thread sanitizer alike.
+MainQueue::MainQueue()
+    : _eventDescriptor(::eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK | EFD_SEMAPHORE)) {
+    if (_eventDescriptor < 0) {
+        throw std::system_error(errno, std::generic_category(), "eventfd");
+    }
+    _notifier = new QSocketNotifier(_eventDescriptor, QSocketNotifier::Read, this);
+    QObject::connect(_notifier, &QSocketNotifier::activated, this, &MainQueue::runOne);
+}
+
+MainQueue::~MainQueue() {
+    shutDown();
+    delete _notifier;
+    ::close(_eventDescriptor);
+}
+
+void MainQueue::async(Work work) {
+    static_cast<void>(add(std::make_shared<Job>(Job{std::move(work)})));
+}
+
+bool MainQueue::sync(Work work, const std::stop_token& stop) {
+    const auto job = std::make_shared<Job>(Job{std::move(work)});
+    if (!add(job)) {
+        return false;
+    }
+    std::unique_lock lock(_mutex);
+    _changed.wait(lock, stop, [&] {
+        return job->state == Job::State::Finished || job->state == Job::State::Dropped;
+    });
+    if (job->state == Job::State::Waiting) {
+        job->state = Job::State::Dropped;
+    }
+    return job->state == Job::State::Finished;
+}
+
+void MainQueue::shutDown() {
+    std::deque<std::shared_ptr<Job>> dropped;
+    {
+        const std::scoped_lock lock(_mutex);
+        _isShutDown = true;
+        dropped.swap(_jobs);
+        for (const auto& job : dropped) {
+            job->state = Job::State::Dropped;
+        }
+    }
+    _changed.notify_all();
+}
+
+bool MainQueue::add(const std::shared_ptr<Job>& job) {
+    {
+        const std::scoped_lock lock(_mutex);
+        if (_isShutDown) {
+            return false;
+        }
+        _jobs.push_back(job);
+    }
+    // One count per job: the descriptor stays readable while jobs wait, so that an event loop
+    // run by one job goes on with the next.
+    ::eventfd_write(_eventDescriptor, 1);
+    return true;
+}
+
+std::shared_ptr<MainQueue::Job> MainQueue::takeFirst() {
+    const std::scoped_lock lock(_mutex);
+    if (_jobs.empty()) {
+        return nullptr;
+    }
+    auto job = _jobs.front();
+    _jobs.pop_front();
+    if (job->state == Job::State::Dropped) {
+        return nullptr;
+    }
+    job->state = Job::State::Running;
+    return job;
+}
+
+void MainQueue::runOne() {
+    eventfd_t count = 0;
+    if (::eventfd_read(_eventDescriptor, &count) != 0) {
+        return;
+    }
+    if (const auto job = takeFirst()) {
+        job->work();
+        finish(*job);
+    }
+}
+
+void MainQueue::finish(Job& job) {
+    {
+        const std::scoped_lock lock(_mutex);
+        job.state = Job::State::Finished;
+    }
+    _changed.notify_all();
+}

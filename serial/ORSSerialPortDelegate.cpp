@@ -1,0 +1,11 @@
+#include "serial/ORSSerialPortDelegate.h"
+
+void ORSSerialPortDelegate::serialPortDidReceiveData(ORSSerialPort&, const QByteArray&) {}
+
+void ORSSerialPortDelegate::serialPortWasOpened(ORSSerialPort&) {}
+
+void ORSSerialPortDelegate::serialPortWasClosed(ORSSerialPort&) {}
+
+void ORSSerialPortDelegate::serialPortWasRemovedFromSystem(ORSSerialPort&) {}
+
+void ORSSerialPortDelegate::serialPortDidEncounterError(ORSSerialPort&, const Error&) {}

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "platform/Error.h"
+
+#include <QByteArray>
+
+#include <memory>
+
+class ORSSerialPort;
+
+/// What a serial port tells the object that uses it. Every operation may be left out. The port
+/// does not own its delegate: whoever goes away first takes itself off the port.
+class ORSSerialPortDelegate {
+  public:
+    ORSSerialPortDelegate() = default;
+    ORSSerialPortDelegate(const ORSSerialPortDelegate&) = delete;
+    ORSSerialPortDelegate& operator=(const ORSSerialPortDelegate&) = delete;
+    virtual ~ORSSerialPortDelegate() = default;
+
+    /// 1 to 1024 bytes were read, in the order of the line. From the main queue.
+    virtual void serialPortDidReceiveData(ORSSerialPort& port, const QByteArray& data);
+
+    /// The port was opened. From the main queue, before any data of that opening.
+    virtual void serialPortWasOpened(ORSSerialPort& port);
+
+    /// The port was closed. On the thread that closed it, before close() returns.
+    virtual void serialPortWasClosed(ORSSerialPort& port);
+
+    /// The device has gone, and the port is closed. On the thread that cleaned up.
+    virtual void serialPortWasRemovedFromSystem(ORSSerialPort& port);
+
+    /// A system call failed. From the main queue, but for a failed write, which reports before
+    /// sendData() returns.
+    virtual void serialPortDidEncounterError(ORSSerialPort& port, const Error& error);
+};
