@@ -19,6 +19,10 @@ class Keyer {
     explicit Keyer(const Profile& profile = {});
     ~Keyer();
 
+    /// The host has opened the port at `at`: a board with a boot loader restarts and is deaf for a
+    /// while, any other takes no notice.
+    void portOpened(Time at);
+
     /// A byte from the host that is complete on the line at `at`.
     void receive(std::uint8_t byte, Time at);
 

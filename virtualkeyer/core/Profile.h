@@ -1,0 +1,87 @@
+#pragma once
+
+#include "virtualkeyer/core/Event.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+
+namespace virtualkeyer {
+
+/// When a letter of the host's text is echoed.
+enum class EchoTime {
+    BeforeLetterSpace, ///< one dit after the letter's last key-up
+    AfterLetterSpace,  ///< three dits after it, so text that comes letter by letter idles between
+};
+
+/// When the keyer reports that it has nothing left to send.
+enum class IdleTime {
+    AfterLetterSpace, ///< the last letter's space belongs to the sending
+    WithEcho,         ///< as soon as the last letter is echoed
+};
+
+/// Which byte goes first when the last echo and the idle status leave together.
+enum class EndOrder { EchoThenIdle, IdleThenEcho };
+
+/// What becomes of a character that has no Morse.
+enum class UnknownCharacter {
+    Skipped,      ///< neither keyed nor echoed
+    QuestionMark, ///< keyed and echoed as "?"
+};
+
+/// When the keyer asks the host to stop sending.
+enum class XoffRule {
+    OverTwoThirds,     ///< more than two thirds of the buffer wait; one status byte each way
+    TwentyOneRepeated, ///< 21 bytes or more wait; the status is repeated for every byte added
+};
+
+/// What a clear command does to the letter under way.
+enum class ClearInLetter {
+    Finishes, ///< the letter is keyed to its end and echoed
+    DropsKey, ///< the key goes up at once; the letter is not echoed
+};
+
+/// What becomes of a memory image that the host loads.
+enum class MemoryLoad { Kept, ThrownAway };
+
+/// How paddle keying shows in the status bytes.
+enum class BreakInReport {
+    Level,  ///< C6 while it lasts, then C4 and C0
+    Single, ///< C2 once, then C6; C0 at the end
+};
+
+/// What a resume does with a letter in which the pause came.
+enum class ResumeAfterPause { GoesOn, RepeatsLetter };
+
+/// Where keyers differ: one choice each. The defaults describe a version 2 keyer.
+struct Profile {
+    /// Answer to the open command, 20 to 23.
+    std::uint8_t firmware = 23;
+    /// Bytes of text that may wait.
+    std::size_t bufferSize = 128;
+    /// Where the speed pot stands at power-up, in words per minute.
+    int potWpm = 20;
+    EchoTime echoTime = EchoTime::BeforeLetterSpace;
+    IdleTime idleTime = IdleTime::AfterLetterSpace;
+    EndOrder endOrder = EndOrder::EchoThenIdle;
+    /// Whether the half space "|" is echoed.
+    bool echoesHalfSpace = false;
+    UnknownCharacter unknownCharacter = UnknownCharacter::Skipped;
+    /// Whether a status byte follows the version byte.
+    bool reportsStatusAfterOpen = false;
+    XoffRule xoffRule = XoffRule::OverTwoThirds;
+    ClearInLetter clearInLetter = ClearInLetter::Finishes;
+    /// How long a boot loader swallows every byte after the port was opened; 0 for a keyer that
+    /// does not restart then. Boards that do take 1000 to 1300 ms.
+    Time bootLoaderTime{0};
+    /// How long the keyer beeps at its first command before it obeys; 0 for no beep. 500 ms is
+    /// usual.
+    Time firstCommandBeep{0};
+    MemoryLoad memoryLoad = MemoryLoad::Kept;
+    BreakInReport breakInReport = BreakInReport::Level;
+    ResumeAfterPause resumeAfterPause = ResumeAfterPause::GoesOn;
+    /// The longest time that the tune command holds the key; nothing for no limit.
+    std::optional<Time> tuneLimit;
+};
+
+} // namespace virtualkeyer
