@@ -1,0 +1,26 @@
+#pragma once
+
+#include "virtualkeyer/core/Event.h"
+#include "virtualkeyer/core/Registers.h"
+
+#include <optional>
+
+namespace virtualkeyer {
+
+/// Watches what the keyer does. Called on the keyer's thread, in order of time; what it throws
+/// ends the keyer's loop.
+class KeyerListener {
+  public:
+    virtual ~KeyerListener() = default;
+
+    /// The keyer did something; `registers` are the ones in force.
+    virtual void keyerDid(const Event& event, const Registers& registers) = 0;
+
+    /// Nothing more happens up to `now`.
+    virtual void timePassed(Time /*now*/) {}
+
+    /// When the listener next wants to hear timePassed(); nothing while it only waits for events.
+    [[nodiscard]] virtual std::optional<Time> nextWish() const { return std::nullopt; }
+};
+
+} // namespace virtualkeyer

@@ -1,0 +1,66 @@
+#include "virtualkeyer/pty/KeyerLoop.h"
+
+#include "virtualkeyer/pty/SystemFailure.h"
+
+#include <algorithm>
+#include <array>
+#include <poll.h>
+
+namespace virtualkeyer {
+
+namespace {
+
+/// What is due in the past is due now.
+timespec timeoutOf(Time wait) {
+    const Time rest = std::max(wait, Time::zero());
+    const auto seconds = std::chrono::floor<std::chrono::seconds>(rest);
+    return {.tv_sec = seconds.count(), .tv_nsec = (rest - seconds).count()};
+}
+
+} // namespace
+
+KeyerLoop::KeyerLoop(SerialKeyer& keyer, PseudoTerminal& terminal)
+    : _keyer(keyer), _terminal(terminal), _start(Clock::now()) {}
+
+void KeyerLoop::run(int stopDescriptor) {
+    while (waitForWork(stopDescriptor)) {
+        noticeOpenings();
+        receiveFromHost();
+        advance();
+    }
+}
+
+/// False when it is time to stop.
+bool KeyerLoop::waitForWork(int stopDescriptor) {
+    // A negative descriptor is not waited for: bytes that find no room stay in the terminal.
+    std::array<pollfd, 3> descriptors{{{stopDescriptor, POLLIN, 0},
+                                       {_terminal.watch(), POLLIN, 0},
+                                       {_keyer.hasRoom() ? _terminal.master() : -1, POLLIN, 0}}};
+    timespec timeout{};
+    const auto due = _keyer.nextEvent();
+    if (due)
+        timeout = timeoutOf(*due - now());
+    if (::ppoll(descriptors.data(), descriptors.size(), due ? &timeout : nullptr, nullptr) < 0 &&
+        errno != EINTR)
+        throwSystemFailure("cannot wait for the host");
+    return descriptors.front().revents == 0;
+}
+
+void KeyerLoop::noticeOpenings() {
+    for (int openings = _terminal.takeOpenings(); openings > 0; --openings)
+        _keyer.portOpened(now());
+}
+
+void KeyerLoop::receiveFromHost() {
+    std::array<std::uint8_t, 1> byte{};
+    while (_keyer.hasRoom() && _terminal.read(byte) > 0)
+        _keyer.send(byte.front(), now());
+}
+
+void KeyerLoop::advance() {
+    _keyer.advance(now());
+    for (const std::uint8_t byte : _keyer.takeArrived())
+        _terminal.write(byte);
+}
+
+} // namespace virtualkeyer
