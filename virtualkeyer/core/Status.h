@@ -1,0 +1,48 @@
+#pragma once
+
+#include "virtualkeyer/core/Outbox.h"
+
+#include <cstdint>
+
+namespace virtualkeyer {
+
+/// The status and push-button bytes: tells the host whenever what they show has changed.
+class Status {
+  public:
+    /// Reasons for the bits that the host sees; any number may hold at once.
+    enum Reason : unsigned {
+        BufferFull = 0x01,
+        BreakIn = 0x02,
+        Sending = 0x04, ///< keying the host's text
+        Waiting = 0x08, ///< a buffered wait or timed key-down
+        Tuning = 0x10,  ///< key immediate is on
+        TuneKeyed = 0x20,
+        PaddleKeyed = 0x40,
+    };
+
+    explicit Status(Outbox& outbox) : _outbox(outbox) {}
+
+    /// Drops and adds reasons in one step, so the host sees one byte at most.
+    void change(unsigned added, unsigned dropped, Time at);
+    [[nodiscard]] bool has(Reason reason) const { return (_reasons & reason) != 0; }
+
+    /// Sends the status byte although nothing has changed.
+    void report(Time at);
+
+    /// Version 1 mode has a tune bit; version 2 mode has push-button bytes instead.
+    void selectVersion1() { _isVersion2 = false; }
+    /// Tells an open host the push-buttons at once.
+    void selectVersion2(Time at);
+    /// The buttons held down: bits 0, 1, 2 and 4.
+    void setPushButtons(std::uint8_t mask, Time at);
+
+  private:
+    [[nodiscard]] std::uint8_t byte() const;
+
+    Outbox& _outbox;
+    unsigned _reasons = 0;
+    bool _isVersion2 = false;
+    std::uint8_t _buttons = 0;
+};
+
+} // namespace virtualkeyer
