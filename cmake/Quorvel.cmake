@@ -31,6 +31,9 @@ function(quorvel_library name)
     endif()
 endfunction()
 
+# What the thread sanitizer's run builds.
+add_custom_target(thread-tests)
+
 # quorvel_test(NAME SOURCES file... LINK library... [WRAP call...] [LABELS label...])
 # One test program, run by ctest with an offscreen screen and a home of its own.
 # WRAP names system calls that the test replaces at link time by __wrap_CALL.
@@ -44,6 +47,9 @@ function(quorvel_test name)
     foreach(call IN LISTS arg_WRAP)
         target_link_options(${name} PRIVATE -Wl,--wrap=${call})
     endforeach()
+    if("threads" IN_LIST arg_LABELS)
+        add_dependencies(thread-tests ${name})
+    endif()
     add_test(NAME ${name} COMMAND ${name})
     set_tests_properties(${name} PROPERTIES
         LABELS "${arg_LABELS}"

@@ -1,0 +1,13 @@
+#!/usr/bin/env bash
+# Formats every C++ file in place; --check only tells which are not formatted
+set -euo pipefail
+source scripts/lib/packages.sh
+source scripts/lib/sources.sh
+require_packages format
+
+mapfile -t files < <(cpp_files)
+if [[ ${1:-} == --check ]]; then
+    clang-format --dry-run -Werror "${files[@]}"
+else
+    clang-format -i "${files[@]}"
+fi

@@ -1,0 +1,13 @@
+# Configures and builds presets. To be sourced.
+
+# CMake takes the compiler cache from here when it configures a build directory for the first time.
+if command -v ccache >/dev/null; then
+    export CMAKE_CXX_COMPILER_LAUNCHER=ccache
+fi
+
+# build_preset PRESET [ARGUMENT...]: the arguments are cmake --build's, such as --target NAME.
+build_preset() {
+    local preset=$1
+    shift
+    cmake --preset "$preset" --log-level=WARNING && cmake --build --preset "$preset" "$@"
+}
