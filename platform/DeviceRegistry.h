@@ -58,6 +58,20 @@ class DeviceRegistry : public QObject {
     /// A property by its DeviceKey; null for what the device does not have.
     [[nodiscard]] virtual QString stringProperty(DeviceHandle device, const QString& key) const = 0;
 
+    /// Keeps the properties of a device readable until as many release() have followed.
     virtual void retain(DeviceHandle device) = 0;
     virtual void release(DeviceHandle device) = 0;
+
+    /// Has arrivals and removals wait, as they must while an alert is up, until as many
+    /// resumeAnnouncements() have followed. They are then announced in order, from the event loop.
+    void holdAnnouncements();
+    void resumeAnnouncements();
+    [[nodiscard]] bool areAnnouncementsHeld() const { return _holds > 0; }
+
+  Q_SIGNALS:
+    /// Nobody holds the announcements any more.
+    void announcementsResumed();
+
+  private:
+    int _holds = 0;
 };

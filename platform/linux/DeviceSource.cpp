@@ -1,0 +1,5 @@
+#include "platform/linux/DeviceSource.h"
+
+DeviceSource::DeviceSource() = default;
+
+DeviceSource::~DeviceSource() = default;

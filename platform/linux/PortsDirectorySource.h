@@ -1,0 +1,37 @@
+#pragma once
+
+#include "platform/linux/DeviceSource.h"
+
+#include <QFileInfo>
+#include <QFileSystemWatcher>
+
+#include <optional>
+
+/// The ports directory: each symbolic link in it to a terminal device is a serial port of the
+/// link's name. So programs that make terminals (software keyers, network bridges) have a place
+/// where they can show them, without a right that an ordinary user does not have.
+class PortsDirectorySource final : public DeviceSource {
+    Q_OBJECT
+  public:
+    /// quorvel/ports in the user's runtime directory; null when the user has none.
+    [[nodiscard]] static QString standardPath();
+
+    /// Makes the directory and its parent, for the user alone, if they are missing. Whatever
+    /// happens to it later is followed; it is not made again.
+    explicit PortsDirectorySource(const QString& path);
+
+    [[nodiscard]] QList<SerialDevice> devices() override;
+
+  private:
+    [[nodiscard]] QStringList chain() const;
+    void makeDirectories();
+    void watchAnew(const QStringList& directories);
+    void watch(const QStringList& directories);
+    [[nodiscard]] QStringList targetDirectories(const QFileInfoList& links) const;
+    [[nodiscard]] QFileInfoList links();
+    [[nodiscard]] std::optional<SerialDevice> deviceAt(const QFileInfo& link) const;
+
+    QString _path;
+    QFileSystemWatcher _watcher;
+    bool _wasReadable = true;
+};

@@ -1,0 +1,258 @@
+#include "serial/ORSSerialPortManager.h"
+
+#include "platform/Log.h"
+#include "platform/Platform.h"
+
+#include <QPointer>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString describe(const QObject* object) {
+    if (object == nullptr) {
+        return u"(null)"_s;
+    }
+    return u"<%1: 0x%2>"_s.arg(QLatin1StringView(object->metaObject()->className()))
+        .arg(reinterpret_cast<quintptr>(object), 0, 16);
+}
+
+void logUnexpectedContext(const QObject* context, QLatin1StringView function) {
+    logLine(u"Unexpected context object "_s + describe(context) + u" in "_s + function +
+            u". Context object should be an instance of ORSSerialPortManager"_s);
+}
+
+/// Two objects stand for the same port when they have the same path.
+bool containsEqual(const ORSSerialPortManager::Ports& ports, const ORSSerialPort& port) {
+    return std::any_of(ports.begin(), ports.end(),
+                       [&](const auto& each) { return each->path() == port.path(); });
+}
+
+/// Bluetooth devices of the machine's own (a paired telephone, say) are there all the time and
+/// are no keyer. One that arrives while the program runs is what the operator has just set up.
+bool isListedAtStart(const ORSSerialPort& port) {
+    return !port.name().contains("bluetooth"_L1, Qt::CaseInsensitive);
+}
+
+} // namespace
+
+void ORSSerialPortManagerPortsPublishedNotificationCallback(QObject* context,
+                                                            const QList<DeviceHandle>& devices) {
+    if (auto* const manager = qobject_cast<ORSSerialPortManager*>(context)) {
+        manager->serialPortsWerePublished(devices);
+        return;
+    }
+    logUnexpectedContext(
+        context,
+        "void ORSSerialPortManagerPortsPublishedNotificationCallback(void *, io_iterator_t)"_L1);
+}
+
+void ORSSerialPortManagerPortsTerminatedNotificationCallback(QObject* context,
+                                                             const QList<DeviceHandle>& devices) {
+    if (auto* const manager = qobject_cast<ORSSerialPortManager*>(context)) {
+        manager->serialPortsWereTerminated(devices);
+        return;
+    }
+    logUnexpectedContext(
+        context,
+        "void ORSSerialPortManagerPortsTerminatedNotificationCallback(void *, io_iterator_t)"_L1);
+}
+
+ORSSerialPortManager& ORSSerialPortManager::sharedSerialPortManager() {
+    static QPointer<ORSSerialPortManager> shared;
+    if (!shared) {
+        shared = new ORSSerialPortManager(&Platform::current());
+    }
+    return *shared;
+}
+
+ORSSerialPortManager::ORSSerialPortManager(QObject* parent) : QObject(parent) {
+    getAvailablePortsAndRegisterForChangeNotifications();
+    registerForNotifications();
+}
+
+ORSSerialPortManager::~ORSSerialPortManager() {
+    NotificationCenter::defaultCenter().removeObserver(this);
+    setPortPublishedNotificationIterator(0);
+    setPortTerminatedNotificationIterator(0);
+}
+
+void ORSSerialPortManager::setAvailablePorts(const std::optional<Ports>& ports) {
+    _availablePorts = ports;
+    Q_EMIT availablePortsReplaced();
+}
+
+qsizetype ORSSerialPortManager::countOfAvailablePorts() const {
+    return _availablePorts ? _availablePorts->size() : 0;
+}
+
+std::shared_ptr<ORSSerialPort>
+ORSSerialPortManager::objectInAvailablePortsAtIndex(qsizetype index) const {
+    return _availablePorts ? _availablePorts->at(index) : nullptr;
+}
+
+void ORSSerialPortManager::insertAvailablePortsAtIndexes(const Ports& ports,
+                                                         const Indexes& indexes) {
+    if (!_availablePorts) {
+        return;
+    }
+    for (qsizetype i = 0; i < indexes.size(); ++i) {
+        _availablePorts->insert(indexes[i], ports[i]);
+    }
+    Q_EMIT availablePortsInserted(indexes);
+}
+
+void ORSSerialPortManager::insertObjectInAvailablePortsAtIndex(
+    const std::shared_ptr<ORSSerialPort>& port, qsizetype index) {
+    insertAvailablePortsAtIndexes({port}, {index});
+}
+
+void ORSSerialPortManager::removeAvailablePortsAtIndexes(const Indexes& indexes) {
+    if (!_availablePorts) {
+        return;
+    }
+    std::for_each(indexes.rbegin(), indexes.rend(),
+                  [this](qsizetype index) { _availablePorts->removeAt(index); });
+    Q_EMIT availablePortsRemoved(indexes);
+}
+
+void ORSSerialPortManager::removeObjectFromAvailablePortsAtIndex(qsizetype index) {
+    removeAvailablePortsAtIndexes({index});
+}
+
+quint32 ORSSerialPortManager::portPublishedNotificationIterator() const {
+    return _portPublishedNotificationIterator;
+}
+
+void ORSSerialPortManager::setPortPublishedNotificationIterator(quint32 iterator) {
+    replaceIterator(_portPublishedNotificationIterator, iterator);
+}
+
+quint32 ORSSerialPortManager::portTerminatedNotificationIterator() const {
+    return _portTerminatedNotificationIterator;
+}
+
+void ORSSerialPortManager::setPortTerminatedNotificationIterator(quint32 iterator) {
+    replaceIterator(_portTerminatedNotificationIterator, iterator);
+}
+
+void ORSSerialPortManager::systemWillSleep(const Notification&) {
+    const auto ports = _availablePorts.value_or(Ports());
+    for (const auto& port : ports) {
+        if (port->isOpen() && port->close()) {
+            _portsToReopenAfterSleep.append(port);
+        }
+    }
+}
+
+void ORSSerialPortManager::systemDidWake(const Notification&) {
+    const auto ports = _portsToReopenAfterSleep;
+    for (const auto& port : ports) {
+        port->open();
+        _portsToReopenAfterSleep.removeAll(port);
+    }
+}
+
+void ORSSerialPortManager::serialPortsWerePublished(const QList<DeviceHandle>& devices) {
+    Ports ports;
+    for (const auto device : devices) {
+        const auto port = ORSSerialPort::serialPortWithDevice(device);
+        if (!containsEqual(_availablePorts.value_or(Ports()), *port)) {
+            ports.append(port);
+        }
+    }
+    appendAvailablePorts(ports);
+    NotificationCenter::defaultCenter().post(
+        ORSSerialPortWasConnectedNotification, this,
+        {{ORSConnectedSerialPortsKey, QVariant::fromValue(ports)}});
+}
+
+void ORSSerialPortManager::serialPortsWereTerminated(const QList<DeviceHandle>& devices) {
+    Ports ports;
+    for (const auto device : devices) {
+        ports.append(ORSSerialPort::serialPortWithDevice(device));
+    }
+    for (const auto& port : std::as_const(ports)) {
+        port->cleanup();
+    }
+    removeAvailablePorts(ports);
+    NotificationCenter::defaultCenter().post(
+        ORSSerialPortWasDisconnectedNotification, this,
+        {{ORSDisconnectedSerialPortsKey, QVariant::fromValue(ports)}});
+}
+
+void ORSSerialPortManager::getAvailablePortsAndRegisterForChangeNotifications() {
+    auto& devices = Platform::current().devices();
+    const auto published = devices.addMatchingNotification(
+        DeviceEvent::Publish, &ORSSerialPortManagerPortsPublishedNotificationCallback, this);
+    if (!published) {
+        return;
+    }
+    setPortPublishedNotificationIterator(published->iterator);
+    Ports ports;
+    for (const auto device : published->present) {
+        const auto port = ORSSerialPort::serialPortWithDevice(device);
+        if (isListedAtStart(*port)) {
+            ports.append(port);
+        }
+    }
+    setAvailablePorts(ports);
+    if (const auto terminated = devices.addMatchingNotification(
+            DeviceEvent::Terminate, &ORSSerialPortManagerPortsTerminatedNotificationCallback,
+            this)) {
+        setPortTerminatedNotificationIterator(terminated->iterator);
+    }
+}
+
+void ORSSerialPortManager::registerForNotifications() {
+    auto& center = NotificationCenter::defaultCenter();
+    center.addObserver(this, NSApplicationWillTerminateNotification,
+                       [this](const Notification&) { applicationWillTerminate(); });
+    center.addObserver(this, NSWorkspaceWillSleepNotification,
+                       [this](const Notification& notification) { systemWillSleep(notification); });
+    center.addObserver(this, NSWorkspaceDidWakeNotification,
+                       [this](const Notification& notification) { systemDidWake(notification); });
+}
+
+void ORSSerialPortManager::applicationWillTerminate() {
+    const auto ports = _availablePorts.value_or(Ports());
+    for (const auto& port : ports) {
+        port->cleanup();
+    }
+    setAvailablePorts(std::nullopt);
+}
+
+void ORSSerialPortManager::appendAvailablePorts(const Ports& ports) {
+    if (ports.isEmpty()) {
+        return;
+    }
+    Indexes indexes;
+    for (qsizetype i = 0; i < ports.size(); ++i) {
+        indexes.append(countOfAvailablePorts() + i);
+    }
+    insertAvailablePortsAtIndexes(ports, indexes);
+}
+
+void ORSSerialPortManager::removeAvailablePorts(const Ports& ports) {
+    Indexes indexes;
+    for (qsizetype i = 0; i < countOfAvailablePorts(); ++i) {
+        if (containsEqual(ports, *_availablePorts->at(i))) {
+            indexes.append(i);
+        }
+    }
+    if (!indexes.isEmpty()) {
+        removeAvailablePortsAtIndexes(indexes);
+    }
+}
+
+void ORSSerialPortManager::replaceIterator(quint32& iterator, quint32 successor) {
+    if (iterator == successor) {
+        return;
+    }
+    if (iterator != 0) {
+        Platform::current().devices().removeNotification(iterator);
+    }
+    iterator = successor;
+}
