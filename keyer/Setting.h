@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QHash>
+#include <QString>
+#include <QVariant>
+
+#include <cstdint>
+#include <span>
+#include <variant>
+
+/// One entry of a choice list: the text that is offered and stored, and its bits in the keyer's
+/// register.
+struct Choice {
+    QLatin1StringView text;
+    std::uint8_t code;
+};
+
+/// A setting: its key in the settings store, its registered default, which also tells its type,
+/// and its choice list where it has one.
+struct Setting {
+    QLatin1StringView key;
+    std::variant<bool, int, double, QLatin1StringView> defaultValue;
+    std::span<const Choice> choices = {};
+};
+
+/// The code of the entry that equals `text`, case included; 0 when there is none.
+template <typename Text>
+[[nodiscard]] constexpr std::uint8_t codeOfChoice(std::span<const Choice> choices,
+                                                  const Text& text) {
+    for (const auto& choice : choices) {
+        if (choice.text == text) {
+            return choice.code;
+        }
+    }
+    return 0;
+}
+
+/// The default values by key, as the settings store registers them.
+[[nodiscard]] QHash<QString, QVariant> defaultsOf(std::span<const Setting> settings);

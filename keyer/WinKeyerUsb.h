@@ -1,0 +1,206 @@
+#pragma once
+
+#include "keyer/CharacterSet.h"
+#include "platform/Clock.h"
+#include "platform/Error.h"
+#include "serial/ORSSerialPort.h"
+#include "serial/ORSSerialPortDelegate.h"
+
+#include <QByteArray>
+#include <QObject>
+#include <QString>
+
+#include <memory>
+
+/// The keyer engine: the one object that owns the link to the keyer, and everything that is sent
+/// over it and read from it.
+///
+/// Its concerns stand in files of their own: connection, receive path, sending, keyboard, modes.
+/// All sending is paced by the keyer: one plain character is on its way, and its echo lets the
+/// next one go. Main thread only.
+class WinKeyerUsb final : public QObject, public ORSSerialPortDelegate {
+    Q_OBJECT
+    Q_PROPERTY(QString speedString READ speedString NOTIFY speedStringChanged)
+    Q_PROPERTY(
+        QString versionString READ versionString WRITE setVersionString NOTIFY versionStringChanged)
+    Q_PROPERTY(QString keyboardBuffer READ keyboardBuffer WRITE setKeyboardBuffer NOTIFY
+                   keyboardBufferChanged)
+    Q_PROPERTY(QString hisCallsign READ hisCallsign WRITE setHisCallsign NOTIFY hisCallsignChanged)
+    Q_PROPERTY(
+        qint64 serialNumber READ serialNumber WRITE setSerialNumber NOTIFY serialNumberChanged)
+    Q_PROPERTY(int pauseState READ pauseState WRITE setPauseState NOTIFY pauseStateChanged)
+    Q_PROPERTY(int tuneState READ tuneState WRITE setTuneState NOTIFY tuneStateChanged)
+    Q_PROPERTY(int hscwState READ hscwState WRITE setHscwState NOTIFY hscwStateChanged)
+    Q_PROPERTY(int beaconState READ beaconState WRITE setBeaconState NOTIFY beaconStateChanged)
+
+  public:
+    /// The one engine of the running program, made at the first call.
+    [[nodiscard]] static WinKeyerUsb& sharedInstance();
+    ~WinKeyerUsb() override;
+
+    /// What may be typed or stored in a message: the characters that the keyer keys, the tokens
+    /// and the control characters.
+    [[nodiscard]] static const CharacterSet& morseKeyboardCharacterSet();
+
+    // Connection. Each operation is true on success; on failure it fills `error`, where one is
+    // given. A failure from finding the port on closes and forgets the port and sets the stored
+    // port name to "None".
+
+    /// Brings the keyer on the stored port into host mode. Never waits for the keyer: what it
+    /// answers is handled after this has returned.
+    [[nodiscard]] bool connect(Error* error);
+    [[nodiscard]] bool isConnected() const;
+    /// Takes the link down, blocking for two seconds while the port is open. Whatever it returns,
+    /// the port is closed and forgotten.
+    bool disconnect(Error* error);
+    /// Fills `name` with the stored port name; fails, changing nothing, when that is "None".
+    [[nodiscard]] bool determinePortName(QString* name, Error* error);
+    /// Takes the first port whose name equals `name`.
+    [[nodiscard]] bool determineSerialPortForName(const QString& name, Error* error);
+    /// 1200 baud, no parity, 2 stop bits, no flow control. Cannot fail.
+    bool configureSerialPort(Error* error);
+    [[nodiscard]] bool openSerialPort(Error* error);
+    [[nodiscard]] bool syncWinKeyer(Error* error);
+    [[nodiscard]] bool echoTest(Error* error);
+    [[nodiscard]] bool openHostMode(Error* error);
+    [[nodiscard]] bool hostOpen(Error* error);
+    /// Succeeds at once: the version byte is not waited for.
+    [[nodiscard]] bool readVersion(Error* error);
+    /// Fails unless versionString is a number from 20 to 23. Not part of connecting.
+    [[nodiscard]] bool validateVersion(Error* error);
+    [[nodiscard]] bool setWK2Mode(Error* error);
+    [[nodiscard]] bool closeHostMode(Error* error);
+    void serialPortWasRemovedFromSystem(ORSSerialPort& port) override;
+
+    // Traffic.
+
+    /// Writes one command to the keyer. Bytes that no connected keyer takes are dropped; a refused
+    /// write is logged.
+    void putToWinKeyer(const QByteArray& bytes);
+    void serialPortDidReceiveData(ORSSerialPort& port, const QByteArray& data) override;
+    /// Sends all keyer settings as one block, when connected.
+    void loadDefaults();
+
+    // Messages.
+
+    /// Sends the stored message that the control's tag, 0 to 7, selects.
+    void sendMessage(const QObject* sender);
+    /// Adds a message, its tokens already substituted, to the text to be sent.
+    void appendMessage(const QString& message);
+    /// Sends the beacon's message again, while the beacon is on.
+    void repeatMessage();
+    /// Sends the message of the push-button that the last status byte reports.
+    void handleButtonPressed();
+    /// Sends the next character of the text, with the control sequences before it.
+    void send();
+    /// Forgets all text, sent or not, and switches the beacon off.
+    void clearSending();
+    /// Empties the keyer's buffer and forgets all text.
+    void stopMessageSending(const QObject* sender);
+    /// The text with "`" replaced by the operator's call sign and "#" by the cut serial number.
+    [[nodiscard]] QString substituteTokens(const QString& text) const;
+    [[nodiscard]] QString myCall() const;
+    /// The serial number, three digits at least, with T for 0.
+    [[nodiscard]] QString cutifiedSerialNumber() const;
+    void incrementSerialNumber(const QObject* sender);
+    /// Stays at 1.
+    void decrementSerialNumber(const QObject* sender);
+
+    // The keyboard view's delegate.
+
+    [[nodiscard]] bool textShouldBeginEditing(const QObject* text) const;
+    [[nodiscard]] bool textShouldEndEditing(const QObject* text) const;
+    void textDidBeginEditing(const QObject* text);
+    void textDidEndEditing(const QObject* text);
+    /// The operator has changed keyboardBuffer: filters it and starts sending it.
+    void textDidChange();
+
+    // Modes.
+
+    /// Keys the transmitter steadily while the control is on.
+    void tune(const QObject* sender);
+    /// High-speed CW while the control is on, else the speed of the pot. Leaves hscwState alone.
+    void changeHSCWMode(const QObject* sender);
+
+    [[nodiscard]] int pauseState() const { return _pauseState; }
+    /// Also tells the keyer, and sends waiting text when the pause ends.
+    void setPauseState(int state);
+    [[nodiscard]] int tuneState() const { return _tuneState; }
+    void setTuneState(int state);
+    [[nodiscard]] int hscwState() const { return _hscwState; }
+    void setHscwState(int state);
+    [[nodiscard]] int beaconState() const { return _beaconState; }
+    void setBeaconState(int state);
+
+    /// The speed pot's last reading, as "25 WPM"; null before the first.
+    [[nodiscard]] QString speedString() const { return _speedString; }
+    /// The keyer's firmware version; nothing fills it by itself.
+    [[nodiscard]] QString versionString() const { return _versionString; }
+    void setVersionString(const QString& version);
+    /// All text of this sending run, sent and to be sent.
+    [[nodiscard]] QString keyboardBuffer() const { return _keyboardBuffer; }
+    void setKeyboardBuffer(const QString& text);
+    /// The other station's call sign.
+    [[nodiscard]] QString hisCallsign() const { return _hisCallsign; }
+    void setHisCallsign(const QString& callsign);
+    /// The contest serial number.
+    [[nodiscard]] qint64 serialNumber() const { return _serialNumber; }
+    void setSerialNumber(qint64 number);
+
+    /// Index of the next character of keyboardBuffer to be sent.
+    [[nodiscard]] qsizetype outputBufferIndex() const { return _outputBufferIndex; }
+
+  Q_SIGNALS:
+    void speedStringChanged();
+    void versionStringChanged();
+    void keyboardBufferChanged();
+    void hisCallsignChanged();
+    void serialNumberChanged();
+    void pauseStateChanged();
+    void tuneStateChanged();
+    void hscwStateChanged();
+    void beaconStateChanged();
+
+  private:
+    /// What the sending loop does after one step.
+    enum class Step { GoOn, WaitForEcho };
+
+    WinKeyerUsb();
+
+    [[nodiscard]] bool refuse(Error* error, const Error& reason);
+    void setSpeedString(const QString& speed);
+    void appendSendableText(const QString& text);
+
+    void handleByte(std::uint8_t byte);
+    void handleStatus(std::uint8_t status);
+    void handleIdle();
+
+    [[nodiscard]] Step sendNext();
+    [[nodiscard]] Step sendNextOfHisCallsign();
+    [[nodiscard]] Step sendCharacter(char character);
+    [[nodiscard]] Step beginHSCW();
+    [[nodiscard]] Step endHSCW();
+    [[nodiscard]] Step mergeLetters();
+    [[nodiscard]] qint64 hscwSpeed() const;
+
+    std::shared_ptr<ORSSerialPort> _winKeyerSerialPort;
+    bool _isHostMode = false;
+    std::uint8_t _wkStatus = 0;
+    QString _speedString;
+    QString _versionString;
+
+    QString _keyboardBuffer;
+    qsizetype _outputBufferIndex = 0;
+    bool _sendingState = false;
+    QString _hisCallsign;
+    bool _sendingHisCallsign = false;
+    qsizetype _nextHisCallsignCharacterIndex = 0;
+    qint64 _serialNumber = 1;
+
+    int _pauseState = 0;
+    int _tuneState = 0;
+    int _hscwState = 0;
+    int _beaconState = 0;
+    QString _beaconMessage;
+    std::shared_ptr<Timer> _beaconTimer;
+};

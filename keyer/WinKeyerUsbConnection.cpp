@@ -1,0 +1,225 @@
+// How the link to the keyer comes up and goes down.
+
+#include "keyer/GeneralSettings.h"
+#include "keyer/KeyerCommand.h"
+#include "keyer/StoredSettings.h"
+#include "keyer/WinKeyerUsb.h"
+#include "platform/Log.h"
+#include "platform/Platform.h"
+#include "serial/ORSSerialPortManager.h"
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace {
+
+constexpr auto giveUp = "Giving up and closing connection to keyer."_L1;
+constexpr auto seeHeader = "See AMSerialErrors.h"_L1;
+
+/// The code of the error that the caller's slot held already. Callers pass an empty one, so that
+/// the messages which print it say 0.
+int codeIn(const Error* slot) {
+    return slot != nullptr ? slot->code : 0;
+}
+
+/// A message that ends in that code.
+QString withCode(QLatin1StringView message, const Error* slot) {
+    return message + QString::number(codeIn(slot));
+}
+
+void fill(Error* slot, const Error& error) {
+    if (slot != nullptr) {
+        *slot = error;
+    }
+}
+
+} // namespace
+
+bool WinKeyerUsb::connect(Error* error) {
+    QString name;
+    if (!determinePortName(&name, error) || !determineSerialPortForName(name, error) ||
+        !configureSerialPort(error) || !openSerialPort(error) || !syncWinKeyer(error) ||
+        !echoTest(error)) {
+        return false;
+    }
+    _winKeyerSerialPort->setDelegate(this);
+    return openHostMode(error);
+}
+
+bool WinKeyerUsb::isConnected() const {
+    return _winKeyerSerialPort != nullptr;
+}
+
+bool WinKeyerUsb::disconnect(Error* error) {
+    clearSending();
+    setVersionString({});
+    setSpeedString({});
+    if (!isConnected()) {
+        return true;
+    }
+    bool isHostClosed = true;
+    if (_winKeyerSerialPort->isOpen()) {
+        // The keyer is given time to end what it is doing, and then to leave host mode.
+        auto& clock = Platform::current().clock();
+        clock.sleep(1s);
+        isHostClosed = closeHostMode(error);
+        clock.sleep(1s);
+        _winKeyerSerialPort->close();
+    }
+    _winKeyerSerialPort.reset();
+    return isHostClosed;
+}
+
+bool WinKeyerUsb::determinePortName(QString* name, Error* error) {
+    *name = SettingsStore::standardUserDefaults().stringForKey(WKPortName);
+    if (*name == noPortName) {
+        fill(error,
+             Error::ofApplication(u"There is no port defined for the WinKeyer."_s,
+                                  u"Choose a serial port other than None in the General "
+                                  "Preferences pane. Or, plug in a cable to your WinKeyer USB."_s));
+        return false;
+    }
+    return true;
+}
+
+bool WinKeyerUsb::determineSerialPortForName(const QString& name, Error* error) {
+    const auto& ports = ORSSerialPortManager::sharedSerialPortManager().availablePorts();
+    for (const auto& port : ports.value_or(ORSSerialPortManager::Ports())) {
+        if (port->name() == name) {
+            _winKeyerSerialPort = port;
+            return true;
+        }
+    }
+    // "FDTI" is how operators know this message; searches for it find the answers.
+    return refuse(
+        error,
+        Error::ofApplication(
+            u"The WinKeyer serial port %1 is not available."_s.arg(name),
+            u"Confirm that the WinKeyer is connected to the selected port, and that no other "
+            "application is using that port. Also confirm that the FDTI driver is installed. "
+            "Obtain the appropriate Mac OS X driver at https://ftdichip.com/drivers/."_s));
+}
+
+bool WinKeyerUsb::configureSerialPort(Error*) {
+    _winKeyerSerialPort->setBaudRate(1200);
+    _winKeyerSerialPort->setParity(0);
+    _winKeyerSerialPort->setNumberOfStopBits(2);
+    _winKeyerSerialPort->setUsesDTRDSRFlowControl(false);
+    _winKeyerSerialPort->setUsesRTSCTSFlowControl(false);
+    _winKeyerSerialPort->setUsesDCDOutputFlowControl(false);
+    return true;
+}
+
+bool WinKeyerUsb::openSerialPort(Error* error) {
+    _winKeyerSerialPort->open();
+    if (_winKeyerSerialPort->isOpen()) {
+        return true;
+    }
+    return refuse(error, Error::ofApplication(
+                             u"Unable to open the WinKeyer serial port %1."_s.arg(
+                                 _winKeyerSerialPort->name()),
+                             u"Confirm that the USB-Serial device is connected and active."_s));
+}
+
+bool WinKeyerUsb::syncWinKeyer(Error* error) {
+    for (int i = 0; i < 4; ++i) {
+        if (!_winKeyerSerialPort->sendData(KeyerCommand::nullCommand())) {
+            return refuse(
+                error,
+                Error::ofApplication(
+                    withCode("WinKeyer sync failed with AMSerial code: "_L1, error), seeHeader));
+        }
+    }
+    return true;
+}
+
+bool WinKeyerUsb::echoTest(Error* error) {
+    if (_winKeyerSerialPort->sendData(KeyerCommand::adminEchoTest())) {
+        return true;
+    }
+    return refuse(
+        error,
+        Error::ofApplication(
+            withCode("WinKeyer echo test Admin command failed with AMSerial code: "_L1, error),
+            seeHeader));
+}
+
+bool WinKeyerUsb::openHostMode(Error* error) {
+    _isHostMode = false;
+    if (hostOpen(error) && setWK2Mode(error)) {
+        loadDefaults();
+        putToWinKeyer(KeyerCommand::getSpeedPot());
+        _isHostMode = true;
+    }
+    return _isHostMode;
+}
+
+bool WinKeyerUsb::hostOpen(Error* error) {
+    if (_winKeyerSerialPort->sendData(KeyerCommand::adminHostOpen())) {
+        return readVersion(error);
+    }
+    return refuse(error,
+                  Error::ofApplication(u"WinKeyer Host Open Admin command failed."_s, giveUp));
+}
+
+bool WinKeyerUsb::readVersion(Error*) {
+    return true;
+}
+
+bool WinKeyerUsb::validateVersion(Error* error) {
+    const auto version = versionString().toLongLong();
+    if (version >= 20 && version <= 23) {
+        return true;
+    }
+    const auto reason =
+        Error::ofApplication(u"WinKeyer returned unsupported version: %1."_s.arg(version),
+                             u"Confirm that the WinKeyer version is between 20 and 23."_s);
+    setVersionString({});
+    return refuse(error, reason);
+}
+
+bool WinKeyerUsb::setWK2Mode(Error* error) {
+    if (_winKeyerSerialPort->sendData(KeyerCommand::adminSetWK2Mode())) {
+        return true;
+    }
+    return refuse(error, Error::ofApplication(
+                             u"WinKeyer Set WinKeyer 2 Mode Admin command failed."_s, giveUp));
+}
+
+bool WinKeyerUsb::closeHostMode(Error* error) {
+    if (!_isHostMode) {
+        return true;
+    }
+    if (_winKeyerSerialPort->sendData(KeyerCommand::adminHostClose())) {
+        _isHostMode = false;
+        return true;
+    }
+    fill(error,
+         Error::ofApplication(
+             withCode("WinKeyer Host Close Admin command failed with AMSerial code: "_L1, error),
+             seeHeader));
+    logLine(u"closeHostMode failed"_s);
+    return false;
+}
+
+void WinKeyerUsb::serialPortWasRemovedFromSystem(ORSSerialPort&) {
+    logLine(u"-[WinKeyerUsb serialPortWasRemovedFromSystem:]"_s);
+    _winKeyerSerialPort.reset();
+}
+
+/// Fails a step of connecting: tells why, forgets the stored choice of port, and lets go of it.
+bool WinKeyerUsb::refuse(Error* error, const Error& reason) {
+    fill(error, reason);
+    SettingsStore::standardUserDefaults().setObject(QString(noPortName), WKPortName);
+    if (_winKeyerSerialPort) {
+        _winKeyerSerialPort->close();
+    }
+    _winKeyerSerialPort.reset();
+    return false;
+}
+
+void WinKeyerUsb::loadDefaults() {
+    if (isConnected()) {
+        putToWinKeyer(KeyerCommand::loadDefaults(KeyerEncoding::defaultsBlock(StoredSettings())));
+    }
+}

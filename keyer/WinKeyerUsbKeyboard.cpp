@@ -1,0 +1,67 @@
+// Text that the operator types: filtered, substituted, and handed to the sending loop.
+
+#include "keyer/WinKeyerUsb.h"
+
+#include <algorithm>
+
+namespace {
+
+/// Deletes what cannot be typed. The character after a deleted one is not looked at: typing one
+/// character at a time never meets the case.
+QString filtered(const QString& text, const CharacterSet& allowed) {
+    QString kept;
+    kept.reserve(text.size());
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        if (allowed.characterIsMember(text.at(i))) {
+            kept.append(text.at(i));
+        } else if (i + 1 < text.size()) {
+            kept.append(text.at(++i));
+        }
+    }
+    return kept;
+}
+
+/// Without what is no single byte of text: a control character in the text would reach the keyer
+/// as a command.
+QString sendable(const QString& text) {
+    auto kept = text;
+    kept.removeIf([](QChar each) { return each < u' ' || each > u'~'; });
+    return kept;
+}
+
+} // namespace
+
+bool WinKeyerUsb::textShouldBeginEditing(const QObject*) const {
+    return true;
+}
+
+bool WinKeyerUsb::textShouldEndEditing(const QObject*) const {
+    return true;
+}
+
+void WinKeyerUsb::textDidBeginEditing(const QObject*) {}
+
+void WinKeyerUsb::textDidEndEditing(const QObject*) {}
+
+void WinKeyerUsb::textDidChange() {
+    if (_keyboardBuffer.isEmpty()) {
+        _outputBufferIndex = 0;
+        return;
+    }
+    const auto typed = filtered(_keyboardBuffer.toUpper(), morseKeyboardCharacterSet());
+    setKeyboardBuffer(sendable(substituteTokens(typed)));
+    _outputBufferIndex = std::min(_outputBufferIndex, _keyboardBuffer.size());
+    if (pauseState() == 0 && !_sendingState) {
+        send();
+    }
+}
+
+void WinKeyerUsb::appendSendableText(const QString& text) {
+    if (_keyboardBuffer.isEmpty()) {
+        setKeyboardBuffer(sendable(text));
+        return;
+    }
+    const auto addition = u' ' + sendable(text);
+    _keyboardBuffer += addition;
+    Q_EMIT keyboardBufferChanged();
+}

@@ -1,0 +1,37 @@
+// Tune, pause and high-speed CW: what the operator switches on and off.
+
+#include "keyer/KeyerCommand.h"
+#include "keyer/WinKeyerUsb.h"
+#include "platform/Action.h"
+#include "platform/Log.h"
+
+using namespace Qt::StringLiterals;
+
+void WinKeyerUsb::tune(const QObject* sender) {
+    using KeyerCommand::KeyLine;
+    const auto isOn = Action::state(sender) == 1;
+    putToWinKeyer(KeyerCommand::keyImmediate(isOn ? KeyLine::Down : KeyLine::Up));
+}
+
+void WinKeyerUsb::changeHSCWMode(const QObject* sender) {
+    if (Action::state(sender) != 1) {
+        putToWinKeyer(KeyerCommand::setWpmSpeedFromPot());
+        return;
+    }
+    const auto speed = hscwSpeed();
+    logLine(u"HSCW Speed = %1"_s.arg(speed));
+    putToWinKeyer(KeyerCommand::hscwSpeedChange(KeyerEncoding::lowByte(speed)));
+}
+
+void WinKeyerUsb::setPauseState(int state) {
+    using KeyerCommand::Pause;
+    const bool isNew = _pauseState != state;
+    _pauseState = state;
+    putToWinKeyer(KeyerCommand::setPauseState(state != 0 ? Pause::Pause : Pause::Resume));
+    if (isNew) {
+        Q_EMIT pauseStateChanged();
+    }
+    if (_pauseState == 0) {
+        send();
+    }
+}

@@ -1,0 +1,94 @@
+// What the keyer sends: every byte of it arrives here, on the main queue.
+
+#include "keyer/KeyerSettings.h"
+#include "keyer/MessageSettings.h"
+#include "keyer/ReceivedByte.h"
+#include "keyer/WinKeyerUsb.h"
+#include "platform/Log.h"
+#include "platform/Platform.h"
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+void WinKeyerUsb::putToWinKeyer(const QByteArray& bytes) {
+    if (isConnected() && !_winKeyerSerialPort->sendData(bytes)) {
+        logLine(u"putToWinKeyer error: "_s);
+    }
+}
+
+void WinKeyerUsb::serialPortDidReceiveData(ORSSerialPort& port, const QByteArray& data) {
+    if (!isConnected() || !_isHostMode) {
+        return;
+    }
+    if (&port != _winKeyerSerialPort.get()) {
+        logLine(u"Winkeyer didReceiveData called by a stranger!"_s);
+        logLine(QString::asprintf("sourcePort address: %p, name: %s",
+                                  static_cast<const void*>(&port), qUtf8Printable(port.name())));
+    }
+    _wkStatus = 0;
+    if (data.isEmpty()) {
+        logLine(u"WinKeyer port was somehow closed!"_s);
+        return;
+    }
+    // A chunk counts as that many repetitions of its first byte. At 1200 baud bytes arrive one by
+    // one; those that come together are the answers to connecting.
+    const auto byte = static_cast<std::uint8_t>(data.front());
+    for (qsizetype i = 0; i < data.size(); ++i) {
+        handleByte(byte);
+    }
+}
+
+void WinKeyerUsb::handleByte(std::uint8_t byte) {
+    switch (classify(byte)) {
+    case ReceivedByte::Error:
+        logLine(u"  error byte"_s);
+        break;
+    case ReceivedByte::SpeedPot: {
+        const auto minimum = SettingsStore::standardUserDefaults().integerForKey(WKSpeedPotMinimum);
+        setSpeedString(u"%1 WPM"_s.arg((byte & 0x3F) + minimum));
+        break;
+    }
+    case ReceivedByte::Status:
+        handleStatus(byte);
+        break;
+    case ReceivedByte::Echo:
+        send();
+        break;
+    }
+}
+
+void WinKeyerUsb::handleStatus(std::uint8_t status) {
+    _wkStatus = status;
+    if ((status & KeyerStatus::pushButton) != 0) {
+        handleButtonPressed();
+        return;
+    }
+    if ((status & KeyerStatus::anything) == 0) {
+        handleIdle();
+    }
+    if ((status & KeyerStatus::bufferNearlyFull) != 0) {
+        setPauseState(1);
+    }
+    if ((status & KeyerStatus::breakIn) != 0) {
+        clearSending();
+    }
+    if ((status & KeyerStatus::busy) != 0 && beaconState() != 0 && _beaconTimer) {
+        _beaconTimer->invalidate();
+    }
+}
+
+void WinKeyerUsb::handleIdle() {
+    if (pauseState() != 0) {
+        setPauseState(0);
+    }
+    if (beaconState() != 0) {
+        const auto interval = std::chrono::duration<double>(std::clamp(
+            SettingsStore::standardUserDefaults().doubleForKey(BeaconInterval.key), 0.0, 1e9));
+        // The timer before this one is let go of, not stopped.
+        _beaconTimer = Platform::current().clock().scheduleTimer(
+            std::chrono::duration_cast<Clock::Duration>(interval), this,
+            [this] { repeatMessage(); });
+    }
+    send();
+}

@@ -1,0 +1,199 @@
+// The text to be sent, the loop that feeds it to the keyer, and the stored messages.
+
+#include "keyer/GeneralSettings.h"
+#include "keyer/KeyerCommand.h"
+#include "keyer/KeyerSettings.h"
+#include "keyer/MessageSettings.h"
+#include "keyer/ReceivedByte.h"
+#include "keyer/WinKeyerUsb.h"
+#include "platform/Action.h"
+#include "platform/Log.h"
+#include "platform/SettingsStore.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// The byte that keys `character`, which is one of the buffer's single-byte characters.
+char byteOf(QChar character) {
+    return character.toUpper().toLatin1();
+}
+
+/// Which message each button bit of a status byte stands for. A later one wins over an earlier.
+struct ButtonBit {
+    std::uint8_t mask;
+    std::size_t message;
+};
+
+constexpr auto buttonBits = std::to_array<ButtonBit>({{0x01, 0}, {0x02, 1}, {0x04, 2}, {0x10, 3}});
+
+} // namespace
+
+void WinKeyerUsb::sendMessage(const QObject* sender) {
+    const auto tag = static_cast<std::size_t>(Action::tag(sender));
+    if (tag >= messageSettings.size()) {
+        return;
+    }
+    const auto text =
+        SettingsStore::standardUserDefaults().stringForKey(messageSettings[tag].textKey);
+    if (!text.isNull()) {
+        appendMessage(substituteTokens(text));
+    }
+}
+
+void WinKeyerUsb::handleButtonPressed() {
+    QString text;
+    for (const auto& button : buttonBits) {
+        if ((_wkStatus & button.mask) != 0) {
+            text = SettingsStore::standardUserDefaults().stringForKey(
+                messageSettings[button.message].textKey);
+        }
+    }
+    if (!text.isNull()) {
+        appendMessage(substituteTokens(text));
+    }
+}
+
+void WinKeyerUsb::appendMessage(const QString& message) {
+    appendSendableText(message.toUpper());
+    send();
+    if (beaconState() != 0) {
+        _beaconMessage = message;
+    }
+}
+
+void WinKeyerUsb::repeatMessage() {
+    if (beaconState() != 0 && !_beaconMessage.isNull()) {
+        appendMessage(_beaconMessage);
+    }
+}
+
+void WinKeyerUsb::send() {
+    while (sendNext() == Step::GoOn) {
+    }
+}
+
+WinKeyerUsb::Step WinKeyerUsb::sendNext() {
+    if (pauseState() != 0) {
+        return Step::WaitForEcho;
+    }
+    if (_sendingHisCallsign) {
+        return sendNextOfHisCallsign();
+    }
+    if (_outputBufferIndex >= _keyboardBuffer.size()) {
+        _sendingState = false;
+        return Step::WaitForEcho;
+    }
+    const auto character = byteOf(_keyboardBuffer.at(_outputBufferIndex++));
+    _sendingState = true;
+    return sendCharacter(character);
+}
+
+WinKeyerUsb::Step WinKeyerUsb::sendNextOfHisCallsign() {
+    if (_nextHisCallsignCharacterIndex >= _hisCallsign.size()) {
+        _sendingHisCallsign = false;
+        _nextHisCallsignCharacterIndex = 0;
+        return Step::GoOn;
+    }
+    const auto character = byteOf(_hisCallsign.at(_nextHisCallsignCharacterIndex++));
+    putToWinKeyer(QByteArray(1, character));
+    _sendingState = true;
+    return Step::WaitForEcho;
+}
+
+WinKeyerUsb::Step WinKeyerUsb::sendCharacter(char character) {
+    switch (character) {
+    case '%':
+        return beginHSCW();
+    case '^':
+        return endHSCW();
+    case '{':
+        return mergeLetters();
+    case '|':
+        putToWinKeyer(QByteArray(1, character));
+        return Step::GoOn;
+    case '~':
+        _sendingHisCallsign = true;
+        return Step::GoOn;
+    default:
+        putToWinKeyer(QByteArray(1, character));
+        return Step::WaitForEcho;
+    }
+}
+
+WinKeyerUsb::Step WinKeyerUsb::beginHSCW() {
+    logLine(u"Begin HSCW"_s);
+    const auto speed = hscwSpeed();
+    logLine(u"HSCW Speed = %1"_s.arg(speed));
+    const auto command = KeyerCommand::hscwSpeedChange(KeyerEncoding::lowByte(speed));
+    logLine(u"HSCW command = <%1>"_s.arg(QLatin1StringView(command.toHex())));
+    putToWinKeyer(command);
+    return Step::GoOn;
+}
+
+WinKeyerUsb::Step WinKeyerUsb::endHSCW() {
+    logLine(u"End HSCW"_s);
+    setHscwState(0);
+    putToWinKeyer(KeyerCommand::cancelBufferedSpeedChange());
+    return Step::GoOn;
+}
+
+WinKeyerUsb::Step WinKeyerUsb::mergeLetters() {
+    logLine(u"Merge letters"_s);
+    if (_outputBufferIndex + 1 >= _keyboardBuffer.size()) {
+        // Two letters do not follow yet. The sign is used up, and whatever calls send() next
+        // sends what then follows it as plain characters.
+        return Step::WaitForEcho;
+    }
+    const auto first = byteOf(_keyboardBuffer.at(_outputBufferIndex));
+    const auto second = byteOf(_keyboardBuffer.at(_outputBufferIndex + 1));
+    putToWinKeyer(KeyerCommand::mergeLetters(first, second));
+    _outputBufferIndex += 2;
+    return Step::GoOn;
+}
+
+qint64 WinKeyerUsb::hscwSpeed() const {
+    return SettingsStore::standardUserDefaults().integerForKey(WKHSCWSpeed) / 100;
+}
+
+void WinKeyerUsb::clearSending() {
+    _sendingHisCallsign = false;
+    _nextHisCallsignCharacterIndex = 0;
+    _outputBufferIndex = 0;
+    _sendingState = false;
+    setKeyboardBuffer(u""_s);
+    setBeaconState(0);
+}
+
+void WinKeyerUsb::stopMessageSending(const QObject*) {
+    if (isConnected() && _winKeyerSerialPort->isOpen()) {
+        putToWinKeyer(KeyerCommand::clearBuffer());
+    }
+    clearSending();
+}
+
+QString WinKeyerUsb::substituteTokens(const QString& text) const {
+    auto substituted = text;
+    substituted.replace(u'`', myCall());
+    substituted.replace(u'#', cutifiedSerialNumber());
+    return substituted;
+}
+
+QString WinKeyerUsb::myCall() const {
+    return SettingsStore::standardUserDefaults().stringForKey(MyCall);
+}
+
+QString WinKeyerUsb::cutifiedSerialNumber() const {
+    auto digits = QString::asprintf("%.3lld", serialNumber());
+    return digits.replace(u'0', u'T');
+}
+
+void WinKeyerUsb::incrementSerialNumber(const QObject*) {
+    setSerialNumber(serialNumber() + 1);
+}
+
+void WinKeyerUsb::decrementSerialNumber(const QObject*) {
+    if (serialNumber() > 1) {
+        setSerialNumber(serialNumber() - 1);
+    }
+}
