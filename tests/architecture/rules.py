@@ -9,7 +9,7 @@ QUOTED = re.compile(r'^"([^"]+)"|^<([^>]+)>')
 DEFINE = re.compile(r"^\s*#\s*define\b")
 # Written in two halves, so that the words stand nowhere in the tree, not even here.
 LEFTOVERS = re.compile(r"\b(" + "|".join(["TO" "DO", "FIX" "ME", "XX" "X"]) + r")\b")
-SKIPS = re.compile("QS" "KIP|GTEST_" "SKIP|DIS" "ABLED_|skip" "Test|unittest\.skip"
+SKIPS = re.compile("QS" "KIP|GTEST_" "SKIP|DIS" "ABLED_|skip" "Test|unittest\\.skip"
                    "|SKIP_" "RETURN_CODE")
 CMAKE_TARGET = re.compile(r"^\s*(?:quorvel_library|add_library|add_executable)\(\s*([\w.-]+)", re.M)
 CMAKE_COMMAND = re.compile(

@@ -127,14 +127,15 @@ class RulesTest(unittest.TestCase):
     def test_links(self):
         """A link is found when the table does not allow it, also one over several lines"""
         self.write("low/CMakeLists.txt", "quorvel_library(low QT SOURCES A.cpp LINK Qt6::Core)\n")
-        self.write("high/CMakeLists.txt", "add_library(high-parts STATIC A.cpp)\n")
+        self.write("high/CMakeLists.txt", "set(A 1)\nadd_library(high-parts STATIC A.cpp)\n")
         path = "middle/CMakeLists.txt"
         self.assertEqual(self.linking(path, "quorvel_library(middle LINK low Qt6::Gui)\n"), [])
-        self.assertEqual(self.linking(path, "# quorvel_library(middle LINK high-parts)\n"), [])
+        self.assertEqual(self.linking(path, "quorvel_library(middle # high-parts Qt6::Widgets\n)"),
+                         [])
         for text in ("quorvel_library(middle\n    SOURCES A.cpp\n    LINK low high-parts)\n",
                      "quorvel_library(middle LINK Qt6::Widgets)\n",
                      "target_link_libraries(middle PUBLIC Qt6::Gui\n    Qt6::DBus)\n",
-                     "target_link_libraries(middle PRIVATE high-parts)\n"):
+                     "set(A 1)\ntarget_link_libraries(middle PRIVATE high-parts)\n"):
             with self.subTest(text=text):
                 self.assertOne(self.linking(path, text), f"{path}: ")
 
