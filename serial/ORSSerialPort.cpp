@@ -1,0 +1,154 @@
+#include "serial/ORSSerialPort.h"
+
+#include "platform/Platform.h"
+#include "serial/InternalInconsistency.h"
+#include "serial/LivePorts.h"
+#include "serial/PortOpening.h"
+
+#include <cerrno>
+
+std::shared_ptr<ORSSerialPort> ORSSerialPort::serialPortWithPath(const QString& path) {
+    const auto device = deviceFromBSDPath(path);
+    return device != noDevice ? serialPortWithDevice(device) : nullptr;
+}
+
+std::shared_ptr<ORSSerialPort> ORSSerialPort::serialPortWithDevice(DeviceHandle device) {
+    if (device == noDevice) {
+        throw InternalInconsistency(
+            "-[ORSSerialPort initWithDevice:] requires non-zero device argument.");
+    }
+    const auto path = bsdCalloutPathFromDevice(device);
+    if (auto existing = existingPortWithPath(path)) {
+        return existing;
+    }
+    const std::shared_ptr<ORSSerialPort> port(new ORSSerialPort(device, path));
+    addSerialPort(*port);
+    return port;
+}
+
+void ORSSerialPort::addSerialPort(ORSSerialPort& port) {
+    LivePorts::current().add(port);
+}
+
+void ORSSerialPort::removeSerialPort(const ORSSerialPort& port) {
+    LivePorts::current().remove(port);
+}
+
+std::shared_ptr<ORSSerialPort> ORSSerialPort::existingPortWithPath(const QString& path) {
+    return LivePorts::current().withPath(path);
+}
+
+DeviceHandle ORSSerialPort::deviceFromBSDPath(const QString& path) {
+    if (path.isEmpty()) {
+        return noDevice;
+    }
+    const auto devices = Platform::current().devices().matchingDevices();
+    if (!devices) {
+        return noDevice;
+    }
+    for (const auto device : *devices) {
+        if (path == bsdCalloutPathFromDevice(device) || path == bsdDialinPathFromDevice(device)) {
+            return device;
+        }
+    }
+    return noDevice;
+}
+
+QString ORSSerialPort::stringPropertyOf(DeviceHandle device, const QString& key) {
+    return Platform::current().devices().stringProperty(device, key);
+}
+
+QString ORSSerialPort::bsdCalloutPathFromDevice(DeviceHandle device) {
+    return stringPropertyOf(device, DeviceKey::calloutDevice);
+}
+
+QString ORSSerialPort::bsdDialinPathFromDevice(DeviceHandle device) {
+    return stringPropertyOf(device, DeviceKey::dialinDevice);
+}
+
+QString ORSSerialPort::baseNameFromDevice(DeviceHandle device) {
+    return stringPropertyOf(device, DeviceKey::ttyBaseName);
+}
+
+QString ORSSerialPort::serviceTypeFromDevice(DeviceHandle device) {
+    return stringPropertyOf(device, DeviceKey::clientType);
+}
+
+QString ORSSerialPort::modemNameFromDevice(DeviceHandle device) {
+    return stringPropertyOf(device, DeviceKey::ttyDevice);
+}
+
+QString ORSSerialPort::suffixFromDevice(DeviceHandle device) {
+    return stringPropertyOf(device, DeviceKey::ttySuffix);
+}
+
+ORSSerialPort::ORSSerialPort() {
+    throw InternalInconsistency("ORSSerialPort must be init'd using -initWithPath:");
+}
+
+// The device is retained and never released: its properties stay readable for whoever still has
+// the handle when the port has gone, and a session sees only a handful of devices.
+ORSSerialPort::ORSSerialPort(DeviceHandle device, const QString& path)
+    : _livePorts(&LivePorts::current()),
+      _mainQueue(Platform::current().mainQueue()),
+      _ioKitDevice(device),
+      _path(path),
+      _name(modemNameFromDevice(device)) {
+    Platform::current().devices().retain(device);
+}
+
+ORSSerialPort::~ORSSerialPort() {
+    if (_livePorts) {
+        _livePorts->remove(*this);
+    }
+}
+
+bool ORSSerialPort::isEqual(const ORSSerialPort& other) const {
+    return _path == other._path;
+}
+
+size_t ORSSerialPort::hash() const {
+    return qHash(_path);
+}
+
+QString ORSSerialPort::description() const {
+    return _name;
+}
+
+ORSSerialPortDelegate* ORSSerialPort::delegate() const {
+    return _delegate;
+}
+
+void ORSSerialPort::setDelegate(ORSSerialPortDelegate* delegate) {
+    _delegate = delegate;
+}
+
+QString ORSSerialPort::path() const {
+    return _path;
+}
+
+QString ORSSerialPort::name() const {
+    return _name;
+}
+
+DeviceHandle ORSSerialPort::IOKitDevice() const {
+    return _ioKitDevice;
+}
+
+void ORSSerialPort::receiveData(const QByteArray& data) {
+    if (_delegate != nullptr) {
+        _delegate->serialPortDidReceiveData(*this, data);
+    }
+}
+
+void ORSSerialPort::notifyDelegateOfPosixError() {
+    const auto number = errno;
+    if (_delegate != nullptr) {
+        _delegate->serialPortDidEncounterError(*this, Error::ofPosix(number, _path));
+    }
+}
+
+// The report tells the errno of the main thread when it runs, not that of the failed call.
+void ORSSerialPort::queueErrorReport() {
+    _mainQueue->async([port = shared_from_this()] { port->notifyDelegateOfPosixError(); });
+}

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "serial/FileDescriptor.h"
+#include "serial/LineSettings.h"
+#include "serial/PinPoller.h"
+#include "serial/PortReader.h"
+
+#include <memory>
+#include <optional>
+
+/// All that one opening of a port has for itself: the descriptor, the line settings found on it,
+/// and the workers that use it. Main thread only.
+class PortOpening {
+  public:
+    /// `wakeUp` is an event counter that does not block.
+    PortOpening(FileDescriptor descriptor, FileDescriptor wakeUp);
+
+    [[nodiscard]] int descriptor() const { return _descriptor.get(); }
+
+    void startWorkers(const std::shared_ptr<ORSSerialPort>& port,
+                      const std::shared_ptr<MainQueue>& mainQueue);
+
+    /// Ends the workers, puts the old line settings back, and closes the descriptor. When that
+    /// last step is refused it returns false, and the descriptor is still held, without workers.
+    [[nodiscard]] bool close();
+
+  private:
+    FileDescriptor _descriptor;
+    FileDescriptor _wakeUp;
+    SavedLineSettings _savedSettings;
+    std::optional<PortReader> _reader;
+    std::optional<PinPoller> _pinPoller;
+};

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "serial/StoppableWait.h"
+
+#include <memory>
+#include <stop_token>
+#include <thread>
+
+class MainQueue;
+class ORSSerialPort;
+
+/// Reads one opening of a port from a thread of its own and hands the bytes to the port on the
+/// main queue, in blocks of at most 1024, as they come. Destroying it ends the thread at once.
+class PortReader {
+  public:
+    /// Reads from `descriptor`, and is woken through `wakeUp`, an event counter; both must stay
+    /// open for as long as the reader lives. Throws std::system_error when the system has no
+    /// thread left.
+    PortReader(int descriptor, int wakeUp, std::shared_ptr<ORSSerialPort> port,
+               std::shared_ptr<MainQueue> mainQueue);
+
+  private:
+    enum class Wait { Failed, TimedOut, Readable };
+
+    void run(const std::stop_token& stop);
+    [[nodiscard]] Wait waitForData();
+    [[nodiscard]] bool readOnce();
+    void reportError(const std::stop_token& stop);
+
+    const int _descriptor;
+    const std::shared_ptr<ORSSerialPort> _port;
+    const std::shared_ptr<MainQueue> _mainQueue;
+    const int _wakeUp;
+    StoppableWait _pause;
+    std::jthread _thread;
+};
