@@ -24,10 +24,9 @@ void logUnexpectedContext(const QObject* context, QLatin1StringView function) {
             u". Context object should be an instance of ORSSerialPortManager"_s);
 }
 
-/// Two objects stand for the same port when they have the same path.
 bool containsEqual(const ORSSerialPortManager::Ports& ports, const ORSSerialPort& port) {
     return std::any_of(ports.begin(), ports.end(),
-                       [&](const auto& each) { return each->path() == port.path(); });
+                       [&](const auto& each) { return each->isEqual(port); });
 }
 
 /// Bluetooth devices of the machine's own (a paired telephone, say) are there all the time and

@@ -2,6 +2,7 @@
 
 #include "platform/linux/DeviceNaming.h"
 #include "platform/linux/PortsDirectorySource.h"
+#include "platform/linux/UdevSource.h"
 
 #include <QScopedValueRollback>
 
@@ -14,6 +15,7 @@ namespace {
 
 LinuxDeviceRegistry::Sources standardSources() {
     LinuxDeviceRegistry::Sources sources;
+    sources.push_back(std::make_unique<UdevSource>());
     sources.push_back(std::make_unique<PortsDirectorySource>(PortsDirectorySource::standardPath()));
     return sources;
 }

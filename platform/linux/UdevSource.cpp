@@ -1,0 +1,177 @@
+#include "platform/linux/UdevSource.h"
+
+#include "platform/Log.h"
+#include "platform/linux/DeviceNaming.h"
+#include "platform/linux/TtyDevice.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QSocketNotifier>
+
+#include <algorithm>
+#include <cerrno>
+#include <system_error>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// A text of udev's; null for none.
+QString text(const char* bytes) {
+    return bytes != nullptr ? QString::fromUtf8(bytes) : QString();
+}
+
+QString property(udev_device* device, const char* key) {
+    return text(udev_device_get_property_value(device, key));
+}
+
+/// The ancestor in the USB tree of that type; it lives as long as the device. nullptr for none.
+udev_device* usbAncestor(udev_device* device, const char* type) {
+    return udev_device_get_parent_with_subsystem_devtype(device, "usb", type);
+}
+
+QString kernelName(udev_device* device) {
+    return device != nullptr ? text(udev_device_get_sysname(device)) : QString();
+}
+
+/// The adapter's serial number as udev gives it, else as the adapter does, made fit for a name.
+QString usbSerialNumber(udev_device* device, udev_device* adapter) {
+    if (const auto number = property(device, "ID_SERIAL_SHORT"); !number.isEmpty()) {
+        return number;
+    }
+    if (adapter == nullptr) {
+        return {};
+    }
+    auto number = text(udev_device_get_sysattr_value(adapter, "serial")).trimmed();
+    std::replace_if(
+        number.begin(), number.end(),
+        [](QChar each) { return !each.isPrint() || each.isSpace() || each == u'/'; }, QChar(u'_'));
+    return number;
+}
+
+/// The device's links that lead to it. Of adapters with equal serial numbers, each claims the
+/// link that names the number, and one has it.
+QStringList links(udev_device* device, const QString& node) {
+    QStringList found;
+    udev_list_entry* entry = nullptr;
+    udev_list_entry_foreach(entry, udev_device_get_devlinks_list_entry(device)) {
+        const auto link = text(udev_list_entry_get_name(entry));
+        if (QFileInfo(link).canonicalFilePath() == node) {
+            found.append(link);
+        }
+    }
+    std::sort(found.begin(), found.end());
+    return found;
+}
+
+TtyDevice ttyDevice(udev_device* device) {
+    auto* const adapter = usbAncestor(device, "usb_device");
+    const auto node = text(udev_device_get_devnode(device));
+    const auto uartType = text(udev_device_get_sysattr_value(device, "type"));
+    return {.kernelName = kernelName(device),
+            .node = node,
+            .links = links(device, node),
+            .usbSerialNumber = usbSerialNumber(device, adapter),
+            .usbPath = kernelName(adapter),
+            .usbInterface = kernelName(usbAncestor(device, "usb_interface")),
+            .hasUart = !uartType.isEmpty() && uartType != u"0",
+            .identity = text(udev_device_get_syspath(device))};
+}
+
+void complain(const QString& what, int number) {
+    logLine(u"%1: %2"_s.arg(what, QString::fromStdString(std::generic_category().message(number))));
+}
+
+} // namespace
+
+UdevSource::UdevSource()
+    : _udev(udev_new()), _isDaemonRunning(QFile::exists(u"/run/udev/control"_s)) {
+    if (!_udev) {
+        complain(u"Cannot use udev"_s, errno);
+        return;
+    }
+    startMonitor();
+}
+
+UdevSource::~UdevSource() = default;
+
+QList<SerialDevice> UdevSource::devices() {
+    if (_isStale && _udev) {
+        scan();
+    }
+    return _devices;
+}
+
+void UdevSource::startMonitor() {
+    if (!_isDaemonRunning) {
+        logLine(u"udev does not run: serial devices that come and go are not noticed"_s);
+        return;
+    }
+    _monitor.reset(udev_monitor_new_from_netlink(_udev.get(), "udev"));
+    if (!_monitor ||
+        udev_monitor_filter_add_match_subsystem_devtype(_monitor.get(), "tty", nullptr) < 0 ||
+        udev_monitor_enable_receiving(_monitor.get()) < 0) {
+        complain(u"Serial devices that come and go are not noticed"_s, errno);
+        _monitor.reset();
+        return;
+    }
+    auto* const notifier =
+        new QSocketNotifier(udev_monitor_get_fd(_monitor.get()), QSocketNotifier::Read, this);
+    connect(notifier, &QSocketNotifier::activated, this, &UdevSource::readEvents);
+}
+
+void UdevSource::readEvents() {
+    while (const UdevDevice device{udev_monitor_receive_device(_monitor.get())}) {
+        if (text(udev_device_get_action(device.get())) == u"remove") {
+            ++_removals[text(udev_device_get_syspath(device.get()))];
+        }
+    }
+    // Also when nothing could be read: events that were lost are found by looking.
+    _isStale = true;
+    Q_EMIT changed();
+}
+
+/// Looks anew. When that fails, what was there is taken to be there still: else an open port would
+/// be closed for a moment's lack of memory.
+void UdevSource::scan() {
+    _isStale = false;
+    auto found = scanned();
+    if (!found) {
+        return;
+    }
+    _devices = std::move(*found);
+    std::sort(_devices.begin(), _devices.end(), [](const auto& first, const auto& second) {
+        return DeviceNaming::comesNaturallyBefore(first.calloutPath, second.calloutPath);
+    });
+}
+
+std::optional<QList<SerialDevice>> UdevSource::scanned() const {
+    const UdevEnumerate enumerate(udev_enumerate_new(_udev.get()));
+    if (!enumerate || udev_enumerate_add_match_subsystem(enumerate.get(), "tty") < 0 ||
+        udev_enumerate_scan_devices(enumerate.get()) < 0) {
+        complain(u"Cannot list the serial devices"_s, errno);
+        return std::nullopt;
+    }
+    QList<SerialDevice> found;
+    udev_list_entry* entry = nullptr;
+    udev_list_entry_foreach(entry, udev_enumerate_get_list_entry(enumerate.get())) {
+        const UdevDevice device(
+            udev_device_new_from_syspath(_udev.get(), udev_list_entry_get_name(entry)));
+        if (!device || !isReady(device.get())) {
+            continue;
+        }
+        auto tty = ttyDevice(device.get());
+        tty.identity += u'#' + QString::number(_removals.value(tty.identity));
+        if (const auto serial = tty.serialDevice()) {
+            found.append(*serial);
+        }
+    }
+    return found;
+}
+
+/// A device that udev is still working on has no properties and perhaps not its permissions; its
+/// event is yet to come.
+bool UdevSource::isReady(udev_device* device) const {
+    return udev_device_get_devnode(device) != nullptr &&
+           (!_isDaemonRunning || udev_device_get_is_initialized(device) > 0);
+}
