@@ -8,8 +8,8 @@
 
 namespace virtualkeyer {
 
-Time Ptt::raise(Time now) {
-    _until.reset();
+Time Ptt::raise(Holder holder, Time now) {
+    _holders |= holder;
     if (!_isOn) {
         _isOn = true;
         _isFirst = true;
@@ -19,21 +19,15 @@ Time Ptt::raise(Time now) {
     return std::max(now, _ready);
 }
 
-void Ptt::setHeld(bool isHeld, Time now) {
-    if (isHeld) {
-        const std::optional<Time> until = _until;
-        static_cast<void>(raise(now));
-        _until = until;
-    } else if (_isHeld && _until) {
-        _until = std::max(now, *_until);
-    }
-    _isHeld = isHeld;
+void Ptt::releaseAt(Holder holder, Time at) {
+    _holders &= ~static_cast<unsigned>(holder);
+    _until = std::max(_until, at);
 }
 
 void Ptt::drop(Time now) {
     _isOn = false;
-    _isHeld = false;
-    _until.reset();
+    _holders = 0;
+    _until = now;
     refresh(now);
 }
 
@@ -42,7 +36,7 @@ bool Ptt::takeFirstElement() {
 }
 
 std::optional<Time> Ptt::due() const {
-    return _isOn && !_isHeld ? _until : std::nullopt;
+    return _isOn && _holders == 0 ? std::optional{_until} : std::nullopt;
 }
 
 void Ptt::run(Time now) {

@@ -11,15 +11,16 @@ class Registers;
 /// Switching between receive and transmit. It goes on while the PTT pin is disabled, unseen.
 class Ptt {
   public:
+    /// Who transmits. Each lets go by itself; the last and latest ends the transmission.
+    enum Holder : unsigned { Text = 1, PaddleText = 2, Tuning = 4, HostCommand = 8 };
+
     Ptt(const Registers& registers, Outbox& outbox) : _registers(registers), _outbox(outbox) {}
 
-    /// Transmits until further notice; when the key may go down: after the lead-in, or at once if
-    /// that is over.
-    [[nodiscard]] Time raise(Time now);
-    /// Receives from `at` on, unless the transmitter is raised again before or the host holds it.
-    void releaseAt(Time at) { _until = at; }
-    /// The host's own buffered PTT.
-    void setHeld(bool isHeld, Time now);
+    /// Transmits until further notice; returns when the key may go down: after the lead-in, or at
+    /// once if that is over.
+    Time raise(Holder holder, Time now);
+    /// `holder` needs the transmitter until `at`, which is not before now, and no longer.
+    void releaseAt(Holder holder, Time at);
     /// Receives at once.
     void drop(Time now);
 
@@ -34,12 +35,12 @@ class Ptt {
   private:
     const Registers& _registers;
     Outbox& _outbox;
+    unsigned _holders = 0;
     bool _isOn = false;
     bool _isShown = false;
-    bool _isHeld = false;
     bool _isFirst = false;
     Time _ready{0};
-    std::optional<Time> _until;
+    Time _until{0};
 };
 
 } // namespace virtualkeyer

@@ -53,6 +53,10 @@ void Registers::set(Register which, std::uint8_t value) {
     }
 }
 
+void Registers::restoreFactory() {
+    *this = Registers(_potWpm);
+}
+
 void Registers::load(std::span<const std::uint8_t, count> values) {
     for (std::size_t i = 0; i < count; ++i)
         set(static_cast<Register>(i), values[i]);

@@ -47,6 +47,8 @@ class Registers {
     /// Sets one register; a value outside its range leaves it as it was. A new speed cancels the
     /// temporary and the high speed.
     void set(Register which, std::uint8_t value);
+    /// Factory values; the pot stays where it is.
+    void restoreFactory();
     /// Sets all registers, each as set() does.
     void load(std::span<const std::uint8_t, count> values);
     [[nodiscard]] std::uint8_t value(Register which) const;
