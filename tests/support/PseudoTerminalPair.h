@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+#include <chrono>
+
+/// A terminal line with both ends in this program: a device node for the one under test, and the
+/// far end for the test. The line is raw from the start.
+class PseudoTerminalPair {
+  public:
+    PseudoTerminalPair();
+    PseudoTerminalPair(const PseudoTerminalPair&) = delete;
+    PseudoTerminalPair& operator=(const PseudoTerminalPair&) = delete;
+    ~PseudoTerminalPair();
+
+    /// The device node of the near end.
+    [[nodiscard]] QString path() const { return _path; }
+    /// The descriptor of the far end; it does not block. -1 after hangUp().
+    [[nodiscard]] int farEnd() const { return _farEnd; }
+
+    /// Sends bytes to the near end; false unless all of them went.
+    [[nodiscard]] bool write(const QByteArray& data) const;
+
+    /// All that the near end has sent by now.
+    [[nodiscard]] QByteArray readAvailable() const;
+
+    /// Reads until `count` bytes have come or the time is over, with the event loop running.
+    [[nodiscard]] QByteArray read(qsizetype count,
+                                  std::chrono::milliseconds limit = std::chrono::seconds(5)) const;
+
+    /// Closes the far end, as a pulled adapter does.
+    void hangUp();
+
+  private:
+    int _farEnd;
+    QString _path;
+};
