@@ -1,0 +1,18 @@
+#pragma once
+
+#include "platform/Application.h"
+
+#include <QPointer>
+#include <QWidget>
+
+/// The application on the desktop: shows alerts as modal windows.
+class DesktopApplication final : public Application {
+  public:
+    AlertAnswer runModal(const Alert& alert) override;
+
+    /// The window that alerts belong to; nullptr for none.
+    void setAlertParent(QWidget* window) { _alertParent = window; }
+
+  private:
+    QPointer<QWidget> _alertParent;
+};

@@ -1,0 +1,57 @@
+#include "app/MainWindow.h"
+
+#include "keyer/MessageSettings.h"
+#include "keyer/WinKeyerUsb.h"
+#include "platform/Action.h"
+#include "platform/SettingsStore.h"
+#include "ui_MainWindow.h"
+
+#include <QShortcut>
+
+using namespace Qt::StringLiterals;
+
+MainWindow::MainWindow(WinKeyerUsb& engine)
+    : _engine(engine), _ui(std::make_unique<Ui::MainWindow>()) {
+    _ui->setupUi(this);
+    setUpMessageButtons();
+    _ui->keyboardView->setEngine(_engine);
+    _ui->keyboardView->setFocus();
+
+    QObject::connect(_ui->stopButton, &QPushButton::clicked, this,
+                     [this] { _engine.stopMessageSending(_ui->stopButton); });
+    const auto* escape = new QShortcut(Qt::Key_Escape, this);
+    QObject::connect(escape, &QShortcut::activated, _ui->stopButton, &QPushButton::click);
+
+    QObject::connect(&_engine, &WinKeyerUsb::speedStringChanged, this, &MainWindow::showSpeed);
+    showSpeed();
+}
+
+MainWindow::~MainWindow() = default;
+
+void MainWindow::setUpMessageButtons() {
+    for (auto* button : _ui->messages->findChildren<QPushButton*>()) {
+        QObject::connect(button, &QPushButton::clicked, this,
+                         [this, button] { _engine.sendMessage(button); });
+    }
+    QObject::connect(&SettingsStore::standardUserDefaults(), &SettingsStore::changed, this,
+                     &MainWindow::showMessageLabels);
+    showMessageLabels();
+}
+
+void MainWindow::showMessageLabels() {
+    const auto& settings = SettingsStore::standardUserDefaults();
+    for (auto* button : _ui->messages->findChildren<QPushButton*>()) {
+        const auto index = Action::tag(button);
+        auto label =
+            settings.stringForKey(messageSettings[static_cast<std::size_t>(index)].labelKey);
+        button->setAccessibleName(tr("Message %1: %2").arg(index + 1).arg(label));
+        // A label is the operator's own text: an ampersand in it is no keyboard shortcut.
+        button->setText(tr("F%1  %2").arg(index + 1).arg(label.replace(u"&"_s, u"&&"_s)));
+        button->setShortcut(QKeySequence(Qt::Key_F1 + index));
+    }
+}
+
+void MainWindow::showSpeed() {
+    const auto speed = _engine.speedString();
+    _ui->speedLabel->setText(speed.isNull() ? tr("– WPM") : speed);
+}

@@ -1,0 +1,127 @@
+#include "app/QuorvelDelegate.h"
+
+#include "keyer/GeneralSettings.h"
+#include "keyer/WinKeyerUsb.h"
+#include "platform/Log.h"
+#include "platform/Platform.h"
+#include "serial/ORSSerialPortManager.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+Application& application() {
+    return Platform::current().application();
+}
+
+ORSSerialPortManager::Ports portsIn(const Notification& notification, QLatin1StringView key) {
+    return notification.userInfo.value(key).value<ORSSerialPortManager::Ports>();
+}
+
+} // namespace
+
+QuorvelDelegate::QuorvelDelegate(QObject* parent) : QObject(parent) {
+    application().setDelegate(this);
+}
+
+QuorvelDelegate::~QuorvelDelegate() {
+    application().setDelegate(nullptr);
+}
+
+WinKeyerUsb& QuorvelDelegate::winKeyerUsb() const {
+    return WinKeyerUsb::sharedInstance();
+}
+
+void QuorvelDelegate::applicationDidFinishLaunching() {
+    auto& center = NotificationCenter::defaultCenter();
+    updateSerialPortList();
+    center.addObserver(this, ORSSerialPortWasConnectedNotification,
+                       [this](const Notification& each) { serialPortAdded(each); });
+    center.addObserver(this, ORSSerialPortWasDisconnectedNotification,
+                       [this](const Notification& each) { serialPortRemoved(each); });
+    // Once more: nobody was told of a port that came between the list and the observers.
+    updateSerialPortList();
+    Error error;
+    if (!winKeyerUsb().connect(&error)) {
+        application().presentError(error);
+    }
+}
+
+QuorvelDelegate::TerminateReply QuorvelDelegate::applicationShouldTerminate() {
+    Error error;
+    if (!winKeyerUsb().disconnect(&error)) {
+        application().presentError(error);
+    }
+    return TerminateReply::TerminateNow;
+}
+
+void QuorvelDelegate::changeSerialPort(const QObject*) {
+    Error error;
+    if (!winKeyerUsb().disconnect(&error)) {
+        application().presentError(error);
+    }
+    if (SettingsStore::standardUserDefaults().stringForKey(WKPortName) == noPortName) {
+        return;
+    }
+    error = {};
+    if (!winKeyerUsb().connect(&error)) {
+        application().presentError(error);
+    }
+}
+
+void QuorvelDelegate::setSerialPortNameArray(const QStringList& names) {
+    _serialPortNameArray = names;
+    Q_EMIT serialPortNameArrayChanged();
+}
+
+void QuorvelDelegate::updateSerialPortList() {
+    QStringList names{noPortName};
+    const auto& ports = ORSSerialPortManager::sharedSerialPortManager().availablePorts();
+    for (const auto& port : ports.value_or(ORSSerialPortManager::Ports())) {
+        names.append(port->name());
+    }
+    setSerialPortNameArray(names);
+}
+
+void QuorvelDelegate::serialPortRemoved(const Notification& notification) {
+    logLine(u"-[QuorvelDelegate(Private) serialPortRemoved:]"_s);
+    auto& settings = SettingsStore::standardUserDefaults();
+    for (const auto& port : portsIn(notification, ORSDisconnectedSerialPortsKey)) {
+        if (port->name() != settings.stringForKey(WKPortName)) {
+            continue;
+        }
+        // The choice of port itself stays: it is the same adapter that will be plugged in again.
+        settings.setObject(QString(noPortName), noPortName);
+        winKeyerUsb().disconnect(nullptr);
+        application().runModal(
+            {.messageText =
+                 u"The WinKeyer using serial port %1 has been unplugged."_s.arg(port->name()),
+             .informativeText =
+                 u"Plug it back in, or choose another serial port in General preferences."_s});
+        break;
+    }
+    updateSerialPortList();
+}
+
+void QuorvelDelegate::serialPortAdded(const Notification& notification) {
+    logLine(u"-[QuorvelDelegate(Private) serialPortAdded:]"_s);
+    updateSerialPortList();
+    if (winKeyerUsb().isConnected()) {
+        return;
+    }
+    // Each port is offered, also after a "Yes": a later "Yes" moves the link to the later port.
+    for (const auto& port : portsIn(notification, ORSConnectedSerialPortsKey)) {
+        if (!port->name().startsWith("usbserial-"_L1)) {
+            continue;
+        }
+        const auto answer = application().runModal(
+            {.messageText = u"The serial port %1 has been plugged in."_s.arg(port->name()),
+             .informativeText = u"Try to use this port to communicate with a WinKeyer?"_s,
+             .defaultButton = u"Yes"_s,
+             .alternateButton = u"No"_s});
+        if (answer == AlertAnswer::Default) {
+            SettingsStore::standardUserDefaults().setObject(port->name(), WKPortName);
+            changeSerialPort(this);
+        }
+    }
+}

@@ -1,0 +1,49 @@
+#pragma once
+
+#include "platform/Application.h"
+#include "platform/NotificationCenter.h"
+
+#include <QObject>
+#include <QStringList>
+
+class WinKeyerUsb;
+
+/// Controls the application: brings the keyer link up at launch and down at quit, keeps the list
+/// of ports that can be chosen, and asks the operator when ports come and go. Main thread only.
+class QuorvelDelegate final : public QObject, public ApplicationDelegate {
+    Q_OBJECT
+    Q_PROPERTY(
+        QStringList serialPortNameArray READ serialPortNameArray NOTIFY serialPortNameArrayChanged)
+
+  public:
+    enum class TerminateReply { TerminateNow = 1 };
+
+    explicit QuorvelDelegate(QObject* parent = nullptr);
+    ~QuorvelDelegate() override;
+
+    /// Lists the ports, begins to follow them, and connects to the keyer.
+    void applicationDidFinishLaunching();
+
+    /// Takes the keyer link down. Quitting is never refused.
+    TerminateReply applicationShouldTerminate();
+
+    [[nodiscard]] bool applicationShouldTerminateAfterLastWindowClosed() const { return true; }
+
+    void changeSerialPort(const QObject* sender) override;
+
+    /// "None" and the names of the ports that are present, in the port manager's order.
+    [[nodiscard]] QStringList serialPortNameArray() const { return _serialPortNameArray; }
+
+    [[nodiscard]] WinKeyerUsb& winKeyerUsb() const;
+
+  Q_SIGNALS:
+    void serialPortNameArrayChanged();
+
+  private:
+    void setSerialPortNameArray(const QStringList& names);
+    void updateSerialPortList();
+    void serialPortAdded(const Notification& notification);
+    void serialPortRemoved(const Notification& notification);
+
+    QStringList _serialPortNameArray;
+};
