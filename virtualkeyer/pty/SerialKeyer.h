@@ -17,7 +17,7 @@ namespace virtualkeyer {
 class SerialKeyer {
   public:
     /// The bytes of the host that the line's transmitter holds, as a UART's queue does; what
-    /// exceeds them waits in the terminal, where the host can still flush it.
+    /// exceeds them waits in the terminal, and makes the host wait when that is full too.
     static constexpr std::size_t queueDepth = 16;
 
     /// The listeners must outlive this.

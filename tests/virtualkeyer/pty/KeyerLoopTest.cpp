@@ -1,0 +1,153 @@
+#include "virtualkeyer/pty/KeyerLoop.h"
+
+#include <QElapsedTimer>
+#include <QTest>
+
+#include <fcntl.h>
+#include <future>
+#include <poll.h>
+#include <stdexcept>
+#include <string>
+#include <sys/eventfd.h>
+
+using virtualkeyer::Event;
+using virtualkeyer::FileDescriptor;
+using virtualkeyer::KeyerListener;
+using virtualkeyer::KeyerLoop;
+using virtualkeyer::Profile;
+using virtualkeyer::PseudoTerminal;
+using virtualkeyer::Registers;
+using virtualkeyer::SerialKeyer;
+
+namespace {
+
+/// A keyer that runs on a thread of its own until it is stopped.
+class RunningKeyer {
+  public:
+    explicit RunningKeyer(const std::vector<KeyerListener*>& listeners = {})
+        : _stop(::eventfd(0, EFD_CLOEXEC)),
+          _keyer(Profile{}, listeners),
+          _loop(_keyer, _terminal),
+          _end(std::async(std::launch::async, [this] { _loop.run(_stop.number()); })) {}
+    ~RunningKeyer() {
+        if (_end.valid())
+            stop();
+    }
+
+    [[nodiscard]] FileDescriptor openPort() const {
+        return FileDescriptor(
+            ::open(_terminal.slavePath().c_str(), O_RDWR | O_NOCTTY | O_CLOEXEC | O_NONBLOCK));
+    }
+    void stop() {
+        const std::uint64_t one = 1;
+        if (::write(_stop.number(), &one, sizeof one) < 0)
+            qFatal("cannot stop the keyer");
+        _end.wait();
+    }
+    /// Rethrows what ended the loop.
+    void waitForEnd() { _end.get(); }
+
+  private:
+    FileDescriptor _stop;
+    PseudoTerminal _terminal;
+    SerialKeyer _keyer;
+    KeyerLoop _loop;
+    std::future<void> _end;
+};
+
+class FailingListener : public KeyerListener {
+  public:
+    void keyerDid(const Event&, const Registers&) override { throw std::runtime_error("enough"); }
+};
+
+void send(const FileDescriptor& port, const std::string& bytes) {
+    if (::write(port.number(), bytes.data(), bytes.size()) != static_cast<ssize_t>(bytes.size()))
+        qFatal("the port takes no more");
+}
+
+/// The next `count` bytes; fewer when they do not come within 10 s.
+std::string receive(const FileDescriptor& port, std::size_t count) {
+    std::string bytes;
+    while (bytes.size() < count) {
+        pollfd state{port.number(), POLLIN, 0};
+        char byte = 0;
+        if (::poll(&state, 1, 10'000) != 1 || ::read(port.number(), &byte, 1) != 1)
+            break;
+        bytes += byte;
+    }
+    return bytes;
+}
+
+std::string echoRequest(char byte) {
+    return {'\0', '\4', byte};
+}
+
+} // namespace
+
+class KeyerLoopTest : public QObject {
+    Q_OBJECT
+
+  private Q_SLOTS:
+    void aByteIsNotBackBeforeTheLineCanHaveCarriedIt();
+    void aBurstIsNotFasterThanTheLine();
+    void theApplicationMayCloseAndOpenThePort();
+    void aListenersFailureEndsTheLoop();
+    void aStopRequestBeforeTheStartEndsItAtOnce();
+};
+
+void KeyerLoopTest::aByteIsNotBackBeforeTheLineCanHaveCarriedIt() {
+    const RunningKeyer keyer;
+    const FileDescriptor port = keyer.openPort();
+    QElapsedTimer timer;
+    timer.start();
+    send(port, echoRequest('U'));
+    QCOMPARE(receive(port, 1), std::string("U"));
+    QVERIFY2(timer.nsecsElapsed() >= 4 * 9'166'666, qPrintable(QString::number(timer.elapsed())));
+}
+
+void KeyerLoopTest::aBurstIsNotFasterThanTheLine() {
+    const RunningKeyer keyer;
+    const FileDescriptor port = keyer.openPort();
+    std::string burst;
+    std::string expected;
+    for (int i = 0; i < 20; ++i) {
+        const char byte = static_cast<char>('A' + i);
+        burst += echoRequest(byte);
+        expected += byte;
+    }
+    QElapsedTimer timer;
+    timer.start();
+    send(port, burst);
+    QCOMPARE(receive(port, expected.size()), expected);
+    QVERIFY2(timer.nsecsElapsed() >= 61 * 9'166'666, qPrintable(QString::number(timer.elapsed())));
+}
+
+void KeyerLoopTest::theApplicationMayCloseAndOpenThePort() {
+    const RunningKeyer keyer;
+    for (const char byte : {'A', 'B', 'C'}) {
+        const FileDescriptor port = keyer.openPort();
+        QVERIFY(port.isOpen());
+        send(port, echoRequest(byte));
+        QCOMPARE(receive(port, 1), std::string(1, byte));
+    }
+}
+
+void KeyerLoopTest::aListenersFailureEndsTheLoop() {
+    FailingListener listener;
+    RunningKeyer keyer({&listener});
+    const FileDescriptor port = keyer.openPort();
+    send(port, echoRequest('U'));
+    QVERIFY_THROWS_EXCEPTION(std::runtime_error, keyer.waitForEnd());
+}
+
+void KeyerLoopTest::aStopRequestBeforeTheStartEndsItAtOnce() {
+    const FileDescriptor stop(::eventfd(1, EFD_CLOEXEC));
+    PseudoTerminal terminal;
+    SerialKeyer keyer(Profile{}, {});
+    KeyerLoop(keyer, terminal).run(stop.number());
+    std::uint64_t value = 0;
+    QCOMPARE(::read(stop.number(), &value, sizeof value), 8);
+}
+
+QTEST_GUILESS_MAIN(KeyerLoopTest)
+#include "KeyerLoopTest.moc"

@@ -1,0 +1,97 @@
+#include "virtualkeyer/CommandLine.h"
+
+#include "virtualkeyer/NamedProfiles.h"
+#include "virtualkeyer/pty/PortLink.h"
+
+#include <QCommandLineParser>
+#include <QCoreApplication>
+#include <QFile>
+
+using namespace Qt::StringLiterals;
+
+namespace virtualkeyer {
+
+namespace {
+
+constexpr int slowestPot = 5;
+constexpr int fastestPot = 99;
+
+QString qt(std::string_view text) {
+    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+QString profileList() {
+    QString list = u"The kind of keyer, one of:"_s;
+    for (const NamedProfile& profile : namedProfiles())
+        list += u"\n%1: %2"_s.arg(qt(profile.name), qt(profile.description));
+    return list;
+}
+
+struct Options {
+    QCommandLineOption headless{u"headless"_s,
+                                u"Shows no window. It has none yet, so this changes nothing."_s};
+    QCommandLineOption transcript{u"transcript"_s,
+                                  u"Writes a line for every event, with its time in ms, to FILE."_s,
+                                  u"FILE"_s};
+    QCommandLineOption speed{
+        u"speed"_s,
+        u"Where the speed pot stands, %1 to %2 words per minute."_s.arg(slowestPot).arg(fastestPot),
+        u"WPM"_s, QString::number(Profile{}.potWpm)};
+    QCommandLineOption profile{u"profile"_s, profileList(), u"NAME"_s, u"default"_s};
+    QCommandLineOption link{u"link"_s, u"The name of the serial port."_s, u"NAME"_s,
+                            u"usbserial-virtual"_s};
+};
+
+/// What is wrong with the values; empty when nothing is.
+QString readValues(const QCommandLineParser& parser, const Options& options, CommandLine& result) {
+    const QString profileName = parser.value(options.profile);
+    const auto profile = profileNamed(profileName.toStdString());
+    if (!profile)
+        return u"Unknown profile '%1'; --help lists them."_s.arg(profileName);
+    bool isNumber = false;
+    const int speed = parser.value(options.speed).toInt(&isNumber);
+    if (!isNumber || speed < slowestPot || speed > fastestPot)
+        return u"The speed is %1 to %2 words per minute, not '%3'."_s.arg(slowestPot)
+            .arg(fastestPot)
+            .arg(parser.value(options.speed));
+    result.linkName = parser.value(options.link);
+    if (!PortLink::isValidName(QFile::encodeName(result.linkName).toStdString()))
+        return u"'%1' cannot name a serial port: a name has 1 to 200 characters, no slash, and "
+               "does not begin with a dot."_s.arg(result.linkName);
+    result.transcriptPath = parser.value(options.transcript);
+    if (parser.isSet(options.transcript) && result.transcriptPath.isEmpty())
+        return u"The transcript needs a file name."_s;
+    result.profile = *profile;
+    result.profile.potWpm = speed;
+    return {};
+}
+
+} // namespace
+
+CommandLine CommandLine::parse(const QStringList& arguments) {
+    const Options options;
+    QCommandLineParser parser;
+    parser.setApplicationDescription(
+        u"A Morse keyer made of software: it plugs itself in as a serial port, obeys the host\n"
+        "program that opens it, and prints what it keys to standard output."_s);
+    const QCommandLineOption help({u"h"_s, u"help"_s}, u"Shows this text."_s);
+    const QCommandLineOption version({u"v"_s, u"version"_s}, u"Shows the version."_s);
+    parser.addOptions({help, version, options.headless, options.transcript, options.speed,
+                       options.profile, options.link});
+
+    CommandLine result;
+    if (!parser.parse(arguments))
+        result.error = parser.errorText();
+    else if (parser.isSet(help))
+        result.answer = parser.helpText();
+    else if (parser.isSet(version))
+        result.answer = u"%1 %2\n"_s.arg(QCoreApplication::applicationName(),
+                                         QCoreApplication::applicationVersion());
+    else if (!parser.positionalArguments().isEmpty())
+        result.error = u"Unexpected argument '%1'."_s.arg(parser.positionalArguments().first());
+    else
+        result.error = readValues(parser, options, result);
+    return result;
+}
+
+} // namespace virtualkeyer

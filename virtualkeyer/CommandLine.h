@@ -1,0 +1,25 @@
+#pragma once
+
+#include "virtualkeyer/core/Profile.h"
+
+#include <QString>
+#include <QStringList>
+
+namespace virtualkeyer {
+
+/// What the program was asked to do.
+struct CommandLine {
+    /// Text to print and leave it at that: the help or the version.
+    QString answer;
+    /// What is wrong with the options, for standard error; empty when nothing is.
+    QString error;
+    Profile profile;
+    QString linkName;
+    /// Empty for no transcript.
+    QString transcriptPath;
+
+    /// Reads the program's arguments, its own name first.
+    [[nodiscard]] static CommandLine parse(const QStringList& arguments);
+};
+
+} // namespace virtualkeyer

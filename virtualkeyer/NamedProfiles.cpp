@@ -1,0 +1,62 @@
+#include "virtualkeyer/NamedProfiles.h"
+
+#include <algorithm>
+#include <array>
+
+namespace virtualkeyer {
+
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr std::array profiles{
+    NamedProfile{"default", "a version 2 keyer, firmware 23", [](Profile&) {}},
+    NamedProfile{"late-echo",
+                 "echoes after the letter space, \"|\" too; keys \"?\" for what has no Morse",
+                 [](Profile& profile) {
+                     profile.echoTime = EchoTime::AfterLetterSpace;
+                     profile.echoesHalfSpace = true;
+                     profile.unknownCharacter = UnknownCharacter::QuestionMark;
+                 }},
+    NamedProfile{"status-after-open", "sends a status byte after the version byte",
+                 [](Profile& profile) { profile.reportsStatusAfterOpen = true; }},
+    NamedProfile{"echo-then-idle", "sends the last echo and the idle status back to back",
+                 [](Profile& profile) { profile.idleTime = IdleTime::WithEcho; }},
+    NamedProfile{"idle-then-echo", "the same, the idle status first",
+                 [](Profile& profile) {
+                     profile.idleTime = IdleTime::WithEcho;
+                     profile.endOrder = EndOrder::IdleThenEcho;
+                 }},
+    NamedProfile{"early-xoff", "asks for a pause at 21 waiting bytes, and again for every more",
+                 [](Profile& profile) { profile.xoffRule = XoffRule::TwentyOneRepeated; }},
+    NamedProfile{"abrupt-clear", "drops the key in mid-letter when the buffer is cleared",
+                 [](Profile& profile) { profile.clearInLetter = ClearInLetter::DropsKey; }},
+    NamedProfile{"boot-loader", "restarts when the port is opened and is deaf for 1.3 s",
+                 [](Profile& profile) { profile.bootLoaderTime = 1300ms; }},
+    NamedProfile{"start-beep", "beeps for half a second before it obeys its first command",
+                 [](Profile& profile) { profile.firstCommandBeep = 500ms; }},
+    NamedProfile{"no-memory-load", "throws a loaded memory away without a word",
+                 [](Profile& profile) { profile.memoryLoad = MemoryLoad::ThrownAway; }},
+    NamedProfile{"single-break-in", "reports break-in by a single C2 first",
+                 [](Profile& profile) { profile.breakInReport = BreakInReport::Single; }},
+    NamedProfile{
+        "repeat-after-pause", "keys a letter once more that a pause came into",
+        [](Profile& profile) { profile.resumeAfterPause = ResumeAfterPause::RepeatsLetter; }},
+};
+
+} // namespace
+
+std::span<const NamedProfile> namedProfiles() {
+    return profiles;
+}
+
+std::optional<Profile> profileNamed(std::string_view name) {
+    const auto found = std::ranges::find(profiles, name, &NamedProfile::name);
+    if (found == profiles.end())
+        return std::nullopt;
+    Profile profile;
+    found->differFromDefault(profile);
+    return profile;
+}
+
+} // namespace virtualkeyer

@@ -1,0 +1,71 @@
+#include "virtualkeyer/CommandLine.h"
+#include "virtualkeyer/TextPrinter.h"
+#include "virtualkeyer/TranscriptWriter.h"
+#include "virtualkeyer/pty/KeyerLoop.h"
+#include "virtualkeyer/pty/PortLink.h"
+#include "virtualkeyer/pty/RuntimeDirectory.h"
+#include "virtualkeyer/pty/StopSignals.h"
+
+#include <QCoreApplication>
+#include <QFile>
+
+#include <csignal>
+#include <cstdio>
+#include <optional>
+
+using namespace virtualkeyer;
+
+namespace {
+
+constexpr int runtimeFailure = 1;
+constexpr int badOptions = 2;
+
+int complain(const char* what, int status) {
+    std::fprintf(stderr, "quorvel-virtual-keyer: %s\n", what);
+    return status;
+}
+
+void run(const CommandLine& commandLine, std::vector<KeyerListener*> listeners) {
+    const StopSignals stopSignals;
+    PseudoTerminal terminal;
+    SerialKeyer keyer(commandLine.profile, std::move(listeners));
+    KeyerLoop loop(keyer, terminal);
+    const std::string name = QFile::encodeName(commandLine.linkName).toStdString();
+    const PortLink link(runtimeDirectory(), name, terminal.slavePath());
+    std::fprintf(stderr, "Plugged in as %s (%s)\n", name.c_str(), link.path().c_str());
+    loop.run(stopSignals.descriptor());
+}
+
+} // namespace
+
+int main(int argc, char* argv[]) {
+    const QCoreApplication application(argc, argv);
+    QCoreApplication::setApplicationName(QStringLiteral("quorvel-virtual-keyer"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(QUORVEL_VERSION));
+    // A reader of the keyed text that goes away is an error like any other, not a sudden death.
+    std::signal(SIGPIPE, SIG_IGN);
+
+    const CommandLine commandLine = CommandLine::parse(QCoreApplication::arguments());
+    if (!commandLine.error.isEmpty())
+        return complain(commandLine.error.toLocal8Bit().constData(), badOptions);
+    if (!commandLine.answer.isEmpty())
+        return std::fputs(commandLine.answer.toLocal8Bit().constData(), stdout) < 0;
+
+    TextPrinter printer;
+    std::optional<TranscriptWriter> transcript;
+    std::vector<KeyerListener*> listeners{&printer};
+    if (!commandLine.transcriptPath.isEmpty()) {
+        try {
+            transcript.emplace(QFile::encodeName(commandLine.transcriptPath).toStdString());
+        } catch (const std::system_error& error) {
+            return complain(error.what(), badOptions);
+        }
+        listeners.push_back(&*transcript);
+    }
+    try {
+        run(commandLine, std::move(listeners));
+    } catch (const std::exception& error) {
+        return complain(error.what(), runtimeFailure);
+    }
+    return 0;
+}
