@@ -32,13 +32,13 @@ class PaddleLogic {
     void lock();
 
   private:
-    [[nodiscard]] bool isPressed() const { return _dit.isHeld || _dah.isHeld; }
     struct Contact {
         bool isHeld = false;
         bool isRemembered = false;
         [[nodiscard]] bool isWanted() const { return isHeld || isRemembered; }
     };
 
+    [[nodiscard]] bool isPressed() const { return _dit.isHeld || _dah.isHeld; }
     void set(Contact& contact, Element element, bool isHeld);
     [[nodiscard]] Contact& contact(Element element) {
         return element == Element::Dit ? _dit : _dah;
