@@ -66,6 +66,8 @@ void LineSettings::edit(termios& record, const LineSettings& settings) {
     setFlag(record.c_cflag, CREAD | CLOCAL | HUPCL, true);
     setFlag(record.c_lflag, ICANON | ISIG, false);
     if (const auto speed = standardSpeed(settings.baudRate)) {
+        // An input speed of its own, as a rate without a constant may leave one, would stay.
+        setFlag(record.c_cflag, CIBAUD, false);
         ::cfsetspeed(&record, *speed);
     }
 }
@@ -87,7 +89,7 @@ SavedLineSettings::SavedLineSettings(int descriptor) {
     termios record = {};
     if (::tcgetattr(descriptor, &record) == 0) {
         _record = record;
-        _nonStandardSpeed = LineSpeed::nonStandard(descriptor);
+        _speed = LineSpeed::current(descriptor);
     }
 }
 
@@ -100,7 +102,8 @@ void SavedLineSettings::restore(int descriptor) const {
     if (_record) {
         static_cast<void>(::tcsetattr(descriptor, TCSADRAIN, &*_record));
     }
-    if (_nonStandardSpeed) {
-        static_cast<void>(LineSpeed::setNonStandard(descriptor, *_nonStandardSpeed));
+    // The record does not hold a speed that has no constant.
+    if (_speed && LineSpeed::current(descriptor) != _speed) {
+        static_cast<void>(LineSpeed::setNonStandard(descriptor, *_speed));
     }
 }

@@ -32,5 +32,5 @@ class SavedLineSettings {
 
   private:
     std::optional<termios> _record;
-    std::optional<LineSpeed::Speed> _nonStandardSpeed;
+    std::optional<LineSpeed::Speed> _speed;
 };

@@ -8,9 +8,9 @@
 
 namespace LineSpeed {
 
-std::optional<Speed> nonStandard(int descriptor) {
+std::optional<Speed> current(int descriptor) {
     termios2 record = {};
-    if (::ioctl(descriptor, TCGETS2, &record) != 0 || (record.c_cflag & CBAUD) != BOTHER) {
+    if (::ioctl(descriptor, TCGETS2, &record) != 0) {
         return {};
     }
     return Speed{record.c_ispeed, record.c_ospeed};

@@ -8,11 +8,12 @@ namespace LineSpeed {
 struct Speed {
     unsigned input;
     unsigned output;
+
+    bool operator==(const Speed&) const = default;
 };
 
-/// The speeds of the line if they are no standard ones; nothing for standard ones, which the
-/// line's ordinary settings hold, and on failure.
-[[nodiscard]] std::optional<Speed> nonStandard(int descriptor);
+/// The speeds of the line; nothing on failure.
+[[nodiscard]] std::optional<Speed> current(int descriptor);
 
 /// Sets speeds that have no constant. 0, else -1 and errno.
 [[nodiscard]] int setNonStandard(int descriptor, Speed speed);

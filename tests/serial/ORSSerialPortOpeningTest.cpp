@@ -1,0 +1,391 @@
+#include "tests/serial/PortBench.h"
+
+#include <QDir>
+#include <QProcess>
+#include <QSignalSpy>
+
+#include <cerrno>
+#include <fcntl.h>
+#include <sys/ioctl.h>
+#include <thread>
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace {
+
+qsizetype entriesOf(const QString& directory) {
+    return QDir(directory).entryList(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::System).size();
+}
+
+qsizetype descriptorCount() {
+    return entriesOf(u"/proc/self/fd"_s);
+}
+
+qsizetype threadCount() {
+    return entriesOf(u"/proc/self/task"_s);
+}
+
+} // namespace
+
+class ORSSerialPortOpeningTest : public QObject {
+    Q_OBJECT
+  private Q_SLOTS:
+    void anOpenPortIsOpenAtOnceAndSaysSoLater() {
+        PortBench bench;
+        bench.port->open();
+        QVERIFY(bench.port->isOpen());
+        QVERIFY(bench.port->fileDescriptor() > 0);
+        QCOMPARE(bench.delegate.events(), QStringList());
+        QTRY_COMPARE(bench.delegate.events(), QStringList{u"opened"_s});
+    }
+
+    void openingAnOpenPortDoesNothing() {
+        PortBench bench;
+        QVERIFY(bench.open());
+        const int descriptor = bench.port->fileDescriptor();
+        const int opens = bench.faults.count(SystemCall::Open);
+        bench.port->open();
+        QCOMPARE(bench.port->fileDescriptor(), descriptor);
+        QCOMPARE(bench.faults.count(SystemCall::Open), opens);
+    }
+
+    void theDescriptorBlocksAndIsNotInherited() {
+        PortBench bench;
+        bench.port->open();
+        QCOMPARE(::fcntl(bench.port->fileDescriptor(), F_GETFL) & O_NONBLOCK, 0);
+        QCOMPARE(::fcntl(bench.port->fileDescriptor(), F_GETFD) & FD_CLOEXEC, FD_CLOEXEC);
+    }
+
+    void closingTellsTheDelegateBeforeItReturns() {
+        PortBench bench;
+        QVERIFY(bench.open());
+        QVERIFY(bench.port->close());
+        QVERIFY(!bench.port->isOpen());
+        QCOMPARE(bench.delegate.events(), (QStringList{u"opened"_s, u"closed"_s}));
+    }
+
+    void closingAClosedPortSaysNothing() {
+        PortBench bench;
+        QVERIFY(bench.port->close());
+        QCOMPARE(bench.delegate.events(), QStringList());
+    }
+
+    void observersOfIsOpenAreTold() {
+        PortBench bench;
+        QList<bool> seen;
+        connect(bench.port.get(), &ORSSerialPort::isOpenChanged, this,
+                [&] { seen.append(bench.port->isOpen()); });
+        bench.port->open();
+        bench.port->close();
+        QCOMPARE(seen, (QList{true, false}));
+    }
+
+    void anObserverMayCloseThePort_data() {
+        QTest::addColumn<bool>("ofTheLine");
+        QTest::newRow("when the line changes during open") << true;
+        QTest::newRow("when it is open") << false;
+    }
+
+    void anObserverMayCloseThePort() {
+        QFETCH(bool, ofTheLine);
+        PortBench bench;
+        bench.port->setRTS(1);
+        const auto signal = ofTheLine ? &ORSSerialPort::RTSChanged : &ORSSerialPort::isOpenChanged;
+        connect(bench.port.get(), signal, this, [&] { bench.port->close(); });
+        bench.port->open();
+        QVERIFY(!bench.port->isOpen());
+    }
+
+    void cleaningUpClosesAndTellsThatTheDeviceHasGone() {
+        PortBench bench;
+        QVERIFY(bench.open());
+        bench.port->cleanup();
+        QVERIFY(!bench.port->isOpen());
+        bench.port->cleanup();
+        QCOMPARE(bench.delegate.events(),
+                 (QStringList{u"opened"_s, u"closed"_s, u"removed"_s, u"removed"_s}));
+    }
+
+    void cleaningUpTellsEvenIfClosingFails() {
+        PortBench bench;
+        QVERIFY(bench.open());
+        bench.faults.fail(SystemCall::Close, EIO, 1, 1);
+        bench.port->cleanup();
+        QVERIFY(bench.port->isOpen());
+        QCOMPARE(bench.delegate.events(), (QStringList{u"opened"_s, u"removed"_s}));
+    }
+
+    void aChangeOfFlowControlReopensAnOpenPort_data() {
+        QTest::addColumn<QByteArray>("property");
+        QTest::addColumn<QByteArray>("log");
+        QTest::newRow("RTS/CTS") << QByteArray("usesRTSCTSFlowControl") << QByteArray();
+        QTest::newRow("DTR/DSR") << QByteArray("usesDTRDSRFlowControl")
+                                 << QByteArray("DTR/DSR flow control has no effect on line on "
+                                               "this system");
+        QTest::newRow("DCD") << QByteArray("usesDCDOutputFlowControl")
+                             << QByteArray("DCD output flow control has no effect on line on "
+                                           "this system");
+    }
+
+    void aChangeOfFlowControlReopensAnOpenPort() {
+        QFETCH(QByteArray, property);
+        QFETCH(QByteArray, log);
+        PortBench bench;
+        if (!log.isEmpty()) {
+            QTest::ignoreMessage(QtInfoMsg, log.constData());
+        }
+        bench.port->setProperty(property.constData(), true);
+        QCOMPARE(bench.port->property(property.constData()), QVariant(true));
+        QVERIFY(!bench.port->isOpen());
+        QCOMPARE(bench.delegate.events(), QStringList());
+
+        QVERIFY(bench.open());
+        bench.port->setProperty(property.constData(), true);
+        QCOMPARE(bench.delegate.events(), QStringList{u"opened"_s});
+        bench.port->setProperty(property.constData(), false);
+        QVERIFY(bench.port->isOpen());
+        QTRY_COMPARE(bench.delegate.events(), (QStringList{u"opened"_s, u"closed"_s, u"opened"_s}));
+    }
+
+    void aDeviceHeldByAnotherProcessDoesNotOpen() {
+        PortBench bench;
+        QProcess holder;
+        holder.start(u"flock"_s, {u"--nonblock"_s, bench.line.path(), u"--command"_s,
+                                  u"echo held; read line"_s});
+        QVERIFY(holder.waitForReadyRead());
+        bench.port->open();
+        QVERIFY(!bench.port->isOpen());
+        QTRY_COMPARE(bench.delegate.events(), QStringList{u"error"_s});
+        QCOMPARE(bench.delegate.errors().constFirst().userInfo.value(NSFilePathErrorKey).toString(),
+                 bench.line.path());
+        holder.write("\n");
+        QVERIFY(holder.waitForFinished());
+        bench.port->open();
+        QVERIFY(bench.port->isOpen());
+    }
+
+    void anotherProcessCannotHaveAnOpenDevice() {
+        PortBench bench;
+        bench.port->open();
+        const QStringList taking{u"--nonblock"_s, bench.line.path(), u"true"_s};
+        QVERIFY(QProcess::execute(u"flock"_s, taking) != 0);
+        bench.port->close();
+        QCOMPARE(QProcess::execute(u"flock"_s, taking), 0);
+    }
+
+    void exclusiveModeEndsWithTheOpening() {
+        PortBench bench;
+        int isExclusive = 0;
+        bench.port->open();
+        QCOMPARE(::ioctl(bench.port->fileDescriptor(), TIOCGEXCL, &isExclusive), 0);
+        QCOMPARE(isExclusive, 1);
+        bench.port->close();
+        const int descriptor =
+            ::open(bench.line.path().toLocal8Bit().constData(), O_RDWR | O_NOCTTY);
+        QCOMPARE(::ioctl(descriptor, TIOCGEXCL, &isExclusive), 0);
+        ::close(descriptor);
+        QCOMPARE(isExclusive, 0);
+    }
+
+    void aMissingNodeOrAFileThatIsNoTerminalDoesNotOpen_data() {
+        QTest::addColumn<QString>("path");
+        QTest::newRow("missing") << u"/nowhere/at/all"_s;
+        QTest::newRow("no terminal") << u"/dev/null"_s;
+    }
+
+    void aMissingNodeOrAFileThatIsNoTerminalDoesNotOpen() {
+        QFETCH(QString, path);
+        TestPlatform platform;
+        RecordingDelegate delegate;
+        const auto port =
+            ORSSerialPort::serialPortWithDevice(platform.devices().plug(u"odd"_s, path));
+        port->setDelegate(&delegate);
+        const auto descriptors = descriptorCount();
+        port->open();
+        QVERIFY(!port->isOpen());
+        QTRY_COMPARE(delegate.events(), QStringList{u"error"_s});
+        QCOMPARE(descriptorCount(), descriptors);
+        port->setDelegate(nullptr);
+    }
+
+    void anOpenPortKeepsItselfAlive() {
+        PortBench bench;
+        const std::weak_ptr<ORSSerialPort> watched = bench.port;
+        bench.port->open();
+        bench.port.reset();
+        QVERIFY(!watched.expired());
+        QCOMPARE(ORSSerialPort::existingPortWithPath(bench.line.path()), watched.lock());
+        QVERIFY(watched.lock()->close());
+        QTRY_VERIFY(watched.expired());
+        bench.port = ORSSerialPort::serialPortWithDevice(bench.device);
+    }
+
+    void theEndOfThePlatformClosesOpenPorts() {
+        PortBench bench;
+        QVERIFY(bench.open());
+        const auto threads = threadCount();
+        bench.platform.end();
+        QVERIFY(!bench.port->isOpen());
+        QCOMPARE(bench.delegate.events(), (QStringList{u"opened"_s, u"closed"_s}));
+        QCOMPARE(threadCount(), threads - 2);
+    }
+
+    void closingFromACallbackDoesNotHang_data() {
+        QTest::addColumn<QString>("event");
+        QTest::newRow("of the opening") << u"opened"_s;
+        QTest::newRow("of received data") << u"data"_s;
+        QTest::newRow("of an error, for which a worker waits") << u"error"_s;
+    }
+
+    void closingFromACallbackDoesNotHang() {
+        QFETCH(QString, event);
+        PortBench bench;
+        bench.delegate.setReaction([&](ORSSerialPort& port, const QString& happened) {
+            if (happened == event) {
+                port.close();
+            }
+        });
+        bench.port->open();
+        QVERIFY(bench.line.write("x"));
+        if (event == u"error"_s) {
+            bench.faults.failIoctl(TIOCMGET, EIO);
+        }
+        QTRY_VERIFY(bench.delegate.count(u"closed"_s) == 1);
+        QVERIFY(!bench.port->isOpen());
+    }
+
+    void reopeningFromACallbackDoesNotHang() {
+        PortBench bench;
+        int openings = 0;
+        bench.delegate.setReaction([&](ORSSerialPort& port, const QString& happened) {
+            if (happened == u"error"_s && openings < 5) {
+                port.close();
+                port.open();
+                ++openings;
+            }
+        });
+        QVERIFY(bench.open());
+        bench.faults.failIoctl(TIOCMGET, EIO);
+        QTRY_COMPARE(openings, 5);
+        bench.faults.mend();
+        QVERIFY(bench.line.write("abc"));
+        QTRY_COMPARE(bench.delegate.received(), "abc"_ba);
+    }
+
+    void closingWhileAWorkerWaitsForTheMainThreadDoesNotHang() {
+        PortBench bench;
+        QVERIFY(bench.open());
+        bench.faults.failIoctl(TIOCMGET, EIO);
+        const int ticks = bench.faults.countIoctl(TIOCMGET);
+        QElapsedTimer time;
+        time.start();
+        while (bench.faults.countIoctl(TIOCMGET) == ticks && time.elapsed() < 5000) {
+            std::this_thread::sleep_for(1ms);
+        }
+        // The failed tick's report waits for this thread by the time the next one would be due.
+        std::this_thread::sleep_for(20ms);
+        time.restart();
+        QVERIFY(bench.port->close());
+        QVERIFY(time.elapsed() < 1000);
+        QCOMPARE(bench.delegate.count(u"error"_s), 0);
+        QTest::qWait(30);
+        QCOMPARE(bench.delegate.count(u"error"_s), 0);
+    }
+
+    void closingDuringAReadWaitsForIt() {
+        PortBench bench;
+        QVERIFY(bench.open());
+        std::atomic<bool> isReading = false;
+        std::atomic<bool> mayGoOn = false;
+        bench.faults.beforeEach(SystemCall::Read, [&](int) {
+            isReading = true;
+            mayGoOn.wait(false);
+        });
+        QVERIFY(bench.line.write("late"));
+        QTRY_VERIFY(isReading);
+        std::atomic<bool> isClosed = false;
+        bench.faults.beforeEach(SystemCall::Close, [&](int) { isClosed = true; });
+        bool closedTooEarly = true;
+        const std::jthread releaser([&] {
+            std::this_thread::sleep_for(50ms);
+            closedTooEarly = isClosed;
+            mayGoOn = true;
+            mayGoOn.notify_all();
+        });
+        QVERIFY(bench.port->close());
+        QVERIFY(!closedTooEarly);
+        QTRY_COMPARE(bench.delegate.received(), "late"_ba);
+    }
+
+    void aReopenedPortWorksAtOnce() {
+        PortBench bench;
+        for (int round = 0; round < 20; ++round) {
+            bench.port->open();
+            QVERIFY(bench.line.write("x"));
+            QTRY_COMPARE(bench.delegate.received().size(), round + 1);
+            QVERIFY(bench.port->close());
+        }
+    }
+
+    void aThousandOpeningsLeaveNothingBehind() {
+        PortBench bench;
+        const auto descriptors = descriptorCount();
+        const auto threads = threadCount();
+        for (int round = 0; round < 1000; ++round) {
+            bench.port->open();
+            QVERIFY(bench.port->isOpen());
+            QVERIFY(bench.port->close());
+        }
+        QCOMPARE(descriptorCount(), descriptors);
+        QCOMPARE(threadCount(), threads);
+        QTRY_COMPARE(bench.delegate.count(u"opened"_s), 1000);
+        QCOMPARE(bench.port.use_count(), 1);
+    }
+
+    void theOldLineSettingsComeBack_data() {
+        QTest::addColumn<unsigned long>("rate");
+        QTest::newRow("from a standard rate") << 1200UL;
+        QTest::newRow("from a rate without a constant") << 1234UL;
+    }
+
+    void theOldLineSettingsComeBack() {
+        QFETCH(unsigned long, rate);
+        PortBench bench;
+        termios old{};
+        QCOMPARE(::tcgetattr(bench.line.farEnd(), &old), 0);
+        old.c_lflag |= ICANON | ECHO;
+        old.c_cc[VMIN] = 7;
+        QCOMPARE(::tcsetattr(bench.line.farEnd(), TCSANOW, &old), 0);
+        QCOMPARE(::tcgetattr(bench.line.farEnd(), &old), 0);
+        bench.port->setBaudRate(rate);
+        bench.port->open();
+        termios during{};
+        QCOMPARE(::tcgetattr(bench.line.farEnd(), &during), 0);
+        QCOMPARE(during.c_lflag & (ICANON | ECHO), 0U);
+        bench.port->close();
+        termios after{};
+        QCOMPARE(::tcgetattr(bench.line.farEnd(), &after), 0);
+        QCOMPARE(after.c_lflag, old.c_lflag);
+        QCOMPARE(after.c_cflag, old.c_cflag);
+        QCOMPARE(after.c_cc[VMIN], old.c_cc[VMIN]);
+    }
+
+    void closingTakesOffFlowControlAndThenWaitsForOutput() {
+        PortBench bench;
+        bench.port->setUsesRTSCTSFlowControl(true);
+        bench.port->open();
+        QVERIFY((bench.faults.setAttributes().constLast().record.c_cflag & CRTSCTS) != 0);
+        const auto before = bench.faults.setAttributes().size();
+        bench.port->close();
+        const auto records = bench.faults.setAttributes().mid(before);
+        QCOMPARE(records.size(), 2);
+        QCOMPARE(records[0].actions, TCSANOW);
+        QCOMPARE(records[0].record.c_cflag & CRTSCTS, 0U);
+        QCOMPARE(records[1].actions, TCSADRAIN);
+    }
+};
+
+QTEST_GUILESS_MAIN(ORSSerialPortOpeningTest)
+#include "ORSSerialPortOpeningTest.moc"
