@@ -28,18 +28,24 @@ QString profileList() {
 }
 
 struct Options {
-    QCommandLineOption headless{u"headless"_s,
-                                u"Shows no window. It has none yet, so this changes nothing."_s};
+    QCommandLineOption headless{
+        u"headless"_s,
+        u"Shows no window. There is none yet, so the program does the same without this option."_s};
     QCommandLineOption transcript{u"transcript"_s,
                                   u"Writes a line for every event, with its time in ms, to FILE."_s,
                                   u"FILE"_s};
     QCommandLineOption speed{
         u"speed"_s,
-        u"Where the speed pot stands, %1 to %2 words per minute."_s.arg(slowestPot).arg(fastestPot),
+        u"Where the speed pot stands, %1 to %2 words per minute, %3 by default. It counts within "
+        "the range that the host has set, 10 to 25 at power-up."_s.arg(slowestPot)
+            .arg(fastestPot)
+            .arg(Profile{}.potWpm),
         u"WPM"_s, QString::number(Profile{}.potWpm)};
     QCommandLineOption profile{u"profile"_s, profileList(), u"NAME"_s, u"default"_s};
-    QCommandLineOption link{u"link"_s, u"The name of the serial port."_s, u"NAME"_s,
-                            u"usbserial-virtual"_s};
+    QCommandLineOption link{u"link"_s,
+                            u"The serial port's name, usbserial-virtual by default. The port is a "
+                            "link in quorvel/ports in the runtime directory."_s,
+                            u"NAME"_s, u"usbserial-virtual"_s};
 };
 
 /// What is wrong with the values; empty when nothing is.
