@@ -29,7 +29,7 @@ class DefaultSettings {
     [[nodiscard]] static constexpr const decltype(Setting::defaultValue)&
     value(QLatin1StringView key) {
         for (const auto& setting : keyerSettings) {
-            if (setting.key == key) {
+            if (isSameText(setting.key, key)) {
                 return setting.defaultValue;
             }
         }

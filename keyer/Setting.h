@@ -6,6 +6,7 @@
 
 #include <cstdint>
 #include <span>
+#include <string_view>
 #include <variant>
 
 /// One entry of a choice list: the text that is offered and stored, and its bits in the keyer's
@@ -23,12 +24,22 @@ struct Setting {
     std::span<const Choice> choices = {};
 };
 
+/// Equality that the compiler can evaluate too, unlike Qt's own.
+[[nodiscard]] constexpr bool isSameText(QLatin1StringView one, QLatin1StringView other) {
+    return std::string_view(one.data(), static_cast<std::size_t>(one.size())) ==
+           std::string_view(other.data(), static_cast<std::size_t>(other.size()));
+}
+
+[[nodiscard]] inline bool isSameText(QLatin1StringView one, const QString& other) {
+    return one == other;
+}
+
 /// The code of the entry that equals `text`, case included; 0 when there is none.
 template <typename Text>
 [[nodiscard]] constexpr std::uint8_t codeOfChoice(std::span<const Choice> choices,
                                                   const Text& text) {
     for (const auto& choice : choices) {
-        if (choice.text == text) {
+        if (isSameText(choice.text, text)) {
             return choice.code;
         }
     }
