@@ -36,6 +36,9 @@ void PaddleLogic::rest() {
 }
 
 void PaddleLogic::start(Element element) {
+    // Of two contacts closed from rest the second is remembered only once it has opened.
+    if (Contact& other = contact(opposite(element)); !_current && other.isHeld)
+        other.isRemembered = false;
     _current = element;
     _looks = false;
     contact(element).isRemembered = false;
