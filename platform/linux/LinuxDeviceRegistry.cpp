@@ -95,7 +95,17 @@ void LinuxDeviceRegistry::retain(DeviceHandle device) {
 
 void LinuxDeviceRegistry::release(DeviceHandle device) {
     const auto found = _entries.find(device);
-    if (found != _entries.end() && --found->holders == 0) {
+    if (found == _entries.end() || found->holders == 0) {
+        return;
+    }
+    if (--found->holders == 0 && found->listings == 0) {
+        _entries.erase(found);
+    }
+}
+
+void LinuxDeviceRegistry::unlist(DeviceHandle device) {
+    const auto found = _entries.find(device);
+    if (--found->listings == 0 && found->holders == 0) {
         _entries.erase(found);
     }
 }
@@ -120,7 +130,8 @@ QList<SerialDevice> LinuxDeviceRegistry::devicesOfSources() const {
     return found;
 }
 
-/// Strikes the devices that have gone off the list. Returns them, each held once.
+/// Strikes the devices that have gone off the list, and returns them. They stay listed, for the
+/// announcement that the caller makes of them.
 QList<DeviceHandle> LinuxDeviceRegistry::forgetAllBut(const QSet<QString>& identities) {
     QList<DeviceHandle> gone;
     _present.removeIf([&](DeviceHandle handle) {
@@ -153,8 +164,9 @@ DeviceHandle LinuxDeviceRegistry::add(const SerialDevice& device) {
     for (const auto handle : std::as_const(_present)) {
         names.insert(_entries[handle].name());
     }
-    // The list of what is present holds the device once.
-    _entries.insert(++_lastDevice, {device, DeviceNaming::freeSuffix(device, names), 1});
+    _entries.insert(
+        ++_lastDevice,
+        {.device = device, .suffix = DeviceNaming::freeSuffix(device, names), .listings = 1});
     _present.append(_lastDevice);
     return _lastDevice;
 }
@@ -169,14 +181,15 @@ void LinuxDeviceRegistry::sort(QList<DeviceHandle>& devices) const {
     });
 }
 
-/// What is gone stays held until it has been announced.
 void LinuxDeviceRegistry::enqueue(DeviceEvent event, QList<DeviceHandle> devices) {
     if (devices.isEmpty()) {
         return;
     }
     sort(devices);
     if (event == DeviceEvent::Publish) {
-        std::for_each(devices.begin(), devices.end(), [this](auto device) { retain(device); });
+        for (const auto device : std::as_const(devices)) {
+            ++_entries[device].listings;
+        }
     }
     _announcements.append({event, devices, _lastIterator});
 }
@@ -203,7 +216,7 @@ void LinuxDeviceRegistry::announceNext() {
         }
     }
     for (const auto device : announcement.devices) {
-        release(device);
+        unlist(device);
     }
 }
 

@@ -41,6 +41,10 @@ class LinuxDeviceRegistry final : public DeviceRegistry {
     struct Entry {
         SerialDevice device;
         QString suffix;
+        /// How many lists of the registry's own it is in: of what is present, of what waits to be
+        /// announced.
+        int listings = 0;
+        /// How many retain() no release() has answered.
         int holders = 0;
 
         [[nodiscard]] QString name() const { return device.baseName + suffix; }
@@ -64,6 +68,7 @@ class LinuxDeviceRegistry final : public DeviceRegistry {
     [[nodiscard]] QList<DeviceHandle> addNew(const QList<SerialDevice>& found);
     [[nodiscard]] DeviceHandle add(const SerialDevice& device);
     void sort(QList<DeviceHandle>& devices) const;
+    void unlist(DeviceHandle device);
     void enqueue(DeviceEvent event, QList<DeviceHandle> devices);
     void announce();
     void announceNext();

@@ -10,20 +10,20 @@
 /// What the kernel and udev know of a terminal device. Text that there is not is null.
 struct TtyDevice {
     /// The kernel's name, such as ttyUSB0.
-    QString kernelName;
-    QString node;
+    QString kernelName = {};
+    QString node = {};
     /// Links that lead to the node now.
-    QStringList links;
+    QStringList links = {};
     /// The adapter's own serial number.
-    QString usbSerialNumber;
+    QString usbSerialNumber = {};
     /// The socket that the adapter sits in, such as 1-1.2.
-    QString usbPath;
+    QString usbPath = {};
     /// The adapter's interface, such as 1-1.2:1.0, where it has several.
-    QString usbInterface;
+    QString usbInterface = {};
     /// Whether the kernel found a UART behind a port of the machine's own.
     bool hasUart = false;
     /// See SerialDevice::identity.
-    QString identity;
+    QString identity = {};
 
     /// The serial device that it is; nothing for consoles, pseudo-terminals and ports without
     /// hardware.
