@@ -161,6 +161,7 @@ void PseudoTerminalTest::whatNobodyReadIsGoneAtTheNextOpening() {
     }
     QCOMPARE(terminal.takeOpenings(), 0);
     const FileDescriptor again = openPort(terminal);
+    QCOMPARE(stateOf(again.number()), 0);
     QCOMPARE(terminal.takeOpenings(), 1);
     terminal.write('y');
     QVERIFY(waitFor(again.number()));
