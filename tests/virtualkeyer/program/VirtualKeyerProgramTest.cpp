@@ -61,7 +61,6 @@ class VirtualKeyerProgramTest : public QObject {
     void itSaysWhereItIsPluggedIn();
     void theHostsTextIsKeyedEchoedPrintedAndWrittenDown();
     void theTextIsPrintedAsItIsKeyed();
-    void aLetterIsPrintedEvenIfNothingElseHappensAfterIt();
     void thePotStandsWhereItWasToldTo_data();
     void thePotStandsWhereItWasToldTo();
     void aProfileChangesWhatTheHostSees();
@@ -138,14 +137,6 @@ void VirtualKeyerProgramTest::theTextIsPrintedAsItIsKeyed() {
     const Port port(keyer.linkPath());
     port.send(openCommand + serialEchoOn + "E");
     QVERIFY(port.readUntil('E').endsWith('E'));
-    QTRY_COMPARE(keyer.output(), u"E"_s);
-}
-
-void VirtualKeyerProgramTest::aLetterIsPrintedEvenIfNothingElseHappensAfterIt() {
-    KeyerProcess keyer(*_runtime);
-    QVERIFY(keyer.plugIn());
-    const Port port(keyer.linkPath());
-    port.send(openCommand + QByteArray("\x0B\x01\x0B\x00", 4));
     QTRY_COMPARE(keyer.output(), u"E"_s);
 }
 
