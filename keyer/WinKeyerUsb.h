@@ -1,6 +1,7 @@
 #pragma once
 
 #include "keyer/CharacterSet.h"
+#include "keyer/KeyerMemory.h"
 #include "platform/Clock.h"
 #include "platform/Error.h"
 #include "serial/ORSSerialPort.h"
@@ -121,6 +122,24 @@ class WinKeyerUsb final : public QObject, public ORSSerialPortDelegate {
     void tune(const QObject* sender);
     /// High-speed CW while the control is on, else the speed of the pot. Leaves hscwState alone.
     void changeHSCWMode(const QObject* sender);
+
+    // The keyer's own memory. Written straight to the port, each command apart.
+
+    /// Loads the settings and the six standalone messages into the keyer. False when a message
+    /// holds a character without a code (nothing is loaded then) or the port did not take the
+    /// bytes. Never fills `error`. A message too long for the space left is left out.
+    [[nodiscard]] bool writeEeprom(Error* error);
+    /// Has the keyer key one of its stored messages, 1 to 6; the low 8 bits are sent as they are.
+    void sendStandaloneMessage(int number);
+    /// Writes the codes of `message` from `start` on. False, and nothing written, when it holds a
+    /// character without a code or reaches beyond the image.
+    [[nodiscard]] static bool encodeMessage(const QString& message, std::uint8_t start,
+                                            KeyerMemory::Image& image);
+    /// The message that begins at `start`, up to its end mark, the first byte that is no code, or
+    /// the size of the message area. Wraps at the end of the image.
+    [[nodiscard]] static QString decodeMessage(const KeyerMemory::Image& image, std::uint8_t start);
+    /// The character of a code; of those that share it, the first in the table. 0 for no code.
+    [[nodiscard]] static char morseToAscii(std::uint8_t code);
 
     [[nodiscard]] int pauseState() const { return _pauseState; }
     /// Also tells the keyer, and sends waiting text when the pause ends.
