@@ -69,12 +69,12 @@ bool answersModemRequest(unsigned long request, void* argument) {
     if (!table || !table->modemWord) {
         return false;
     }
-    auto& word = *static_cast<int*>(argument);
+    auto* const word = static_cast<int*>(argument);
     if (request == TIOCMGET) {
-        word = *table->modemWord;
+        *word = *table->modemWord;
     } else if (request == TIOCMSET) {
-        table->modemWordsSet.append(word);
-        table->modemWord = word;
+        table->modemWordsSet.append(*word);
+        table->modemWord = *word;
     } else {
         return false;
     }
