@@ -4,6 +4,7 @@
 
 #include <QDateTime>
 #include <QFile>
+#include <QFileInfo>
 #include <QRegularExpression>
 #include <QStandardPaths>
 
@@ -15,20 +16,43 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Moves a file that QSettings cannot parse out of its way. Returns its new path, else null.
-QString putAsideIfCorrupt(const QString& path) {
+/// QSettings notices most errors only when it needs a section's keys.
+bool isCorrupt(const QString& path) {
     if (!QFile::exists(path)) {
+        return false;
+    }
+    const QSettings probe(path, QSettings::IniFormat);
+    static_cast<void>(probe.allKeys());
+    return probe.status() == QSettings::FormatError;
+}
+
+/// A name beside the file that no file has yet.
+QString nameAside(const QString& path) {
+    const auto date = QDateTime::currentDateTime().toString(u"yyyyMMdd-HHmmss"_s);
+    const QString first = path + u".corrupt-"_s + date;
+    QString name = first;
+    for (int i = 2; QFile::exists(name); ++i) {
+        name = first + u'-' + QString::number(i);
+    }
+    return name;
+}
+
+/// Moves a file that QSettings cannot parse out of its way. Returns where it is then: at its old
+/// place if it cannot be moved; null if nothing is wrong with it.
+QString putAsideIfCorrupt(const QString& path) {
+    if (!isCorrupt(path)) {
         return {};
     }
-    {
-        const QSettings probe(path, QSettings::IniFormat);
-        if (probe.status() != QSettings::FormatError) {
-            return {};
-        }
-    }
-    const auto date = QDateTime::currentDateTime().toString(u"yyyyMMdd-HHmmss"_s);
-    const QString aside = path + u".corrupt-"_s + date;
-    return QFile::rename(path, aside) ? aside : QString();
+    const auto aside = nameAside(path);
+    return QFile::rename(path, aside) ? aside : path;
+}
+
+/// The file to use. QSettings would replace a file that is still in place and corrupt, or one that
+/// it may not read, as soon as it writes; beside it, nothing is lost.
+QString safePath(const QString& path, const QString& corruptFile) {
+    const QFileInfo file(path);
+    const bool isUnreadable = file.exists() && !file.isReadable();
+    return corruptFile == path || isUnreadable ? path + u".new"_s : path;
 }
 
 bool isNumber(const QVariant& value) {
@@ -46,8 +70,17 @@ bool isNumber(const QVariant& value) {
     }
 }
 
+/// The value as one text. The file's syntax makes a list of a text that a person wrote with commas
+/// and without quotes.
+QString text(const QVariant& value) {
+    return value.typeId() == QMetaType::QStringList ? value.toStringList().join(u", "_s)
+                                                    : value.toString();
+}
+
+/// What the pattern finds. Truth comes back from the file as a word, yet counts as 1.
 QString leading(const QVariant& value, const QRegularExpression& pattern) {
-    return pattern.match(value.toString()).captured(1);
+    const auto whole = text(value);
+    return whole == u"true" ? u"1"_s : pattern.match(whole).captured(1);
 }
 
 qint64 saturated(double value) {
@@ -70,14 +103,16 @@ QString SettingsStore::standardPath() {
 }
 
 SettingsStore::SettingsStore(const QString& path)
-    : _corruptFile(putAsideIfCorrupt(path)), _settings(path, QSettings::IniFormat) {}
+    : _corruptFile(putAsideIfCorrupt(path)),
+      _settings(safePath(path, _corruptFile), QSettings::IniFormat) {}
 
 void SettingsStore::registerDefaults(const QHash<QString, QVariant>& defaults) {
     _defaults.insert(defaults);
 }
 
 QVariant SettingsStore::objectForKey(const QString& key) const {
-    return _settings.value(key, _defaults.value(key));
+    const auto stored = _settings.value(key);
+    return stored.isValid() ? stored : _defaults.value(key);
 }
 
 bool SettingsStore::boolForKey(const QString& key) const {
@@ -86,7 +121,7 @@ bool SettingsStore::boolForKey(const QString& key) const {
         return value.toDouble() != 0;
     }
     static const QRegularExpression truth(u"^\\s*[-+]?0*[YyTt1-9]"_s);
-    return truth.match(value.toString()).hasMatch();
+    return truth.match(text(value)).hasMatch();
 }
 
 qint64 SettingsStore::integerForKey(const QString& key) const {
@@ -96,7 +131,10 @@ qint64 SettingsStore::integerForKey(const QString& key) const {
                                                      : saturated(value.toDouble());
     }
     static const QRegularExpression integer(u"^\\s*([-+]?[0-9]+)"_s);
-    return saturated(leading(value, integer).toDouble());
+    const auto digits = leading(value, integer);
+    bool fits = false;
+    const auto number = digits.toLongLong(&fits);
+    return fits ? number : saturated(digits.toDouble());
 }
 
 double SettingsStore::doubleForKey(const QString& key) const {
@@ -110,13 +148,16 @@ double SettingsStore::doubleForKey(const QString& key) const {
 }
 
 QString SettingsStore::stringForKey(const QString& key) const {
-    const auto value = objectForKey(key);
-    return value.isValid() ? value.toString() : QString();
+    return text(objectForKey(key));
 }
 
 void SettingsStore::setObject(const QVariant& value, const QString& key) {
     const auto old = objectForKey(key);
-    _settings.setValue(key, value);
+    if (value.isValid()) {
+        _settings.setValue(key, value);
+    } else {
+        _settings.remove(key);
+    }
     if (objectForKey(key) != old) {
         Q_EMIT changed(key);
     }

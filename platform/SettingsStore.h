@@ -18,7 +18,8 @@ class SettingsStore final : public QObject {
     [[nodiscard]] static QString standardPath();
 
     /// A file that is there and cannot be parsed is moved aside before anything is written, so
-    /// that nothing in it is lost; corruptFile() then names it.
+    /// that nothing in it is lost; corruptFile() then names it. A file that cannot be moved or
+    /// cannot be read stays as it is, and a file beside it, its name ending in .new, is used.
     explicit SettingsStore(const QString& path);
 
     /// Adds values that hold for keys with no stored value. A later registration wins.
@@ -40,13 +41,14 @@ class SettingsStore final : public QObject {
     /// A text, or a number as text; null when there is none.
     [[nodiscard]] QString stringForKey(const QString& key) const;
 
-    /// Stores a value and announces it. It is in the file when the event loop has come round.
+    /// Stores a value and announces it; an invalid one removes what was stored. It is in the file
+    /// when the event loop has come round.
     void setObject(const QVariant& value, const QString& key);
 
     /// Writes what is not yet in the file. False when the file could not be written.
     [[nodiscard]] bool synchronize();
 
-    /// Where a file that could not be parsed was moved to; null when the file was sound.
+    /// Where a file that could not be parsed is now; null when the file was sound.
     [[nodiscard]] QString corruptFile() const { return _corruptFile; }
 
   Q_SIGNALS:
