@@ -76,8 +76,11 @@ run() {
     rm -f "$out"/{keyed.txt,transcript.txt,screen.png,*.log}
 
     if ! show; then
-        tail -n 20 "$out"/{screen.log,windows.log,keyer.log,quorvel.log,keyed.txt} 2>/dev/null >&2 ||
-            true
+        local log
+        for log in "$out"/*.log "$out/keyed.txt"; do
+            echo "== $log"
+            tail -n 20 "$log"
+        done >&2
         return 1
     fi
     echo "The virtual keyer keyed: $(<"$out/keyed.txt")"
