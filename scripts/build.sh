@@ -8,7 +8,7 @@ groups=(build)
 case $preset in
 release) ;;
 bench) groups+=(bench) ;;
-clang) groups+=(test lint) ;;
+clang) groups+=(test clang) ;;
 *) groups+=(test) ;;
 esac
 require_packages "${groups[@]}"
