@@ -4,13 +4,13 @@
 #include "platform/linux/DeviceNaming.h"
 #include "platform/linux/TtyDevice.h"
 
-#include <QFile>
 #include <QFileInfo>
 #include <QSocketNotifier>
 
 #include <algorithm>
 #include <cerrno>
 #include <system_error>
+#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 
@@ -52,14 +52,8 @@ QString usbSerialNumber(udev_device* device, udev_device* adapter) {
 /// The device's links that lead to it. Of adapters with equal serial numbers, each claims the
 /// link that names the number, and one has it.
 QStringList links(udev_device* device, const QString& node) {
-    QStringList found;
-    udev_list_entry* entry = nullptr;
-    udev_list_entry_foreach(entry, udev_device_get_devlinks_list_entry(device)) {
-        const auto link = text(udev_list_entry_get_name(entry));
-        if (QFileInfo(link).canonicalFilePath() == node) {
-            found.append(link);
-        }
-    }
+    auto found = property(device, "DEVLINKS").split(u' ', Qt::SkipEmptyParts);
+    found.removeIf([&](const QString& link) { return QFileInfo(link).symLinkTarget() != node; });
     std::sort(found.begin(), found.end());
     return found;
 }
@@ -85,7 +79,7 @@ void complain(const QString& what, int number) {
 } // namespace
 
 UdevSource::UdevSource()
-    : _udev(udev_new()), _isDaemonRunning(QFile::exists(u"/run/udev/control"_s)) {
+    : _udev(udev_new()), _isDaemonRunning(::access("/run/udev/control", F_OK) == 0) {
     if (!_udev) {
         complain(u"Cannot use udev"_s, errno);
         return;
@@ -105,7 +99,6 @@ QList<SerialDevice> UdevSource::devices() {
 void UdevSource::startMonitor() {
     if (!_isDaemonRunning) {
         logLine(u"udev does not run: serial devices that come and go are not noticed"_s);
-        return;
     }
     _monitor.reset(udev_monitor_new_from_netlink(_udev.get(), "udev"));
     if (!_monitor ||
@@ -173,5 +166,5 @@ std::optional<QList<SerialDevice>> UdevSource::scanned() const {
 /// event is yet to come.
 bool UdevSource::isReady(udev_device* device) const {
     return udev_device_get_devnode(device) != nullptr &&
-           (!_isDaemonRunning || udev_device_get_is_initialized(device) > 0);
+           (!_isDaemonRunning || !::property(device, "USEC_INITIALIZED").isNull());
 }
