@@ -29,7 +29,7 @@ class UdevTestbed {
         QStringList links = {};
     };
 
-    /// Plugs a USB adapter in, without any event. Returns its terminal's path in sysfs.
+    /// Plugs a USB adapter in; udev tells of it. Returns its terminal's path in sysfs.
     QString addAdapter(const Adapter& adapter);
     /// Adds a port of the machine's own with this content of its "type" file; null for none.
     QString addPort(const QString& kernelName, const QString& type);
