@@ -194,7 +194,7 @@ void KeyerCommandsTest::pushButtonsAreReportedInVersion2Mode() {
         bench.keyer.setPushButtons(mask, bench.now);
     bench.forget();
     for (const std::uint8_t mask :
-         std::initializer_list<std::uint8_t>{0x01, 0x02, 0x04, 0x10, 0x10, 0x07, 0x08})
+         std::initializer_list<std::uint8_t>{0x01, 0x02, 0x04, 0x10, 0x10, 0x07, 0x08, 0x00})
         bench.keyer.setPushButtons(mask, bench.now);
     bench.send({});
     QCOMPARE(bench.bytes(), u"C9 CA CC D8 CF C8"_s);
