@@ -26,6 +26,9 @@ QList<Clock::Duration> ManualClock::pendingTimers() const {
 
 void ManualClock::sleep(Duration duration) {
     _naps.append(duration);
+    if (_whileNapping) {
+        _whileNapping(duration);
+    }
     _now += duration;
 }
 

@@ -18,6 +18,11 @@ class ManualClock final : public Clock {
     /// The naps that the main thread took, in order.
     [[nodiscard]] const QList<Duration>& naps() const { return _naps; }
 
+    /// Runs at the start of each nap, with its length: the world outside goes on meanwhile.
+    void setWhileNapping(std::function<void(Duration)> action) {
+        _whileNapping = std::move(action);
+    }
+
     [[nodiscard]] Duration now() const override { return _now; }
     /// Time passes, but nothing fires before the next advance(): the event loop stands still.
     void sleep(Duration duration) override;
@@ -36,4 +41,5 @@ class ManualClock final : public Clock {
     Duration _now{0};
     QList<Entry> _entries;
     QList<Duration> _naps;
+    std::function<void(Duration)> _whileNapping;
 };
