@@ -53,5 +53,8 @@ void MainWindow::showMessageLabels() {
 
 void MainWindow::showSpeed() {
     const auto speed = _engine.speedString();
-    _ui->speedLabel->setText(speed.isNull() ? tr("– WPM") : speed);
+    const auto shown = speed.isNull() ? tr("– WPM") : speed;
+    _ui->speedLabel->setText(shown);
+    // A screen reader reads the label's name in place of its text.
+    _ui->speedLabel->setAccessibleDescription(shown);
 }
