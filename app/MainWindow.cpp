@@ -32,6 +32,9 @@ void MainWindow::setUpMessageButtons() {
     for (auto* button : _ui->messages->findChildren<QPushButton*>()) {
         QObject::connect(button, &QPushButton::clicked, this,
                          [this, button] { _engine.sendMessage(button); });
+        // A button's own shortcut would first show it pressed for a tenth of a second.
+        const auto* key = new QShortcut(Qt::Key_F1 + Action::tag(button), this);
+        QObject::connect(key, &QShortcut::activated, button, &QPushButton::click);
     }
     QObject::connect(&SettingsStore::standardUserDefaults(), &SettingsStore::changed, this,
                      &MainWindow::showMessageLabels);
@@ -47,7 +50,6 @@ void MainWindow::showMessageLabels() {
         button->setAccessibleName(tr("Message %1: %2").arg(index + 1).arg(label));
         // A label is the operator's own text: an ampersand in it is no keyboard shortcut.
         button->setText(tr("F%1  %2").arg(index + 1).arg(label.replace(u"&"_s, u"&&"_s)));
-        button->setShortcut(QKeySequence(Qt::Key_F1 + index));
     }
 }
 

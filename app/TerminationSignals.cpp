@@ -2,6 +2,7 @@
 
 #include <QSocketNotifier>
 
+#include <algorithm>
 #include <atomic>
 #include <cerrno>
 #include <csignal>
@@ -23,15 +24,13 @@ void note(int) {
     errno = error;
 }
 
-void handle(void (*handler)(int)) {
-    for (const auto number : handledSignals) {
+[[nodiscard]] bool handle(void (*handler)(int)) {
+    return std::ranges::all_of(handledSignals, [handler](int number) {
         struct sigaction action = {};
         action.sa_handler = handler;
         action.sa_flags = SA_RESTART;
-        if (::sigaction(number, &action, nullptr) != 0) {
-            throw std::system_error(errno, std::generic_category(), "sigaction");
-        }
-    }
+        return ::sigaction(number, &action, nullptr) == 0;
+    });
 }
 
 } // namespace
@@ -43,11 +42,13 @@ TerminationSignals::TerminationSignals(QObject* parent) : QObject(parent) {
     }
     _notifier = new QSocketNotifier(eventDescriptor, QSocketNotifier::Read, this);
     QObject::connect(_notifier, &QSocketNotifier::activated, this, &TerminationSignals::drain);
-    handle(note);
+    if (!handle(note)) {
+        throw std::system_error(errno, std::generic_category(), "sigaction");
+    }
 }
 
 TerminationSignals::~TerminationSignals() {
-    handle(SIG_DFL);
+    static_cast<void>(handle(SIG_DFL));
     delete _notifier;
     ::close(eventDescriptor.exchange(-1));
 }

@@ -1,0 +1,90 @@
+#include "app/DesktopApplication.h"
+
+#include <QApplication>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+
+using namespace Qt::StringLiterals;
+
+class DesktopApplicationTest : public QObject {
+    Q_OBJECT
+
+  private Q_SLOTS:
+    void aQuestionIsAnsweredByItsButtons_data();
+    void aQuestionIsAnsweredByItsButtons();
+    void aStatementHasOneButton();
+    void anErrorShowsItsMessageAndSuggestion();
+    void textIsShownAsItStands();
+
+  private:
+    /// Runs `action` on the alert once it is up.
+    void whileShown(std::function<void(QMessageBox&)> action);
+
+    DesktopApplication _application;
+    bool _wasShown = false;
+};
+
+void DesktopApplicationTest::whileShown(std::function<void(QMessageBox&)> action) {
+    _wasShown = false;
+    QTimer::singleShot(0, this, [this, action = std::move(action)] {
+        auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        QVERIFY(box != nullptr);
+        _wasShown = true;
+        action(*box);
+    });
+}
+
+void DesktopApplicationTest::aQuestionIsAnsweredByItsButtons_data() {
+    QTest::addColumn<Qt::Key>("key");
+    QTest::addColumn<bool>("isDefault");
+    QTest::newRow("Return takes the default button") << Qt::Key_Return << true;
+    QTest::newRow("Escape takes the other one") << Qt::Key_Escape << false;
+}
+
+void DesktopApplicationTest::aQuestionIsAnsweredByItsButtons() {
+    QFETCH(Qt::Key, key);
+    QFETCH(bool, isDefault);
+    whileShown([key](QMessageBox& box) {
+        QCOMPARE(box.buttons().size(), 2);
+        QTest::keyClick(&box, key);
+    });
+    const auto answer = _application.runModal({.messageText = u"Ready?"_s,
+                                               .informativeText = {},
+                                               .defaultButton = u"Yes"_s,
+                                               .alternateButton = u"No"_s});
+    QVERIFY(_wasShown);
+    QCOMPARE(answer == AlertAnswer::Default, isDefault);
+}
+
+void DesktopApplicationTest::aStatementHasOneButton() {
+    whileShown([](QMessageBox& box) {
+        QCOMPARE(box.buttons().size(), 1);
+        QTest::keyClick(&box, Qt::Key_Escape);
+    });
+    _application.runModal({.messageText = u"Done."_s, .informativeText = {}});
+    QVERIFY(_wasShown);
+}
+
+void DesktopApplicationTest::anErrorShowsItsMessageAndSuggestion() {
+    whileShown([](QMessageBox& box) {
+        QCOMPARE(box.text(), u"It failed."_s);
+        QCOMPARE(box.informativeText(), u"Try again."_s);
+        box.accept();
+    });
+    _application.presentError(Error::ofApplication(u"It failed."_s, u"Try again."_s));
+    QVERIFY(_wasShown);
+}
+
+void DesktopApplicationTest::textIsShownAsItStands() {
+    whileShown([](QMessageBox& box) {
+        QCOMPARE(box.textFormat(), Qt::PlainText);
+        box.accept();
+    });
+    _application.runModal({.messageText = u"<b>port</b>"_s, .informativeText = {}});
+    QVERIFY(_wasShown);
+}
+
+QTEST_MAIN(DesktopApplicationTest)
+#include "DesktopApplicationTest.moc"
