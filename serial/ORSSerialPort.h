@@ -204,5 +204,4 @@ class ORSSerialPort final : public QObject, public std::enable_shared_from_this<
 
     std::atomic<int> _fileDescriptor = 0;
     std::unique_ptr<PortOpening> _opening;
-    std::shared_ptr<ORSSerialPort> _selfWhileOpen;
 };

@@ -26,7 +26,6 @@ void ORSSerialPort::open() {
     const auto self = shared_from_this();
     _opening = std::make_unique<PortOpening>(std::move(descriptor), std::move(wakeUp));
     _fileDescriptor = _opening->descriptor();
-    _selfWhileOpen = self;
     setPortOptions();
     synchronizeOutputLines();
     if (!isOpen()) {
@@ -54,7 +53,6 @@ bool ORSSerialPort::close() {
     }
     _fileDescriptor = 0;
     _opening.reset();
-    _selfWhileOpen.reset();
     Q_EMIT isOpenChanged();
     if (_delegate != nullptr) {
         _delegate->serialPortWasClosed(*this);

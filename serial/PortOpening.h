@@ -17,6 +17,7 @@ class PortOpening {
 
     [[nodiscard]] int descriptor() const { return _descriptor.get(); }
 
+    /// From here to close() the workers keep the port alive.
     void startWorkers(const std::shared_ptr<ORSSerialPort>& port,
                       const std::shared_ptr<MainQueue>& mainQueue);
 
