@@ -1,7 +1,10 @@
 #include "app/DesktopApplication.h"
 
+#include "platform/Platform.h"
+
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScopeGuard>
 
 AlertAnswer DesktopApplication::runModal(const Alert& alert) {
     QMessageBox box(_alertParent);
@@ -15,6 +18,10 @@ AlertAnswer DesktopApplication::runModal(const Alert& alert) {
     if (!alert.alternateButton.isNull()) {
         box.addButton(alert.alternateButton, QMessageBox::RejectRole);
     }
+    // Devices that come and go meanwhile wait, so that no alert ever stands on another.
+    auto& devices = Platform::current().devices();
+    devices.holdAnnouncements();
+    const auto resume = qScopeGuard([&devices] { devices.resumeAnnouncements(); });
     box.exec();
     return box.clickedButton() == defaultButton ? AlertAnswer::Default : AlertAnswer::Alternate;
 }

@@ -1,5 +1,7 @@
 #include "app/DesktopApplication.h"
 
+#include "tests/support/TestPlatform.h"
+
 #include <QApplication>
 #include <QMessageBox>
 #include <QPushButton>
@@ -22,6 +24,7 @@ class DesktopApplicationTest : public QObject {
     /// Runs `action` on the alert once it is up.
     void whileShown(std::function<void(QMessageBox&)> action);
 
+    TestPlatform _platform;
     DesktopApplication _application;
     bool _wasShown = false;
 };
