@@ -1,0 +1,83 @@
+"""What a screen reader sees."""
+
+import gi
+
+gi.require_version("Atspi", "2.0")
+from gi.repository import Atspi, GLib  # noqa: E402
+
+
+def _reading(operation, otherwise):
+    """An element that goes away, or a program that is busy, has nothing to say."""
+    try:
+        return operation()
+    except GLib.Error:
+        return otherwise
+
+
+class Accessible:
+    """One element of a window."""
+
+    def __init__(self, element):
+        self._element = element
+
+    @staticmethod
+    def begin():
+        Atspi.init()
+        Atspi.set_timeout(2000, 15000)
+
+    @staticmethod
+    def application(pid):
+        """The application of a process; None while there is none."""
+        context = GLib.MainContext.default()
+        while context.iteration(False):
+            pass
+        desktop = Accessible(Atspi.get_desktop(0))
+        for child in desktop.children():
+            if _reading(child._element.get_process_id, 0) == pid:
+                return child
+        return None
+
+    def name(self):
+        return _reading(self._element.get_name, "")
+
+    def description(self):
+        return _reading(self._element.get_description, "")
+
+    def role(self):
+        return _reading(self._element.get_role_name, "")
+
+    def text(self):
+        """The text of an edited element."""
+        return _reading(lambda: Atspi.Text.get_text(self._element, 0, -1), "")
+
+    def is_in_state(self, state):
+        """`state` as in "focused" or "active"."""
+        wanted = getattr(Atspi.StateType, state.upper())
+        return _reading(lambda: self._element.get_state_set().contains(wanted), False)
+
+    def centre(self):
+        """On the screen."""
+        extents = Atspi.Component.get_extents(self._element, Atspi.CoordType.SCREEN)
+        return extents.x + extents.width // 2, extents.y + extents.height // 2
+
+    def children(self):
+        # What was read earlier may be out of date.
+        _reading(self._element.clear_cache, None)
+        count = _reading(self._element.get_child_count, 0)
+        found = (_reading(lambda: self._element.get_child_at_index(i), None) for i in range(count))
+        return [Accessible(each) for each in found if each is not None]
+
+    def all(self):
+        """The element and everything in it."""
+        yield self
+        for child in self.children():
+            yield from child.all()
+
+    def find(self, name):
+        """The first element of that name in it; None when there is none."""
+        return next((each for each in self.all() if each.name() == name), None)
+
+    def describe(self, depth=0):
+        """Everything in it, a line each, for the eyes of whoever reads a failure."""
+        line = f"{'  ' * depth}{self.role()} '{self.name()}' '{self.description()}'\n"
+        return line + "".join(child.describe(depth + 1) for child in self.children())

@@ -1,0 +1,98 @@
+"""A desktop of the test's own: a screen in memory, a window manager, a bus, and what a screen
+reader sees of it."""
+
+import os
+import subprocess
+
+from process import Process
+from waiting import wait_for
+
+
+class Desktop:
+    def __init__(self, directory):
+        self._directory = directory
+        self._processes = []
+        self._logs = directory / "logs"
+        self._logs.mkdir()
+        runtime = directory / "runtime"
+        runtime.mkdir(mode=0o700)
+        self.environment = {
+            name: value for name, value in os.environ.items()
+            if not name.startswith(("QT_", "XDG_", "DBUS_", "AT_SPI_", "WAYLAND_", "SESSION_"))
+            or name == "XDG_DATA_DIRS"}
+        self.environment.update(
+            HOME=str(directory), XDG_RUNTIME_DIR=str(runtime), GIO_USE_VFS="local",
+            GSETTINGS_BACKEND="memory", QT_QPA_PLATFORM="xcb",
+            QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1", QT_FORCE_STDERR_LOGGING="1")
+        try:
+            self._start_screen()
+            self._start_bus()
+            self._start(["openbox"])
+            wait_for("the window manager", lambda: self.xdotool("get_desktop") is not None)
+            self._begin_reading()
+        except BaseException:
+            self.close()
+            raise
+
+    def close(self):
+        for process in reversed(self._processes):
+            process.end()
+
+    def xdotool(self, *arguments):
+        """What it prints; None when it fails."""
+        done = subprocess.run(["xdotool", *map(str, arguments)], env=self.environment, text=True,
+                              stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, check=False)
+        return done.stdout.strip() if done.returncode == 0 else None
+
+    def active_process(self):
+        """The process that has the keyboard; None when no window has it."""
+        pid = self.xdotool("getactivewindow", "getwindowpid")
+        return int(pid) if pid else None
+
+    def press(self, keys):
+        assert self.xdotool("key", keys) is not None
+
+    def type(self, text):
+        assert self.xdotool("type", "--delay", 20, text) is not None
+
+    def click(self, element):
+        x, y = element.centre()
+        assert self.xdotool("mousemove", "--sync", x, y, "click", 1) is not None
+
+    def application(self, pid):
+        """What the screen reader sees of a process; None while it sees nothing."""
+        from accessible import Accessible
+        return Accessible.application(pid)
+
+    def _start(self, command, pass_fds=()):
+        process = Process(command, self.environment, self._logs, pass_fds)
+        self._processes.append(process)
+        return process
+
+    def _start_and_ask(self, command):
+        """Starts a program that says on a descriptor of its own when it is ready; what it says."""
+        read_end, write_end = os.pipe()
+        command = [each.format(descriptor=write_end) for each in command]
+        self._start(command, (write_end,))
+        os.close(write_end)
+        with open(read_end, encoding="ascii") as pipe:
+            answer = pipe.readline().strip()
+        assert answer, f"{command[0]} does not start"
+        return answer
+
+    def _start_screen(self):
+        number = self._start_and_ask(["Xvfb", "-displayfd", "{descriptor}", "-screen", "0",
+                                      "1280x960x24", "-nolisten", "tcp", "-noreset"])
+        self.environment["DISPLAY"] = f":{number}"
+
+    def _start_bus(self):
+        address = self._start_and_ask(["dbus-daemon", "--session", "--nofork", "--nopidfile",
+                                       "--print-address={descriptor}"])
+        self.environment["DBUS_SESSION_BUS_ADDRESS"] = address
+
+    def _begin_reading(self):
+        # The library reads the environment once, when it is loaded.
+        os.environ.clear()
+        os.environ.update(self.environment)
+        from accessible import Accessible
+        Accessible.begin()
