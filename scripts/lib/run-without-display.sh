@@ -3,6 +3,12 @@
 
 text="TEST DE QUORVEL"
 
+# choose_port: settings in which the virtual keyer's port is chosen already.
+choose_port() {
+    mkdir -p "$XDG_CONFIG_HOME/quorvel"
+    printf '[General]\nWKPortName=usbserial-virtual\n' >"$XDG_CONFIG_HOME/quorvel/quorvel.conf"
+}
+
 start_screen() {
     start screen Xvfb -displayfd 3 -screen 0 1280x960x24 -nolisten tcp \
         3>"$private_directory/display" 2>"$out/screen.log"
@@ -72,8 +78,9 @@ run() {
     # Whatever bus this shell can reach belongs to another session.
     export DBUS_SESSION_BUS_ADDRESS=disabled:
     export QT_QPA_PLATFORM=xcb
-    port_chosen_in "$XDG_CONFIG_HOME"
+    choose_port
     rm -f "$out"/{keyed.txt,transcript.txt,screen.png,*.log}
+    exec {keyed}>"$out/keyed.txt"
 
     if ! show; then
         local log
