@@ -39,11 +39,7 @@ WinKeyerUsb& WinKeyerUsb::sharedInstance() {
 
 WinKeyerUsb::WinKeyerUsb() = default;
 
-WinKeyerUsb::~WinKeyerUsb() {
-    if (_winKeyerSerialPort && _winKeyerSerialPort->delegate() == this) {
-        _winKeyerSerialPort->setDelegate(nullptr);
-    }
-}
+WinKeyerUsb::~WinKeyerUsb() = default;
 
 const CharacterSet& WinKeyerUsb::morseKeyboardCharacterSet() {
     return morseKeyboardCharacters;

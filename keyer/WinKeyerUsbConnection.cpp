@@ -202,9 +202,12 @@ bool WinKeyerUsb::closeHostMode(Error* error) {
     return false;
 }
 
-void WinKeyerUsb::serialPortWasRemovedFromSystem(ORSSerialPort&) {
+void WinKeyerUsb::serialPortWasRemovedFromSystem(ORSSerialPort& port) {
     logLine(u"-[WinKeyerUsb serialPortWasRemovedFromSystem:]"_s);
-    _winKeyerSerialPort.reset();
+    // A port used before, whose delegate this still is, takes no link with it.
+    if (&port == _winKeyerSerialPort.get()) {
+        _winKeyerSerialPort.reset();
+    }
 }
 
 /// Fails a step of connecting: tells why, forgets the stored choice of port, and lets go of it.

@@ -116,11 +116,12 @@ QString ORSSerialPort::description() const {
 }
 
 ORSSerialPortDelegate* ORSSerialPort::delegate() const {
-    return _delegate;
+    return _delegateLifetime.expired() ? nullptr : _delegate;
 }
 
 void ORSSerialPort::setDelegate(ORSSerialPortDelegate* delegate) {
     _delegate = delegate;
+    _delegateLifetime = delegate != nullptr ? delegate->lifetime() : std::weak_ptr<const void>();
 }
 
 QString ORSSerialPort::path() const {
@@ -136,15 +137,15 @@ DeviceHandle ORSSerialPort::IOKitDevice() const {
 }
 
 void ORSSerialPort::receiveData(const QByteArray& data) {
-    if (_delegate != nullptr) {
-        _delegate->serialPortDidReceiveData(*this, data);
+    if (auto* const told = delegate()) {
+        told->serialPortDidReceiveData(*this, data);
     }
 }
 
 void ORSSerialPort::notifyDelegateOfPosixError() {
     const auto number = errno;
-    if (_delegate != nullptr) {
-        _delegate->serialPortDidEncounterError(*this, Error::ofPosix(number, _path));
+    if (auto* const told = delegate()) {
+        told->serialPortDidEncounterError(*this, Error::ofPosix(number, _path));
     }
 }
 

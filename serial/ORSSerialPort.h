@@ -82,6 +82,7 @@ class ORSSerialPort final : public QObject, public std::enable_shared_from_this<
     /// The port's name.
     [[nodiscard]] QString description() const;
 
+    /// nullptr when there is none, or it has gone.
     [[nodiscard]] ORSSerialPortDelegate* delegate() const;
     void setDelegate(ORSSerialPortDelegate* delegate);
 
@@ -184,6 +185,7 @@ class ORSSerialPort final : public QObject, public std::enable_shared_from_this<
     QPointer<LivePorts> _livePorts;
     std::shared_ptr<MainQueue> _mainQueue;
     ORSSerialPortDelegate* _delegate = nullptr;
+    std::weak_ptr<const void> _delegateLifetime;
     DeviceHandle _ioKitDevice = noDevice;
     QString _path;
     QString _name;

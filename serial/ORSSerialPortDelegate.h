@@ -9,7 +9,7 @@
 class ORSSerialPort;
 
 /// What a serial port tells the object that uses it. Every operation may be left out. The port
-/// does not own its delegate: whoever goes away first takes itself off the port.
+/// does not own its delegate; one that has gone is told nothing.
 class ORSSerialPortDelegate {
   public:
     ORSSerialPortDelegate() = default;
@@ -32,4 +32,10 @@ class ORSSerialPortDelegate {
     /// A system call failed. From the main queue, but for a failed write, which reports before
     /// sendData() returns.
     virtual void serialPortDidEncounterError(ORSSerialPort& port, const Error& error);
+
+    /// Expires with the delegate.
+    [[nodiscard]] std::weak_ptr<const void> lifetime() const { return _lifetime; }
+
+  private:
+    std::shared_ptr<const void> _lifetime = std::make_shared<char>();
 };

@@ -33,8 +33,8 @@ void ORSSerialPort::open() {
         return;
     }
     _mainQueue->async([self] {
-        if (self->_delegate != nullptr) {
-            self->_delegate->serialPortWasOpened(*self);
+        if (auto* const told = self->delegate()) {
+            told->serialPortWasOpened(*self);
         }
     });
     _opening->startWorkers(self, _mainQueue);
@@ -54,8 +54,8 @@ bool ORSSerialPort::close() {
     _fileDescriptor = 0;
     _opening.reset();
     Q_EMIT isOpenChanged();
-    if (_delegate != nullptr) {
-        _delegate->serialPortWasClosed(*this);
+    if (auto* const told = delegate()) {
+        told->serialPortWasClosed(*this);
     }
     return true;
 }
@@ -63,8 +63,8 @@ bool ORSSerialPort::close() {
 void ORSSerialPort::cleanup() {
     const auto self = shared_from_this();
     close();
-    if (_delegate != nullptr) {
-        _delegate->serialPortWasRemovedFromSystem(*this);
+    if (auto* const told = delegate()) {
+        told->serialPortWasRemovedFromSystem(*this);
     }
 }
 

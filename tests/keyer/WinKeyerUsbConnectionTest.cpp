@@ -47,6 +47,7 @@ class WinKeyerUsbConnectionTest : public QObject {
     void aFailedHostCloseStillReleasesThePort();
     void disconnectingForgetsTextAndReadings();
     void aRemovedPortIsLetGo();
+    void aPortUsedBeforeTakesNoLinkWithIt();
     void loadDefaultsSendsNothingWhileNotConnected();
     void versionsFrom20To23AreAccepted_data();
     void versionsFrom20To23AreAccepted();
@@ -281,6 +282,19 @@ void WinKeyerUsbConnectionTest::aRemovedPortIsLetGo() {
     QVERIFY(_bench->engine().disconnect(nullptr));
     QVERIFY(_bench->clock().naps().isEmpty());
     QCOMPARE(_bench->settings().stringForKey(WKPortName), QString(KeyerBench::portName));
+}
+
+void WinKeyerUsbConnectionTest::aPortUsedBeforeTakesNoLinkWithIt() {
+    QVERIFY(_bench->connect());
+    QVERIFY(_bench->engine().disconnect(nullptr));
+    const PseudoTerminalPair line;
+    _bench->platform().devices().plug(u"usbserial-2"_s, line.path());
+    _bench->settings().setObject(u"usbserial-2"_s, WKPortName);
+    QVERIFY(_bench->engine().connect(nullptr));
+    QTest::ignoreMessage(QtInfoMsg, "-[WinKeyerUsb serialPortWasRemovedFromSystem:]");
+    _bench->platform().devices().unplug(_bench->device());
+    QVERIFY(_bench->engine().isConnected());
+    QVERIFY(ORSSerialPort::serialPortWithPath(line.path())->isOpen());
 }
 
 void WinKeyerUsbConnectionTest::loadDefaultsSendsNothingWhileNotConnected() {

@@ -50,6 +50,21 @@ class ORSSerialPortTest : public QObject {
         QCOMPARE(port->IOKitDevice(), device);
     }
 
+    void aDelegateThatHasGoneIsToldNothing() {
+        TestPlatform platform;
+        const auto port =
+            ORSSerialPort::serialPortWithDevice(platform.devices().plug(u"keyer"_s, u"/dev/a"_s));
+        {
+            RecordingDelegate delegate;
+            port->setDelegate(&delegate);
+            QCOMPARE(port->delegate(), &delegate);
+            port->cleanup();
+            QCOMPARE(delegate.events(), QStringList{u"removed"_s});
+        }
+        QVERIFY(port->delegate() == nullptr);
+        port->cleanup();
+    }
+
     void thereIsNoPortForAPath_data() {
         QTest::addColumn<QString>("path");
         QTest::newRow("that is empty") << u""_s;
