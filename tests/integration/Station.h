@@ -40,6 +40,10 @@ class Station final : public ORSSerialPortDelegate {
     [[nodiscard]] SettingsStore& settings() { return _bench.settings(); }
     [[nodiscard]] const virtualkeyer::Registers& registers() const { return _keyer.registers(); }
     [[nodiscard]] Time now() const { return _now; }
+    /// How many timers of the engine's are still to fire.
+    [[nodiscard]] int pendingTimers() {
+        return static_cast<int>(_bench.clock().pendingTimers().size());
+    }
 
     /// Connects; what the keyer answers comes as time passes.
     [[nodiscard]] bool connect();
