@@ -6,6 +6,7 @@
 #include "platform/Platform.h"
 #include "platform/SystemClock.h"
 #include "platform/linux/LinuxDeviceRegistry.h"
+#include "platform/linux/LogindPower.h"
 #include "preferences/PreferencesGeneral.h"
 #include "preferences/PreferencesMessagesViewController.h"
 #include "preferences/PreferencesWinKeyer.h"
@@ -29,6 +30,7 @@ int main(int argc, char* argv[]) {
                        .clock = std::make_unique<SystemClock>(),
                        .devices = std::make_unique<LinuxDeviceRegistry>(),
                        .application = std::move(application)});
+    const LogindPower power;
     PreferencesWinKeyer::initialize();
     PreferencesMessagesViewController::initialize();
     PreferencesGeneral::initialize();

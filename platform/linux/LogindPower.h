@@ -1,0 +1,43 @@
+#pragma once
+
+#include <QDBusConnection>
+#include <QDBusServiceWatcher>
+#include <QDBusUnixFileDescriptor>
+#include <QObject>
+
+#include <memory>
+
+class QDBusPendingCallWatcher;
+
+/// Tells the program of the machine's sleep and wake-up, as the login service announces them:
+/// posts NSWorkspaceWillSleepNotification and NSWorkspaceDidWakeNotification on the default
+/// notification centre, with itself as sender.
+///
+/// While the machine is awake a lock is held that has the service wait, some seconds at most, with
+/// the sleep until every observer has been called. A machine without the service, or without a
+/// bus, is one that never sleeps; a service that starts later is noticed. Main thread only; the
+/// service is never waited for.
+class LogindPower final : public QObject {
+    Q_OBJECT
+  public:
+    explicit LogindPower(const QDBusConnection& bus = QDBusConnection::systemBus());
+    ~LogindPower() override;
+
+  private Q_SLOTS:
+    void prepareForSleep(bool isStart);
+
+  private:
+    void sleep();
+    void wake();
+    void requestInhibitor();
+    void takeInhibitor(const QDBusPendingCallWatcher& request);
+    void dropInhibitor();
+    void serviceHasGone();
+
+    QDBusConnection _bus;
+    QDBusServiceWatcher _watcher;
+    std::unique_ptr<QDBusPendingCallWatcher> _request;
+    /// Whoever holds this descriptor holds the sleep up.
+    QDBusUnixFileDescriptor _inhibitor;
+    bool _isAsleep = false;
+};
