@@ -8,6 +8,8 @@
 
 #include <QShortcut>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 MainWindow::MainWindow(WinKeyerUsb& engine)
@@ -16,6 +18,8 @@ MainWindow::MainWindow(WinKeyerUsb& engine)
     setUpMessageButtons();
     _ui->keyboardView->setEngine(_engine);
     _ui->keyboardView->setFocus();
+    setUpContact();
+    setUpPause();
 
     QObject::connect(_ui->stopButton, &QPushButton::clicked, this,
                      [this] { _engine.stopMessageSending(_ui->stopButton); });
@@ -39,6 +43,44 @@ void MainWindow::setUpMessageButtons() {
     QObject::connect(&SettingsStore::standardUserDefaults(), &SettingsStore::changed, this,
                      &MainWindow::showMessageLabels);
     showMessageLabels();
+}
+
+void MainWindow::setUpContact() {
+    auto* callsign = _ui->hisCallsignTextField;
+    QObject::connect(callsign, &QLineEdit::textChanged, &_engine, &WinKeyerUsb::setHisCallsign);
+    QObject::connect(&_engine, &WinKeyerUsb::hisCallsignChanged, callsign, [this, callsign] {
+        if (callsign->text() != _engine.hisCallsign()) {
+            callsign->setText(_engine.hisCallsign());
+        }
+    });
+
+    auto* number = _ui->serialNumberBox;
+    QObject::connect(number, &QSpinBox::valueChanged, &_engine, &WinKeyerUsb::setSerialNumber);
+    const auto showNumber = [this, number] {
+        number->setMaximum(std::max(number->maximum(), static_cast<int>(_engine.serialNumber())));
+        number->setValue(static_cast<int>(_engine.serialNumber()));
+    };
+    QObject::connect(&_engine, &WinKeyerUsb::serialNumberChanged, number, showNumber);
+    showNumber();
+    auto* increment = _ui->incrementSerialNumberButton;
+    QObject::connect(increment, &QToolButton::clicked, this,
+                     [this, increment] { _engine.incrementSerialNumber(increment); });
+    auto* decrement = _ui->decrementSerialNumberButton;
+    QObject::connect(decrement, &QToolButton::clicked, this,
+                     [this, decrement] { _engine.decrementSerialNumber(decrement); });
+}
+
+void MainWindow::setUpPause() {
+    auto* pause = _ui->pauseButton;
+    // The keyer pauses too, when its buffer fills: the button then shows it, and ends it.
+    QObject::connect(pause, &QPushButton::clicked, &_engine,
+                     [this](bool isOn) { _engine.setPauseState(isOn ? 1 : 0); });
+    QObject::connect(&_engine, &WinKeyerUsb::pauseStateChanged, pause,
+                     [this, pause] { pause->setChecked(_engine.pauseState() != 0); });
+}
+
+QLineEdit& MainWindow::hisCallsignTextField() const {
+    return *_ui->hisCallsignTextField;
 }
 
 void MainWindow::showMessageLabels() {

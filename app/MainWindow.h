@@ -4,7 +4,7 @@
 
 #include <memory>
 
-class QPushButton;
+class QLineEdit;
 class WinKeyerUsb;
 
 namespace Ui {
@@ -20,8 +20,13 @@ class MainWindow final : public QMainWindow {
     explicit MainWindow(WinKeyerUsb& engine);
     ~MainWindow() override;
 
+    /// The field for the other station's call sign.
+    [[nodiscard]] QLineEdit& hisCallsignTextField() const;
+
   private:
     void setUpMessageButtons();
+    void setUpContact();
+    void setUpPause();
     void showMessageLabels();
     void showSpeed();
 

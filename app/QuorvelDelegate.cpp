@@ -1,10 +1,13 @@
 #include "app/QuorvelDelegate.h"
 
+#include "app/formatters/CallsignFormatter.h"
 #include "keyer/GeneralSettings.h"
 #include "keyer/WinKeyerUsb.h"
 #include "platform/Log.h"
 #include "platform/Platform.h"
 #include "serial/ORSSerialPortManager.h"
+
+#include <QLineEdit>
 
 using namespace Qt::StringLiterals;
 
@@ -30,6 +33,10 @@ QuorvelDelegate::~QuorvelDelegate() {
 
 WinKeyerUsb& QuorvelDelegate::winKeyerUsb() const {
     return WinKeyerUsb::sharedInstance();
+}
+
+void QuorvelDelegate::awakeFromNib(QLineEdit& hisCallsignTextField) {
+    hisCallsignTextField.setValidator(new CallsignFormatter(&hisCallsignTextField));
 }
 
 void QuorvelDelegate::applicationDidFinishLaunching() {

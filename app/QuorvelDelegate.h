@@ -6,6 +6,7 @@
 #include <QObject>
 #include <QStringList>
 
+class QLineEdit;
 class WinKeyerUsb;
 
 /// Controls the application: brings the keyer link up at launch and down at quit, keeps the list
@@ -20,6 +21,9 @@ class QuorvelDelegate final : public QObject, public ApplicationDelegate {
 
     explicit QuorvelDelegate(QObject* parent = nullptr);
     ~QuorvelDelegate() override;
+
+    /// Has the field take nothing but what a call sign is made of.
+    void awakeFromNib(QLineEdit& hisCallsignTextField);
 
     /// Lists the ports, begins to follow them, and connects to the keyer.
     void applicationDidFinishLaunching();

@@ -37,6 +37,7 @@ int main(int argc, char* argv[]) {
 
     QuorvelDelegate delegate;
     MainWindow window(WinKeyerUsb::sharedInstance());
+    delegate.awakeFromNib(window.hisCallsignTextField());
     alerts.setAlertParent(&window);
 
     const auto quit = [&delegate, &platform] {
