@@ -6,7 +6,6 @@
 #include <cstdlib>
 
 using namespace virtualkeyer;
-using namespace std::chrono_literals;
 
 namespace {
 
@@ -41,8 +40,8 @@ void feed(Keyer& keyer, std::uint8_t kind, std::uint8_t value, Time& now) {
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     Keyer keyer;
-    Time now = 0ns;
-    Time last = 0ns;
+    Time now{0};
+    Time last{0};
     for (std::size_t i = 0; i + 1 < size; i += 2) {
         feed(keyer, data[i], data[i + 1], now);
         checkOrder(keyer, last);
@@ -51,7 +50,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     if (const auto next = keyer.nextEvent(); next && *next < now) {
         std::abort();
     }
-    keyer.advance(now + 1h);
+    keyer.advance(now + std::chrono::hours(1));
     checkOrder(keyer, last);
     return 0;
 }

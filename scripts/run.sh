@@ -9,10 +9,11 @@ source scripts/lib/processes.sh
 bin=build/release/bin
 out=build/run
 
-# start_keyer OPTION...: the keyed text goes to descriptor $keyed; returns when the virtual keyer is plugged in, false when that fails.
+# start_keyer OPTION...: returns when the virtual keyer is plugged in, false when that fails. What
+# it keys goes to the descriptor in $keyed.
 # shellcheck disable=SC2120 # A run without display gives options, by way of its steps.
 start_keyer() {
-    start keyer "$bin/quorvel-virtual-keyer" --headless "$@" >&"$keyed" 2>"$out/keyer.log"
+    start keyer "$bin/quorvel-virtual-keyer" --headless "$@" 1>&"$keyed" 2>"$out/keyer.log"
     wait_while keyer 10 grep -q '^Plugged in as ' "$out/keyer.log" && return
     echo "The virtual keyer could not be plugged in:" >&2
     tail -n 20 "$out/keyer.log" >&2

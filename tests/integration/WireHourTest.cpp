@@ -8,6 +8,8 @@
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
+constexpr std::chrono::hours hour{1};
+
 /// An hour on the air, in a moment of the test's.
 class WireHourTest : public QObject {
     Q_OBJECT
@@ -36,7 +38,7 @@ void WireHourTest::theBeaconNeitherDriftsNorLeavesATimer() {
     QVERIFY(_station->waitForQuiet());
     QCOMPARE(_station->keyed(), u"VVV"_s);
 
-    const auto end = _station->now() + 1h;
+    const auto end = _station->now() + hour;
     std::optional<Station::Time> period;
     int rounds = 0;
     while (_station->now() < end) {
@@ -58,7 +60,7 @@ void WireHourTest::theBeaconNeitherDriftsNorLeavesATimer() {
     QVERIFY(rounds > 200);
 
     _station->engine().stopMessageSending(nullptr);
-    _station->pass(1h);
+    _station->pass(hour);
     QCOMPARE(_station->pendingTimers(), 0);
     QCOMPARE(_station->keyed(), QString());
 }
@@ -66,7 +68,7 @@ void WireHourTest::theBeaconNeitherDriftsNorLeavesATimer() {
 void WireHourTest::pausesLoseAndRepeatNothing() {
     const auto text = u"PARIS "_s.repeated(900);
     _station->type(text);
-    const auto end = _station->now() + 1h;
+    const auto end = _station->now() + hour;
     // Pauses fall on every part of a letter: their rhythm has no common measure with the dits.
     while (_station->now() < end) {
         _station->pass(17s + 7ms);
@@ -89,7 +91,7 @@ void WireHourTest::flowControlLosesNothing() {
         text += u"PARIS"_s + run;
     }
     _station->type(text);
-    const auto end = _station->now() + 1h;
+    const auto end = _station->now() + hour;
     int pauses = 0;
     while (_station->now() < end) {
         _station->pass(10s);

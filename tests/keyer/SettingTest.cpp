@@ -51,6 +51,10 @@ void SettingTest::registeredDefaults_data() {
     row("WKStandaloneEnableMessageBreak", true);
     row("WKStandaloneCutSerialNumbers", true);
     row("WKStandaloneMessage1", u"Message 1"_s);
+    row("WKStandaloneMessage2", u"Message 2"_s);
+    row("WKStandaloneMessage3", u"Message 3"_s);
+    row("WKStandaloneMessage4", u"Message 4"_s);
+    row("WKStandaloneMessage5", u"Message 5"_s);
     row("WKStandaloneMessage6", u"Message 6"_s);
     row("Message1Label", u"CQ"_s);
     row("Message1", u"CQ test ` `"_s);

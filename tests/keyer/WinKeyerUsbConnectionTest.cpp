@@ -42,9 +42,11 @@ class WinKeyerUsbConnectionTest : public QObject {
     void whatTheKeyerSendsMeanwhileIsHandledAfterwards();
 
     void disconnectingTellsTheKeyerBetweenTwoPauses();
+    void theKeyerHasASecondBeforeAndAfterItLeavesHostMode();
     void disconnectingWhileNotConnected();
     void disconnectingWhileNotInHostMode();
     void aFailedHostCloseStillReleasesThePort();
+    void aRefusedHostCloseCanBeTriedAgain();
     void disconnectingForgetsTextAndReadings();
     void aRemovedPortIsLetGo();
     void aPortUsedBeforeTakesNoLinkWithIt();
@@ -81,6 +83,7 @@ void WinKeyerUsbConnectionTest::connectingSetsTheLine() {
     auto& port = _bench->port();
     port.setParity(2);
     port.setUsesRTSCTSFlowControl(true);
+    port.setUsesDTRDSRFlowControl(true);
     port.setUsesDCDOutputFlowControl(true);
     QVERIFY(_bench->connect());
     QCOMPARE(port.baudRate(), 1200UL);
@@ -89,6 +92,8 @@ void WinKeyerUsbConnectionTest::connectingSetsTheLine() {
     QVERIFY(!port.usesRTSCTSFlowControl());
     QVERIFY(!port.usesDTRDSRFlowControl());
     QVERIFY(!port.usesDCDOutputFlowControl());
+    QCOMPARE(port.DTR(), 0);
+    QCOMPARE(port.RTS(), 0);
 }
 
 void WinKeyerUsbConnectionTest::noPortChosenFailsAtOnce() {
@@ -229,6 +234,19 @@ void WinKeyerUsbConnectionTest::disconnectingTellsTheKeyerBetweenTwoPauses() {
     QCOMPARE(_bench->settings().stringForKey(WKPortName), QString(KeyerBench::portName));
 }
 
+void WinKeyerUsbConnectionTest::theKeyerHasASecondBeforeAndAfterItLeavesHostMode() {
+    QVERIFY(_bench->connect());
+    QList<QByteArray> writtenBeforeNap;
+    QList<bool> wasOpen;
+    _bench->clock().setWhileNapping([&](Clock::Duration) {
+        wasOpen.append(_bench->port().isOpen());
+        writtenBeforeNap.append(_bench->written());
+    });
+    QVERIFY(_bench->engine().disconnect(nullptr));
+    QCOMPARE(writtenBeforeNap, (QList<QByteArray>{"", "00 03"}));
+    QCOMPARE(wasOpen, (QList<bool>{true, true}));
+}
+
 void WinKeyerUsbConnectionTest::disconnectingWhileNotConnected() {
     _bench->engine().setVersionString(u"23"_s);
     QVERIFY(_bench->engine().disconnect(nullptr));
@@ -261,6 +279,16 @@ void WinKeyerUsbConnectionTest::aFailedHostCloseStillReleasesThePort() {
     QVERIFY(!_bench->port().isOpen());
     QVERIFY(!_bench->engine().isConnected());
     QCOMPARE(_bench->settings().stringForKey(WKPortName), QString(KeyerBench::portName));
+}
+
+void WinKeyerUsbConnectionTest::aRefusedHostCloseCanBeTriedAgain() {
+    QVERIFY(_bench->connect());
+    SystemCallFaults faults;
+    faults.fail(SystemCall::Write, EIO, 1, 1);
+    QTest::ignoreMessage(QtInfoMsg, "closeHostMode failed");
+    QVERIFY(!_bench->engine().closeHostMode(nullptr));
+    QVERIFY(_bench->engine().closeHostMode(nullptr));
+    QCOMPARE(faults.count(SystemCall::Write), 2);
 }
 
 void WinKeyerUsbConnectionTest::disconnectingForgetsTextAndReadings() {

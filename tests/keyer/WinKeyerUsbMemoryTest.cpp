@@ -18,6 +18,7 @@ class WinKeyerUsbMemoryTest : public QObject {
     void cleanup() { _bench.reset(); }
 
     void theImageFollowsItsCommand();
+    void theImageIsOneWrite();
     void settingsOfTheImage_data();
     void settingsOfTheImage();
     void messagesAreStoredInUpperCaseAndUnsubstituted();
@@ -64,6 +65,12 @@ void WinKeyerUsbMemoryTest::theImageFollowsItsCommand() {
     QCOMPARE(written.left(2 + 24).toHex(' '),
              "00 0d a5 11 00 8a 32 00 0a 0d 20 00 00 0a 32 32 06 0c 0a 4e "
              "18 21 2a 33 3c 45");
+}
+
+void WinKeyerUsbMemoryTest::theImageIsOneWrite() {
+    const SystemCallFaults watched;
+    QVERIFY(_bench->engine().writeEeprom(nullptr));
+    QCOMPARE(watched.count(SystemCall::Write), 2);
 }
 
 void WinKeyerUsbMemoryTest::settingsOfTheImage_data() {

@@ -36,6 +36,7 @@ class WinKeyerUsbModesTest : public QObject {
     void aBusyReportStopsTheBeacon();
     void aBusyReportWithTheBeaconOffStopsNothing();
     void ofTwoIdleReportsOnlyTheLaterTimerCanBeStopped();
+    void anIdleReportWithTheBeaconOffStartsNoTimer();
     void theBeaconIsOffAfterAStop();
     void aBeaconWithoutAMessageSendsNothing();
     void theBeaconDoesNotSubstituteAgain();
@@ -166,6 +167,11 @@ void WinKeyerUsbModesTest::ofTwoIdleReportsOnlyTheLaterTimerCanBeStopped() {
     static_cast<void>(_bench->written());
     _bench->clock().advance(9s);
     QCOMPARE(_bench->engine().keyboardBuffer(), u"E E"_s);
+}
+
+void WinKeyerUsbModesTest::anIdleReportWithTheBeaconOffStartsNoTimer() {
+    _bench->receive({0xC0});
+    QVERIFY(_bench->clock().pendingTimers().isEmpty());
 }
 
 void WinKeyerUsbModesTest::theBeaconIsOffAfterAStop() {

@@ -35,7 +35,8 @@ struct Subject {
 
     /// Another engine, fresh and connected.
     void startOver() {
-        delete &bench.engine();
+        auto* const old = &bench.engine();
+        delete old;
         isConnected = bench.engine().connect(nullptr);
         static_cast<void>(writes.take());
     }

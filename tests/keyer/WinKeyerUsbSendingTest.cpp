@@ -2,6 +2,7 @@
 #include "keyer/KeyerSettings.h"
 #include "keyer/MessageSettings.h"
 #include "tests/keyer/KeyerBench.h"
+#include "tests/support/SystemCallFaults.h"
 
 #include <QTest>
 
@@ -38,6 +39,8 @@ class WinKeyerUsbSendingTest : public QObject {
     void aMessageIsSentWhileACharacterIsUnderWay();
     void controlSigns_data();
     void controlSigns();
+    void everyCommandIsOneWrite_data();
+    void everyCommandIsOneWrite();
     void mergedLettersAtTheEndStall();
     void hisCallsignIsReadWhenItIsReached();
     void noCallsignSendsNothingForIt_data();
@@ -177,6 +180,22 @@ void WinKeyerUsbSendingTest::controlSigns() {
     _bench->engine().setHisCallsign(u"w9xyz"_s);
     _bench->engine().appendMessage(text);
     QCOMPARE(_bench->written(), written);
+}
+
+void WinKeyerUsbSendingTest::everyCommandIsOneWrite_data() {
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<int>("writes");
+    QTest::newRow("merged letters") << u"{AR"_s << 1;
+    QTest::newRow("high speed") << u"%"_s << 1;
+    QTest::newRow("a command and the character behind it") << u"%A"_s << 2;
+}
+
+void WinKeyerUsbSendingTest::everyCommandIsOneWrite() {
+    QFETCH(QString, text);
+    QFETCH(int, writes);
+    const SystemCallFaults watched;
+    _bench->engine().appendMessage(text);
+    QCOMPARE(watched.count(SystemCall::Write), writes);
 }
 
 void WinKeyerUsbSendingTest::mergedLettersAtTheEndStall() {
