@@ -1,0 +1,164 @@
+"""The application's own serial and hot-plug code on the kernel's own driver and udev.
+
+Usage: usb_test.py IMAGE VIRTUAL_KEYER [TEST...]
+The modules of the integration tests have to be in PYTHONPATH.
+"""
+
+import contextlib
+import os
+import pathlib
+import signal
+import sys
+import tempfile
+import time
+import traceback
+import unittest
+
+from far_end import FarEnd
+from guest import AS_USER, Guest
+from probe import PROBE_LOG, Probe
+from report import Report
+
+NAME = "usbserial-WK0001"
+LONG_TEXT = "PARIS" * 100
+SPIN = 0.1  # of a processor's time; a loop over a dead descriptor takes all of it
+
+
+class AdapterTest(unittest.TestCase):
+    """The guest is one for all; each test starts with the adapter plugged in, and a new probe."""
+
+    guest = None
+    far_end = None
+
+    def setUp(self):
+        self.addCleanup(self.leave)
+        self.probe = Probe(self.guest)
+
+    def leave(self):
+        """The next test finds the adapter where this one did, also when this one has failed."""
+        self.guest.kill_started()
+        if self.guest.is_plugged:
+            self.guest.pull()
+        self.guest.read("until ! ls /dev/ttyUSB*; do sleep 0.1; done")
+        self.guest.plug()
+        self.guest.read("until ls /dev/serial/by-id/*; do sleep 0.1; done; udevadm settle")
+
+    def test_1_lists_the_adapter(self):
+        """the adapter is listed by the name that its serial number gives it"""
+        adapters = [each for each in self.probe.present if "usb" in each.lower()]
+        self.assertEqual(adapters, [f"{NAME} /dev/ttyUSB0"])
+
+    def test_2_sets_the_line(self):
+        """the adapter is told 1200 baud, 8 data bits, no parity, 2 stop bits"""
+        before = len(self.guest.line_settings())
+        self.connect()
+        told = dict(self.guest.line_settings()[before:])
+        self.assertEqual(told, {"baud": "baud rate 1200",
+                                "data": "parity N, data bits 8, stop bits 2"})
+
+    def test_3_opens_for_itself_alone(self):
+        """nobody else who may use serial ports can open the open port"""
+        other = f"{AS_USER} stty -F /dev/ttyUSB0"
+        self.assertEqual(self.guest.run(other)[0], 0)
+        self.connect()
+        status, output = self.guest.run(other)
+        self.assertNotEqual(status, 0)
+        self.assertIn("Device or resource busy", output)
+        self.probe.quit()
+        self.assertEqual(self.guest.run(other)[0], 0)
+
+    def test_4_keys_a_session(self):
+        """a typed text is echoed and keyed by the keyer behind the adapter"""
+        self.connect()
+        self.probe.expect("speed 90 WPM")
+        self.type("CQ CQ DE N0CALL K")
+        self.probe.quit()
+
+    def test_5_survives_the_pulled_cable(self):
+        """pulled out while it sends, the port is closed, nothing spins, and it comes back"""
+        self.connect()
+        self.pull_while_sending()
+        busy = self.probe.processor_time_during(2)
+        print(f"  of 2 s without the adapter, the application was busy for {busy:.2f} s")
+        self.assertLess(busy, 2 * SPIN)
+        self.plug("/dev/ttyUSB0")
+        self.type("TEST AGAIN")
+
+    def test_6_follows_it_to_another_node(self):
+        """while somebody holds on to the old node, it comes back on another one"""
+        self.guest.start(f"{AS_USER} sleep 1000 </dev/ttyUSB0")
+        self.connect()
+        self.pull_while_sending()
+        self.plug("/dev/ttyUSB1")
+        self.type("TEST ON THE OTHER")
+
+    def connect(self):
+        self.assertEqual(self.probe.choose(NAME), ["keyer connected"])
+
+    def type(self, text):
+        self.probe.type(text)
+        self.far_end.wait_until_keyed(text.replace(" ", ""))
+
+    def pull_while_sending(self):
+        self.probe.type(LONG_TEXT)
+        self.far_end.wait_for_keying()
+        self.guest.pull()
+        told = self.probe.expect("keyer .*")
+        self.assertEqual(told[-3:], [
+            f"alert The WinKeyer using serial port {NAME} has been unplugged.",
+            f"removed {NAME} /dev/ttyUSB0", "keyer disconnected"])
+        self.assertEqual(self.probe.open_ports(), [])
+
+    def plug(self, node):
+        self.guest.plug()
+        told = self.probe.expect("keyer .*")
+        self.assertEqual(told, [f"alert The serial port {NAME} has been plugged in.",
+                                f"arrived {NAME} {node}", "keyer connected"])
+
+
+def private_environment(directory):
+    return {"PATH": os.environ["PATH"], "LC_ALL": "C.UTF-8", "XDG_RUNTIME_DIR": str(directory)}
+
+
+def run(image, virtual_keyer, names, report):
+    with contextlib.ExitStack() as stack:
+        directory = pathlib.Path(stack.enter_context(
+            tempfile.TemporaryDirectory(prefix="quorvel-usb.")))
+        environment = private_environment(directory)
+        begin = time.monotonic()
+        guest = AdapterTest.guest = Guest(image, directory, environment)
+        stack.callback(guest.end)
+        print(f"the guest has booted ({time.monotonic() - begin:.1f} s)", flush=True)
+        far_end = AdapterTest.far_end = FarEnd(virtual_keyer, guest.wire(), directory, environment)
+        stack.callback(far_end.end)
+        loader = unittest.TestLoader()
+        loader.testNamePatterns = [f"*{each}*" for each in names] or None
+        loader.loadTestsFromTestCase(AdapterTest).run(report)
+        if report.failed:
+            print(f"The guest said last:\n{guest.log()}\n{guest.run(f'cat {PROBE_LOG}')[1]}")
+
+
+def stop(*_):
+    signal.signal(signal.SIGTERM, signal.SIG_IGN)
+    # unittest takes everything else for the failure of a test.
+    raise KeyboardInterrupt
+
+
+def main():
+    signal.signal(signal.SIGTERM, stop)
+    report = Report()
+    try:
+        run(sys.argv[1], sys.argv[2], sys.argv[3:], report)
+    except KeyboardInterrupt:
+        report.failed += 1
+        print("stopped before the end, which counts as one failed test")
+    except Exception:
+        report.failed += 1
+        traceback.print_exc()
+        print("the guest failed, which counts as one failed test")
+    print(report.summary())
+    return 0 if report.passed and not report.failed else 1
+
+
+if __name__ == "__main__":
+    sys.exit(main())
