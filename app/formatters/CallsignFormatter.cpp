@@ -22,29 +22,14 @@ QString replacementFor(const QString& text) {
 
 } // namespace
 
-QString CallsignFormatter::stringForObjectValue(const QVariant& object) const {
-    return object.typeId() == QMetaType::QString ? object.toString().toUpper() : QString();
-}
-
-bool CallsignFormatter::getObjectValue(QVariant* object, const QString& string, QString*) const {
-    *object = string.toUpper();
-    return true;
-}
-
 bool CallsignFormatter::isPartialStringValid(const QString& partialString, QString* newString,
                                              QString*) const {
     *newString = replacementFor(partialString);
     return false;
 }
 
-QValidator::State CallsignFormatter::validate(QString& input, int& position) const {
-    if (_onePass.isOwnReplacement(input)) {
-        return Acceptable;
-    }
-    const auto typed = input;
+void CallsignFormatter::replace(QString& input, int& position) const {
     const auto behind = replacementFor(input.mid(position));
-    isPartialStringValid(typed, &input, nullptr);
+    input = replacementFor(input);
     position = static_cast<int>(std::max<qsizetype>(input.size() - behind.size(), 0));
-    _onePass.replaced(typed, input);
-    return Acceptable;
 }

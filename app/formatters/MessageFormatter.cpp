@@ -4,15 +4,6 @@
 
 #include <algorithm>
 
-QString MessageFormatter::stringForObjectValue(const QVariant& object) const {
-    return object.typeId() == QMetaType::QString ? object.toString().toUpper() : QString();
-}
-
-bool MessageFormatter::getObjectValue(QVariant* object, const QString& string, QString*) const {
-    *object = string.toUpper();
-    return true;
-}
-
 bool MessageFormatter::isPartialStringValid(QString* partialString,
                                             TextRange* proposedSelectedRange, const QString&,
                                             TextRange originalSelectedRange, QString*) const {
@@ -29,14 +20,8 @@ bool MessageFormatter::isPartialStringValid(QString* partialString,
     return false;
 }
 
-QValidator::State MessageFormatter::validate(QString& input, int& position) const {
-    if (_onePass.isOwnReplacement(input)) {
-        return Acceptable;
-    }
-    const auto typed = input;
+void MessageFormatter::replace(QString& input, int& position) const {
     TextRange proposed{position, 0};
     isPartialStringValid(&input, &proposed, {}, {}, nullptr);
     position = static_cast<int>(std::min(proposed.location, input.size()));
-    _onePass.replaced(typed, input);
-    return Acceptable;
 }

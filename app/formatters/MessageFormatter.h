@@ -1,9 +1,6 @@
 #pragma once
 
-#include "app/formatters/OnePass.h"
-
-#include <QValidator>
-#include <QVariant>
+#include "app/formatters/UpperCaseFormatter.h"
 
 /// A stretch of selected text; of no length, the insertion point.
 struct TextRange {
@@ -12,18 +9,11 @@ struct TextRange {
     bool operator==(const TextRange&) const = default;
 };
 
-/// Keeps a field to the characters of a message, in upper case. As a validator it serves every
-/// way in which text gets into a field. Main thread only.
-class MessageFormatter final : public QValidator {
+/// Keeps a field to the characters that a message can hold.
+class MessageFormatter final : public UpperCaseFormatter {
     Q_OBJECT
   public:
-    using QValidator::QValidator;
-
-    /// A text in upper case; null for what is no text.
-    [[nodiscard]] QString stringForObjectValue(const QVariant& object) const;
-
-    /// Yields the text in upper case. Always succeeds.
-    bool getObjectValue(QVariant* object, const QString& string, QString* errorDescription) const;
+    using UpperCaseFormatter::UpperCaseFormatter;
 
     /// Never accepts a text as it was typed: replaces it by its upper case without the first
     /// character that no message can hold. Then the proposed selection moves one place back.
@@ -31,8 +21,6 @@ class MessageFormatter final : public QValidator {
                               const QString& originalString, TextRange originalSelectedRange,
                               QString* errorDescription) const;
 
-    State validate(QString& input, int& position) const override;
-
-  private:
-    mutable OnePass _onePass;
+  protected:
+    void replace(QString& input, int& position) const override;
 };

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "app/formatters/OnePass.h"
+
+#include <QValidator>
+#include <QVariant>
+
+/// What the formatters have in common: text is in upper case, and a field that uses one as its
+/// validator shows a replacement for whatever text gets into it, by whichever way. Main thread
+/// only.
+class UpperCaseFormatter : public QValidator {
+    Q_OBJECT
+  public:
+    using QValidator::QValidator;
+
+    /// A text in upper case; null for what is no text.
+    [[nodiscard]] QString stringForObjectValue(const QVariant& object) const;
+
+    /// Yields the text in upper case. Always succeeds.
+    bool getObjectValue(QVariant* object, const QString& string, QString* errorDescription) const;
+
+    /// Puts the replacement in place of the text, one pass for each edit.
+    State validate(QString& input, int& position) const final;
+
+  protected:
+    /// Makes one pass over a text as it was just edited, and moves the insertion point with it.
+    virtual void replace(QString& input, int& position) const = 0;
+
+  private:
+    mutable OnePass _onePass;
+};
