@@ -48,13 +48,11 @@ void QuorvelDelegate::applicationDidFinishLaunching() {
                        [this](const Notification& each) { serialPortRemoved(each); });
     // Once more: nobody was told of a port that came between the list and the observers.
     updateSerialPortList();
-    Error error;
-    if (!winKeyerUsb().connect(&error)) {
-        application().presentError(error);
-    }
+    connectToKeyer();
 }
 
 QuorvelDelegate::TerminateReply QuorvelDelegate::applicationShouldTerminate() {
+    _isTerminating = true;
     Error error;
     if (!winKeyerUsb().disconnect(&error)) {
         application().presentError(error);
@@ -70,8 +68,14 @@ void QuorvelDelegate::changeSerialPort(const QObject*) {
     if (SettingsStore::standardUserDefaults().stringForKey(WKPortName) == noPortName) {
         return;
     }
-    error = {};
-    if (!winKeyerUsb().connect(&error)) {
+    connectToKeyer();
+}
+
+/// Not once the application is to end, as it may be while an alert is up: the ports have gone by
+/// then, and a connection that fails forgets which one the operator chose.
+void QuorvelDelegate::connectToKeyer() {
+    Error error;
+    if (!_isTerminating && !winKeyerUsb().connect(&error)) {
         application().presentError(error);
     }
 }

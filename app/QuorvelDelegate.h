@@ -44,10 +44,12 @@ class QuorvelDelegate final : public QObject, public ApplicationDelegate {
     void serialPortNameArrayChanged();
 
   private:
+    void connectToKeyer();
     void setSerialPortNameArray(const QStringList& names);
     void updateSerialPortList();
     void serialPortAdded(const Notification& notification);
     void serialPortRemoved(const Notification& notification);
 
     QStringList _serialPortNameArray;
+    bool _isTerminating = false;
 };

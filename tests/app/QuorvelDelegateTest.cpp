@@ -29,13 +29,18 @@ class QuorvelDelegateTest : public QObject {
     void choosingNoneDisconnectsAndSaysNothing();
     void choosingThePortInUseConnectsAnew();
     void aFailedConnectIsShown();
+    void aFailedDisconnectIsShownAndDoesNotStopTheConnect();
+    void quittingDuringAnAlertKeepsTheChoiceOfPort();
+    void aLaunchThatComesAfterTheEndConnectsNothing();
     void theListFollowsThePorts();
     void unpluggingTheKeyersPortTellsSoOnce();
+    void theLinkIsDownWhileTheUnplugAlertIsUp();
     void unplugAlertIsByNameAlone();
     void unpluggingAnotherPortShowsNothing();
     void unpluggingWithNoneChosenShowsNothing();
     void aPluggedPortIsOffered_data();
     void aPluggedPortIsOffered();
+    void aPluggedPortIsListedBeforeItIsOffered();
     void everyPortOfOneMomentIsOffered();
     void nothingIsOfferedWhileConnected();
     void onlyUsbSerialPortsAreOffered_data();
@@ -141,6 +146,42 @@ void QuorvelDelegateTest::aFailedConnectIsShown() {
     QCOMPARE(alerts().first().messageText, u"The WinKeyer serial port gone is not available."_s);
 }
 
+void QuorvelDelegateTest::aFailedDisconnectIsShownAndDoesNotStopTheConnect() {
+    launch();
+    SystemCallFaults faults;
+    faults.fail(SystemCall::Write, EIO, 1, 1);
+    _delegate->changeSerialPort(nullptr);
+    QCOMPARE(alerts().size(), 1);
+    QCOMPARE(alerts().first().messageText,
+             u"WinKeyer Host Close Admin command failed with AMSerial code: 0"_s);
+    QVERIFY(_bench->engine().isConnected());
+    QVERIFY(_bench->port().isOpen());
+}
+
+void QuorvelDelegateTest::quittingDuringAnAlertKeepsTheChoiceOfPort() {
+    launch();
+    SystemCallFaults faults;
+    faults.fail(SystemCall::Write, EIO);
+    _bench->platform().application().setWhileShown([this](const Alert&) {
+        if (alerts().size() == 1) {
+            _delegate->applicationShouldTerminate();
+            _bench->platform().notifications().post(NSApplicationWillTerminateNotification,
+                                                    nullptr);
+        }
+    });
+    _delegate->changeSerialPort(nullptr);
+    QCOMPARE(alerts().size(), 1);
+    QCOMPARE(chosenPort(), QString(KeyerBench::portName));
+    QVERIFY(!_bench->port().isOpen());
+}
+
+void QuorvelDelegateTest::aLaunchThatComesAfterTheEndConnectsNothing() {
+    _delegate->applicationShouldTerminate();
+    _delegate->applicationDidFinishLaunching();
+    QVERIFY(!_bench->port().isOpen());
+    QVERIFY(alerts().isEmpty());
+}
+
 void QuorvelDelegateTest::theListFollowsThePorts() {
     launch();
     const PseudoTerminalPair line;
@@ -168,6 +209,22 @@ void QuorvelDelegateTest::unpluggingTheKeyersPortTellsSoOnce() {
     QCOMPARE(_bench->settings().stringForKey(u"None"_s), u"None"_s);
     QVERIFY(!_bench->engine().isConnected());
     QCOMPARE(_delegate->serialPortNameArray(), QStringList{u"None"_s});
+}
+
+void QuorvelDelegateTest::theLinkIsDownWhileTheUnplugAlertIsUp() {
+    launch();
+    _bench->receive({0x80});
+    _bench->type(u"CQ"_s);
+    QVERIFY(!_bench->engine().speedString().isNull());
+    bool wasUp = false;
+    _bench->platform().application().setWhileShown([&](const Alert&) {
+        wasUp = true;
+        QVERIFY(!_bench->engine().isConnected());
+        QVERIFY(_bench->engine().speedString().isNull());
+        QVERIFY(_bench->engine().keyboardBuffer().isEmpty());
+    });
+    _bench->platform().devices().unplug(_bench->device());
+    QVERIFY(wasUp);
 }
 
 void QuorvelDelegateTest::unplugAlertIsByNameAlone() {
@@ -220,6 +277,17 @@ void QuorvelDelegateTest::aPluggedPortIsOffered() {
     QCOMPARE(alerts().first().alternateButton, u"No"_s);
     QCOMPARE(chosenPort(), isAccepted ? u"usbserial-2"_s : u"None"_s);
     QCOMPARE(_bench->engine().isConnected(), isAccepted);
+}
+
+void QuorvelDelegateTest::aPluggedPortIsListedBeforeItIsOffered() {
+    _bench->settings().setObject(u"None"_s, WKPortName);
+    launch();
+    QStringList listed;
+    _bench->platform().application().setWhileShown(
+        [&](const Alert&) { listed = _delegate->serialPortNameArray(); });
+    const PseudoTerminalPair line;
+    _bench->platform().devices().plug(u"usbserial-2"_s, line.path());
+    QCOMPARE(listed, (QStringList{u"None"_s, KeyerBench::portName, u"usbserial-2"_s}));
 }
 
 void QuorvelDelegateTest::everyPortOfOneMomentIsOffered() {
