@@ -16,8 +16,8 @@ fi
 
 # Whatever hangs in it, the test ends, and all that it has started with it.
 status=0
-start test env PYTHONPATH=tests/integration timeout --kill-after=5 300 python3 -B tests/usb/usb_test.py \
-    "$guest" "$bin/quorvel-virtual-keyer" "$@"
+start test env PYTHONPATH=tests/integration timeout --kill-after=5 300 \
+    python3 -B tests/usb/usb_test.py "$guest" "$bin/quorvel-virtual-keyer" "$@"
 wait "${pids[test]}" || status=$?
 if ((status == 124 || status == 137)); then
     echo "The USB test did not end within its time." >&2

@@ -45,17 +45,22 @@ class PortProbe final : public QObject {
         QObject::connect(&_input, &QSocketNotifier::activated, this, [this] { read(); });
         QObject::connect(&engine(), &WinKeyerUsb::speedStringChanged, this,
                          [] { say(u"speed "_s + engine().speedString()); });
+        auto& manager = ORSSerialPortManager::sharedSerialPortManager();
+        QObject::connect(&manager, &ORSSerialPortManager::availablePortsInserted, this,
+                         &PortProbe::watch);
+        for (qsizetype index = 0; index < manager.countOfAvailablePorts(); ++index) {
+            watch({index});
+        }
     }
 
     /// After the delegate's launch, so that each event is told once the delegate has dealt with it.
     void start() {
         auto& center = NotificationCenter::defaultCenter();
-        center.addObserver(this, ORSSerialPortWasConnectedNotification,
-                           [this](const Notification& each) {
-                               tell(u"arrived"_s, each, ORSConnectedSerialPortsKey);
-                           });
+        center.addObserver(
+            this, ORSSerialPortWasConnectedNotification,
+            [](const Notification& each) { tell(u"arrived"_s, each, ORSConnectedSerialPortsKey); });
         center.addObserver(this, ORSSerialPortWasDisconnectedNotification,
-                           [this](const Notification& each) {
+                           [](const Notification& each) {
                                tell(u"removed"_s, each, ORSDisconnectedSerialPortsKey);
                            });
         const auto& ports = ORSSerialPortManager::sharedSerialPortManager().availablePorts();
@@ -72,7 +77,19 @@ class PortProbe final : public QObject {
   private:
     [[nodiscard]] static WinKeyerUsb& engine() { return WinKeyerUsb::sharedInstance(); }
 
-    void tell(const QString& what, const Notification& notification, QLatin1StringView key) {
+    void watch(const QList<qsizetype>& indexes) {
+        for (const auto index : indexes) {
+            auto& port =
+                *ORSSerialPortManager::sharedSerialPortManager().objectInAvailablePortsAtIndex(
+                    index);
+            // A port that somebody holds is the same object when its device comes again.
+            QObject::disconnect(&port, &ORSSerialPort::isOpenChanged, this, nullptr);
+            QObject::connect(&port, &ORSSerialPort::isOpenChanged, this,
+                             [&port] { tell(port.isOpen() ? u"opened"_s : u"closed"_s, port); });
+        }
+    }
+
+    static void tell(const QString& what, const Notification& notification, QLatin1StringView key) {
         const auto ports = notification.userInfo.value(key).value<ORSSerialPortManager::Ports>();
         for (const auto& port : ports) {
             tell(what, *port);
@@ -80,7 +97,7 @@ class PortProbe final : public QObject {
         tellConnection();
     }
 
-    void tell(const QString& what, ORSSerialPort& port) {
+    static void tell(const QString& what, const ORSSerialPort& port) {
         say(u"%1 %2 %3"_s.arg(what, port.name(), port.path()));
     }
 

@@ -47,13 +47,13 @@ kernel_tool() (
 )
 
 # module_paths VERSION: the files of the modules and of what they need, in the order of loading.
-module_paths() {
-    local module
-    kernel_tool depmod -b "$guest/root" "$1" || return 1
+module_paths() (
+    set -o pipefail
+    kernel_tool depmod -b "$guest/root" "$1" || exit 1
     for module in "${modules[@]}"; do
-        kernel_tool modprobe -d "$guest/root" -S "$1" --show-depends "$module" || return 1
+        kernel_tool modprobe -d "$guest/root" -S "$1" --show-depends "$module" || exit 1
     done | sed -n 's/^insmod \([^ ]*\).*/\1/p' | awk '!seen[$0]++'
-}
+)
 
 # fill_first_root DIRECTORY
 fill_first_root() {
@@ -61,10 +61,10 @@ fill_first_root() {
     version=$(ls "$guest/root/usr/lib/modules") || return 1
     mkdir -p "$1/bin" "$1/modules.d"
     cp "$guest/root/usr/bin/busybox" "$1/bin/busybox" || return 1
+    module_paths "$version" >"$guest/modules" || return 1
     while read -r path; do
-        cp "$path" "$1/modules.d/" && echo "/modules.d/${path##*/}" >>"$1/modules"
-    done < <(module_paths "$version")
-    [[ -s $1/modules ]]
+        cp "$path" "$1/modules.d/" && echo "/modules.d/${path##*/}" || return 1
+    done <"$guest/modules" >"$1/modules"
 }
 
 # make_guest_packages: downloads and unpacks, once; what is there stays until it is removed.
@@ -79,7 +79,8 @@ make_guest_packages() {
         return 1
     fi
     unpack_packages "$guest/packages" "$guest/root" && fill_first_root "$guest/first-root" &&
-        cp "$guest"/root/boot/vmlinuz-* "$guest/kernel" && echo "$names" >"$guest/complete"
+        cp "$guest"/root/boot/vmlinuz-* "$guest/kernel" && rm -r "$guest/packages" &&
+        echo "$names" >"$guest/complete"
 }
 
 # make_guest PROBE: the first root also says where on the host the probe is.

@@ -1,5 +1,6 @@
 """A machine with a USB serial adapter: QEMU, with a shell in it."""
 
+import contextlib
 import pathlib
 import re
 
@@ -75,6 +76,15 @@ class Guest:
         """Plugs the adapter in. The wire to it is free a moment after it was pulled out."""
         self._monitor.execute_soon("device_add", **ADAPTER)
         self.is_plugged = True
+
+    @contextlib.contextmanager
+    def udev_held(self):
+        """Meanwhile udev tells of nothing; it does afterwards."""
+        self.read("udevadm control --stop-exec-queue")
+        try:
+            yield
+        finally:
+            self.read("udevadm control --start-exec-queue")
 
     def line_settings(self):
         """What the adapter was told of the line, as (name, value), in the order of the telling."""

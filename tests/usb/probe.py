@@ -16,10 +16,12 @@ class Probe:
         self._guest = guest
         guest.probe.drain()
         home = guest.read(f"{AS_USER} mktemp -d")
-        guest.read(f"mkdir -m 777 {home}/quorvel && printf '{SETTINGS}' >{home}/quorvel/quorvel.conf "
-                   f"&& chmod 666 {home}/quorvel/quorvel.conf")
-        self._pid = guest.start(f"XDG_CONFIG_HOME={home} {AS_USER} /run/quorvel-port-probe "
-                                f"<>/dev/virtio-ports/probe >&0 2>>{PROBE_LOG}")
+        file = f"{home}/quorvel/quorvel.conf"
+        guest.read(f"mkdir -m 777 {home}/quorvel && printf '{SETTINGS}' >{file} && "
+                   f"chmod 666 {file}")
+        self._pid = guest.start(
+            f"XDG_CONFIG_HOME={home} XDG_RUNTIME_DIR={home} {AS_USER} /run/quorvel-port-probe "
+            f"<>/dev/virtio-ports/probe >&0 2>>{PROBE_LOG}")
         lines = self.expect("watching")
         self.present = [each.removeprefix("present ") for each in lines if "present" in each]
 
