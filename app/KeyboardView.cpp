@@ -8,6 +8,9 @@
 #include <algorithm>
 
 KeyboardView::KeyboardView(QWidget* parent) : QPlainTextEdit(parent) {
+    // Taking a change back would send again what the keyer has dropped, and the engine's changes
+    // are not the operator's to take back.
+    setUndoRedoEnabled(false);
     QObject::connect(this, &QPlainTextEdit::textChanged, this, &KeyboardView::takeOperatorsText);
 }
 

@@ -8,7 +8,7 @@
 /// An immutable set of ASCII characters.
 class CharacterSet {
   public:
-    constexpr explicit CharacterSet(std::string_view members) {
+    consteval explicit CharacterSet(std::string_view members) {
         for (const auto member : members) {
             const auto code = static_cast<unsigned char>(member);
             _bits[code / 64] |= std::uint64_t{1} << (code % 64);

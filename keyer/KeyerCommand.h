@@ -8,7 +8,9 @@
 /// write.
 namespace KeyerCommand {
 
+/// Of Key Immediate.
 enum class KeyLine : std::uint8_t { Up = 0, Down = 1 };
+/// Of Set Pause State.
 enum class Pause : std::uint8_t { Resume = 0, Pause = 1 };
 
 /// Opens host mode; the keyer answers with its firmware version, one byte.

@@ -5,7 +5,6 @@
 
 #include <algorithm>
 #include <array>
-#include <limits>
 
 /// How settings become the bytes of the keyer's registers. The same function serves every place
 /// that a byte goes to: its own command, the Load Defaults block and the memory image.

@@ -16,7 +16,8 @@
 /// The keyer engine: the one object that owns the link to the keyer, and everything that is sent
 /// over it and read from it.
 ///
-/// Its concerns stand in files of their own: connection, receive path, sending, keyboard, modes.
+/// Its concerns stand in files of their own: connection, receive path, sending, keyboard, modes,
+/// memory.
 /// All sending is paced by the keyer: one plain character is on its way, and its echo lets the
 /// next one go. Main thread only.
 class WinKeyerUsb final : public QObject, public ORSSerialPortDelegate {
@@ -44,8 +45,8 @@ class WinKeyerUsb final : public QObject, public ORSSerialPortDelegate {
     [[nodiscard]] static const CharacterSet& morseKeyboardCharacterSet();
 
     // Connection. Each operation is true on success; on failure it fills `error`, where one is
-    // given. A failure from finding the port on closes and forgets the port and sets the stored
-    // port name to "None".
+    // given. A step of connecting that fails, from finding the port on, also closes and forgets
+    // the port and sets the stored port name to "None". The steps after that need a port found.
 
     /// Brings the keyer on the stored port into host mode. Never waits for the keyer: what it
     /// answers is handled after this has returned.
@@ -61,16 +62,22 @@ class WinKeyerUsb final : public QObject, public ORSSerialPortDelegate {
     /// 1200 baud, no parity, 2 stop bits, no flow control. Cannot fail.
     bool configureSerialPort(Error* error);
     [[nodiscard]] bool openSerialPort(Error* error);
+    /// Sends four null commands, so that the keyer's parser begins anew.
     [[nodiscard]] bool syncWinKeyer(Error* error);
+    /// Has the keyer send a character back, which is not waited for.
     [[nodiscard]] bool echoTest(Error* error);
+    /// Host mode, push-button reports, all settings, and a reading of the speed pot.
     [[nodiscard]] bool openHostMode(Error* error);
     [[nodiscard]] bool hostOpen(Error* error);
     /// Succeeds at once: the version byte is not waited for.
     [[nodiscard]] bool readVersion(Error* error);
     /// Fails unless versionString is a number from 20 to 23. Not part of connecting.
     [[nodiscard]] bool validateVersion(Error* error);
+    /// Has push-buttons reported.
     [[nodiscard]] bool setWK2Mode(Error* error);
+    /// Leaves host mode, if the keyer is in it. A failure keeps port and stored name.
     [[nodiscard]] bool closeHostMode(Error* error);
+    /// The port has gone and is closed: lets go of it. Sends nothing.
     void serialPortWasRemovedFromSystem(ORSSerialPort& port) override;
 
     // Traffic.
@@ -107,7 +114,7 @@ class WinKeyerUsb final : public QObject, public ORSSerialPortDelegate {
     /// Stays at 1.
     void decrementSerialNumber(const QObject* sender);
 
-    // The keyboard view's delegate.
+    // The keyboard view's delegate. Editing may always begin and end.
 
     [[nodiscard]] bool textShouldBeginEditing(const QObject* text) const;
     [[nodiscard]] bool textShouldEndEditing(const QObject* text) const;
@@ -186,7 +193,10 @@ class WinKeyerUsb final : public QObject, public ORSSerialPortDelegate {
 
     WinKeyerUsb();
 
+    [[nodiscard]] bool sendToPort(const QByteArray& bytes);
     [[nodiscard]] bool refuse(Error* error, const Error& reason);
+    void forgetPortName();
+    void releasePort();
     void setSpeedString(const QString& speed);
     void appendSendableText(const QString& text);
 

@@ -4,6 +4,7 @@
 #include "keyer/KeyerCommand.h"
 #include "keyer/StoredSettings.h"
 #include "keyer/WinKeyerUsb.h"
+#include "platform/LeadingNumber.h"
 #include "platform/Log.h"
 #include "platform/Platform.h"
 #include "serial/ORSSerialPortManager.h"
@@ -90,7 +91,7 @@ bool WinKeyerUsb::determineSerialPortForName(const QString& name, Error* error) 
             return true;
         }
     }
-    // "FDTI" is how operators know this message; searches for it find the answers.
+    // "FDTI" is spelt so on purpose.
     return refuse(
         error,
         Error::ofApplication(
@@ -123,7 +124,7 @@ bool WinKeyerUsb::openSerialPort(Error* error) {
 
 bool WinKeyerUsb::syncWinKeyer(Error* error) {
     for (int i = 0; i < 4; ++i) {
-        if (!_winKeyerSerialPort->sendData(KeyerCommand::nullCommand())) {
+        if (!sendToPort(KeyerCommand::nullCommand())) {
             return refuse(
                 error,
                 Error::ofApplication(
@@ -134,7 +135,7 @@ bool WinKeyerUsb::syncWinKeyer(Error* error) {
 }
 
 bool WinKeyerUsb::echoTest(Error* error) {
-    if (_winKeyerSerialPort->sendData(KeyerCommand::adminEchoTest())) {
+    if (sendToPort(KeyerCommand::adminEchoTest())) {
         return true;
     }
     return refuse(
@@ -155,7 +156,7 @@ bool WinKeyerUsb::openHostMode(Error* error) {
 }
 
 bool WinKeyerUsb::hostOpen(Error* error) {
-    if (_winKeyerSerialPort->sendData(KeyerCommand::adminHostOpen())) {
+    if (sendToPort(KeyerCommand::adminHostOpen())) {
         return readVersion(error);
     }
     return refuse(error,
@@ -167,7 +168,7 @@ bool WinKeyerUsb::readVersion(Error*) {
 }
 
 bool WinKeyerUsb::validateVersion(Error* error) {
-    const auto version = versionString().toLongLong();
+    const auto version = LeadingNumber::integer(versionString());
     if (version >= 20 && version <= 23) {
         return true;
     }
@@ -179,7 +180,7 @@ bool WinKeyerUsb::validateVersion(Error* error) {
 }
 
 bool WinKeyerUsb::setWK2Mode(Error* error) {
-    if (_winKeyerSerialPort->sendData(KeyerCommand::adminSetWK2Mode())) {
+    if (sendToPort(KeyerCommand::adminSetWK2Mode())) {
         return true;
     }
     return refuse(error, Error::ofApplication(
@@ -190,7 +191,7 @@ bool WinKeyerUsb::closeHostMode(Error* error) {
     if (!_isHostMode) {
         return true;
     }
-    if (_winKeyerSerialPort->sendData(KeyerCommand::adminHostClose())) {
+    if (sendToPort(KeyerCommand::adminHostClose())) {
         _isHostMode = false;
         return true;
     }
@@ -210,15 +211,27 @@ void WinKeyerUsb::serialPortWasRemovedFromSystem(ORSSerialPort& port) {
     }
 }
 
+bool WinKeyerUsb::sendToPort(const QByteArray& bytes) {
+    return isConnected() && _winKeyerSerialPort->sendData(bytes);
+}
+
 /// Fails a step of connecting: tells why, forgets the stored choice of port, and lets go of it.
 bool WinKeyerUsb::refuse(Error* error, const Error& reason) {
     fill(error, reason);
+    forgetPortName();
+    releasePort();
+    return false;
+}
+
+void WinKeyerUsb::forgetPortName() {
     SettingsStore::standardUserDefaults().setObject(QString(noPortName), WKPortName);
+}
+
+void WinKeyerUsb::releasePort() {
     if (_winKeyerSerialPort) {
         _winKeyerSerialPort->close();
     }
     _winKeyerSerialPort.reset();
-    return false;
 }
 
 void WinKeyerUsb::loadDefaults() {

@@ -1,5 +1,6 @@
 // Text that the operator types: filtered, substituted, and handed to the sending loop.
 
+#include "keyer/SendableText.h"
 #include "keyer/WinKeyerUsb.h"
 
 #include <algorithm>
@@ -18,14 +19,6 @@ QString filtered(const QString& text, const CharacterSet& allowed) {
             kept.append(text.at(++i));
         }
     }
-    return kept;
-}
-
-/// Without what is no single byte of text: a control character in the text would reach the keyer
-/// as a command.
-QString sendable(const QString& text) {
-    auto kept = text;
-    kept.removeIf([](QChar each) { return each < u' ' || each > u'~'; });
     return kept;
 }
 

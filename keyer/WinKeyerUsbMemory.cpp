@@ -51,20 +51,17 @@ char characterOf(std::uint8_t byte) {
 
 bool WinKeyerUsb::writeEeprom(Error*) {
     const auto layout = layOut(storedMessages());
-    if (layout.hasRejectedCharacter() || !isConnected()) {
+    if (layout.hasRejectedCharacter()) {
         return false;
     }
     auto image = imageOf(StoredSettings());
     store(layout, image);
-    return _winKeyerSerialPort->sendData(KeyerCommand::adminLoadEeprom()) &&
-           _winKeyerSerialPort->sendData(bytesOf(image));
+    return sendToPort(KeyerCommand::adminLoadEeprom()) && sendToPort(bytesOf(image));
 }
 
 void WinKeyerUsb::sendStandaloneMessage(int number) {
-    if (isConnected()) {
-        static_cast<void>(_winKeyerSerialPort->sendData(
-            KeyerCommand::adminSendStandaloneMessage(KeyerEncoding::lowByte(number))));
-    }
+    static_cast<void>(
+        sendToPort(KeyerCommand::adminSendStandaloneMessage(KeyerEncoding::lowByte(number))));
 }
 
 bool WinKeyerUsb::encodeMessage(const QString& message, std::uint8_t start, Image& image) {

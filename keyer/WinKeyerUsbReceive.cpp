@@ -11,8 +11,13 @@
 
 using namespace Qt::StringLiterals;
 
+namespace {
+/// Seconds; twenty-four days, more than a timer of the system can take.
+constexpr double longestBeaconInterval = 2'000'000;
+} // namespace
+
 void WinKeyerUsb::putToWinKeyer(const QByteArray& bytes) {
-    if (isConnected() && !_winKeyerSerialPort->sendData(bytes)) {
+    if (isConnected() && !sendToPort(bytes)) {
         logLine(u"putToWinKeyer error: "_s);
     }
 }
@@ -31,8 +36,8 @@ void WinKeyerUsb::serialPortDidReceiveData(ORSSerialPort& port, const QByteArray
         logLine(u"WinKeyer port was somehow closed!"_s);
         return;
     }
-    // A chunk counts as that many repetitions of its first byte. At 1200 baud bytes arrive one by
-    // one; those that come together are the answers to connecting.
+    // A chunk counts as that many repetitions of its first byte, on purpose: each byte that came
+    // lets one more character go, and what comes together is nearly always of one kind.
     const auto byte = static_cast<std::uint8_t>(data.front());
     for (qsizetype i = 0; i < data.size(); ++i) {
         handleByte(byte);
@@ -83,8 +88,9 @@ void WinKeyerUsb::handleIdle() {
         setPauseState(0);
     }
     if (beaconState() != 0) {
-        const auto interval = std::chrono::duration<double>(std::clamp(
-            SettingsStore::standardUserDefaults().doubleForKey(BeaconInterval.key), 0.0, 1e9));
+        const auto interval = std::chrono::duration<double>(
+            std::clamp(SettingsStore::standardUserDefaults().doubleForKey(BeaconInterval.key), 0.0,
+                       longestBeaconInterval));
         // The timer before this one is let go of, not stopped.
         _beaconTimer = Platform::current().clock().scheduleTimer(
             std::chrono::duration_cast<Clock::Duration>(interval), this,

@@ -5,6 +5,7 @@
 #include "keyer/KeyerSettings.h"
 #include "keyer/MessageSettings.h"
 #include "keyer/ReceivedByte.h"
+#include "keyer/SendableText.h"
 #include "keyer/WinKeyerUsb.h"
 #include "platform/Action.h"
 #include "platform/Log.h"
@@ -14,7 +15,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The byte that keys `character`, which is one of the buffer's single-byte characters.
+/// The byte that keys `character`, which is a sendable one.
 char byteOf(QChar character) {
     return character.toUpper().toLatin1();
 }
@@ -90,6 +91,11 @@ WinKeyerUsb::Step WinKeyerUsb::sendNext() {
 }
 
 WinKeyerUsb::Step WinKeyerUsb::sendNextOfHisCallsign() {
+    // The field has filtered the call, but a single pass leaves some things in.
+    while (_nextHisCallsignCharacterIndex < _hisCallsign.size() &&
+           !isSendable(_hisCallsign.at(_nextHisCallsignCharacterIndex))) {
+        ++_nextHisCallsignCharacterIndex;
+    }
     if (_nextHisCallsignCharacterIndex >= _hisCallsign.size()) {
         _sendingHisCallsign = false;
         _nextHisCallsignCharacterIndex = 0;

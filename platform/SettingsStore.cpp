@@ -1,5 +1,6 @@
 #include "platform/SettingsStore.h"
 
+#include "platform/LeadingNumber.h"
 #include "platform/Platform.h"
 
 #include <QDateTime>
@@ -77,18 +78,10 @@ QString text(const QVariant& value) {
                                                     : value.toString();
 }
 
-/// What the pattern finds. Truth comes back from the file as a word, yet counts as 1.
-QString leading(const QVariant& value, const QRegularExpression& pattern) {
+/// Truth comes back from the file as a word, yet counts as 1.
+QString numeral(const QVariant& value) {
     const auto whole = text(value);
-    return whole == u"true" ? u"1"_s : pattern.match(whole).captured(1);
-}
-
-qint64 saturated(double value) {
-    constexpr auto limit = 9223372036854774784.0;
-    if (std::isnan(value)) {
-        return 0;
-    }
-    return static_cast<qint64>(std::trunc(std::clamp(value, -limit, limit)));
+    return whole == u"true" ? u"1"_s : whole;
 }
 
 } // namespace
@@ -128,13 +121,9 @@ qint64 SettingsStore::integerForKey(const QString& key) const {
     const auto value = objectForKey(key);
     if (isNumber(value)) {
         return value.typeId() == QMetaType::LongLong ? value.toLongLong()
-                                                     : saturated(value.toDouble());
+                                                     : LeadingNumber::integerPart(value.toDouble());
     }
-    static const QRegularExpression integer(u"^\\s*([-+]?[0-9]+)"_s);
-    const auto digits = leading(value, integer);
-    bool fits = false;
-    const auto number = digits.toLongLong(&fits);
-    return fits ? number : saturated(digits.toDouble());
+    return LeadingNumber::integer(numeral(value));
 }
 
 double SettingsStore::doubleForKey(const QString& key) const {
@@ -142,9 +131,7 @@ double SettingsStore::doubleForKey(const QString& key) const {
     if (isNumber(value)) {
         return value.toDouble();
     }
-    static const QRegularExpression real(
-        u"^\\s*([-+]?(?:[0-9]+\\.?[0-9]*|\\.[0-9]+)(?:[eE][-+]?[0-9]+)?)"_s);
-    return leading(value, real).toDouble();
+    return LeadingNumber::real(numeral(value));
 }
 
 QString SettingsStore::stringForKey(const QString& key) const {

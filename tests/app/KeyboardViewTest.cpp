@@ -28,6 +28,7 @@ class KeyboardViewTest : public QObject {
     void aClearedTextShowsEmpty();
     void deletingEverythingStartsOver();
     void theEnginesTextShowsFromTheStart();
+    void nothingIsSentAgainByUndo();
 
   private:
     std::optional<KeyerBench> _bench;
@@ -124,6 +125,16 @@ void KeyboardViewTest::theEnginesTextShowsFromTheStart() {
     KeyboardView second;
     second.setEngine(_bench->engine());
     QCOMPARE(second.toPlainText(), u"TEST"_s);
+}
+
+void KeyboardViewTest::nothingIsSentAgainByUndo() {
+    QTest::keyClicks(&*_view, u"e"_s);
+    _bench->receive({'E'});
+    _bench->receive({0xC2});
+    QCOMPARE(_bench->written(), "45");
+    QTest::keySequence(&*_view, QKeySequence::Undo);
+    QCOMPARE(_view->toPlainText(), u""_s);
+    QCOMPARE(_bench->written(), "");
 }
 
 QTEST_MAIN(KeyboardViewTest)

@@ -307,6 +307,8 @@ void WinKeyerUsbConnectionTest::aRemovedPortIsLetGo() {
     QTest::ignoreMessage(QtInfoMsg, "-[WinKeyerUsb serialPortWasRemovedFromSystem:]");
     _bench->platform().devices().unplug(_bench->device());
     QVERIFY(!_bench->engine().isConnected());
+    QVERIFY(!_bench->engine().echoTest(nullptr));
+    _bench->settings().setObject(QString(KeyerBench::portName), WKPortName);
     QVERIFY(_bench->engine().disconnect(nullptr));
     QVERIFY(_bench->clock().naps().isEmpty());
     QCOMPARE(_bench->settings().stringForKey(WKPortName), QString(KeyerBench::portName));
@@ -343,6 +345,7 @@ void WinKeyerUsbConnectionTest::versionsFrom20To23AreAccepted_data() {
     QTest::newRow("22") << u"22"_s << true << QString();
     QTest::newRow("23") << u"23"_s << true << QString();
     QTest::newRow("24") << u"24"_s << false << u"24"_s;
+    QTest::newRow("the leading number counts") << u"23.1"_s << true << QString();
     QTest::newRow("none counts as 0") << QString() << false << u"0"_s;
 }
 

@@ -328,6 +328,15 @@ void WinKeyerUsbSendingTest::controlCharactersCostNoStack() {
 void WinKeyerUsbSendingTest::charactersThatAreNoTextNeverReachTheKeyer() {
     _bench->engine().appendMessage(u"A\n\x0B\u00C4"_s + QChar(0x3A9));
     QCOMPARE(_bench->engine().keyboardBuffer(), u"A"_s);
+    _bench->receive({'A'});
+    static_cast<void>(_bench->written());
+
+    _bench->engine().setHisCallsign(u"K\u03A9\u00C4\n1\t"_s);
+    _bench->engine().appendMessage(u"~E"_s);
+    for (int echo = 0; echo < 4; ++echo) {
+        _bench->receive({'E'});
+    }
+    QCOMPARE(_bench->written(), "20 4b 31 45");
 }
 
 QTEST_GUILESS_MAIN(WinKeyerUsbSendingTest)
