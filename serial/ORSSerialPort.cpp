@@ -21,7 +21,7 @@ std::shared_ptr<ORSSerialPort> ORSSerialPort::serialPortWithDevice(DeviceHandle 
     if (auto existing = existingPortWithPath(path)) {
         return existing;
     }
-    const std::shared_ptr<ORSSerialPort> port(new ORSSerialPort(device, path));
+    std::shared_ptr<ORSSerialPort> port(new ORSSerialPort(device, path));
     addSerialPort(*port);
     return port;
 }

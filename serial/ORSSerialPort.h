@@ -181,6 +181,7 @@ class ORSSerialPort final : public QObject, public std::enable_shared_from_this<
     void setOutputLine(int& line, int value, int bit, void (ORSSerialPort::*changed)());
     void setInputLine(std::atomic<bool>& line, bool value, void (ORSSerialPort::*changed)());
     void synchronizeOutputLines();
+    void requestLowLatency();
 
     QPointer<LivePorts> _livePorts;
     std::shared_ptr<MainQueue> _mainQueue;
@@ -198,6 +199,7 @@ class ORSSerialPort final : public QObject, public std::enable_shared_from_this<
     bool _usesRTSCTSFlowControl = false;
     bool _usesDTRDSRFlowControl = false;
     bool _usesDCDOutputFlowControl = false;
+    bool _hasToldOfLowLatency = false;
     int _rts = 0;
     int _dtr = 0;
     std::atomic<bool> _cts = false;

@@ -1,9 +1,14 @@
+#include "platform/Log.h"
 #include "serial/ExclusiveDevice.h"
+#include "serial/LowLatency.h"
 #include "serial/ORSSerialPort.h"
 #include "serial/PortOpening.h"
 
 #include <sys/eventfd.h>
 #include <unistd.h>
+#include <utility>
+
+using namespace Qt::StringLiterals;
 
 bool ORSSerialPort::isOpen() const {
     return _fileDescriptor != 0;
@@ -26,6 +31,7 @@ void ORSSerialPort::open() {
     const auto self = shared_from_this();
     _opening = std::make_unique<PortOpening>(std::move(descriptor), std::move(wakeUp));
     _fileDescriptor = _opening->descriptor();
+    requestLowLatency();
     setPortOptions();
     synchronizeOutputLines();
     if (!isOpen()) {
@@ -39,6 +45,12 @@ void ORSSerialPort::open() {
     });
     _opening->startWorkers(self, _mainQueue);
     Q_EMIT isOpenChanged();
+}
+
+void ORSSerialPort::requestLowLatency() {
+    if (LowLatency::obtain(_fileDescriptor) && !std::exchange(_hasToldOfLowLatency, true)) {
+        logLine(u"Low latency is on for %1"_s.arg(description()));
+    }
 }
 
 bool ORSSerialPort::close() {

@@ -4,6 +4,7 @@
 #include <cerrno>
 #include <cstdarg>
 #include <fcntl.h>
+#include <linux/serial.h>
 #include <map>
 #include <mutex>
 #include <poll.h>
@@ -34,6 +35,9 @@ struct Table {
     QList<SystemCallFaults::SetAttributes> setAttributes;
     std::optional<int> modemWord;
     QList<int> modemWordsSet;
+    std::optional<int> serialFlags;
+    int knownSerialFlags = 0;
+    std::optional<int> closeError;
 };
 
 std::mutex mutex;
@@ -81,6 +85,20 @@ bool answersModemRequest(unsigned long request, void* argument) {
     return true;
 }
 
+bool answersSerialRequest(unsigned long request, void* argument) {
+    const std::scoped_lock lock(mutex);
+    if (!table || !table->serialFlags || (request != TIOCGSERIAL && request != TIOCSSERIAL)) {
+        return false;
+    }
+    auto& settings = *static_cast<serial_struct*>(argument);
+    if (request == TIOCGSERIAL) {
+        settings.flags = *table->serialFlags;
+    } else {
+        table->serialFlags = settings.flags & table->knownSerialFlags;
+    }
+    return true;
+}
+
 template <typename Result>
 std::optional<Result> taken(std::optional<Result> Table::*member) {
     const std::scoped_lock lock(mutex);
@@ -116,6 +134,11 @@ void SystemCallFaults::mend() {
     const std::scoped_lock lock(mutex);
     table->rules.clear();
     table->pollIsReadable = false;
+}
+
+void SystemCallFaults::failNextCloseAfterwards(int error) {
+    const std::scoped_lock lock(mutex);
+    table->closeError = error;
 }
 
 void SystemCallFaults::shortenNextWrite(size_t length) {
@@ -161,6 +184,17 @@ void SystemCallFaults::setModemWord(int word) {
 int SystemCallFaults::modemWord() const {
     const std::scoped_lock lock(mutex);
     return table->modemWord.value_or(0);
+}
+
+void SystemCallFaults::setSerialFlags(int flags, int known) {
+    const std::scoped_lock lock(mutex);
+    table->serialFlags = flags;
+    table->knownSerialFlags = known;
+}
+
+int SystemCallFaults::serialFlags() const {
+    const std::scoped_lock lock(mutex);
+    return table->serialFlags.value_or(0);
 }
 
 QList<int> SystemCallFaults::modemWordsSet() const {
@@ -228,7 +262,10 @@ int __wrap_ioctl(int descriptor, unsigned long request, ...) {
     if (fails(SystemCall::Ioctl, descriptor, request)) {
         return -1;
     }
-    return answersModemRequest(request, argument) ? 0 : __real_ioctl(descriptor, request, argument);
+    if (answersModemRequest(request, argument) || answersSerialRequest(request, argument)) {
+        return 0;
+    }
+    return __real_ioctl(descriptor, request, argument);
 }
 
 int __wrap_flock(int descriptor, int operation) {
@@ -262,6 +299,14 @@ ssize_t __wrap_write(int descriptor, const void* buffer, size_t length) {
 }
 
 int __wrap_close(int descriptor) {
-    return fails(SystemCall::Close, descriptor) ? -1 : __real_close(descriptor);
+    if (fails(SystemCall::Close, descriptor)) {
+        return -1;
+    }
+    const int result = __real_close(descriptor);
+    if (const auto error = taken(&Table::closeError)) {
+        errno = *error;
+        return -1;
+    }
+    return result;
 }
 }

@@ -28,6 +28,9 @@ class SystemCallFaults {
     /// Ends all failures.
     void mend();
 
+    /// Has the next close let go of the descriptor and then tell of this error.
+    void failNextCloseAfterwards(int error);
+
     /// Has the next write take no more than `length` bytes.
     void shortenNextWrite(size_t length);
     /// Has open return this descriptor, once.
@@ -50,6 +53,10 @@ class SystemCallFaults {
     /// Gives every terminal these modem lines: TIOCMGET reads the word, TIOCMSET writes it.
     void setModemWord(int word);
     [[nodiscard]] int modemWord() const;
+    /// Gives every terminal a driver's settings with these flags: TIOCGSERIAL reads them,
+    /// TIOCSSERIAL writes them, all of them or those that the driver knows.
+    void setSerialFlags(int flags, int known = ~0);
+    [[nodiscard]] int serialFlags() const;
     /// The words that TIOCMSET was given, in order.
     [[nodiscard]] QList<int> modemWordsSet() const;
 };
