@@ -1,5 +1,7 @@
 #include "serial/ExclusiveDevice.h"
 
+#include "serial/Uninterrupted.h"
+
 #include <QFile>
 
 #include <cerrno>
@@ -13,7 +15,8 @@ namespace {
 // all but root. A file system that has no locks is no reason to do without the device; a node
 // that refuses exclusive mode is no live terminal.
 bool lock(const FileDescriptor& descriptor) {
-    if (::flock(descriptor.get(), LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK) {
+    const int result = uninterrupted([&] { return ::flock(descriptor.get(), LOCK_EX | LOCK_NB); });
+    if (result != 0 && errno == EWOULDBLOCK) {
         return false;
     }
     return ::ioctl(descriptor.get(), TIOCEXCL) == 0;
@@ -25,7 +28,8 @@ namespace ExclusiveDevice {
 
 FileDescriptor open(const QString& path) {
     const auto name = QFile::encodeName(path);
-    FileDescriptor descriptor(::open(name.constData(), O_RDWR | O_NOCTTY | O_NONBLOCK | O_CLOEXEC));
+    FileDescriptor descriptor(uninterrupted(
+        [&] { return ::open(name.constData(), O_RDWR | O_NOCTTY | O_NONBLOCK | O_CLOEXEC); }));
     // 0 marks a closed port, so it cannot be an open one.
     if (descriptor.get() <= 0 || !lock(descriptor)) {
         const int number = errno;

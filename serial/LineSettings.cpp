@@ -1,5 +1,7 @@
 #include "serial/LineSettings.h"
 
+#include "serial/Uninterrupted.h"
+
 #include <algorithm>
 #include <array>
 #include <cerrno>
@@ -29,6 +31,15 @@ std::optional<speed_t> standardSpeed(unsigned long baudRate) {
     const auto found = std::find_if(standardSpeeds.begin(), standardSpeeds.end(),
                                     [=](const auto& each) { return each.first == baudRate; });
     return found != standardSpeeds.end() ? std::optional(found->second) : std::nullopt;
+}
+
+int readRecord(int descriptor, termios& record) {
+    return uninterrupted([&] { return ::tcgetattr(descriptor, &record); });
+}
+
+// A wait for output to go out may be interrupted.
+int writeRecord(int descriptor, int when, const termios& record) {
+    return uninterrupted([&] { return ::tcsetattr(descriptor, when, &record); });
 }
 
 void setFlag(tcflag_t& flags, tcflag_t flag, bool isSet) {
@@ -74,11 +85,11 @@ void LineSettings::edit(termios& record, const LineSettings& settings) {
 
 int LineSettings::apply(const LineSettings& settings, int descriptor) {
     termios record = {};
-    if (const int result = ::tcgetattr(descriptor, &record); result != 0) {
+    if (const int result = readRecord(descriptor, record); result != 0) {
         return result;
     }
     edit(record, settings);
-    if (const int result = ::tcsetattr(descriptor, TCSANOW, &record); result != 0) {
+    if (const int result = writeRecord(descriptor, TCSANOW, record); result != 0) {
         return result;
     }
     return standardSpeed(settings.baudRate) ? 0
@@ -87,7 +98,7 @@ int LineSettings::apply(const LineSettings& settings, int descriptor) {
 
 SavedLineSettings::SavedLineSettings(int descriptor) {
     termios record = {};
-    if (::tcgetattr(descriptor, &record) == 0) {
+    if (readRecord(descriptor, record) == 0) {
         _record = record;
         _speed = LineSpeed::current(descriptor);
     }
@@ -95,12 +106,12 @@ SavedLineSettings::SavedLineSettings(int descriptor) {
 
 void SavedLineSettings::restore(int descriptor) const {
     termios record = {};
-    if (::tcgetattr(descriptor, &record) == 0) {
+    if (readRecord(descriptor, record) == 0) {
         setFlag(record.c_cflag, CRTSCTS, false);
-        static_cast<void>(::tcsetattr(descriptor, TCSANOW, &record));
+        static_cast<void>(writeRecord(descriptor, TCSANOW, record));
     }
     if (_record) {
-        static_cast<void>(::tcsetattr(descriptor, TCSADRAIN, &*_record));
+        static_cast<void>(writeRecord(descriptor, TCSADRAIN, *_record));
     }
     // The record does not hold a speed that has no constant.
     if (_speed && LineSpeed::current(descriptor) != _speed) {
