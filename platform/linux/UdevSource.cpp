@@ -36,7 +36,7 @@ QString kernelName(udev_device* device) {
 
 /// The adapter's serial number as udev gives it, else as the adapter does, made fit for a name.
 QString usbSerialNumber(udev_device* device, udev_device* adapter) {
-    if (const auto number = property(device, "ID_SERIAL_SHORT"); !number.isEmpty()) {
+    if (auto number = property(device, "ID_SERIAL_SHORT"); !number.isEmpty()) {
         return number;
     }
     if (adapter == nullptr) {
