@@ -1,5 +1,6 @@
 #include "app/DesktopApplication.h"
 
+#include "serial/ORSSerialPortManager.h"
 #include "tests/support/TestPlatform.h"
 
 #include <QApplication>
@@ -19,6 +20,7 @@ class DesktopApplicationTest : public QObject {
     void aStatementHasOneButton();
     void anErrorShowsItsMessageAndSuggestion();
     void textIsShownAsItStands();
+    void devicesThatComeMeanwhileAreAnnouncedAfterwards();
 
   private:
     /// Runs `action` on the alert once it is up.
@@ -87,6 +89,35 @@ void DesktopApplicationTest::textIsShownAsItStands() {
     });
     _application.runModal({.messageText = u"<b>port</b>"_s, .informativeText = {}});
     QVERIFY(_wasShown);
+}
+
+void DesktopApplicationTest::devicesThatComeMeanwhileAreAnnouncedAfterwards() {
+    auto& manager = ORSSerialPortManager::sharedSerialPortManager();
+    QStringList announced;
+    const auto note = [&](const Notification& notification) {
+        announced.append(notification.name);
+    };
+    QObject observer;
+    auto& center = _platform.notifications();
+    center.addObserver(&observer, ORSSerialPortWasConnectedNotification, note);
+    center.addObserver(&observer, ORSSerialPortWasDisconnectedNotification, note);
+    qsizetype announcedMeanwhile = 0;
+    whileShown([&](QMessageBox& box) {
+        const auto device = _platform.devices().plug(u"a"_s, u"/dev/a"_s);
+        _platform.devices().plug(u"b"_s, u"/dev/b"_s);
+        _platform.devices().unplug(device);
+        QCoreApplication::processEvents();
+        announcedMeanwhile = announced.size();
+        box.accept();
+    });
+    _application.runModal({.messageText = u"Wait."_s, .informativeText = {}});
+    QVERIFY(_wasShown);
+    QCOMPARE(announcedMeanwhile, 0);
+    QTRY_COMPARE(announced, (QStringList{ORSSerialPortWasConnectedNotification,
+                                         ORSSerialPortWasConnectedNotification,
+                                         ORSSerialPortWasDisconnectedNotification}));
+    QCOMPARE(manager.countOfAvailablePorts(), 1);
+    QCOMPARE(manager.objectInAvailablePortsAtIndex(0)->name(), u"b"_s);
 }
 
 QTEST_MAIN(DesktopApplicationTest)

@@ -1,6 +1,13 @@
 #include "tests/support/FakeDeviceRegistry.h"
 
+#include <QScopedValueRollback>
+
 #include <algorithm>
+
+FakeDeviceRegistry::FakeDeviceRegistry() {
+    connect(this, &DeviceRegistry::announcementsResumed, this, &FakeDeviceRegistry::announceWaiting,
+            Qt::QueuedConnection);
+}
 
 FakeDeviceRegistry::Properties FakeDeviceRegistry::device(const QString& name,
                                                           const QString& calloutPath,
@@ -19,7 +26,7 @@ QList<DeviceHandle> FakeDeviceRegistry::plug(const QList<Properties>& devices) {
         arrived.append(handle);
     }
     _present.append(arrived);
-    announce(DeviceEvent::Publish, arrived);
+    enqueue(DeviceEvent::Publish, arrived);
     return arrived;
 }
 
@@ -30,10 +37,7 @@ DeviceHandle FakeDeviceRegistry::plug(const QString& name, const QString& callou
 
 void FakeDeviceRegistry::unplug(const QList<DeviceHandle>& devices) {
     _present.removeIf([&](DeviceHandle each) { return devices.contains(each); });
-    announce(DeviceEvent::Terminate, devices);
-    for (const auto handle : devices) {
-        forgetUnlessNeeded(handle);
-    }
+    enqueue(DeviceEvent::Terminate, devices);
 }
 
 void FakeDeviceRegistry::unplug(DeviceHandle device) {
@@ -87,17 +91,50 @@ void FakeDeviceRegistry::release(DeviceHandle device) {
     forgetUnlessNeeded(device);
 }
 
-void FakeDeviceRegistry::announce(DeviceEvent event, const QList<DeviceHandle>& devices) {
-    const auto registrations = _registrations;
-    for (const auto& each : registrations) {
-        if (each.event == event) {
-            each.callback(each.context, devices);
+void FakeDeviceRegistry::enqueue(DeviceEvent event, const QList<DeviceHandle>& devices) {
+    const bool isFirst = _announcements.isEmpty();
+    _announcements.append({event, devices, _lastIterator});
+    if (isFirst) {
+        announceWaiting();
+    }
+}
+
+void FakeDeviceRegistry::announceWaiting() {
+    if (_isAnnouncing) {
+        return;
+    }
+    const QScopedValueRollback guard(_isAnnouncing, true);
+    while (!_announcements.isEmpty() && !areAnnouncementsHeld()) {
+        const auto announcement = _announcements.takeFirst();
+        announce(announcement);
+        for (const auto device : announcement.devices) {
+            forgetUnlessNeeded(device);
         }
     }
 }
 
+void FakeDeviceRegistry::announce(const Announcement& announcement) {
+    const auto registrations = _registrations;
+    for (const auto& each : registrations) {
+        if (each.event == announcement.event && each.iterator <= announcement.lastIterator &&
+            isRegistered(each.iterator)) {
+            each.callback(each.context, announcement.devices);
+        }
+    }
+}
+
+bool FakeDeviceRegistry::isRegistered(quint32 iterator) const {
+    return std::any_of(_registrations.begin(), _registrations.end(),
+                       [iterator](const auto& each) { return each.iterator == iterator; });
+}
+
+bool FakeDeviceRegistry::isAwaited(DeviceHandle device) const {
+    return std::any_of(_announcements.begin(), _announcements.end(),
+                       [device](const auto& each) { return each.devices.contains(device); });
+}
+
 void FakeDeviceRegistry::forgetUnlessNeeded(DeviceHandle device) {
-    if (!_present.contains(device) && retainCount(device) <= 0) {
+    if (!_present.contains(device) && !isAwaited(device) && retainCount(device) <= 0) {
         _properties.remove(device);
     }
 }

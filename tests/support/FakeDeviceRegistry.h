@@ -12,18 +12,19 @@ class FakeDeviceRegistry final : public DeviceRegistry {
   public:
     using Properties = QHash<QString, QString>;
 
-    using DeviceRegistry::DeviceRegistry;
+    FakeDeviceRegistry();
 
     /// The properties of an ordinary device: its name, its node, and a second path if it has one.
     [[nodiscard]] static Properties device(const QString& name, const QString& calloutPath,
                                            const QString& dialinPath = {});
 
-    /// Plugs devices in, in one set, at the end of the list, and tells those who registered.
+    /// Plugs devices in, in one set, at the end of the list, and tells those who registered: at
+    /// once, unless announcements are held or this is such an announcement.
     QList<DeviceHandle> plug(const QList<Properties>& devices);
     DeviceHandle plug(const QString& name, const QString& calloutPath,
                       const QString& dialinPath = {});
 
-    /// Takes devices away, in one set, and tells those who registered.
+    /// Takes devices away, in one set, and tells those who registered, likewise.
     void unplug(const QList<DeviceHandle>& devices);
     void unplug(DeviceHandle device);
 
@@ -52,13 +53,26 @@ class FakeDeviceRegistry final : public DeviceRegistry {
         QObject* context;
     };
 
-    void announce(DeviceEvent event, const QList<DeviceHandle>& devices);
+    /// Devices that came or went at one moment, for the registrations that there were then.
+    struct Announcement {
+        DeviceEvent event;
+        QList<DeviceHandle> devices;
+        quint32 lastIterator;
+    };
+
+    void enqueue(DeviceEvent event, const QList<DeviceHandle>& devices);
+    void announceWaiting();
+    void announce(const Announcement& announcement);
+    [[nodiscard]] bool isRegistered(quint32 iterator) const;
+    [[nodiscard]] bool isAwaited(DeviceHandle device) const;
     void forgetUnlessNeeded(DeviceHandle device);
 
     QList<DeviceHandle> _present;
     QHash<DeviceHandle, Properties> _properties;
     QHash<DeviceHandle, int> _retains;
     QList<Registration> _registrations;
+    QList<Announcement> _announcements;
+    bool _isAnnouncing = false;
     QList<DeviceEvent> _failingEvents;
     bool _matchingFails = false;
     DeviceHandle _lastHandle = noDevice;
