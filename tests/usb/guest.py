@@ -4,7 +4,7 @@ import contextlib
 import pathlib
 import re
 
-from channel import Channel
+from channel import PATIENCE, Channel
 from monitor import Monitor
 from process import Process
 
@@ -12,6 +12,8 @@ ADAPTER = {"driver": "usb-serial", "id": "adapter", "bus": "usb.0", "chardev": "
            "serial": "WK0001", "always-plugged": "on"}
 # An ordinary user of serial ports, as far as the guest's kernel can tell.
 AS_USER = "setpriv --reuid=12345 --regid=12345 --groups=dialout --no-new-privs"
+
+BOOT_PATIENCE = 120  # seconds; a host with other work takes a few times as long as an idle one
 
 
 class Guest:
@@ -30,7 +32,7 @@ class Guest:
             self.probe = self._connect(Channel, "probe")
             self.is_plugged = True
             # Heard by the shell as soon as there is one.
-            self.run(":")
+            self.run(":", BOOT_PATIENCE)
         except BaseException:
             print(f"The guest said last:\n{self.log()}", flush=True)
             self.end()
@@ -41,11 +43,11 @@ class Guest:
             channel.close()
         self._qemu.end()
 
-    def run(self, command):
+    def run(self, command, patience=PATIENCE):
         """Runs a command of the shell's as root; its exit status, and what it said."""
         self._shell.send(f"{{ {command}\n}} </dev/null 2>&1; echo \"=end $?\"")
         *output, end = self._shell.expect(f"the end of {command}",
-                                          lambda line: re.fullmatch(r"=end \d+", line))
+                                          lambda line: re.fullmatch(r"=end \d+", line), patience)
         return int(end.split()[1]), "\n".join(output)
 
     def read(self, command):
