@@ -22,9 +22,10 @@ void ORSSerialPort::open() {
     if (isOpen()) {
         return;
     }
-    auto descriptor = ExclusiveDevice::open(_path);
+    // The device comes last: given up here, a pseudo-terminal would stay locked.
     FileDescriptor wakeUp(::eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK));
-    if (!descriptor.isValid() || !wakeUp.isValid()) {
+    auto descriptor = wakeUp.isValid() ? ExclusiveDevice::open(_path) : FileDescriptor();
+    if (!descriptor.isValid()) {
         queueErrorReport();
         return;
     }
@@ -38,12 +39,21 @@ void ORSSerialPort::open() {
         // An observer of the lines closed the port.
         return;
     }
-    _mainQueue->async([self] {
-        if (auto* const told = self->delegate()) {
+    // Queued ahead of the reader's first bytes, yet told only if there is a reader.
+    const auto hasWorkers = std::make_shared<bool>(false);
+    _mainQueue->async([self, hasWorkers] {
+        if (auto* const told = self->delegate(); *hasWorkers && told != nullptr) {
             told->serialPortWasOpened(*self);
         }
     });
-    _opening->startWorkers(self, _mainQueue);
+    *hasWorkers = _opening->startWorkers(self, _mainQueue);
+    if (!*hasWorkers) {
+        static_cast<void>(_opening->close());
+        _fileDescriptor = 0;
+        _opening.reset();
+        queueErrorReport();
+        return;
+    }
     Q_EMIT isOpenChanged();
 }
 
@@ -60,7 +70,7 @@ bool ORSSerialPort::close() {
     const auto self = shared_from_this();
     _writeBuffer.clear();
     if (!_opening->close()) {
-        _opening->startWorkers(self, _mainQueue);
+        static_cast<void>(_opening->startWorkers(self, _mainQueue));
         return false;
     }
     _fileDescriptor = 0;

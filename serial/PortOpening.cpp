@@ -2,15 +2,23 @@
 
 #include "serial/ExclusiveDevice.h"
 
+#include <system_error>
+
 PortOpening::PortOpening(FileDescriptor descriptor, FileDescriptor wakeUp)
     : _descriptor(std::move(descriptor)),
       _wakeUp(std::move(wakeUp)),
       _savedSettings(_descriptor.get()) {}
 
-void PortOpening::startWorkers(const std::shared_ptr<ORSSerialPort>& port,
+bool PortOpening::startWorkers(const std::shared_ptr<ORSSerialPort>& port,
                                const std::shared_ptr<MainQueue>& mainQueue) {
-    _reader.emplace(_descriptor.get(), _wakeUp.get(), port, mainQueue);
-    _pinPoller.emplace(_descriptor.get(), port, mainQueue);
+    try {
+        _reader.emplace(_descriptor.get(), _wakeUp.get(), port, mainQueue);
+        _pinPoller.emplace(_descriptor.get(), port, mainQueue);
+        return true;
+    } catch (const std::system_error&) {
+        _reader.reset();
+        return false;
+    }
 }
 
 // The workers end first: with the old settings back, which may make it a line of whole lines, a

@@ -18,8 +18,9 @@ class PortOpening {
     [[nodiscard]] int descriptor() const { return _descriptor.get(); }
 
     /// From here to close() the workers keep the port alive.
-    void startWorkers(const std::shared_ptr<ORSSerialPort>& port,
-                      const std::shared_ptr<MainQueue>& mainQueue);
+    /// False, and no worker left, when the system has no thread to give.
+    [[nodiscard]] bool startWorkers(const std::shared_ptr<ORSSerialPort>& port,
+                                    const std::shared_ptr<MainQueue>& mainQueue);
 
     /// Ends the workers, puts the old line settings back, and closes the descriptor. When that
     /// last step is refused it returns false, and the descriptor is still held, without workers.

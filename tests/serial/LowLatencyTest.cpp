@@ -87,6 +87,15 @@ class LowLatencyTest : public QObject {
         QCOMPARE(faults.serialFlags(), lowLatency);
     }
 
+    void aTimerOfOneMillisecondNeedsNoFlag() {
+        SystemCallFaults faults;
+        faults.setSerialFlags(0);
+        const PseudoTerminalPair line;
+        const FakeSysfs sysfs(line.farEnd(), "1\n");
+        QVERIFY(!LowLatency::obtain(line.farEnd(), sysfs.path()));
+        QCOMPARE(faults.serialFlags(), 0);
+    }
+
     void aFlagIsSetBesidesTheOthers_data() {
         QTest::addColumn<int>("before");
         QTest::addColumn<int>("known");

@@ -8,6 +8,7 @@
 #include <fcntl.h>
 #include <sys/file.h>
 #include <sys/ioctl.h>
+#include <sys/resource.h>
 #include <thread>
 #include <unistd.h>
 
@@ -186,6 +187,31 @@ class ORSSerialPortOpeningTest : public QObject {
         QCOMPARE(::ioctl(descriptor, TIOCGEXCL, &isExclusive), 0);
         ::close(descriptor);
         QCOMPARE(isExclusive, 0);
+    }
+
+    void anOpenForWhichThereAreNotEnoughDescriptorsLocksNobodyOut() {
+        PortBench bench;
+        const auto path = bench.line.path().toLocal8Bit();
+        const int first = ::dup(STDERR_FILENO);
+        const int second = ::dup(STDERR_FILENO);
+        ::close(first);
+        ::close(second);
+        rlimit limit{};
+        QCOMPARE(::getrlimit(RLIMIT_NOFILE, &limit), 0);
+        const auto usual = limit.rlim_cur;
+        limit.rlim_cur = static_cast<rlim_t>(second);
+        QCOMPARE(::setrlimit(RLIMIT_NOFILE, &limit), 0);
+        bench.port->open();
+        limit.rlim_cur = usual;
+        QCOMPARE(::setrlimit(RLIMIT_NOFILE, &limit), 0);
+        QVERIFY(!bench.port->isOpen());
+        QTRY_COMPARE(bench.delegate.events(), QStringList{u"error"_s});
+        const int descriptor = ::open(path.constData(), O_RDWR | O_NOCTTY | O_CLOEXEC);
+        int isExclusive = -1;
+        QCOMPARE(::ioctl(descriptor, TIOCGEXCL, &isExclusive), 0);
+        ::close(descriptor);
+        QCOMPARE(isExclusive, 0);
+        QVERIFY(bench.port->close());
     }
 
     void aMissingNodeOrAFileThatIsNoTerminalDoesNotOpen_data() {
