@@ -22,9 +22,9 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int usualCycles = 300;
-/// What the heap may have grown by after the first tenth of all lives: far less than one byte for
-/// each of ten thousand.
-constexpr size_t heapSlack = 8192;
+/// What the heap may have grown by after the first tenth of all lives: less than one port object
+/// for each of the usual lives, and than a few bytes for each of ten thousand.
+constexpr size_t heapSlack = 65536;
 
 qsizetype entryCount(const QString& directory) {
     return QDir(directory).entryList(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::System).size();

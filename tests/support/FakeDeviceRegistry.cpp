@@ -87,7 +87,9 @@ void FakeDeviceRegistry::retain(DeviceHandle device) {
 }
 
 void FakeDeviceRegistry::release(DeviceHandle device) {
-    --_retains[device];
+    if (--_retains[device] == 0) {
+        _retains.remove(device);
+    }
     forgetUnlessNeeded(device);
 }
 
