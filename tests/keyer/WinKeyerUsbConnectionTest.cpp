@@ -7,6 +7,7 @@
 
 #include <cerrno>
 #include <optional>
+#include <sys/ioctl.h>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -218,8 +219,23 @@ void WinKeyerUsbConnectionTest::connectingWhileConnectedSendsEverythingAgain() {
 }
 
 void WinKeyerUsbConnectionTest::whatTheKeyerSendsMeanwhileIsHandledAfterwards() {
-    QVERIFY(_bench->engine().connect(nullptr));
-    QVERIFY(_bench->line().write(QByteArray::fromHex("8c")));
+    // The pot's byte comes ahead of host mode, in which alone it counts, and the reader has it
+    // before the sequence goes on.
+    bool isRead = false;
+    bool isSent = false;
+    {
+        SystemCallFaults faults;
+        faults.beforeEach(SystemCall::Write, [&](int descriptor) {
+            if (!isSent && descriptor == _bench->port().fileDescriptor()) {
+                isSent = _bench->line().write(QByteArray::fromHex("8c"));
+                for (int waiting = 1; waiting > 0;) {
+                    isRead = ::ioctl(descriptor, FIONREAD, &waiting) == 0;
+                }
+            }
+        });
+        QVERIFY(_bench->engine().connect(nullptr));
+    }
+    QVERIFY(isSent && isRead);
     QVERIFY(_bench->engine().speedString().isNull());
     QTRY_COMPARE(_bench->engine().speedString(), u"25 WPM"_s);
 }

@@ -2,6 +2,7 @@
 #include "keyer/KeyerSettings.h"
 #include "keyer/MessageSettings.h"
 #include "tests/keyer/KeyerBench.h"
+#include "tests/support/LogKeeper.h"
 #include "tests/support/SystemCallFaults.h"
 
 #include <QTest>
@@ -50,6 +51,7 @@ class WinKeyerUsbSendingTest : public QObject {
     void highSpeedReadsItsSetting();
     void stoppingClearsTheKeyersBufferToo();
     void stoppingWhileNotConnectedOnlyForgets();
+    void stoppingWhileThePortIsClosedOnlyForgets();
     void nothingIsSentWhilePaused();
     void textStaysAfterItWasSent();
     void theFirstCharacterIsLostWhileNotConnected();
@@ -285,6 +287,15 @@ void WinKeyerUsbSendingTest::stoppingWhileNotConnectedOnlyForgets() {
     _bench->engine().stopMessageSending(nullptr);
     QCOMPARE(_bench->engine().keyboardBuffer(), u""_s);
     QCOMPARE(_bench->written(), "");
+}
+
+void WinKeyerUsbSendingTest::stoppingWhileThePortIsClosedOnlyForgets() {
+    _bench->type(u"CQ"_s);
+    QVERIFY(_bench->port().close());
+    const LogKeeper log;
+    _bench->engine().stopMessageSending(nullptr);
+    QCOMPARE(_bench->engine().keyboardBuffer(), u""_s);
+    QCOMPARE(log.lines(), QStringList());
 }
 
 void WinKeyerUsbSendingTest::nothingIsSentWhilePaused() {
