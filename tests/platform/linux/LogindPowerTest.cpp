@@ -77,12 +77,12 @@ class LogindPowerTest : public QObject {
     void letsGoOfTheLockOnceTheObserversHaveRun() {
         start();
         QTRY_COMPARE(_logind->heldLocks(), 1);
-        qsizetype heldMeanwhile = 0;
-        _observer->reaction = [&] { heldMeanwhile = _logind->heldLocks(); };
+        const auto heldMeanwhile = std::make_shared<qsizetype>(0);
+        _observer->reaction = [this, heldMeanwhile] { *heldMeanwhile = _logind->heldLocks(); };
         _logind->announceSleep();
         QTRY_COMPARE(_observer->posted, slept);
         QCOMPARE(_observer->sender, _power.get());
-        QCOMPARE(heldMeanwhile, 1);
+        QCOMPARE(*heldMeanwhile, 1);
         QTRY_COMPARE(_logind->heldLocks(), 0);
         QCOMPARE(_logind->requests().size(), 1);
     }
@@ -129,8 +129,7 @@ class LogindPowerTest : public QObject {
     void aSleepThatEndsWhileAnObserverWaitsLeavesALock() {
         start();
         QTRY_COMPARE(_logind->heldLocks(), 1);
-        bool isFirst = true;
-        _observer->reaction = [&] {
+        _observer->reaction = [this, isFirst = true]() mutable {
             if (std::exchange(isFirst, false)) {
                 _logind->announceWake();
                 QTRY_COMPARE(_observer->posted, sleptAndWoke);
