@@ -4,6 +4,7 @@
 #include "tests/serial/ManagerObserver.h"
 #include "tests/support/PseudoTerminalPair.h"
 #include "tests/support/RecordingDelegate.h"
+#include "tests/support/SystemCallFaults.h"
 
 #include <QSignalSpy>
 
@@ -19,6 +20,7 @@ class ORSSerialPortManagerPowerTest : public ManagerBench {
     void cleanup() { end(); }
 
     void closesTheOpenPortForSleep();
+    void doesNotRememberAPortThatStaysOpen();
     void forgetsAPortThatDoesNotReopen();
     void hearsOfSleepFromAnySender();
     void cleansEveryPortUpAtTheEnd();
@@ -46,6 +48,21 @@ void ORSSerialPortManagerPowerTest::closesTheOpenPortForSleep() {
     QVERIFY(!closed->isOpen());
     QVERIFY(manager().portsToReopenAfterSleep().isEmpty());
     open->close();
+}
+
+void ORSSerialPortManagerPowerTest::doesNotRememberAPortThatStaysOpen() {
+    const PseudoTerminalPair line;
+    devices().plug(u"a"_s, line.path());
+    const auto port = manager().objectInAvailablePortsAtIndex(0);
+    port->open();
+    {
+        SystemCallFaults faults;
+        faults.fail(SystemCall::Close, EIO);
+        post(NSWorkspaceWillSleepNotification);
+    }
+    QVERIFY(port->isOpen());
+    QVERIFY(manager().portsToReopenAfterSleep().isEmpty());
+    QVERIFY(port->close());
 }
 
 void ORSSerialPortManagerPowerTest::forgetsAPortThatDoesNotReopen() {
