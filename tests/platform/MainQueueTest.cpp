@@ -170,6 +170,7 @@ class MainQueueTest : public QObject {
         MainQueue queue;
         int runs = 0;
         std::vector<std::jthread> workers;
+        workers.reserve(8);
         for (int number = 0; number < 8; ++number) {
             workers.emplace_back([&](const std::stop_token& stop) {
                 for (int round = 0; round < 50; ++round) {

@@ -34,7 +34,7 @@ QString add(UMockdevTestbed* testbed, const QByteArray& subsystem, const QString
     if (path == nullptr) {
         throw std::runtime_error("umockdev did not add the device");
     }
-    const auto result = QString::fromUtf8(path);
+    auto result = QString::fromUtf8(path);
     g_free(path);
     return result;
 }

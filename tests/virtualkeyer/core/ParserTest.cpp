@@ -72,7 +72,7 @@ void ParserTest::commandsTakeTheirParameters() {
 void ParserTest::everyCodeHasItsParameterCount() {
     const std::array<std::size_t, 0x20> counts{0, 1, 1, 1, 2, 3, 1, 0, 0, 1, 0, 1, 1, 1, 1, 15,
                                                1, 1, 1, 0, 1, 0, 1, 1, 1, 1, 1, 2, 1, 1, 0, 0};
-    for (std::uint8_t code = 1; code < counts.size(); ++code) {
+    for (std::uint8_t code = 1; code < std::uint8_t{0x20}; ++code) {
         QCOMPARE(parameterCount(code), counts[code]);
         Parser parser;
         auto command = parser.take(code, true);

@@ -102,7 +102,8 @@ void KeyerLoopTest::aByteIsNotBackBeforeTheLineCanHaveCarriedIt() {
     timer.start();
     send(port, echoRequest('U'));
     QCOMPARE(receive(port, 1), std::string("U"));
-    QVERIFY2(timer.nsecsElapsed() >= 4 * 9'166'666, qPrintable(QString::number(timer.elapsed())));
+    QVERIFY2(timer.nsecsElapsed() >= qint64{4} * 9'166'666,
+             qPrintable(QString::number(timer.elapsed())));
 }
 
 void KeyerLoopTest::aBurstIsNotFasterThanTheLine() {
@@ -119,7 +120,8 @@ void KeyerLoopTest::aBurstIsNotFasterThanTheLine() {
     timer.start();
     send(port, burst);
     QCOMPARE(receive(port, expected.size()), expected);
-    QVERIFY2(timer.nsecsElapsed() >= 61 * 9'166'666, qPrintable(QString::number(timer.elapsed())));
+    QVERIFY2(timer.nsecsElapsed() >= qint64{61} * 9'166'666,
+             qPrintable(QString::number(timer.elapsed())));
 }
 
 void KeyerLoopTest::theApplicationMayCloseAndOpenThePort() {
