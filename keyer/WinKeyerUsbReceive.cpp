@@ -12,7 +12,7 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-/// Seconds; twenty-four days, more than a timer of the system can take.
+/// Seconds; twenty-three days, just within what a timer of the system can take.
 constexpr double longestBeaconInterval = 2'000'000;
 } // namespace
 
@@ -36,8 +36,7 @@ void WinKeyerUsb::serialPortDidReceiveData(ORSSerialPort& port, const QByteArray
         logLine(u"WinKeyer port was somehow closed!"_s);
         return;
     }
-    // A chunk counts as that many repetitions of its first byte, on purpose: each byte that came
-    // lets one more character go, and what comes together is nearly always of one kind.
+    // A chunk counts as that many repetitions of its first byte, on purpose.
     const auto byte = static_cast<std::uint8_t>(data.front());
     for (qsizetype i = 0; i < data.size(); ++i) {
         handleByte(byte);
