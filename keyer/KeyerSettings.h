@@ -87,17 +87,17 @@ inline constexpr auto keyerSettings = std::to_array<Setting>({
     {WKSpeed, 0}, // registered for whoever reads the file; the speed pot sets the speed
     {WKPaddleOnlySidetone, true},
     {WKSidetoneFrequency, QLatin1StringView{"400 Hz"}, KeyerChoices::sidetoneFrequency},
-    {WKWeighting, 0},
-    {WKPTTLeadTime, 0},
-    {WKPTTTailTime, 10},
-    {WKSpeedPotMinimum, 13},
-    {WKSpeedPotRange, 32},
-    {WKFirstExtension, 0},
-    {WKKeyingCompensation, 0},
-    {WKFarnsworthSpeed, 10},
-    {WKPaddleSwitchpoint, 50},
+    {WKWeighting, 0, {}, Range{-40, 40}},         // added to the neutral 50
+    {WKPTTLeadTime, 0, {}, Range{0, 25}},         // x 10 ms
+    {WKPTTTailTime, 10, {}, Range{0, 25}},        // x 10 ms
+    {WKSpeedPotMinimum, 13, {}, Range{5, 99}},    // wpm
+    {WKSpeedPotRange, 32, {}, Range{0, 32}},      // wpm
+    {WKFirstExtension, 0, {}, Range{0, 250}},     // ms
+    {WKKeyingCompensation, 0, {}, Range{0, 250}}, // ms
+    {WKFarnsworthSpeed, 10, {}, Range{10, 99}},   // wpm
+    {WKPaddleSwitchpoint, 50, {}, Range{10, 90}}, // 50 is one dit
     {WKEnableDitDahMemory, true},
-    {WKRatio, 3.0},
+    {WKRatio, 3.0, {}, Range{1.98, 3.99}}, // dits a dah; the keyer takes 33 to 66
     {WKDitDahPriority, QLatin1StringView{"Normal"}, KeyerChoices::ditDahPriority},
     {WKPaddleHang, QLatin1StringView{"1.0"}, KeyerChoices::paddleHang},
     {WKKeyOut1Enable, true},
@@ -105,7 +105,7 @@ inline constexpr auto keyerSettings = std::to_array<Setting>({
     {WKSidetoneEnable, true},
     {WKPTTEnable, false},
     {WKHSCWSpeed, QLatin1StringView{"1000 lpm"}},
-    {WKStandaloneCommandSpeed, 10},
+    {WKStandaloneCommandSpeed, 10, {}, Range{5, 99}}, // wpm
     {WKStandaloneEnableMessageBreak, true},
     {WKStandaloneCutSerialNumbers, true},
     {WKStandaloneMessages[0], QLatin1StringView{"Message 1"}},

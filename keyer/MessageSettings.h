@@ -33,7 +33,8 @@ inline constexpr auto messageSettings = std::to_array<MessageSetting>({
 });
 
 /// Seconds of quiet between the end of one beacon transmission and the start of the next.
-inline constexpr Setting BeaconInterval{QLatin1StringView{"BeaconInterval"}, 4.2};
+inline constexpr Setting BeaconInterval{
+    QLatin1StringView{"BeaconInterval"}, 4.2, {}, Range{0, 3600}};
 
 /// The defaults of all message buttons and of the beacon, as the settings store registers them.
 [[nodiscard]] QHash<QString, QVariant> messageDefaults();

@@ -5,6 +5,7 @@
 #include <QVariant>
 
 #include <cstdint>
+#include <optional>
 #include <span>
 #include <string_view>
 #include <variant>
@@ -16,12 +17,20 @@ struct Choice {
     std::uint8_t code;
 };
 
+/// The values that the keyer knows, both ends included, in the setting's own unit.
+struct Range {
+    double minimum;
+    double maximum;
+};
+
 /// A setting: its key in the settings store, its registered default, which also tells its type,
-/// and its choice list where it has one.
+/// its choice list where it has one, and what may be chosen of a number. Values beyond the range
+/// are stored and sent as they are: it is the controls that keep to it.
 struct Setting {
     QLatin1StringView key;
     std::variant<bool, int, double, QLatin1StringView> defaultValue;
     std::span<const Choice> choices = {};
+    std::optional<Range> range = {};
 };
 
 /// Equality that the compiler can evaluate too, unlike Qt's own.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "keyer/CharacterSet.h"
+#include "keyer/KeyerActivity.h"
 #include "keyer/KeyerMemory.h"
 #include "platform/Clock.h"
 #include "platform/Error.h"
@@ -12,6 +13,7 @@
 #include <QString>
 
 #include <memory>
+#include <optional>
 
 /// The keyer engine: the one object that owns the link to the keyer, and everything that is sent
 /// over it and read from it.
@@ -52,6 +54,10 @@ class WinKeyerUsb final : public QObject, public ORSSerialPortDelegate {
     /// answers is handled after this has returned.
     [[nodiscard]] bool connect(Error* error);
     [[nodiscard]] bool isConnected() const;
+    /// What the keyer is doing, as far as it has told.
+    [[nodiscard]] KeyerActivity activity() const;
+    /// The name of the port that the keyer is on; null while not connected.
+    [[nodiscard]] QString serialPortName() const;
     /// Takes the link down, blocking for two seconds while the port is open. Whatever it returns,
     /// the port is closed and forgotten.
     bool disconnect(Error* error);
@@ -175,8 +181,15 @@ class WinKeyerUsb final : public QObject, public ORSSerialPortDelegate {
 
     /// Index of the next character of keyboardBuffer to be sent.
     [[nodiscard]] qsizetype outputBufferIndex() const { return _outputBufferIndex; }
+    /// Index of the first character of keyboardBuffer that the keyer has been given and has not
+    /// echoed; outputBufferIndex() when there is none.
+    [[nodiscard]] qsizetype inFlightIndex() const { return _inFlightIndex; }
 
   Q_SIGNALS:
+    /// activity() or serialPortName() is another one now.
+    void activityChanged();
+    /// inFlightIndex() or outputBufferIndex() may be another one now.
+    void sendingProgressed();
     void speedStringChanged();
     void versionStringChanged();
     void keyboardBufferChanged();
@@ -199,6 +212,7 @@ class WinKeyerUsb final : public QObject, public ORSSerialPortDelegate {
     void releasePort();
     void setSpeedString(const QString& speed);
     void appendSendableText(const QString& text);
+    void announceActivity();
 
     void handleByte(std::uint8_t byte);
     void handleStatus(std::uint8_t status);
@@ -215,11 +229,16 @@ class WinKeyerUsb final : public QObject, public ORSSerialPortDelegate {
     std::shared_ptr<ORSSerialPort> _winKeyerSerialPort;
     bool _isHostMode = false;
     std::uint8_t _wkStatus = 0;
+    bool _hasHeardFromKeyer = false;
+    std::optional<std::uint8_t> _lastStatus;
+    KeyerActivity _announcedActivity = KeyerActivity::NotConnected;
+    QString _announcedPortName;
     QString _speedString;
     QString _versionString;
 
     QString _keyboardBuffer;
     qsizetype _outputBufferIndex = 0;
+    qsizetype _inFlightIndex = 0;
     bool _sendingState = false;
     QString _hisCallsign;
     bool _sendingHisCallsign = false;

@@ -44,11 +44,17 @@ bool WinKeyerUsb::connect(Error* error) {
         return false;
     }
     _winKeyerSerialPort->setDelegate(this);
-    return openHostMode(error);
+    const bool isHostOpen = openHostMode(error);
+    announceActivity();
+    return isHostOpen;
 }
 
 bool WinKeyerUsb::isConnected() const {
     return _winKeyerSerialPort != nullptr;
+}
+
+QString WinKeyerUsb::serialPortName() const {
+    return isConnected() ? _winKeyerSerialPort->name() : QString();
 }
 
 bool WinKeyerUsb::disconnect(Error* error) {
@@ -68,6 +74,7 @@ bool WinKeyerUsb::disconnect(Error* error) {
         _winKeyerSerialPort->close();
     }
     _winKeyerSerialPort.reset();
+    announceActivity();
     return isHostClosed;
 }
 
@@ -147,6 +154,8 @@ bool WinKeyerUsb::echoTest(Error* error) {
 
 bool WinKeyerUsb::openHostMode(Error* error) {
     _isHostMode = false;
+    _hasHeardFromKeyer = false;
+    _lastStatus.reset();
     if (hostOpen(error) && setWK2Mode(error)) {
         loadDefaults();
         putToWinKeyer(KeyerCommand::getSpeedPot());
@@ -208,6 +217,7 @@ void WinKeyerUsb::serialPortWasRemovedFromSystem(ORSSerialPort& port) {
     // A port used before, whose delegate this still is, takes no link with it.
     if (&port == _winKeyerSerialPort.get()) {
         _winKeyerSerialPort.reset();
+        announceActivity();
     }
 }
 

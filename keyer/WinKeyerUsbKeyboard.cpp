@@ -39,11 +39,15 @@ void WinKeyerUsb::textDidEndEditing(const QObject*) {}
 void WinKeyerUsb::textDidChange() {
     if (_keyboardBuffer.isEmpty()) {
         _outputBufferIndex = 0;
+        _inFlightIndex = 0;
+        Q_EMIT sendingProgressed();
         return;
     }
     const auto typed = filtered(_keyboardBuffer.toUpper(), morseKeyboardCharacterSet());
     setKeyboardBuffer(sendable(substituteTokens(typed)));
     _outputBufferIndex = std::min(_outputBufferIndex, _keyboardBuffer.size());
+    _inFlightIndex = std::min(_inFlightIndex, _outputBufferIndex);
+    Q_EMIT sendingProgressed();
     if (pauseState() == 0 && !_sendingState) {
         send();
     }

@@ -30,6 +30,7 @@ void WinKeyerUsb::setPauseState(int state) {
     putToWinKeyer(KeyerCommand::setPauseState(state != 0 ? Pause::Pause : Pause::Resume));
     if (isNew) {
         Q_EMIT pauseStateChanged();
+        announceActivity();
     }
     if (_pauseState == 0) {
         send();

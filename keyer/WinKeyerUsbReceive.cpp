@@ -41,9 +41,11 @@ void WinKeyerUsb::serialPortDidReceiveData(ORSSerialPort& port, const QByteArray
     for (qsizetype i = 0; i < data.size(); ++i) {
         handleByte(byte);
     }
+    announceActivity();
 }
 
 void WinKeyerUsb::handleByte(std::uint8_t byte) {
+    _hasHeardFromKeyer = true;
     switch (classify(byte)) {
     case ReceivedByte::Error:
         logLine(u"  error byte"_s);
@@ -68,6 +70,7 @@ void WinKeyerUsb::handleStatus(std::uint8_t status) {
         handleButtonPressed();
         return;
     }
+    _lastStatus = status;
     if ((status & KeyerStatus::anything) == 0) {
         handleIdle();
     }
@@ -79,6 +82,23 @@ void WinKeyerUsb::handleStatus(std::uint8_t status) {
     }
     if ((status & KeyerStatus::busy) != 0 && beaconState() != 0 && _beaconTimer) {
         _beaconTimer->invalidate();
+    }
+}
+
+KeyerActivity WinKeyerUsb::activity() const {
+    if (!isConnected() || !_isHostMode) {
+        return KeyerActivity::NotConnected;
+    }
+    return _hasHeardFromKeyer ? activityOf(_lastStatus, pauseState() != 0) : KeyerActivity::Silent;
+}
+
+void WinKeyerUsb::announceActivity() {
+    const auto now = activity();
+    const auto name = serialPortName();
+    if (now != _announcedActivity || name != _announcedPortName) {
+        _announcedActivity = now;
+        _announcedPortName = name;
+        Q_EMIT activityChanged();
     }
 }
 

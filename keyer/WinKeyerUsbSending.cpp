@@ -70,8 +70,12 @@ void WinKeyerUsb::repeatMessage() {
 }
 
 void WinKeyerUsb::send() {
+    if (!_sendingHisCallsign) {
+        _inFlightIndex = _outputBufferIndex;
+    }
     while (sendNext() == Step::GoOn) {
     }
+    Q_EMIT sendingProgressed();
 }
 
 WinKeyerUsb::Step WinKeyerUsb::sendNext() {
@@ -99,6 +103,7 @@ WinKeyerUsb::Step WinKeyerUsb::sendNextOfHisCallsign() {
     if (_nextHisCallsignCharacterIndex >= _hisCallsign.size()) {
         _sendingHisCallsign = false;
         _nextHisCallsignCharacterIndex = 0;
+        _inFlightIndex = _outputBufferIndex;
         return Step::GoOn;
     }
     const auto character = byteOf(_hisCallsign.at(_nextHisCallsignCharacterIndex++));
@@ -166,8 +171,10 @@ void WinKeyerUsb::clearSending() {
     _sendingHisCallsign = false;
     _nextHisCallsignCharacterIndex = 0;
     _outputBufferIndex = 0;
+    _inFlightIndex = 0;
     _sendingState = false;
     setKeyboardBuffer(u""_s);
+    Q_EMIT sendingProgressed();
     setBeaconState(0);
 }
 
