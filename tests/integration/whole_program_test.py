@@ -3,78 +3,11 @@
 Usage: whole_program_test.py QUORVEL VIRTUAL_KEYER [TEST...]
 """
 
-import pathlib
-import shutil
-import signal
-import sys
-import tempfile
-import unittest
-
-from desktop import Desktop
-from port import Port
-from process import Process
+from program import LONG_TEXT, PORT, SETTINGS, Keyer, ProgramTest, run_tests
 from waiting import wait_for
 
-PORT = "usbserial-virtual"
-QUORVEL, VIRTUAL_KEYER = sys.argv[1:3]
 
-LONG_TEXT = "PARIS" * 200
-# Fast, so that a long text takes little time. A pot byte has room for 32 speeds.
-SETTINGS = f"""[General]
-WKPortName={PORT}
-MyCall=N0CALL
-WKSpeedPotMinimum=60
-WKSpeedPotRange=31
-Message8={LONG_TEXT}
-"""
-SPEED = 90
-
-
-class Keyer(Process):
-    """The virtual keyer's program, plugged in."""
-
-    def __init__(self, environment, directory):
-        self._transcript = directory / "transcript.txt"
-        super().__init__([VIRTUAL_KEYER, "--headless", "--speed", str(SPEED), "--transcript",
-                          self._transcript], environment, directory)
-        self.wait_for("the keyer", lambda: "Plugged in as" in self.errors())
-
-    def keyed(self):
-        """What was read from the key line. A busy machine may make a word space of a letter
-        space, so that neither counts."""
-        return self.output().replace(" ", "")
-
-    def answers(self):
-        """The bytes that went to the application, in the transcript's words."""
-        lines = self._transcript.read_text().splitlines()
-        return [line.split()[2] for line in lines if line.split()[1] == "host"]
-
-    def echoes(self):
-        """The text that was echoed."""
-        text = (int(each, 16) for each in self.answers())
-        return "".join(chr(each) for each in text if 0x20 < each < 0x7F).removeprefix("U")
-
-    def has_keyed(self, text):
-        self.wait_for(f"{text} on the key line", lambda: self.keyed() == text)
-        self.wait_for(f"{text} in the echoes", lambda: self.echoes() == text)
-
-
-class WholeProgramTest(unittest.TestCase):
-    @classmethod
-    def setUpClass(cls):
-        cls.directory = pathlib.Path(tempfile.mkdtemp(prefix="quorvel-test."))
-        cls.addClassCleanup(shutil.rmtree, cls.directory)
-        cls.desktop = Desktop(cls.directory)
-        cls.addClassCleanup(cls.desktop.close)
-
-    def setUp(self):
-        self.home = self.directory / self.id().split(".")[-1]
-        self.runtime = self.home / "runtime"
-        self.runtime.mkdir(parents=True, mode=0o700)
-        self.environment = dict(self.desktop.environment, XDG_RUNTIME_DIR=str(self.runtime),
-                                XDG_CONFIG_HOME=str(self.home / "config"))
-        self.settings = self.home / "config/quorvel/quorvel.conf"
-
+class WholeProgramTest(ProgramTest):
     def test_the_operator_sends(self):
         keyer, quorvel, window = self.start_connected()
         keyboard = window.find("Keyboard")
@@ -133,85 +66,6 @@ class WholeProgramTest(unittest.TestCase):
         keyer.has_keyed("TEST")
         self.terminate(keyer, quorvel)
 
-    def write_settings(self, text):
-        self.settings.parent.mkdir(parents=True)
-        self.settings.write_text(text)
-
-    def start_quorvel(self):
-        quorvel = Process([QUORVEL], self.environment, self.home)
-        self.addCleanup(self.tell, quorvel)
-        self.addCleanup(quorvel.end, signal.SIGKILL)
-        return quorvel
-
-    def start_keyer(self):
-        keyer = Keyer(self.environment, self.home)
-        self.addCleanup(keyer.end, signal.SIGKILL)
-        return keyer
-
-    def start_connected(self):
-        """Keyer, application and its window, ready to type."""
-        self.write_settings(SETTINGS)
-        keyer = self.start_keyer()
-        quorvel = self.start_quorvel()
-        window = self.active_window(quorvel)
-        self.wait_for_speed(quorvel, window)
-        return keyer, quorvel, window
-
-    def active_window(self, quorvel):
-        """The main window, once what is typed goes to its keyboard view."""
-        def is_active():
-            application = self.desktop.application(quorvel.pid)
-            keyboard = application and application.find("Keyboard")
-            return (keyboard and keyboard.is_in_state("focused") and not self.alerts(quorvel)
-                    and self.desktop.active_process() == quorvel.pid and application)
-        return quorvel.wait_for("the window", is_active)
-
-    def wait_for_speed(self, quorvel, window):
-        quorvel.wait_for("the speed",
-                         lambda: window.find("Speed").description() == f"{SPEED} WPM")
-
-    def alerts(self, quorvel):
-        application = self.desktop.application(quorvel.pid)
-        children = application.children() if application else []
-        return [each for each in children if each.role() == "alert"]
-
-    def answer_alert(self, quorvel, text):
-        """Waits for the one alert, which must say this, and presses Return in it."""
-        def is_ready():
-            alerts = self.alerts(quorvel)
-            return (alerts and alerts[0].is_in_state("active")
-                    and self.desktop.active_process() == quorvel.pid and alerts)
-        alerts = quorvel.wait_for("an alert", is_ready)
-        self.assertEqual(len(alerts), 1)
-        self.assertIsNotNone(alerts[0].find(text), alerts[0].describe())
-        self.desktop.press("Return")
-        quorvel.wait_for("the alert to go", lambda: all(
-            each.find(text) is None for each in self.alerts(quorvel)))
-
-    def close_window(self, keyer, quorvel):
-        self.desktop.press("alt+F4")
-        self.assertEqual(quorvel.status(), 0)
-        self.expect_closed(keyer)
-
-    def terminate(self, keyer, quorvel):
-        self.assertEqual(quorvel.end(), 0)
-        self.expect_closed(keyer)
-
-    def expect_closed(self, keyer):
-        """The application has left the keyer as it should: a keyer whose host has gone answers
-        what the next one asks, and keys nothing of the text between."""
-        keyed = keyer.keyed()
-        with Port(self.runtime / "quorvel/ports" / PORT) as port:
-            port.write(b"EEE\x00\x04Z")
-            self.assertEqual(port.read(1), b"Z")
-        self.assertEqual(keyer.keyed(), keyed)
-        self.assertEqual(keyer.end(), 0)
-
-    def tell(self, quorvel):
-        """What the application said, for whoever reads a failure."""
-        if quorvel.errors():
-            print(f"{self.id()}: quorvel said:\n{quorvel.errors()}", file=sys.stderr)
-
 
 if __name__ == "__main__":
-    unittest.main(argv=[sys.argv[0], *sys.argv[3:]], verbosity=2)
+    run_tests()
