@@ -55,6 +55,13 @@ class Accessible:
         wanted = getattr(Atspi.StateType, state.upper())
         return _reading(lambda: self._element.get_state_set().contains(wanted), False)
 
+    def press(self):
+        """Does what a click on it does."""
+        assert Atspi.Action.do_action(self._element, 0), f"{self.name()} cannot be pressed"
+
+    def focus(self):
+        assert Atspi.Component.grab_focus(self._element), f"{self.name()} takes no focus"
+
     def centre(self):
         """On the screen."""
         extents = Atspi.Component.get_extents(self._element, Atspi.CoordType.SCREEN)
@@ -74,8 +81,10 @@ class Accessible:
             yield from child.all()
 
     def find(self, name):
-        """The first element of that name in it; None when there is none."""
-        return next((each for each in self.all() if each.name() == name), None)
+        """The first element of that name in it, but for menus, which name many a thing again; None
+        when there is none."""
+        return next((each for each in self.all()
+                     if each.name() == name and "menu" not in each.role()), None)
 
     def describe(self, depth=0):
         """Everything in it, a line each, for the eyes of whoever reads a failure."""

@@ -45,6 +45,12 @@ class Keyer(Process):
         lines = self._transcript.read_text().splitlines()
         return [line.split()[2] for line in lines if line.split()[1] == "host"]
 
+    def is_key_down(self):
+        """What the transcript last says of the key line."""
+        kinds = [line.split()[1:3] for line in self._transcript.read_text().splitlines()]
+        changes = [kind for kind in kinds if kind[0] == "key"]
+        return bool(changes) and changes[-1] == ["key", "down"]
+
     def echoes(self):
         """The text that was echoed."""
         text = (int(each, 16) for each in self.answers())
@@ -88,9 +94,9 @@ class ProgramTest(unittest.TestCase):
         self.addCleanup(keyer.end, signal.SIGKILL)
         return keyer
 
-    def start_connected(self):
+    def start_connected(self, settings=SETTINGS):
         """Keyer, application and its window, ready to type."""
-        self.write_settings(SETTINGS)
+        self.write_settings(settings)
         keyer = self.start_keyer()
         quorvel = self.start_quorvel()
         window = self.active_window(quorvel)
@@ -115,8 +121,8 @@ class ProgramTest(unittest.TestCase):
         children = application.children() if application else []
         return [each for each in children if each.role() == "alert"]
 
-    def answer_alert(self, quorvel, text):
-        """Waits for the one alert, which must say this, and presses Return in it."""
+    def answer_alert(self, quorvel, text, key="Return"):
+        """Waits for the one alert, which must say this, and presses a key in it."""
         def is_ready():
             alerts = self.alerts(quorvel)
             return (alerts and alerts[0].is_in_state("active")
@@ -124,7 +130,7 @@ class ProgramTest(unittest.TestCase):
         alerts = quorvel.wait_for("an alert", is_ready)
         self.assertEqual(len(alerts), 1)
         self.assertIsNotNone(alerts[0].find(text), alerts[0].describe())
-        self.desktop.press("Return")
+        self.desktop.press(key)
         quorvel.wait_for("the alert to go", lambda: all(
             each.find(text) is None for each in self.alerts(quorvel)))
 
