@@ -1,0 +1,26 @@
+#pragma once
+
+#include "preferences/MemoryUse.h"
+
+#include <QWidget>
+
+/// A bar that shows how full the keyer's message memory is, a segment for each message, and says
+/// it in figures.
+class MemoryGauge final : public QWidget {
+    Q_OBJECT
+  public:
+    explicit MemoryGauge(QWidget* parent = nullptr);
+
+    void setShares(const MemoryUse::Shares& shares);
+    /// What the bar says, such as "54 of 232 bytes used".
+    [[nodiscard]] QString text() const;
+
+    [[nodiscard]] QSize sizeHint() const override;
+    [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+
+  private:
+    MemoryUse::Shares _shares;
+};
