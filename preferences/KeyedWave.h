@@ -25,6 +25,7 @@ struct Timing {
     std::chrono::milliseconds compensation{0};
     /// 0 to 250.
     std::chrono::milliseconds firstExtension{0};
+    bool operator==(const Timing&) const = default;
 };
 
 struct Lengths {
