@@ -18,7 +18,7 @@ namespace KeyerEncoding {
 
 /// The integer part of `value`, cut to its low 8 bits.
 [[nodiscard]] constexpr std::uint8_t truncatedByte(double value) {
-    constexpr double limit = 1e15; // beyond it nothing is left of the low 8 bits anyway
+    constexpr double limit = 9223372036854774784.0; // the greatest that still is an integer
     return value == value ? lowByte(static_cast<qint64>(std::clamp(value, -limit, limit))) : 0;
 }
 

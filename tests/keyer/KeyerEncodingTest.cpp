@@ -173,6 +173,8 @@ void KeyerEncodingTest::values_data() {
     row("ratio 3.59", u"WKRatio"_s, 3.59, 12, 59);
     row("ratio 4.0", u"WKRatio"_s, 4.0, 12, 66);
     row("ratio 4.5", u"WKRatio"_s, 4.5, 12, 75);
+    row("a ratio that is huge", u"WKRatio"_s, 0.06 * 4503599627370497.0, 12, 1);
+    row("a ratio beyond every integer", u"WKRatio"_s, 1e300, 12, 0);
     row("a ratio that is no number", u"WKRatio"_s, u"three"_s, 12, 0);
     row("the speed setting is never sent", u"WKSpeed"_s, 25, 1, 0);
 }
