@@ -18,6 +18,7 @@ class QWidget;
 /// - `action`: a slot or invokable `void name(const QObject* sender)` of the controller, called
 ///   with the control after its setting has been stored. Optional.
 /// - `unit`: follows the numbers in the tool tip, for a slider; spin boxes have their suffix.
+/// - `scale`: a control's own property; how much its numbers are shown times those it has.
 /// - `actsOnEveryChoice`: true for a QComboBox whose action also follows choosing what is chosen.
 /// - `missingText`: how a QComboBox shows a stored text that is none of its items; "%1" is it.
 /// - `resets`, on a QToolButton: the key of a control in the same view whose default it restores.
@@ -41,7 +42,8 @@ class SettingBinder final : public QObject {
                   QObject* parent = nullptr);
     ~SettingBinder() override;
 
-    /// Shows the stored values again, as when a combo box has got other items.
+    /// Shows the stored values again, as when a combo box has got other items. Whoever replaces
+    /// them blocks the box's signals meanwhile.
     void show();
     /// Calls the actions that wait for their values to settle.
     void settle();
@@ -49,7 +51,6 @@ class SettingBinder final : public QObject {
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
-    void bind(QWidget& widget, QObject& controller, std::span<const Setting> table);
     void bindResetButtons(QWidget& view);
 
     QList<QPointer<BoundControl>> _controls;
