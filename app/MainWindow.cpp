@@ -1,48 +1,65 @@
 #include "app/MainWindow.h"
 
-#include "keyer/MessageSettings.h"
+#include "app/MessageButtons.h"
+#include "app/ModeSwitches.h"
+#include "app/TuneSwitch.h"
 #include "keyer/WinKeyerUsb.h"
-#include "platform/Action.h"
-#include "platform/SettingsStore.h"
 #include "ui_MainWindow.h"
 
-#include <QShortcut>
+#include <QCloseEvent>
 
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+/// Has a menu item be the button in another place: it presses the button, and is in step with it.
+void join(QAction& action, QAbstractButton& button) {
+    QObject::connect(&action, &QAction::triggered, &button, &QAbstractButton::click);
+    QObject::connect(&button, &QAbstractButton::toggled, &action, &QAction::setChecked);
+}
+
+void enlarge(QWidget& widget, double factor) {
+    auto font = widget.font();
+    font.setPointSizeF(QApplication::font().pointSizeF() * factor);
+    widget.setFont(font);
+}
+
+} // namespace
+
 MainWindow::MainWindow(WinKeyerUsb& engine)
     : _engine(engine), _ui(std::make_unique<Ui::MainWindow>()) {
     _ui->setupUi(this);
-    setUpMessageButtons();
+    enlargeFonts();
+    setUpMessages();
     _ui->keyboardView->setEngine(_engine);
     _ui->keyboardView->setFocus();
     setUpContact();
-    setUpPause();
+    setUpSwitches();
+    setUpMenus();
 
-    QObject::connect(_ui->stopButton, &QPushButton::clicked, this,
-                     [this] { _engine.stopMessageSending(_ui->stopButton); });
-    const auto* escape = new QShortcut(Qt::Key_Escape, this);
-    QObject::connect(escape, &QShortcut::activated, _ui->stopButton, &QPushButton::click);
-
+    _ui->tuneWarning->setEngine(_engine);
+    _ui->keyerStatusLabel->setEngine(_engine);
     QObject::connect(&_engine, &WinKeyerUsb::speedStringChanged, this, &MainWindow::showSpeed);
     showSpeed();
+    QObject::connect(&_engine, &WinKeyerUsb::tuneStateChanged, this, &MainWindow::showTitle);
+    showTitle();
 }
 
 MainWindow::~MainWindow() = default;
 
-void MainWindow::setUpMessageButtons() {
-    for (auto* button : _ui->messages->findChildren<QPushButton*>()) {
-        QObject::connect(button, &QPushButton::clicked, this,
-                         [this, button] { _engine.sendMessage(button); });
-        // A button's own shortcut would first show it pressed for a tenth of a second.
-        const auto* key = new QShortcut(Qt::Key_F1 + Action::tag(button), this);
-        QObject::connect(key, &QShortcut::activated, button, &QPushButton::click);
-    }
-    QObject::connect(&SettingsStore::standardUserDefaults(), &SettingsStore::changed, this,
-                     &MainWindow::showMessageLabels);
-    showMessageLabels();
+void MainWindow::setUpMessages() {
+    new MessageButtons(_engine,
+                       {{_ui->message1Button, _ui->message1Action},
+                        {_ui->message2Button, _ui->message2Action},
+                        {_ui->message3Button, _ui->message3Action},
+                        {_ui->message4Button, _ui->message4Action},
+                        {_ui->message5Button, _ui->message5Action},
+                        {_ui->message6Button, _ui->message6Action},
+                        {_ui->message7Button, _ui->message7Action},
+                        {_ui->message8Button, _ui->message8Action}},
+                       this);
 }
 
 void MainWindow::setUpContact() {
@@ -70,29 +87,65 @@ void MainWindow::setUpContact() {
                      [this, decrement] { _engine.decrementSerialNumber(decrement); });
 }
 
-void MainWindow::setUpPause() {
-    auto* pause = _ui->pauseButton;
-    // The keyer pauses too, when its buffer fills: the button then shows it, and ends it.
-    QObject::connect(pause, &QPushButton::clicked, &_engine,
-                     [this](bool isOn) { _engine.setPauseState(isOn ? 1 : 0); });
-    QObject::connect(&_engine, &WinKeyerUsb::pauseStateChanged, pause,
-                     [this, pause] { pause->setChecked(_engine.pauseState() != 0); });
+void MainWindow::setUpSwitches() {
+    _tuneSwitch = new TuneSwitch(_engine, *_ui->tuneButton, this);
+    new ModeSwitches(
+        _engine, {.pause = _ui->pauseButton, .hscw = _ui->hscwButton, .beacon = _ui->beaconButton},
+        this);
+    QObject::connect(_ui->stopButton, &QPushButton::clicked, this, [this] {
+        // Key up first: it is what cannot wait.
+        letGoOfTune();
+        _engine.stopMessageSending(_ui->stopButton);
+    });
+}
+
+void MainWindow::setUpMenus() {
+    QObject::connect(_ui->preferencesAction, &QAction::triggered, this,
+                     &MainWindow::preferencesRequested);
+    QObject::connect(_ui->quitAction, &QAction::triggered, this, &MainWindow::quitRequested);
+    QObject::connect(_ui->stopAction, &QAction::triggered, _ui->stopButton, &QPushButton::click);
+    join(*_ui->tuneAction, *_ui->tuneButton);
+    join(*_ui->pauseAction, *_ui->pauseButton);
+    join(*_ui->hscwAction, *_ui->hscwButton);
+    join(*_ui->beaconAction, *_ui->beaconButton);
+    QObject::connect(_ui->hisCallsignAction, &QAction::triggered, _ui->hisCallsignTextField,
+                     [this] { _ui->hisCallsignTextField->setFocus(Qt::ShortcutFocusReason); });
+    QObject::connect(_ui->keyboardAction, &QAction::triggered, _ui->keyboardView,
+                     [this] { _ui->keyboardView->setFocus(Qt::ShortcutFocusReason); });
+    QObject::connect(_ui->incrementSerialNumberAction, &QAction::triggered,
+                     _ui->incrementSerialNumberButton, &QToolButton::click);
+    QObject::connect(_ui->decrementSerialNumberAction, &QAction::triggered,
+                     _ui->decrementSerialNumberButton, &QToolButton::click);
 }
 
 QLineEdit& MainWindow::hisCallsignTextField() const {
     return *_ui->hisCallsignTextField;
 }
 
-void MainWindow::showMessageLabels() {
-    const auto& settings = SettingsStore::standardUserDefaults();
-    for (auto* button : _ui->messages->findChildren<QPushButton*>()) {
-        const auto index = Action::tag(button);
-        auto label =
-            settings.stringForKey(messageSettings[static_cast<std::size_t>(index)].labelKey);
-        button->setAccessibleName(tr("Message %1: %2").arg(index + 1).arg(label));
-        // A label is the operator's own text: an ampersand in it is no keyboard shortcut.
-        button->setText(tr("F%1  %2").arg(index + 1).arg(label.replace(u"&"_s, u"&&"_s)));
+void MainWindow::letGoOfTune() {
+    _tuneSwitch->letGo();
+}
+
+/// Nobody sees the warning of a window that is closed.
+void MainWindow::closeEvent(QCloseEvent* event) {
+    letGoOfTune();
+    QMainWindow::closeEvent(event);
+}
+
+void MainWindow::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::ApplicationFontChange) {
+        enlargeFonts();
     }
+    QMainWindow::changeEvent(event);
+}
+
+/// What is read at arm's length is larger than the rest.
+void MainWindow::enlargeFonts() {
+    enlarge(*_ui->tuneWarning, 1.4);
+    enlarge(*_ui->keyboardView, 1.6);
+    enlarge(*_ui->hisCallsignTextField, 1.6);
+    enlarge(*_ui->serialNumberBox, 1.6);
+    enlarge(*_ui->speedLabel, 2);
 }
 
 void MainWindow::showSpeed() {
@@ -101,4 +154,9 @@ void MainWindow::showSpeed() {
     _ui->speedLabel->setText(shown);
     // A screen reader reads the label's name in place of its text.
     _ui->speedLabel->setAccessibleDescription(shown);
+}
+
+/// The title is what is seen of a window that lies under others.
+void MainWindow::showTitle() {
+    setWindowTitle(_engine.tuneState() != 0 ? tr("TRANSMITTING – Quorvel") : tr("Quorvel"));
 }

@@ -4,7 +4,10 @@
 
 #include <memory>
 
+class QAction;
+class QAbstractButton;
 class QLineEdit;
+class TuneSwitch;
 class WinKeyerUsb;
 
 namespace Ui {
@@ -12,7 +15,7 @@ class MainWindow;
 }
 
 /// The station console: message buttons, the keyboard view, and the keyer's state. Its controls
-/// are wired straight to the keyer engine's actions.
+/// are wired straight to the keyer engine's actions, and its menus do all that its controls do.
 class MainWindow final : public QMainWindow {
     Q_OBJECT
   public:
@@ -23,13 +26,27 @@ class MainWindow final : public QMainWindow {
     /// The field for the other station's call sign.
     [[nodiscard]] QLineEdit& hisCallsignTextField() const;
 
+    /// Keys the transmitter up, if Tune has it down.
+    void letGoOfTune();
+
+  Q_SIGNALS:
+    void preferencesRequested();
+    void quitRequested();
+
+  protected:
+    void changeEvent(QEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+
   private:
-    void setUpMessageButtons();
+    void setUpMessages();
     void setUpContact();
-    void setUpPause();
-    void showMessageLabels();
+    void setUpSwitches();
+    void setUpMenus();
+    void enlargeFonts();
     void showSpeed();
+    void showTitle();
 
     WinKeyerUsb& _engine;
     std::unique_ptr<Ui::MainWindow> _ui;
+    TuneSwitch* _tuneSwitch = nullptr;
 };

@@ -54,7 +54,7 @@ void QuorvelDelegate::applicationDidFinishLaunching() {
 QuorvelDelegate::TerminateReply QuorvelDelegate::applicationShouldTerminate() {
     _isTerminating = true;
     Error error;
-    if (!winKeyerUsb().disconnect(&error)) {
+    if (!disconnectFromKeyer(&error)) {
         application().presentError(error);
     }
     return TerminateReply::TerminateNow;
@@ -62,13 +62,18 @@ QuorvelDelegate::TerminateReply QuorvelDelegate::applicationShouldTerminate() {
 
 void QuorvelDelegate::changeSerialPort(const QObject*) {
     Error error;
-    if (!winKeyerUsb().disconnect(&error)) {
+    if (!disconnectFromKeyer(&error)) {
         application().presentError(error);
     }
     if (SettingsStore::standardUserDefaults().stringForKey(WKPortName) == noPortName) {
         return;
     }
     connectToKeyer();
+}
+
+bool QuorvelDelegate::disconnectFromKeyer(Error* error) {
+    Q_EMIT willDisconnect();
+    return winKeyerUsb().disconnect(error);
 }
 
 /// Not once the application is to end, as it may be while an alert is up: the ports have gone by
@@ -103,7 +108,7 @@ void QuorvelDelegate::serialPortRemoved(const Notification& notification) {
         }
         // The choice of port itself stays: it is the same adapter that will be plugged in again.
         settings.setObject(QString(noPortName), noPortName);
-        winKeyerUsb().disconnect(nullptr);
+        disconnectFromKeyer(nullptr);
         application().runModal(
             {.messageText =
                  u"The WinKeyer using serial port %1 has been unplugged."_s.arg(port->name()),

@@ -42,8 +42,12 @@ class QuorvelDelegate final : public QObject, public ApplicationDelegate {
 
   Q_SIGNALS:
     void serialPortNameArrayChanged();
+    /// The keyer link is about to be taken down, which takes two seconds: the last moment to tell
+    /// the keyer anything.
+    void willDisconnect();
 
   private:
+    bool disconnectFromKeyer(Error* error);
     void connectToKeyer();
     void setSerialPortNameArray(const QStringList& names);
     void updateSerialPortList();

@@ -39,12 +39,15 @@ int main(int argc, char* argv[]) {
     MainWindow window(WinKeyerUsb::sharedInstance());
     delegate.awakeFromNib(window.hisCallsignTextField());
     alerts.setAlertParent(&window);
+    QObject::connect(&delegate, &QuorvelDelegate::willDisconnect, &window,
+                     &MainWindow::letGoOfTune);
 
     const auto quit = [&delegate, &platform] {
         delegate.applicationShouldTerminate();
         platform.notificationCenter().post(NSApplicationWillTerminateNotification, nullptr);
         QApplication::exit();
     };
+    QObject::connect(&window, &MainWindow::quitRequested, &delegate, quit);
     const TerminationSignals terminationSignals;
     QObject::connect(&terminationSignals, &TerminationSignals::requested, &delegate, quit);
     QObject::connect(&toolkit, &QGuiApplication::lastWindowClosed, &delegate, [&delegate, quit] {

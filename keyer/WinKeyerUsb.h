@@ -190,6 +190,8 @@ class WinKeyerUsb final : public QObject, public ORSSerialPortDelegate {
     void activityChanged();
     /// inFlightIndex() or outputBufferIndex() may be another one now.
     void sendingProgressed();
+    /// Sending was stopped by stopMessageSending(), which ends a tune in the keyer too.
+    void messageSendingStopped();
     void speedStringChanged();
     void versionStringChanged();
     void keyboardBufferChanged();

@@ -183,6 +183,7 @@ void WinKeyerUsb::stopMessageSending(const QObject*) {
         putToWinKeyer(KeyerCommand::clearBuffer());
     }
     clearSending();
+    Q_EMIT messageSendingStopped();
 }
 
 QString WinKeyerUsb::substituteTokens(const QString& text) const {

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QPushButton>
+
+/// A button for one stored message. A label that is too long for it is shown cut short, so that
+/// the operator's own words never widen the window.
+class MessageButton final : public QPushButton {
+    Q_OBJECT
+  public:
+    using QPushButton::QPushButton;
+
+    /// Has room for some words, whatever the text.
+    [[nodiscard]] QSize sizeHint() const override;
+    [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+};

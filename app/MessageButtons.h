@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QList>
+#include <QObject>
+
+class QAction;
+class QPushButton;
+class WinKeyerUsb;
+
+/// The eight message buttons and the items of the menu that press them: they bear the labels of
+/// the stored messages, and tell what would be sent now, by what the settings, the serial number
+/// and their call are now.
+class MessageButtons final : public QObject {
+    Q_OBJECT
+  public:
+    struct Control {
+        QPushButton* button;
+        QAction* action;
+    };
+
+    /// One control for each stored message, in order, with the message's index as its tag.
+    MessageButtons(WinKeyerUsb& engine, const QList<Control>& controls, QObject* parent);
+
+  private:
+    void show();
+    [[nodiscard]] QString textToBeSent(const QString& stored) const;
+
+    WinKeyerUsb& _engine;
+    QList<Control> _controls;
+};

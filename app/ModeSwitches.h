@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QObject>
+
+class QAbstractButton;
+class WinKeyerUsb;
+
+/// The switches for pause, high-speed CW and beacon, each in step with the engine's property: the
+/// engine pauses by itself, and ends a beacon and high-speed CW.
+class ModeSwitches final : public QObject {
+    Q_OBJECT
+  public:
+    struct Buttons {
+        QAbstractButton* pause;
+        QAbstractButton* hscw;
+        QAbstractButton* beacon;
+    };
+
+    /// Checkable buttons; they and `engine` must outlive the switches.
+    ModeSwitches(WinKeyerUsb& engine, const Buttons& buttons, QObject* parent);
+
+  private:
+    void setUpPause(QAbstractButton& button);
+    void setUpHSCW(QAbstractButton& button);
+    void setUpBeacon(QAbstractButton& button);
+    void followLink(QAbstractButton& hscw);
+
+    WinKeyerUsb& _engine;
+};
