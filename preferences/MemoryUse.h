@@ -13,9 +13,9 @@ struct Share {
     /// fits.
     int excess = 0;
     /// The first character that the keyer has no place for: nothing can be saved with it.
-    std::optional<QChar> rejected;
+    std::optional<QChar> rejected = {};
     /// The first character that takes a byte and is sent as nothing.
-    std::optional<QChar> silent;
+    std::optional<QChar> silent = {};
 
     [[nodiscard]] bool isLeftOut() const { return excess > 0; }
     bool operator==(const Share&) const = default;
