@@ -63,7 +63,6 @@ StandaloneMessages::StandaloneMessages(QWidget* parent)
               {_ui->field5, _ui->mark5, _ui->send5},
               {_ui->field6, _ui->mark6, _ui->send6}}};
     std::ranges::for_each(_rows, [this](const Row& row) { setUpRow(row); });
-    connect(_ui->save, &QPushButton::clicked, this, [this] { Q_EMIT saveRequested(_ui->save); });
     connect(_ui->progress, &TimedProgressBar::finished, this, &StandaloneMessages::endLoading);
     connect(&WinKeyerUsb::sharedInstance(), &WinKeyerUsb::activityChanged, this,
             &StandaloneMessages::showAvailability);
@@ -76,8 +75,6 @@ StandaloneMessages::~StandaloneMessages() = default;
 void StandaloneMessages::setUpRow(const Row& row) {
     row.field->setValidator(new MessageFormatter(row.field));
     connect(row.field, &QLineEdit::textChanged, this, &StandaloneMessages::showShares);
-    connect(row.send, &QPushButton::clicked, this,
-            [this, send = row.send] { Q_EMIT sendRequested(send); });
 
     auto* mark = row.mark;
     mark->setIcon(style()->standardIcon(QStyle::SP_MessageBoxWarning));

@@ -20,9 +20,9 @@ class StandaloneMessages;
 /// The six messages that the keyer keeps in its own memory: their texts, how they share that
 /// memory, and buttons that save them and have the keyer send them.
 ///
-/// Fields carry their setting as a dynamic property, for the pane that hosts this view to bind, and
-/// buttons their tag, 1 to 6. Saving and sending are possible while the keyer is connected and is
-/// not being loaded. Main thread only.
+/// Fields carry their setting, and buttons their action ("saveSettings", "sendStandaloneMessage")
+/// and tag, 1 to 6, as dynamic properties, for the pane that hosts this view to bind. Saving and
+/// sending are possible while the keyer is connected and is not being loaded. Main thread only.
 class StandaloneMessages final : public QWidget {
     Q_OBJECT
   public:
@@ -30,15 +30,8 @@ class StandaloneMessages final : public QWidget {
     ~StandaloneMessages() override;
 
     /// The keyer's memory is being loaded from now on: shows how far that is, for as long as it
-    /// takes on the line. For whoever carries out saveRequested() to call when that has succeeded.
+    /// takes on the line. For whoever carries out "saveSettings" to call when that has succeeded.
     void showLoading();
-
-  Q_SIGNALS:
-    /// The operator wants settings and messages in the keyer's memory.
-    void saveRequested(const QObject* sender);
-    /// The operator wants the keyer to send the message of its memory that the sender's tag
-    /// numbers.
-    void sendRequested(const QObject* sender);
 
   private:
     /// What belongs to one message.
