@@ -5,7 +5,10 @@
 #include "keyer/WinKeyerUsb.h"
 #include "platform/Action.h"
 #include "platform/Platform.h"
+#include "preferences/StandaloneMessages.h"
 #include "ui_PreferencesWinKeyerPane.h"
+
+#include <QPushButton>
 
 using namespace Qt::StringLiterals;
 
@@ -15,14 +18,36 @@ void put(const QByteArray& command) {
     WinKeyerUsb::sharedInstance().putToWinKeyer(command);
 }
 
+QWidget* makeView() {
+    auto* view = new QWidget;
+    Ui::PreferencesWinKeyerPane().setupUi(view);
+    return view;
+}
+
 } // namespace
 
-PreferencesWinKeyerViewController::PreferencesWinKeyerViewController() : _view(new QWidget) {
-    Ui::PreferencesWinKeyerPane().setupUi(_view);
+PreferencesWinKeyerViewController::PreferencesWinKeyerViewController()
+    : _view(makeView()), _binder(*_view, *this, keyerSettings) {
+    bindButtons();
 }
 
 PreferencesWinKeyerViewController::~PreferencesWinKeyerViewController() {
+    _binder.settle();
     delete _view; // unless the window that showed it has taken it along
+}
+
+/// Buttons that have an action and no setting.
+void PreferencesWinKeyerViewController::bindButtons() {
+    for (const auto* button : _view->findChildren<QPushButton*>()) {
+        const auto action = button->property("action").toByteArray();
+        if (!action.isEmpty()) {
+            QObject::connect(button, &QPushButton::clicked, this, [this, button, action] {
+                const QObject* sender = button;
+                QMetaObject::invokeMethod(this, action.constData(), Qt::DirectConnection,
+                                          Q_ARG(const QObject*, sender));
+            });
+        }
+    }
 }
 
 QString PreferencesWinKeyerViewController::title() const {
@@ -105,9 +130,16 @@ void PreferencesWinKeyerViewController::sendStandaloneMessage(const QObject* sen
     WinKeyerUsb::sharedInstance().sendStandaloneMessage(Action::tag(sender));
 }
 
+void PreferencesWinKeyerViewController::showLoading() {
+    if (_view) {
+        _view->findChild<StandaloneMessages*>()->showLoading();
+    }
+}
+
 void PreferencesWinKeyerViewController::saveSettings(const QObject*) {
     Error error;
     if (WinKeyerUsb::sharedInstance().writeEeprom(&error)) {
+        showLoading();
         return;
     }
     if (error.localizedDescription().isEmpty()) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "preferences/MBPreferencesModule.h"
+#include "preferences/SettingBinder.h"
 
 #include <QObject>
 #include <QPointer>
@@ -53,5 +54,9 @@ class PreferencesWinKeyerViewController final : public QObject, public MBPrefere
     void saveSettings(const QObject* sender);
 
   private:
+    void bindButtons();
+    void showLoading();
+
     QPointer<QWidget> _view;
+    SettingBinder _binder;
 };
