@@ -1,0 +1,296 @@
+#include "preferences/BoundControl.h"
+
+#include "tests/preferences/BinderBench.h"
+
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+class BoundControlTest : public QObject, private BinderBench {
+    Q_OBJECT
+
+  private Q_SLOTS:
+    void init() { setUp(); }
+    void cleanup() { tearDown(); }
+
+    void aNumberBeyondItsRangeStaysUntilItIsChanged();
+    void aNumberBeyondASlidersEndsIsToldByItsLabel();
+    void anUnknownChoiceStaysUntilItIsChanged();
+    void aTextBesideTheItemsIsOneMoreItem();
+    void aMissingTextIsShownAsSuch();
+    void itemsDataIsStoredInPlaceOfTheirText();
+    void aReplacedListShowsTheStoredText();
+    void anEditableBoxStoresWhatIsTyped();
+    void aCheckBoxActsAtOnce();
+    void aChosenItemActsAtOnce();
+    void aChosenItemActsOnceByEitherWay();
+    void choosingTheSameItemActsWhereThatIsAskedFor();
+    void aTextIsStoredLetterByLetterAndActsOnce();
+    void aStoredTextIsNotFilteredByShowingIt();
+    void theInsertionPointStaysWhileTyping();
+    void steppingActsOncePerSettledValue();
+    void aTypedNumberActsWhenReturnIsPressed();
+    void aTypedNumberActsWhenTheFieldIsLeft();
+    void aTypedNumberActsWhenTheViewHides();
+    void aDraggedSliderActsOnRelease();
+    void aSliderByKeyActsWhenSettled();
+};
+
+void BoundControlTest::aNumberBeyondItsRangeStaysUntilItIsChanged() {
+    store(200, u"Speed"_s);
+    store(0.5, u"Ratio"_s);
+    bind();
+    QCOMPARE(_view->speed.text(), u"stored: 200 wpm"_s);
+    QVERIFY(_view->speed.toolTip().contains(u"stored: 200 wpm"_s));
+    QCOMPARE(_view->ratio.text(), u"stored: 0.5"_s);
+    QCOMPARE(stored(u"Speed"_s), QVariant(200));
+    _view->speed.stepUp();
+    QCOMPARE(stored(u"Speed"_s), QVariant(10));
+    QCOMPARE(_view->speed.text(), u"10 wpm"_s);
+    QCOMPARE(_view->speed.minimum(), 10);
+    QVERIFY(!_view->speed.toolTip().contains(u"stored"_s));
+    store(200, u"Speed"_s);
+    QCOMPARE(_view->speed.text(), u"stored: 200 wpm"_s);
+    showView();
+    _view->speed.setFocus();
+    _view->speed.selectAll();
+    QTest::keyClicks(&_view->speed, u"99\r"_s);
+    QCOMPARE(stored(u"Speed"_s), QVariant(99));
+}
+
+void BoundControlTest::aNumberBeyondASlidersEndsIsToldByItsLabel() {
+    store(60, u"Level"_s);
+    bind();
+    auto* label = qobject_cast<QLabel*>(
+        qobject_cast<QFormLayout*>(_view->layout())->labelForField(&_view->level));
+    QCOMPARE(label->text(), u"&Level (stored: 60 dB)"_s);
+    QCOMPARE(_view->level.value(), 50);
+    QCOMPARE(stored(u"Level"_s), QVariant(60));
+    _view->level.setValue(49);
+    QCOMPARE(label->text(), u"&Level"_s);
+    QCOMPARE(stored(u"Level"_s), QVariant(49));
+}
+
+void BoundControlTest::anUnknownChoiceStaysUntilItIsChanged() {
+    store(u"Straight"_s, u"Mode"_s);
+    bind();
+    QCOMPARE(_view->mode.count(), 3);
+    QCOMPARE(_view->mode.currentIndex(), -1);
+    QCOMPARE(_view->mode.placeholderText(), u"stored: Straight"_s);
+    QVERIFY(_view->mode.toolTip().contains(u"stored: Straight"_s));
+    QCOMPARE(stored(u"Mode"_s), QVariant(u"Straight"_s));
+    QTest::keyClick(&_view->mode, Qt::Key_Down);
+    QCOMPARE(stored(u"Mode"_s), QVariant(u"Iambic B"_s));
+    QVERIFY(_view->mode.placeholderText().isEmpty());
+    QVERIFY(!_view->mode.toolTip().contains(u"stored"_s));
+}
+
+void BoundControlTest::aTextBesideTheItemsIsOneMoreItem() {
+    store(u"3000 lpm"_s, u"Pace"_s);
+    bind();
+    QCOMPARE(_view->pace.count(), 3);
+    QCOMPARE(_view->pace.currentText(), u"3000 lpm"_s);
+    store(u"4000 lpm"_s, u"Pace"_s);
+    QCOMPARE(_view->pace.count(), 3);
+    QCOMPARE(_view->pace.currentText(), u"4000 lpm"_s);
+    QTest::keyClick(&_view->pace, Qt::Key_Home);
+    QCOMPARE(stored(u"Pace"_s), QVariant(u"1000 lpm"_s));
+    QCOMPARE(_view->pace.count(), 2);
+    QCOMPARE(calls(), QStringList{u"Pace=1000 lpm"_s});
+}
+
+void BoundControlTest::aMissingTextIsShownAsSuch() {
+    _view->pace.setProperty("missingText", u"%1 (gone)"_s);
+    store(u"3000 lpm"_s, u"Pace"_s);
+    bind();
+    QCOMPARE(_view->pace.currentText(), u"3000 lpm (gone)"_s);
+    QTest::keyClick(&_view->pace, Qt::Key_Up);
+    QCOMPARE(stored(u"Pace"_s), QVariant(u"2000 lpm"_s));
+}
+
+void BoundControlTest::itemsDataIsStoredInPlaceOfTheirText() {
+    _view->pace.setItemText(1, u"fast"_s);
+    _view->pace.setItemData(1, u"2000 lpm"_s);
+    store(u"2000 lpm"_s, u"Pace"_s);
+    bind();
+    QCOMPARE(_view->pace.currentText(), u"fast"_s);
+    QTest::keyClick(&_view->pace, Qt::Key_Up);
+    QTest::keyClick(&_view->pace, Qt::Key_Down);
+    QCOMPARE(stored(u"Pace"_s), QVariant(u"2000 lpm"_s));
+}
+
+void BoundControlTest::aReplacedListShowsTheStoredText() {
+    store(u"2000 lpm"_s, u"Pace"_s);
+    bind();
+    {
+        const QSignalBlocker quiet(_view->pace);
+        _view->pace.clear();
+        _view->pace.addItems({u"1000 lpm"_s, u"1500 lpm"_s});
+    }
+    _binder->show();
+    QCOMPARE(_view->pace.currentText(), u"2000 lpm"_s);
+    QCOMPARE(_view->pace.count(), 3);
+    QCOMPARE(calls(), QStringList());
+}
+
+void BoundControlTest::anEditableBoxStoresWhatIsTyped() {
+    _view->pace.setEditable(true);
+    bind();
+    showView();
+    _view->pace.setFocus();
+    _view->pace.lineEdit()->selectAll();
+    QTest::keyClicks(&_view->pace, u"20"_s);
+    QCOMPARE(stored(u"Pace"_s), QVariant(u"20"_s));
+    QCOMPARE(_view->pace.currentText(), u"20"_s);
+    QCOMPARE(calls(), QStringList());
+    QTest::keyClick(&_view->pace, Qt::Key_Return);
+    QCOMPARE(calls(), QStringList{u"Pace=20"_s});
+    QCOMPARE(_view->pace.currentText(), u"20"_s);
+    // The current item is still the first one, but not the text.
+    Q_EMIT _view->pace.activated(0);
+    QCOMPARE(stored(u"Pace"_s), QVariant(u"1000 lpm"_s));
+    QCOMPARE(_view->pace.currentText(), u"1000 lpm"_s);
+    store(u"1234 lpm"_s, u"Pace"_s);
+    QCOMPARE(_view->pace.currentText(), u"1234 lpm"_s);
+}
+
+void BoundControlTest::aCheckBoxActsAtOnce() {
+    bind();
+    _view->swap.click();
+    QCOMPARE(calls(), QStringList{u"Swap=true"_s});
+    _view->swap.click();
+    QCOMPARE(calls(), QStringList{u"Swap=false"_s});
+    QCOMPARE(stored(u"Swap"_s), QVariant(false));
+}
+
+void BoundControlTest::aChosenItemActsAtOnce() {
+    bind();
+    QTest::keyClick(&_view->mode, Qt::Key_Down);
+    QCOMPARE(calls(), QStringList{u"Mode=Bug"_s});
+    _platform->clock().advance(1s);
+    QCOMPARE(calls(), QStringList());
+}
+
+void BoundControlTest::aChosenItemActsOnceByEitherWay() {
+    bind();
+    _view->mode.setCurrentIndex(0); // as an assistive tool may do it, with no activation
+    QCOMPARE(stored(u"Mode"_s), QVariant(u"Iambic B"_s));
+    _platform->clock().advance(1s);
+    QCOMPARE(calls(), QStringList{u"Mode=Iambic B"_s});
+}
+
+void BoundControlTest::choosingTheSameItemActsWhereThatIsAskedFor() {
+    _view->pace.setProperty("actsOnEveryChoice", true);
+    bind();
+    Q_EMIT _view->mode.activated(1);
+    QCOMPARE(calls(), QStringList());
+    Q_EMIT _view->pace.activated(0);
+    QCOMPARE(calls(), QStringList{u"Pace=1000 lpm"_s});
+    QTest::keyClick(&_view->pace, Qt::Key_Down);
+    QCOMPARE(calls(), QStringList{u"Pace=2000 lpm"_s});
+}
+
+void BoundControlTest::aTextIsStoredLetterByLetterAndActsOnce() {
+    bind();
+    _view->text.clear();
+    QTest::keyClicks(&_view->text, u"t"_s);
+    QCOMPARE(stored(u"Text"_s), QVariant(u"T"_s));
+    QTest::keyClicks(&_view->text, u"!u"_s);
+    QCOMPARE(stored(u"Text"_s), QVariant(u"TU"_s));
+    QCOMPARE(calls(), QStringList());
+    _platform->clock().advance(250ms);
+    QCOMPARE(calls(), QStringList{u"Text=TU"_s});
+    QTest::keyClicks(&_view->text, u"x\r"_s);
+    QCOMPARE(calls(), QStringList{u"Text=TUX"_s});
+}
+
+void BoundControlTest::aStoredTextIsNotFilteredByShowingIt() {
+    store(u"a&b*c"_s, u"Text"_s);
+    bind();
+    QCOMPARE(_view->text.text(), u"A&B*C"_s);
+    QCOMPARE(_view->text.validator(), &_view->formatter);
+}
+
+void BoundControlTest::theInsertionPointStaysWhileTyping() {
+    bind();
+    _view->call.setCursorPosition(2);
+    QTest::keyClicks(&_view->call, u"xy"_s);
+    QCOMPARE(_view->call.cursorPosition(), 4);
+    QCOMPARE(stored(u"Call"_s), QVariant(u"yoxyur call"_s));
+    _view->text.setCursorPosition(1);
+    QTest::keyClicks(&_view->text, u"a"_s);
+    QCOMPARE(_view->text.cursorPosition(), 2);
+}
+
+void BoundControlTest::steppingActsOncePerSettledValue() {
+    bind();
+    for (int i = 0; i < 5; ++i) {
+        _view->speed.stepUp();
+        _platform->clock().advance(249ms);
+    }
+    QCOMPARE(calls(), QStringList());
+    _platform->clock().advance(1ms);
+    QCOMPARE(calls(), QStringList{u"Speed=15"_s});
+    _platform->clock().advance(1s);
+    QCOMPARE(calls(), QStringList());
+}
+
+void BoundControlTest::aTypedNumberActsWhenReturnIsPressed() {
+    bind();
+    showView();
+    _view->speed.setFocus();
+    _view->speed.selectAll();
+    QTest::keyClicks(&_view->speed, u"45"_s);
+    _platform->clock().advance(1s);
+    QCOMPARE(calls(), QStringList());
+    QCOMPARE(stored(u"Speed"_s), QVariant(10));
+    QTest::keyClick(&_view->speed, Qt::Key_Return);
+    QCOMPARE(calls(), QStringList{u"Speed=45"_s});
+}
+
+void BoundControlTest::aTypedNumberActsWhenTheFieldIsLeft() {
+    bind();
+    showView();
+    _view->speed.setFocus();
+    _view->speed.selectAll();
+    QTest::keyClicks(&_view->speed, u"45\t"_s);
+    QCOMPARE(calls(), QStringList{u"Speed=45"_s});
+}
+
+void BoundControlTest::aTypedNumberActsWhenTheViewHides() {
+    bind();
+    showView();
+    _view->ratio.setFocus();
+    _view->ratio.selectAll();
+    QTest::keyClicks(&_view->ratio, u"2.5"_s);
+    _view->hide();
+    QCOMPARE(calls(), QStringList{u"Ratio=2.5"_s});
+    _view->speed.stepUp();
+    _view->show();
+    _view->hide();
+    QCOMPARE(calls(), QStringList{u"Speed=11"_s});
+}
+
+void BoundControlTest::aDraggedSliderActsOnRelease() {
+    bind();
+    _view->level.setSliderDown(true);
+    _view->level.setSliderPosition(21);
+    _view->level.setSliderPosition(30);
+    QCOMPARE(stored(u"Level"_s), QVariant(30));
+    QCOMPARE(calls(), QStringList());
+    _view->level.setSliderDown(false);
+    QCOMPARE(calls(), QStringList{u"Level=30"_s});
+}
+
+void BoundControlTest::aSliderByKeyActsWhenSettled() {
+    bind();
+    QTest::keyClick(&_view->level, Qt::Key_Right);
+    QTest::keyClick(&_view->level, Qt::Key_Right);
+    QCOMPARE(calls(), QStringList());
+    _platform->clock().advance(250ms);
+    QCOMPARE(calls(), QStringList{u"Level=22"_s});
+}
+
+QTEST_MAIN(BoundControlTest)
+#include "BoundControlTest.moc"
