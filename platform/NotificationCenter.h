@@ -18,6 +18,11 @@ inline constexpr QLatin1StringView NSWorkspaceWillSleepNotification{
 /// Posted after the machine woke up.
 inline constexpr QLatin1StringView NSWorkspaceDidWakeNotification{"NSWorkspaceDidWakeNotification"};
 
+/// Posted before the machine shuts down or starts anew; the program may be gone when the post
+/// returns.
+inline constexpr QLatin1StringView NSWorkspaceWillPowerOffNotification{
+    "NSWorkspaceWillPowerOffNotification"};
+
 struct Notification {
     QString name;
     QObject* object = nullptr;

@@ -32,6 +32,8 @@ LogindPower::LogindPower(const QDBusConnection& bus) : _bus(bus) {
     _watcher.setConnection(_bus);
     _watcher.addWatchedService(service);
     _bus.connect(service, path, interface, u"PrepareForSleep"_s, this, SLOT(prepareForSleep(bool)));
+    _bus.connect(service, path, interface, u"PrepareForShutdown"_s, this,
+                 SLOT(prepareForShutdown(bool)));
     requestInhibitor();
 }
 
@@ -43,6 +45,16 @@ void LogindPower::prepareForSleep(bool isStart) {
     } else {
         wake();
     }
+}
+
+/// An end that was called off leaves the machine awake, and the lock is wanted again.
+void LogindPower::prepareForShutdown(bool isStart) {
+    if (!isStart) {
+        requestInhibitor();
+        return;
+    }
+    NotificationCenter::defaultCenter().post(NSWorkspaceWillPowerOffNotification, this);
+    dropInhibitor();
 }
 
 void LogindPower::sleep() {
@@ -64,7 +76,8 @@ void LogindPower::wake() {
 void LogindPower::requestInhibitor() {
     auto call = QDBusMessage::createMethodCall(service, path, interface, u"Inhibit"_s);
     call.setAutoStartService(false);
-    call.setArguments({u"sleep"_s, u"Quorvel"_s, u"Serial ports are being closed"_s, u"delay"_s});
+    call.setArguments(
+        {u"sleep:shutdown"_s, u"Quorvel"_s, u"Serial ports are being closed"_s, u"delay"_s});
     _request = std::make_unique<QDBusPendingCallWatcher>(_bus.asyncCall(call));
     connect(_request.get(), &QDBusPendingCallWatcher::finished, this,
             [this](const QDBusPendingCallWatcher* request) { takeInhibitor(*request); });

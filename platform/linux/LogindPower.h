@@ -9,14 +9,14 @@
 
 class QDBusPendingCallWatcher;
 
-/// Tells the program of the machine's sleep and wake-up, as the login service announces them:
-/// posts NSWorkspaceWillSleepNotification and NSWorkspaceDidWakeNotification on the default
-/// notification centre, with itself as sender.
+/// Tells the program of the machine's sleep, wake-up and end, as the login service announces them:
+/// posts NSWorkspaceWillSleepNotification, NSWorkspaceDidWakeNotification and
+/// NSWorkspaceWillPowerOffNotification on the default notification centre, with itself as sender.
 ///
 /// While the machine is awake a lock is held that has the service wait, some seconds at most, with
-/// the sleep until every observer has been called. A machine without the service, or without a
-/// bus, is one that never sleeps; a service that starts later is noticed. Main thread only; the
-/// service is never waited for.
+/// the sleep or the end until every observer has been called. A machine without the service, or
+/// without a bus, is one that never sleeps; a service that starts later is noticed. Main thread
+/// only; the service is never waited for.
 class LogindPower final : public QObject {
     Q_OBJECT
   public:
@@ -25,6 +25,7 @@ class LogindPower final : public QObject {
 
   private Q_SLOTS:
     void prepareForSleep(bool isStart);
+    void prepareForShutdown(bool isStart);
 
   private:
     void sleep();

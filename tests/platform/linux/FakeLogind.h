@@ -21,6 +21,10 @@ class FakeLogind final : public QObject, protected QDBusContext {
     void announceSleep() { Q_EMIT PrepareForSleep(true); }
     void announceWake() { Q_EMIT PrepareForSleep(false); }
 
+    /// Announces that the machine is about to end, or that this was called off.
+    void announceShutdown() { Q_EMIT PrepareForShutdown(true); }
+    void callOffShutdown() { Q_EMIT PrepareForShutdown(false); }
+
     /// How many locks have been given out and not been let go of.
     [[nodiscard]] qsizetype heldLocks() const;
     /// What each lock was asked for with: what, who, why and mode.
@@ -37,6 +41,7 @@ class FakeLogind final : public QObject, protected QDBusContext {
 
   Q_SIGNALS:
     Q_SCRIPTABLE void PrepareForSleep(bool isStart);
+    Q_SCRIPTABLE void PrepareForShutdown(bool isStart);
 
   private:
     [[nodiscard]] QDBusUnixFileDescriptor newLock();

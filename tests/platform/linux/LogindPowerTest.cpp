@@ -30,6 +30,7 @@ class Observer final : public QObject {
         };
         center.addObserver(this, NSWorkspaceWillSleepNotification, note);
         center.addObserver(this, NSWorkspaceDidWakeNotification, note);
+        center.addObserver(this, NSWorkspaceWillPowerOffNotification, note);
     }
 
     QStringList posted;
@@ -67,7 +68,7 @@ class LogindPowerTest : public QObject {
         start();
         QTRY_COMPARE(_logind->heldLocks(), 1);
         const auto request = _logind->requests().constFirst();
-        QCOMPARE(request[0], u"sleep"_s);
+        QCOMPARE(request[0], u"sleep:shutdown"_s);
         QCOMPARE(request[1], u"Quorvel"_s);
         QVERIFY(!request[2].isEmpty());
         QCOMPARE(request[3], u"delay"_s);
@@ -172,6 +173,28 @@ class LogindPowerTest : public QObject {
         QTRY_COMPARE(_observer->posted, slept);
         _logind.reset();
         QTRY_COMPARE(_observer->posted, sleptAndWoke);
+    }
+
+    void theMachinesEndIsHeldUpUntilTheObserversHaveRun() {
+        start();
+        QTRY_COMPARE(_logind->heldLocks(), 1);
+        const auto heldMeanwhile = std::make_shared<qsizetype>(0);
+        _observer->reaction = [this, heldMeanwhile] { *heldMeanwhile = _logind->heldLocks(); };
+        _logind->announceShutdown();
+        QTRY_COMPARE(_observer->posted, QStringList{NSWorkspaceWillPowerOffNotification});
+        QCOMPARE(_observer->sender, _power.get());
+        QCOMPARE(*heldMeanwhile, 1);
+        QTRY_COMPARE(_logind->heldLocks(), 0);
+    }
+
+    void anEndThatIsCalledOffLeavesALock() {
+        start();
+        QTRY_COMPARE(_logind->heldLocks(), 1);
+        _logind->announceShutdown();
+        QTRY_COMPARE(_logind->heldLocks(), 0);
+        _logind->callOffShutdown();
+        QTRY_COMPARE(_logind->heldLocks(), 1);
+        QCOMPARE(_observer->posted, QStringList{NSWorkspaceWillPowerOffNotification});
     }
 
     void othersCannotSendTheProgramToSleep() {

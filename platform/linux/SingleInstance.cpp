@@ -1,0 +1,92 @@
+#include "platform/linux/SingleInstance.h"
+
+#include "platform/Error.h"
+
+#include <QDBusConnectionInterface>
+#include <QDBusMessage>
+#include <QDeadlineTimer>
+#include <QThread>
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace {
+
+constexpr QLatin1StringView path{"/org/quorvel/Quorvel"};
+constexpr QLatin1StringView interface { "org.freedesktop.Application" };
+constexpr QLatin1StringView tokenKey{"activation-token"};
+/// What the key was called before there was Wayland.
+constexpr QLatin1StringView startupKey{"desktop-startup-id"};
+
+constexpr auto pauseBetweenCalls = 50ms;
+
+QString tokenIn(const QVariantMap& platformData) {
+    return platformData.value(tokenKey, platformData.value(startupKey)).toString();
+}
+
+} // namespace
+
+SingleInstance::SingleInstance(const QDBusConnection& bus) : _bus(bus) {}
+
+SingleInstance::~SingleInstance() {
+    if (_hasName) {
+        _bus.unregisterObject(path);
+        _bus.interface()->unregisterService(bundleIdentifier);
+    }
+}
+
+SingleInstance::Role SingleInstance::begin(const QString& activationToken,
+                                           std::chrono::milliseconds waiting) {
+    if (!_bus.isConnected()) {
+        return Role::First;
+    }
+    // The owner may go while it is being called, and then the name is free.
+    for (const QDeadlineTimer deadline(waiting);;) {
+        if (takeName()) {
+            return Role::First;
+        }
+        if (callOwner(activationToken, std::chrono::milliseconds(deadline.remainingTime()))) {
+            return Role::Second;
+        }
+        if (deadline.hasExpired()) {
+            return Role::Unanswered;
+        }
+        QThread::msleep(pauseBetweenCalls.count());
+    }
+}
+
+/// The object is there before the name, so that whoever finds the name finds it.
+bool SingleInstance::takeName() {
+    _bus.registerObject(path, this, QDBusConnection::ExportScriptableSlots);
+    const auto reply = _bus.interface()->registerService(bundleIdentifier);
+    _hasName = reply.isValid() && reply.value() == QDBusConnectionInterface::ServiceRegistered;
+    if (!_hasName) {
+        _bus.unregisterObject(path);
+    }
+    return _hasName;
+}
+
+bool SingleInstance::callOwner(const QString& activationToken, std::chrono::milliseconds waiting) {
+    auto call = QDBusMessage::createMethodCall(bundleIdentifier, path, interface, u"Activate"_s);
+    call.setAutoStartService(false);
+    QVariantMap platformData;
+    if (!activationToken.isEmpty()) {
+        platformData = {{tokenKey, activationToken}, {startupKey, activationToken}};
+    }
+    call.setArguments({platformData});
+    const auto reply = _bus.call(call, QDBus::Block, static_cast<int>(waiting.count()));
+    return reply.type() == QDBusMessage::ReplyMessage;
+}
+
+void SingleInstance::Activate(const QVariantMap& platformData) {
+    Q_EMIT activated(tokenIn(platformData));
+}
+
+void SingleInstance::Open(const QStringList&, const QVariantMap& platformData) {
+    Q_EMIT activated(tokenIn(platformData));
+}
+
+void SingleInstance::ActivateAction(const QString&, const QVariantList&,
+                                    const QVariantMap& platformData) {
+    Q_EMIT activated(tokenIn(platformData));
+}

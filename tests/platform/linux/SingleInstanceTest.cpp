@@ -1,0 +1,186 @@
+#include "platform/linux/SingleInstance.h"
+
+#include "tests/platform/linux/PrivateBus.h"
+
+#include <QDBusConnectionInterface>
+#include <QDBusMessage>
+#include <QElapsedTimer>
+#include <QSemaphore>
+#include <QTest>
+#include <QThread>
+
+#include <optional>
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace {
+
+constexpr auto service = "org.quorvel.Quorvel"_L1;
+
+QDBusMessage call(const QString& method, const QVariantList& arguments) {
+    auto message = QDBusMessage::createMethodCall(service, u"/org/quorvel/Quorvel"_s,
+                                                  u"org.freedesktop.Application"_s, method);
+    message.setArguments(arguments);
+    return message;
+}
+
+} // namespace
+
+class SingleInstanceTest : public QObject {
+    Q_OBJECT
+
+  private Q_SLOTS:
+    void init();
+    void cleanup();
+
+    void theFirstIsTheFirst();
+    void theSecondCallsTheFirst_data();
+    void theSecondCallsTheFirst();
+    void desktopsCanCallIt_data();
+    void desktopsCanCallIt();
+    void theNameIsFreeAfterTheEnd();
+    void aPlaceThatBecomesFreeIsTaken();
+    void anOwnerThatHangsIsNotWaitedForLong();
+    void anOwnerThatKnowsNothingOfThisIsNotWaitedForLong();
+    void withoutABusItIsTheFirst();
+
+  private:
+    /// The running instance lives on a thread of its own, as it would in a process of its own.
+    void startFirst();
+    void endFirst();
+
+    std::optional<PrivateBus> _bus;
+    QThread _thread;
+    SingleInstance* _first = nullptr;
+    QStringList _tokens;
+};
+
+void SingleInstanceTest::init() {
+    _bus.emplace();
+    _thread.start();
+}
+
+void SingleInstanceTest::cleanup() {
+    endFirst();
+    _thread.quit();
+    _thread.wait();
+    for (const auto* name : {"first", "second", "desktop"}) {
+        QDBusConnection::disconnectFromBus(QString::fromLatin1(name));
+    }
+    _bus.reset();
+    _tokens.clear();
+}
+
+void SingleInstanceTest::startFirst() {
+    const auto connection = _bus->connect(u"first"_s);
+    _first = new SingleInstance(connection);
+    _first->moveToThread(&_thread);
+    QObject::connect(_first, &SingleInstance::activated, this,
+                     [this](const QString& token) { _tokens.append(token); });
+    auto role = SingleInstance::Role::Unanswered;
+    QMetaObject::invokeMethod(
+        _first, [&] { role = _first->begin({}); }, Qt::BlockingQueuedConnection);
+    QCOMPARE(role, SingleInstance::Role::First);
+}
+
+void SingleInstanceTest::endFirst() {
+    if (_first != nullptr) {
+        QMetaObject::invokeMethod(
+            _first, [this] { delete std::exchange(_first, nullptr); },
+            Qt::BlockingQueuedConnection);
+    }
+}
+
+void SingleInstanceTest::theFirstIsTheFirst() {
+    startFirst();
+    QVERIFY(_tokens.isEmpty());
+    QVERIFY(_bus->connect(u"desktop"_s).interface()->isServiceRegistered(service));
+}
+
+void SingleInstanceTest::theSecondCallsTheFirst_data() {
+    QTest::addColumn<QString>("token");
+    QTest::newRow("with the desktop's token") << u"token-1"_s;
+    QTest::newRow("without one") << u""_s;
+}
+
+void SingleInstanceTest::theSecondCallsTheFirst() {
+    QFETCH(QString, token);
+    startFirst();
+    SingleInstance second(_bus->connect(u"second"_s));
+    QCOMPARE(second.begin(token), SingleInstance::Role::Second);
+    QTRY_COMPARE(_tokens, QStringList{token});
+}
+
+void SingleInstanceTest::desktopsCanCallIt_data() {
+    QTest::addColumn<QString>("method");
+    QTest::addColumn<QVariantList>("arguments");
+    const QVariantMap data{{u"desktop-startup-id"_s, u"old"_s}};
+    QTest::newRow("Activate") << u"Activate"_s << QVariantList{data};
+    QTest::newRow("Open") << u"Open"_s << QVariantList{QStringList{u"file:///a"_s}, data};
+    QTest::newRow("ActivateAction")
+        << u"ActivateAction"_s << QVariantList{u"new-window"_s, QVariantList{}, data};
+}
+
+void SingleInstanceTest::desktopsCanCallIt() {
+    QFETCH(QString, method);
+    QFETCH(QVariantList, arguments);
+    startFirst();
+    const auto reply = _bus->connect(u"desktop"_s).call(call(method, arguments));
+    QCOMPARE(reply.type(), QDBusMessage::ReplyMessage);
+    QTRY_COMPARE(_tokens, QStringList{u"old"_s});
+}
+
+void SingleInstanceTest::theNameIsFreeAfterTheEnd() {
+    startFirst();
+    endFirst();
+    SingleInstance second(_bus->connect(u"second"_s));
+    QCOMPARE(second.begin({}), SingleInstance::Role::First);
+}
+
+void SingleInstanceTest::aPlaceThatBecomesFreeIsTaken() {
+    auto owner = _bus->connect(u"first"_s);
+    QVERIFY(owner.registerService(service));
+    const std::unique_ptr<QThread> end(QThread::create([&owner] {
+        QThread::msleep(200);
+        owner.unregisterService(service);
+    }));
+    end->start();
+    SingleInstance second(_bus->connect(u"second"_s));
+    QCOMPARE(second.begin({}, 20s), SingleInstance::Role::First);
+    QVERIFY(end->wait());
+}
+
+void SingleInstanceTest::anOwnerThatHangsIsNotWaitedForLong() {
+    startFirst();
+    QSemaphore isHanging;
+    QSemaphore mayGoOn;
+    QMetaObject::invokeMethod(_first, [&] {
+        isHanging.release();
+        mayGoOn.acquire();
+    });
+    isHanging.acquire();
+    QElapsedTimer time;
+    time.start();
+    {
+        SingleInstance second(_bus->connect(u"second"_s));
+        QCOMPARE(second.begin({}, 300ms), SingleInstance::Role::Unanswered);
+    }
+    mayGoOn.release();
+    QVERIFY(time.elapsed() >= 300);
+    QVERIFY2(time.elapsed() < 10'000, qPrintable(QString::number(time.elapsed())));
+}
+
+void SingleInstanceTest::anOwnerThatKnowsNothingOfThisIsNotWaitedForLong() {
+    QVERIFY(_bus->connect(u"first"_s).registerService(service));
+    SingleInstance second(_bus->connect(u"second"_s));
+    QCOMPARE(second.begin({}, 200ms), SingleInstance::Role::Unanswered);
+}
+
+void SingleInstanceTest::withoutABusItIsTheFirst() {
+    SingleInstance instance(QDBusConnection(u"none"_s));
+    QCOMPARE(instance.begin({}), SingleInstance::Role::First);
+}
+
+QTEST_GUILESS_MAIN(SingleInstanceTest)
+#include "SingleInstanceTest.moc"
