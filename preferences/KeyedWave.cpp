@@ -73,4 +73,15 @@ std::vector<KeyDown> keyDownsOf(const QString& word, const Timing& timing) {
     return tape.take();
 }
 
+Milliseconds roundStep(Milliseconds span, int parts) {
+    for (double power = 1;; power *= 10) {
+        for (const int factor : {1, 2, 5}) {
+            const auto step = Milliseconds(factor * power);
+            if (step * parts >= span) {
+                return step;
+            }
+        }
+    }
+}
+
 } // namespace KeyedWave

@@ -54,6 +54,10 @@ struct KeyDown {
 /// Characters without Morse code are passed over.
 [[nodiscard]] std::vector<KeyDown> keyDownsOf(const QString& word, const Timing& timing);
 
+/// The shortest of 1, 2, 5, 10, 20, 50 ms and so on that divides `span` into at most `parts` parts,
+/// which is at least 1.
+[[nodiscard]] Milliseconds roundStep(Milliseconds span, int parts);
+
 /// The timing that settings give at `wpm`. A register byte that the keyer would not take counts as
 /// neutral.
 template <SettingsSource Source>

@@ -4,15 +4,15 @@
 
 #include <QWidget>
 
-/// A bar that shows how full the keyer's message memory is, a segment for each message, and says
-/// it in figures.
+/// A bar that shows how full the keyer's message memory is, a numbered segment for each message,
+/// with the same in figures below.
 class MemoryGauge final : public QWidget {
     Q_OBJECT
   public:
     explicit MemoryGauge(QWidget* parent = nullptr);
 
     void setShares(const MemoryUse::Shares& shares);
-    /// What the bar says, such as "54 of 232 bytes used".
+    /// What stands below the bar, such as "54 of 232 bytes used".
     [[nodiscard]] QString text() const;
 
     [[nodiscard]] QSize sizeHint() const override;
@@ -22,5 +22,8 @@ class MemoryGauge final : public QWidget {
     void paintEvent(QPaintEvent* event) override;
 
   private:
+    [[nodiscard]] QRect bar() const;
+    void paintSegments(QPainter& painter) const;
+
     MemoryUse::Shares _shares;
 };

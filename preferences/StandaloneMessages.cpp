@@ -42,9 +42,9 @@ QString explanationOf(const MemoryUse::Share& share) {
             .arg(quoted(*share.rejected));
     }
     if (share.isLeftOut()) {
-        return StandaloneMessages::tr("The memory has no room for this message, which is %n "
-                                      "character(s) too long. It is left out when you save.",
-                                      nullptr, share.excess);
+        return StandaloneMessages::tr("The memory has no room for this message, which is left out "
+                                      "when you save. Characters too many: %1.")
+            .arg(share.excess);
     }
     return StandaloneMessages::tr("%1 has no Morse code: the keyer sends nothing in its place. "
                                   "Tokens are not filled in here.")
