@@ -1,53 +1,304 @@
 #include "app/KeyboardView.h"
 
+#include "app/Composition.h"
 #include "keyer/WinKeyerUsb.h"
 
+#include <QAction>
+#include <QContextMenuEvent>
+#include <QInputMethodEvent>
+#include <QMenu>
+#include <QMimeData>
+#include <QPainter>
 #include <QScopedValueRollback>
+#include <QScrollBar>
+#include <QTextBlock>
 #include <QTextCursor>
 
 #include <algorithm>
+#include <memory>
 
-KeyboardView::KeyboardView(QWidget* parent) : QPlainTextEdit(parent) {
-    // Taking a change back would send again what the keyer has dropped, and the engine's changes
-    // are not the operator's to take back.
+using namespace Qt::StringLiterals;
+
+KeyboardView::KeyboardView(QWidget* parent)
+    : QPlainTextEdit(parent), _text(*document()), _scrollRest(this) {
+    // The document knows nothing of what has been sent, and its own undo would key text twice.
     setUndoRedoEnabled(false);
+    setTabChangesFocus(true);
     QObject::connect(this, &QPlainTextEdit::textChanged, this, &KeyboardView::takeOperatorsText);
+    QObject::connect(verticalScrollBar(), &QScrollBar::actionTriggered, &_scrollRest,
+                     &ScrollRest::noteUse);
+    QObject::connect(&_scrollRest, &ScrollRest::over, this, &KeyboardView::followSending);
 }
 
 void KeyboardView::setEngine(WinKeyerUsb& engine) {
     _engine = &engine;
     QObject::connect(_engine, &WinKeyerUsb::keyboardBufferChanged, this,
                      &KeyboardView::showEnginesText);
-    showEnginesText();
+    QObject::connect(_engine, &WinKeyerUsb::sendingProgressed, this, &KeyboardView::showProgress);
+    showChange(TextChange::between(text(), _engine->keyboardBuffer()));
+    showProgress();
 }
+
+// The operator's changes.
 
 void KeyboardView::takeOperatorsText() {
-    if (_engine != nullptr && !_isShowingEnginesText) {
-        _engine->setKeyboardBuffer(toPlainText());
-        _engine->textDidChange();
+    if (_engine == nullptr || _isChangingDocument) {
+        return;
+    }
+    const auto before = _engine->keyboardBuffer();
+    const auto typed = text();
+    if (typed == before) {
+        return; // a composition goes on, and is no text yet
+    }
+    const auto handedOver = _engine->outputBufferIndex();
+    giveToEngine(typed);
+    breakParagraphs();
+    const auto change = TextChange::between(before, _engine->keyboardBuffer());
+    if (!change.isEmpty()) {
+        const auto isTyped = change.removed.size() + change.inserted.size() == 1;
+        _history.record(change, handedOver,
+                        isTyped ? EditHistory::Kind::Typed : EditHistory::Kind::Whole);
+        showProgress();
     }
 }
 
-void KeyboardView::showEnginesText() {
-    const auto shown = toPlainText();
-    const auto wanted = _engine->keyboardBuffer();
-    if (shown == wanted) {
+void KeyboardView::giveToEngine(const QString& text) {
+    const QScopedValueRollback guard(_isEngineTakingText, true);
+    _engine->setKeyboardBuffer(text);
+    _engine->textDidChange();
+}
+
+void KeyboardView::replaceText(qsizetype begin, qsizetype end, const QString& text) {
+    QTextCursor cursor(document());
+    cursor.setPosition(static_cast<int>(begin));
+    cursor.setPosition(static_cast<int>(end), QTextCursor::KeepAnchor);
+    cursor.insertText(KeyboardText::withoutLineEnds(text));
+}
+
+void KeyboardView::undoTyping() {
+    travel(_history.undo());
+}
+
+void KeyboardView::redoTyping() {
+    travel(_history.redo());
+}
+
+void KeyboardView::travel(const std::optional<TextChange>& change) {
+    if (!change) {
         return;
     }
-    // Only what differs is replaced, so that caret and selection stay with the text around it.
-    const auto [shownEnd, wantedEnd] =
-        std::mismatch(shown.begin(), shown.end(), wanted.begin(), wanted.end());
-    const auto prefix = shownEnd - shown.begin();
-    const auto shortest = std::min(shown.size(), wanted.size()) - prefix;
-    const auto suffix =
-        std::mismatch(shown.rbegin(), shown.rbegin() + shortest, wanted.rbegin()).first -
-        shown.rbegin();
+    const auto wanted = change->appliedTo(_engine->keyboardBuffer());
+    giveToEngine(wanted);
+    if (_engine->keyboardBuffer() != wanted) {
+        // The engine let something else pass this time; the other changes do not fit any more.
+        _history.clear();
+    }
+    showProgress();
+    auto caret = textCursor();
+    const auto end = change->position + change->inserted.size();
+    caret.setPosition(static_cast<int>(std::min(end, _engine->keyboardBuffer().size())));
+    setTextCursor(caret);
+    ensureCursorVisible();
+}
 
-    const QScopedValueRollback guard(_isShowingEnginesText, true);
-    QTextCursor cursor(document());
-    cursor.setPosition(static_cast<int>(prefix));
-    cursor.setPosition(static_cast<int>(shown.size() - suffix), QTextCursor::KeepAnchor);
-    cursor.insertText(wanted.mid(prefix, wanted.size() - suffix - prefix));
+void KeyboardView::announceHistory() {
+    if (_couldUndo != canUndoTyping()) {
+        _couldUndo = canUndoTyping();
+        Q_EMIT canUndoTypingChanged(_couldUndo);
+    }
+    if (_couldRedo != canRedoTyping()) {
+        _couldRedo = canRedoTyping();
+        Q_EMIT canRedoTypingChanged(_couldRedo);
+    }
+}
+
+// The engine's changes.
+
+void KeyboardView::showEnginesText() {
+    const auto change = TextChange::between(text(), _engine->keyboardBuffer());
+    if (change.isEmpty()) {
+        return;
+    }
+    if (!_isEngineTakingText) {
+        _history.record(change, _engine->outputBufferIndex(), EditHistory::Kind::Whole);
+    }
+    showChange(change);
+}
+
+void KeyboardView::showChange(const TextChange& change) {
+    const auto before = textCursor();
+    const auto begin = static_cast<int>(change.movedStart(before.selectionStart()));
+    const auto end = static_cast<int>(change.movedEnd(before.selectionEnd()));
+    const auto isReversed = before.position() < before.anchor();
+
+    const QScopedValueRollback guard(_isChangingDocument, true);
+    const Composition composition(before);
+    _text.apply(change);
+    if (before.hasSelection()) {
+        keepSelection(begin, std::max(begin, end), isReversed);
+    }
+    composition.putAt(textCursor());
+}
+
+void KeyboardView::breakParagraphs() {
+    const QScopedValueRollback guard(_isChangingDocument, true);
+    const Composition composition(textCursor());
+    _text.breakParagraphs();
+    composition.putAt(textCursor());
+}
+
+void KeyboardView::keepSelection(int begin, int end, bool isReversed) {
+    auto selection = textCursor();
+    if (selection.selectionStart() == begin && selection.selectionEnd() == end) {
+        return;
+    }
+    selection.setPosition(isReversed ? end : begin);
+    selection.setPosition(isReversed ? begin : end, QTextCursor::KeepAnchor);
+    setTextCursor(selection);
+}
+
+bool KeyboardView::isComposing() const {
+    return Composition::isAt(textCursor());
+}
+
+// How far the sending is.
+
+SendingMarks::State KeyboardView::sendingState() const {
+    return {_engine->inFlightIndex(), _engine->outputBufferIndex()};
+}
+
+qsizetype KeyboardView::waitingCount() const {
+    return _engine == nullptr ? 0 : _engine->keyboardBuffer().size() - _engine->inFlightIndex();
+}
+
+void KeyboardView::showProgress() {
+    if (_engine->keyboardBuffer().isEmpty() && !_isEngineTakingText) {
+        _history.clear(); // stopped, or broken in on
+    }
+    _history.handOver(_engine->outputBufferIndex());
+    announceHistory();
+    if (_shownState != sendingState()) {
+        _shownState = sendingState();
+        viewport()->update();
+    }
+    followSending();
+}
+
+bool KeyboardView::isInUse() {
+    return textCursor().hasSelection() || isComposing() || !_scrollRest.isOver();
+}
+
+void KeyboardView::followSending() {
+    if (isInUse()) {
+        return;
+    }
+    const auto position = static_cast<int>(_engine->inFlightIndex());
+    const auto block = document()->findBlock(position);
+    if (!block.isValid()) {
+        return;
+    }
+    static_cast<void>(blockBoundingRect(block)); // has it laid out
+    const auto line = block.layout()->lineForTextPosition(position - block.position());
+    if (!line.isValid()) {
+        return;
+    }
+    const auto wanted = block.firstLineNumber() + line.lineNumber();
+    const auto page = std::max(1, static_cast<int>(viewport()->height() / line.height()));
+    auto* bar = verticalScrollBar();
+    if (wanted < bar->value() || wanted >= bar->value() + page) {
+        bar->setValue(wanted - page / 3);
+    }
+}
+
+void KeyboardView::paintEvent(QPaintEvent* event) {
+    QPlainTextEdit::paintEvent(event);
+    if (_engine == nullptr) {
+        return;
+    }
+    auto colours = palette();
+    colours.setCurrentColorGroup(hasFocus() ? QPalette::Active : QPalette::Inactive);
+    const auto cursor = textCursor();
+    const SendingMarks marks(_shownState, {cursor.selectionStart(), cursor.selectionEnd()},
+                             colours);
+    QPainter painter(viewport());
+    painter.setClipRegion(event->region());
+    for (auto block = firstVisibleBlock(); block.isValid(); block = block.next()) {
+        const auto geometry = blockBoundingGeometry(block).translated(contentOffset());
+        if (geometry.top() > event->rect().bottom()) {
+            break;
+        }
+        marks.paint(painter, {*block.layout(), block.position(), geometry.topLeft()});
+    }
+}
+
+// What the view is used by.
+
+void KeyboardView::keyPressEvent(QKeyEvent* event) {
+    _scrollRest.noteUse();
+    if (event->matches(QKeySequence::Undo)) {
+        undoTyping();
+    } else if (event->matches(QKeySequence::Redo)) {
+        redoTyping();
+    } else if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter) {
+        QPlainTextEdit::keyPressEvent(event);
+    }
+}
+
+void KeyboardView::inputMethodEvent(QInputMethodEvent* event) {
+    _scrollRest.noteUse();
+    QInputMethodEvent filtered(event->preeditString(), event->attributes());
+    filtered.setCommitString(KeyboardText::withoutLineEnds(event->commitString()),
+                             event->replacementStart(), event->replacementLength());
+    QPlainTextEdit::inputMethodEvent(&filtered);
+    event->setAccepted(filtered.isAccepted());
+}
+
+void KeyboardView::mousePressEvent(QMouseEvent* event) {
+    _scrollRest.noteUse();
+    QPlainTextEdit::mousePressEvent(event);
+}
+
+void KeyboardView::mouseReleaseEvent(QMouseEvent* event) {
+    _scrollRest.noteUse();
+    QPlainTextEdit::mouseReleaseEvent(event);
+}
+
+void KeyboardView::wheelEvent(QWheelEvent* event) {
+    _scrollRest.noteUse();
+    QPlainTextEdit::wheelEvent(event);
+}
+
+void KeyboardView::contextMenuEvent(QContextMenuEvent* event) {
+    const std::unique_ptr<QMenu> menu(createStandardContextMenu(event->pos()));
+    if (auto* undo = menu->findChild<QAction*>(u"edit-undo"_s)) {
+        undo->disconnect();
+        undo->setEnabled(canUndoTyping());
+        QObject::connect(undo, &QAction::triggered, this, &KeyboardView::undoTyping);
+    }
+    if (auto* redo = menu->findChild<QAction*>(u"edit-redo"_s)) {
+        redo->disconnect();
+        redo->setEnabled(canRedoTyping());
+        QObject::connect(redo, &QAction::triggered, this, &KeyboardView::redoTyping);
+    }
+    menu->exec(event->globalPos());
+    _scrollRest.noteUse();
+}
+
+QMimeData* KeyboardView::createMimeDataFromSelection() const {
+    auto plain = std::make_unique<QMimeData>();
+    plain->setText(KeyboardText::withSpaces(textCursor().selectedText()));
+    return plain.release();
+}
+
+bool KeyboardView::canInsertFromMimeData(const QMimeData* source) const {
+    return source->hasText();
+}
+
+void KeyboardView::insertFromMimeData(const QMimeData* source) {
+    auto caret = textCursor();
+    caret.insertText(KeyboardText::withoutLineEnds(source->text()));
+    setTextCursor(caret);
+    ensureCursorVisible();
 }
 
 void KeyboardView::focusInEvent(QFocusEvent* event) {

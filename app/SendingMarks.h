@@ -1,0 +1,61 @@
+#pragma once
+
+#include <QColor>
+#include <QPalette>
+#include <QPointF>
+#include <QTextLayout>
+
+#include <algorithm>
+
+class QPainter;
+
+/// How far a text has been sent, drawn over it: sent text is plain, what is on its way stands in
+/// an inverse box, what waits is underlined with dots. Shapes, not colours, tell them apart, also
+/// where the text is selected.
+class SendingMarks {
+  public:
+    /// Half-open ranges of the text: on its way is [inFlight, waiting), and the rest waits.
+    struct State {
+        qsizetype inFlight = 0;
+        qsizetype waiting = 0;
+
+        [[nodiscard]] bool operator==(const State&) const = default;
+    };
+
+    /// A stretch of the text.
+    struct Range {
+        qsizetype begin = 0;
+        qsizetype end = 0;
+
+        [[nodiscard]] bool isEmpty() const { return begin >= end; }
+        [[nodiscard]] Range within(Range other) const {
+            return {std::max(begin, other.begin), std::min(end, other.end)};
+        }
+    };
+
+    /// A paragraph as it was drawn: its text begins at index `start`, its layout at `origin`.
+    struct Paragraph {
+        const QTextLayout& layout;
+        qsizetype start;
+        QPointF origin;
+    };
+
+    struct Colours {
+        QColor text;
+        QColor background;
+    };
+
+    SendingMarks(const State& state, Range selection, const QPalette& palette)
+        : _state(state), _selection(selection), _palette(palette) {}
+
+    /// Draws the marks over a paragraph. What is being composed with an input method gets none.
+    void paint(QPainter& painter, const Paragraph& paragraph) const;
+
+  private:
+    void paintPart(QPainter& painter, const Paragraph& paragraph, Range part,
+                   const Colours& colours) const;
+
+    State _state;
+    Range _selection;
+    QPalette _palette;
+};
