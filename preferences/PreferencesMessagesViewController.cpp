@@ -1,8 +1,73 @@
 #include "preferences/PreferencesMessagesViewController.h"
 
+#include "app/formatters/MessageFormatter.h"
 #include "keyer/MessageSettings.h"
+#include "keyer/WinKeyerUsb.h"
 #include "platform/SettingsStore.h"
+#include "ui_PreferencesMessagesPane.h"
+
+#include <array>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// All settings of the pane, as the binder takes them.
+constexpr auto paneSettings = [] {
+    std::array<Setting, 2 * messageSettings.size() + 1> settings{};
+    auto next = settings.begin();
+    for (const auto& message : messageSettings) {
+        *next++ = {message.labelKey, message.labelDefault};
+        *next++ = {message.textKey, message.textDefault};
+    }
+    *next = BeaconInterval;
+    return settings;
+}();
+
+} // namespace
 
 void PreferencesMessagesViewController::initialize() {
     SettingsStore::standardUserDefaults().registerDefaults(messageDefaults());
+}
+
+PreferencesMessagesViewController::PreferencesMessagesViewController()
+    : _view(std::make_unique<QWidget>()), _ui(std::make_unique<Ui::PreferencesMessagesPane>()) {
+    _ui->setupUi(_view.get());
+    awakeFromNib();
+    _binder = std::make_unique<SettingBinder>(*_view, *this, paneSettings);
+    connect(&SettingsStore::standardUserDefaults(), &SettingsStore::changed, this,
+            &PreferencesMessagesViewController::explainTokens);
+    connect(&WinKeyerUsb::sharedInstance(), &WinKeyerUsb::serialNumberChanged, this,
+            &PreferencesMessagesViewController::explainTokens);
+    explainTokens();
+}
+
+PreferencesMessagesViewController::~PreferencesMessagesViewController() = default;
+
+QString PreferencesMessagesViewController::title() const {
+    return tr("Messages");
+}
+
+QString PreferencesMessagesViewController::identifier() const {
+    return u"PreferencesMessagesPane"_s;
+}
+
+QIcon PreferencesMessagesViewController::image() const {
+    return QIcon(u":/PreferencesMessages"_s);
+}
+
+void PreferencesMessagesViewController::awakeFromNib() {
+    for (std::size_t number = 1; number <= messageSettings.size(); ++number) {
+        auto* field = _view->findChild<QLineEdit*>(u"message%1TextField"_s.arg(number));
+        field->setValidator(new MessageFormatter(field));
+    }
+}
+
+void PreferencesMessagesViewController::explainTokens() {
+    const auto& engine = WinKeyerUsb::sharedInstance();
+    _ui->tokensLabel->setText(
+        tr("In a text, ` sends your call, %1; # the serial number, %2; ~ their call. "
+           "Between % and ^ it is high-speed CW, { merges the next two letters into one sign, "
+           "and | is half a dit of space.")
+            .arg(engine.myCall(), engine.cutifiedSerialNumber()));
 }

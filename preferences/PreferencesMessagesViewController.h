@@ -1,10 +1,37 @@
 #pragma once
 
-/// The message buttons and the beacon as the program comes with them.
-class PreferencesMessagesViewController {
-  public:
-    PreferencesMessagesViewController() = delete;
+#include "preferences/MBPreferencesModule.h"
+#include "preferences/SettingBinder.h"
 
-    /// Registers their defaults. To be called before any setting is read.
+#include <QObject>
+
+#include <memory>
+
+namespace Ui {
+class PreferencesMessagesPane;
+}
+
+/// The preferences pane of the eight messages, the labels of their buttons, and the beacon. Main
+/// thread only.
+class PreferencesMessagesViewController final : public QObject, public MBPreferencesModule {
+    Q_OBJECT
+  public:
+    /// Registers the defaults of all that. To be called before any setting is read.
     static void initialize();
+
+    PreferencesMessagesViewController();
+    ~PreferencesMessagesViewController() override;
+
+    [[nodiscard]] QString title() const override;
+    [[nodiscard]] QString identifier() const override;
+    [[nodiscard]] QIcon image() const override;
+    [[nodiscard]] QWidget* view() const override { return _view.get(); }
+
+  private:
+    void awakeFromNib();
+    void explainTokens();
+
+    std::unique_ptr<QWidget> _view;
+    std::unique_ptr<Ui::PreferencesMessagesPane> _ui;
+    std::unique_ptr<SettingBinder> _binder;
 };

@@ -1,0 +1,257 @@
+#include "preferences/MBPreferencesController.h"
+
+#include "keyer/WinKeyerUsb.h"
+#include "platform/Platform.h"
+#include "preferences/WindowFrame.h"
+
+#include <QAction>
+#include <QActionGroup>
+#include <QCoreApplication>
+#include <QEventLoop>
+#include <QPointer>
+#include <QScreen>
+#include <QShortcut>
+#include <QStyle>
+#include <QThread>
+#include <QToolBar>
+#include <QVBoxLayout>
+#include <QVariantAnimation>
+
+#include <mutex>
+#include <stdexcept>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr QLatin1StringView MBPreferencesSelection{"MBPreferencesSelection"};
+
+} // namespace
+
+MBPreferencesController& MBPreferencesController::sharedController() {
+    static std::mutex mutex;
+    static QPointer<MBPreferencesController> shared;
+    const auto make = [] {
+        const std::lock_guard lock(mutex);
+        if (shared.isNull()) {
+            shared = new MBPreferencesController;
+            shared->setParent(&Platform::current());
+        }
+    };
+    if (QThread::currentThread() == QCoreApplication::instance()->thread()) {
+        make();
+    } else if (!Platform::current().mainQueue()->sync(make, {})) {
+        throw std::logic_error("The program has ended.");
+    }
+    const std::lock_guard lock(mutex);
+    return *shared;
+}
+
+MBPreferencesController::MBPreferencesController() : _contentView(new QWidget) {
+    _window.setWindowFlags(Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+                           Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint);
+    _window.setContextMenuPolicy(Qt::NoContextMenu); // it would hide the toolbar
+    _window.setCentralWidget(_contentView);
+    auto* layout = new QVBoxLayout(_contentView);
+    layout->setContentsMargins({});
+    setUpToolbar();
+    setUpKeys();
+    _window.setFixedSize(300, 200);
+}
+
+MBPreferencesController::~MBPreferencesController() {
+    // The module owns its view, which must not go with the window first.
+    takeViewOut();
+}
+
+void MBPreferencesController::setUpToolbar() {
+    _toolbar = _window.addToolBar(tr("Preferences"));
+    _toolbar->setObjectName(u"PreferencesToolbar"_s);
+    _toolbar->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
+    _toolbar->setIconSize({32, 32});
+    _toolbar->setMovable(false);
+    _toolbar->toggleViewAction()->setVisible(false);
+    _items = new QActionGroup(_toolbar);
+}
+
+void MBPreferencesController::setUpKeys() {
+    const auto* escape = new QShortcut(Qt::Key_Escape, &_window);
+    connect(escape, &QShortcut::activated, this, [this, escape] { cancel(escape); });
+    const auto* close = new QShortcut(QKeySequence::Close, &_window);
+    connect(close, &QShortcut::activated, &_window, &QWidget::close);
+}
+
+void MBPreferencesController::setModules(const std::shared_ptr<const Modules>& modules) {
+    if (modules == _modules) {
+        return;
+    }
+    _modules = modules;
+    rebuildToolbarItems();
+    if (_modules == nullptr || _modules->isEmpty()) {
+        return;
+    }
+    const auto& settings = SettingsStore::standardUserDefaults();
+    const auto last = moduleForIdentifier(settings.stringForKey(MBPreferencesSelection));
+    changeToModule(last != nullptr ? last : _modules->constFirst());
+}
+
+void MBPreferencesController::rebuildToolbarItems() {
+    const auto items = _toolbar->actions();
+    for (auto i = items.size() - 1; i >= 1; --i) {
+        _toolbar->removeAction(items.at(i));
+        items.at(i)->deleteLater(); // it may be the one that led here
+    }
+    for (const auto& identifier : toolbarAllowedItemIdentifiers()) {
+        auto* item = toolbarItemForItemIdentifier(identifier).release();
+        item->setParent(_toolbar);
+        _items->addAction(item);
+        _toolbar->addAction(item);
+        _toolbar->widgetForAction(item)->setFocusPolicy(Qt::StrongFocus);
+    }
+}
+
+QStringList MBPreferencesController::toolbarAllowedItemIdentifiers() const {
+    QStringList identifiers;
+    if (_modules != nullptr) {
+        for (const auto& module : *_modules) {
+            identifiers.append(module->identifier());
+        }
+    }
+    return identifiers;
+}
+
+QStringList MBPreferencesController::toolbarSelectableItemIdentifiers() const {
+    return toolbarAllowedItemIdentifiers();
+}
+
+std::unique_ptr<QAction>
+MBPreferencesController::toolbarItemForItemIdentifier(const QString& identifier) {
+    auto item = std::make_unique<QAction>();
+    item->setObjectName(identifier);
+    if (const auto module = moduleForIdentifier(identifier)) {
+        item->setText(module->title());
+        item->setIcon(module->image());
+        item->setCheckable(true);
+        connect(item.get(), &QAction::triggered, this,
+                [this, sender = item.get()] { selectModule(sender); });
+    }
+    return item;
+}
+
+MBPreferencesController::Module
+MBPreferencesController::moduleForIdentifier(const QString& identifier) const {
+    Module found;
+    if (_modules != nullptr) {
+        for (const auto& module : *_modules) {
+            if (module->identifier() == identifier) {
+                found = module;
+            }
+        }
+    }
+    return found;
+}
+
+void MBPreferencesController::showWindow(const QObject*) {
+    const auto frame =
+        WindowFrame::centred(_window.frameGeometry(), _window.screen()->availableGeometry());
+    _window.move(frame.topLeft());
+    _window.show();
+    _window.raise();
+    _window.activateWindow();
+}
+
+void MBPreferencesController::selectModule(const QObject* sender) {
+    const auto* item = qobject_cast<const QAction*>(sender);
+    if (item == nullptr) {
+        return;
+    }
+    if (const auto module = moduleForIdentifier(item->objectName())) {
+        changeToModule(module);
+    }
+}
+
+void MBPreferencesController::setSelectedPreferenceItemWithIdentifier(const QString& identifier) {
+    changeToModule(moduleForIdentifier(identifier));
+}
+
+void MBPreferencesController::changeToModule(Module module) {
+    const auto change = ++_changes;
+    takeViewOut();
+    setFrame(frameFor(module.get()));
+    if (change != _changes) {
+        return; // another change has begun and ended meanwhile: it is the later one
+    }
+    selectToolbarItem(module != nullptr ? module->identifier() : QString());
+    _window.setWindowTitle(module != nullptr ? module->title() : QString());
+    if (module != nullptr) {
+        module->willBeDisplayed();
+    }
+    _currentModule = module;
+    showView();
+    SettingsStore::standardUserDefaults().setObject(
+        module != nullptr ? QVariant(module->identifier()) : QVariant(), MBPreferencesSelection);
+}
+
+void MBPreferencesController::showView() {
+    auto* view = _currentModule != nullptr ? _currentModule->view() : nullptr;
+    if (view != nullptr) {
+        _contentView->layout()->addWidget(view);
+        view->show();
+    }
+}
+
+void MBPreferencesController::takeViewOut() {
+    auto* view = _currentModule != nullptr ? _currentModule->view() : nullptr;
+    if (view != nullptr && view->parentWidget() == _contentView) {
+        _contentView->layout()->removeWidget(view);
+        view->setParent(nullptr);
+    }
+}
+
+QRect MBPreferencesController::frameFor(const MBPreferencesModule* module) const {
+    auto* view = module != nullptr ? module->view() : nullptr;
+    // A view that was laid out for another font may need more than it had.
+    const auto content =
+        view != nullptr ? view->size().expandedTo(view->minimumSizeHint()) : QSize(0, 0);
+    const auto toolbar = QSize(0, _toolbar->sizeHint().height());
+    const auto border = _window.frameGeometry().size() - _window.size();
+    return WindowFrame::forContent(_window.frameGeometry(), content, toolbar + border);
+}
+
+/// A window on the screen grows and shrinks before the operator's eyes. Nothing that the operator
+/// does comes in between; the keyer and the clock go on, and may begin a later change, which then
+/// has the window.
+void MBPreferencesController::setFrame(const QRect& frame) {
+    const auto size = frame.size() - (_window.frameGeometry().size() - _window.size());
+    const auto resize = [this, change = _changes](const QSize& each) {
+        if (change == _changes) {
+            _window.setFixedSize(each);
+        }
+    };
+    const auto duration =
+        _window.style()->styleHint(QStyle::SH_Widget_Animation_Duration, nullptr, &_window);
+    if (_window.isVisible() && duration > 0) {
+        QVariantAnimation growth;
+        growth.setDuration(duration);
+        growth.setEasingCurve(QEasingCurve::InOutQuad);
+        growth.setStartValue(_window.size());
+        growth.setEndValue(size);
+        QEventLoop untilGrown;
+        connect(&growth, &QVariantAnimation::valueChanged, &untilGrown,
+                [resize](const QVariant& each) { resize(each.toSize()); });
+        connect(&growth, &QVariantAnimation::finished, &untilGrown, &QEventLoop::quit);
+        growth.start();
+        untilGrown.exec(QEventLoop::ExcludeUserInputEvents);
+    }
+    resize(size);
+}
+
+void MBPreferencesController::selectToolbarItem(const QString& identifier) {
+    for (auto* item : _toolbar->actions()) {
+        item->setChecked(item->objectName() == identifier);
+    }
+}
+
+void MBPreferencesController::cancel(const QObject* sender) {
+    WinKeyerUsb::sharedInstance().stopMessageSending(sender);
+}

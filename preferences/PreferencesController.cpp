@@ -1,0 +1,31 @@
+#include "preferences/PreferencesController.h"
+
+#include "preferences/MBPreferencesController.h"
+#include "preferences/PreferencesGeneralViewController.h"
+#include "preferences/PreferencesMessagesViewController.h"
+#include "preferences/PreferencesWinKeyerViewController.h"
+
+#include <QWidget>
+
+void PreferencesController::awakeFromNib() {
+    const auto general = std::make_shared<PreferencesGeneralViewController>();
+    _general = general;
+    const auto panes =
+        std::make_shared<const MBPreferencesController::Modules>(MBPreferencesController::Modules{
+            general, std::make_shared<PreferencesMessagesViewController>(),
+            std::make_shared<PreferencesWinKeyerViewController>()});
+    for (const auto& pane : *panes) {
+        pane->view()->resize(pane->view()->sizeHint());
+    }
+    MBPreferencesController::sharedController().setModules(panes);
+}
+
+void PreferencesController::showPreferences(const QObject* sender) {
+    MBPreferencesController::sharedController().showWindow(sender);
+}
+
+void PreferencesController::setSerialPortNames(const QStringList& names) {
+    if (const auto general = _general.lock()) {
+        general->setSerialPortNames(names);
+    }
+}

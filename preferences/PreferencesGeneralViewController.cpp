@@ -1,0 +1,78 @@
+#include "preferences/PreferencesGeneralViewController.h"
+
+#include "app/formatters/CallsignFormatter.h"
+#include "keyer/GeneralSettings.h"
+#include "keyer/WinKeyerUsb.h"
+#include "platform/Platform.h"
+#include "ui_PreferencesGeneralPane.h"
+
+#include <QScopedValueRollback>
+#include <QSignalBlocker>
+
+using namespace Qt::StringLiterals;
+
+PreferencesGeneralViewController::PreferencesGeneralViewController()
+    : _view(std::make_unique<QWidget>()), _ui(std::make_unique<Ui::PreferencesGeneralPane>()) {
+    _ui->setupUi(_view.get());
+    _ui->myCallTextField->setValidator(new CallsignFormatter(_ui->myCallTextField));
+    _ui->serialPortChooser->addItem(noPortName);
+    _binder = std::make_unique<SettingBinder>(*_view, *this, generalSettings);
+    connect(&WinKeyerUsb::sharedInstance(), &WinKeyerUsb::activityChanged, this,
+            &PreferencesGeneralViewController::showLink);
+    showLink();
+}
+
+PreferencesGeneralViewController::~PreferencesGeneralViewController() = default;
+
+QString PreferencesGeneralViewController::title() const {
+    return tr("General");
+}
+
+QString PreferencesGeneralViewController::identifier() const {
+    return u"PreferencesGeneralPane"_s;
+}
+
+QIcon PreferencesGeneralViewController::image() const {
+    return QIcon::fromTheme(u"preferences-system"_s, QIcon(u":/PreferencesGeneral"_s));
+}
+
+void PreferencesGeneralViewController::setSerialPortNames(const QStringList& names) {
+    auto& chooser = *_ui->serialPortChooser;
+    {
+        const QSignalBlocker blocker(chooser); // it is not the operator who chooses
+        chooser.clear();
+        chooser.addItems(names);
+    }
+    _isPortPresent = names.size() > names.count(noPortName);
+    _binder->show();
+    showLink();
+}
+
+void PreferencesGeneralViewController::changeSerialPort(const QObject* sender) {
+    auto* delegate = Platform::current().application().delegate();
+    _hasToChangeAgain = true;
+    if (delegate == nullptr || _isChangingPort) {
+        return;
+    }
+    const QScopedValueRollback changing(_isChangingPort, true);
+    while (std::exchange(_hasToChangeAgain, false)) {
+        delegate->changeSerialPort(sender);
+    }
+}
+
+void PreferencesGeneralViewController::showLink() {
+    const auto& engine = WinKeyerUsb::sharedInstance();
+    switch (engine.activity()) {
+    case KeyerActivity::NotConnected:
+        _ui->linkLabel->setText(_isPortPresent
+                                    ? tr("Not connected")
+                                    : tr("No serial port is present. Plug the keyer in."));
+        break;
+    case KeyerActivity::Silent:
+        _ui->linkLabel->setText(
+            tr("Connected to %1; the keyer has not answered yet").arg(engine.serialPortName()));
+        break;
+    default:
+        _ui->linkLabel->setText(tr("Connected to %1").arg(engine.serialPortName()));
+    }
+}
