@@ -46,6 +46,8 @@ class KeyedWaveTest : public QObject {
     void keyDowns();
     void settings_data();
     void settings();
+    void roundSteps_data();
+    void roundSteps();
 };
 
 void KeyedWaveTest::lengths_data() {
@@ -167,6 +169,25 @@ void KeyedWaveTest::settings() {
     platform.settings().setObject(value, key);
     expected.wpm = 33;
     QCOMPARE(timingOf(StoredSettings(), 33), expected);
+}
+
+void KeyedWaveTest::roundSteps_data() {
+    QTest::addColumn<double>("span");
+    QTest::addColumn<int>("parts");
+    QTest::addColumn<double>("expected");
+
+    QTest::newRow("a step may fit exactly") << 100.0 << 5 << 20.0;
+    QTest::newRow("a little more takes the next step") << 100.5 << 5 << 50.0;
+    QTest::newRow("steps go on beyond ten") << 780.0 << 6 << 200.0;
+    QTest::newRow("one part is the whole") << 999.0 << 1 << 1000.0;
+    QTest::newRow("the finest step is 1 ms") << 3.0 << 100 << 1.0;
+}
+
+void KeyedWaveTest::roundSteps() {
+    QFETCH(const double, span);
+    QFETCH(const int, parts);
+    QFETCH(const double, expected);
+    QVERIFY(isNear(roundStep(Milliseconds(span), parts), expected));
 }
 
 QTEST_GUILESS_MAIN(KeyedWaveTest)
