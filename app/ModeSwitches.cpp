@@ -14,17 +14,22 @@ ModeSwitches::ModeSwitches(WinKeyerUsb& engine, const Buttons& buttons, QObject*
 void ModeSwitches::setUpPause(QAbstractButton& button) {
     const auto follow = [this, &button] { button.setChecked(_engine.pauseState() != 0); };
     QObject::connect(&_engine, &WinKeyerUsb::pauseStateChanged, &button, follow);
-    QObject::connect(&button, &QAbstractButton::clicked, this,
-                     [this](bool isOn) { _engine.setPauseState(isOn ? 1 : 0); });
+    QObject::connect(&button, &QAbstractButton::toggled, this, [this](bool isOn) {
+        if (isOn != (_engine.pauseState() != 0)) {
+            _engine.setPauseState(isOn ? 1 : 0);
+        }
+    });
     follow();
 }
 
 void ModeSwitches::setUpHSCW(QAbstractButton& button) {
     const auto follow = [this, &button] { button.setChecked(_engine.hscwState() != 0); };
     QObject::connect(&_engine, &WinKeyerUsb::hscwStateChanged, &button, follow);
-    QObject::connect(&button, &QAbstractButton::clicked, this, [this, &button](bool isOn) {
-        _engine.setHscwState(isOn ? 1 : 0);
-        _engine.changeHSCWMode(&button);
+    QObject::connect(&button, &QAbstractButton::toggled, this, [this, &button](bool isOn) {
+        if (isOn != (_engine.hscwState() != 0)) {
+            _engine.setHscwState(isOn ? 1 : 0);
+            _engine.changeHSCWMode(&button);
+        }
     });
     QObject::connect(&_engine, &WinKeyerUsb::activityChanged, this,
                      [this, &button] { followLink(button); });
@@ -46,7 +51,7 @@ void ModeSwitches::followLink(QAbstractButton& hscw) {
 void ModeSwitches::setUpBeacon(QAbstractButton& button) {
     const auto follow = [this, &button] { button.setChecked(_engine.beaconState() != 0); };
     QObject::connect(&_engine, &WinKeyerUsb::beaconStateChanged, &button, follow);
-    QObject::connect(&button, &QAbstractButton::clicked, this,
+    QObject::connect(&button, &QAbstractButton::toggled, this,
                      [this](bool isOn) { _engine.setBeaconState(isOn ? 1 : 0); });
     follow();
 }

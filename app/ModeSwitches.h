@@ -6,7 +6,8 @@ class QAbstractButton;
 class WinKeyerUsb;
 
 /// The switches for pause, high-speed CW and beacon, each in step with the engine's property: the
-/// engine pauses by itself, and ends a beacon and high-speed CW.
+/// engine pauses by itself, and ends a beacon and high-speed CW. A screen reader toggles a switch
+/// without a click, so that it is the change of a switch which counts, where the engine differs.
 class ModeSwitches final : public QObject {
     Q_OBJECT
   public:

@@ -7,9 +7,11 @@
 
 TuneSwitch::TuneSwitch(WinKeyerUsb& engine, QAbstractButton& button, QObject* parent)
     : QObject(parent), _engine(engine), _button(button) {
-    QObject::connect(&_button, &QAbstractButton::clicked, this, [this](bool isOn) {
-        _engine.setTuneState(isOn ? 1 : 0);
-        _engine.tune(&_button);
+    QObject::connect(&_button, &QAbstractButton::toggled, this, [this](bool isOn) {
+        if (isOn != (_engine.tuneState() != 0)) {
+            _engine.setTuneState(isOn ? 1 : 0);
+            _engine.tune(&_button);
+        }
     });
     QObject::connect(&_engine, &WinKeyerUsb::tuneStateChanged, this,
                      [this] { _button.setChecked(_engine.tuneState() != 0); });

@@ -57,10 +57,17 @@ class Accessible:
 
     def press(self):
         """Does what a click on it does."""
-        assert Atspi.Action.do_action(self._element, 0), f"{self.name()} cannot be pressed"
+        self._act(lambda action: action != "SetFocus")
 
     def focus(self):
-        assert Atspi.Component.grab_focus(self._element), f"{self.name()} takes no focus"
+        self._act(lambda action: action == "SetFocus")
+
+    def _act(self, is_wanted):
+        actions = [Atspi.Action.get_action_name(self._element, i)
+                   for i in range(Atspi.Action.get_n_actions(self._element))]
+        number = next((i for i, each in enumerate(actions) if is_wanted(each)), None)
+        assert number is not None, f"{self.name()} offers {actions}"
+        assert Atspi.Action.do_action(self._element, number), f"{self.name()} does not react"
 
     def centre(self):
         """On the screen."""
@@ -81,10 +88,12 @@ class Accessible:
             yield from child.all()
 
     def find(self, name):
-        """The first element of that name in it, but for menus, which name many a thing again; None
-        when there is none."""
-        return next((each for each in self.all()
-                     if each.name() == name and "menu" not in each.role()), None)
+        """The element of that name in it: the control, if there is one, rather than its label,
+        and none of the menus, which name many a thing again. None when there is none."""
+        found = [each for each in self.all()
+                 if each.name() == name and "menu" not in each.role()]
+        return next((each for each in found if each.is_in_state("focusable")),
+                    found[0] if found else None)
 
     def describe(self, depth=0):
         """Everything in it, a line each, for the eyes of whoever reads a failure."""
