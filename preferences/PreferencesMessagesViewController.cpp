@@ -66,8 +66,8 @@ void PreferencesMessagesViewController::awakeFromNib() {
 void PreferencesMessagesViewController::explainTokens() {
     const auto& engine = WinKeyerUsb::sharedInstance();
     _ui->tokensLabel->setText(
-        tr("In a text, ` sends your call, %1; # the serial number, %2; ~ their call. "
-           "Between % and ^ it is high-speed CW, { merges the next two letters into one sign, "
-           "and | is half a dit of space.")
+        tr("In a text, ` stands for your call (%1), # for the serial number (%2), and ~ for their "
+           "call. Between % and ^ the keyer sends high-speed CW, { joins the next two letters to "
+           "one sign, and | is half a dit of space.")
             .arg(engine.myCall(), engine.cutifiedSerialNumber()));
 }

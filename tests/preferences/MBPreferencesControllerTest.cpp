@@ -1,0 +1,310 @@
+#include "preferences/MBPreferencesController.h"
+
+#include "keyer/WinKeyerUsb.h"
+#include "tests/preferences/PreferencesWindowBench.h"
+
+#include <QPointer>
+#include <QScreen>
+
+#include <array>
+#include <atomic>
+#include <thread>
+#include <vector>
+
+using namespace Qt::StringLiterals;
+
+class MBPreferencesControllerTest : public QObject, private PreferencesWindowBench {
+    Q_OBJECT
+
+  private Q_SLOTS:
+    void init() { setUp(); }
+    void cleanup() { tearDown(); }
+
+    void thereIsOneController();
+    void concurrentFirstCallsMakeOneController();
+    void theWindowIsEmptyAtFirst();
+    void theWindowCanBeMovedAndClosedOnly();
+    void theToolbarIsAsItShouldBe();
+    void itemsAreTheModules();
+    void anUnknownItemIsBare();
+    void theLaterOfTwoLikeModulesIsFound();
+    void theFirstModuleIsShownAtFirst();
+    void theModuleShownLastIsShownAgain();
+    void aModuleThatIsGoneFallsBackToTheFirst();
+    void theSameListChangesNothing();
+    void aNewListLeavesTheFirstItem();
+    void anEmptyListKeepsWhatIsShown();
+    void anItemSelectsItsModule();
+    void theShownModuleCanBeSelectedAgain();
+    void otherSendersSelectNothing();
+    void aModuleIsSelectedByItsIdentifier();
+    void noModuleLeavesTheWindowEmpty();
+    void aModuleWithoutViewLeavesTheWindowEmpty();
+    void openingCentresTheWindow();
+    void closingAndOpeningShowsTheSame();
+    void escapeStopsTheKeyer();
+    void itemsAreReachedByKeyboard();
+    void theEndOfThePlatformEndsAll();
+};
+
+void MBPreferencesControllerTest::thereIsOneController() {
+    QCOMPARE(&controller(), &MBPreferencesController::sharedController());
+    QCOMPARE(controller().parent(), &_platform->platform());
+    QVERIFY(controller().modules() == nullptr);
+    QVERIFY(controller().currentModule() == nullptr);
+}
+
+void MBPreferencesControllerTest::concurrentFirstCallsMakeOneController() {
+    std::array<std::atomic<MBPreferencesController*>, 4> seen{};
+    std::vector<std::jthread> callers;
+    for (auto& each : seen) {
+        callers.emplace_back([&each] { each = &MBPreferencesController::sharedController(); });
+    }
+    for (auto& each : seen) {
+        QTRY_VERIFY(each.load() != nullptr);
+        QCOMPARE(each.load(), &controller());
+    }
+    QCOMPARE(controller().thread(), thread());
+    QCOMPARE(_platform->platform().findChildren<MBPreferencesController*>().size(), 1);
+}
+
+void MBPreferencesControllerTest::theWindowIsEmptyAtFirst() {
+    QVERIFY(!controller().window().isVisible());
+    QCOMPARE(controller().window().size(), QSize(300, 200));
+    QVERIFY(toolbar().actions().isEmpty());
+}
+
+void MBPreferencesControllerTest::theWindowCanBeMovedAndClosedOnly() {
+    const auto& window = controller().window();
+    QCOMPARE(window.minimumSize(), window.maximumSize());
+    const auto flags = window.windowFlags();
+    QVERIFY(flags.testFlag(Qt::WindowTitleHint));
+    QVERIFY(flags.testFlag(Qt::WindowCloseButtonHint));
+    QVERIFY(!flags.testFlag(Qt::WindowMinimizeButtonHint));
+    QVERIFY(!flags.testFlag(Qt::WindowMaximizeButtonHint));
+}
+
+void MBPreferencesControllerTest::theToolbarIsAsItShouldBe() {
+    QCOMPARE(toolbar().objectName(), u"PreferencesToolbar"_s);
+    QCOMPARE(toolbar().toolButtonStyle(), Qt::ToolButtonTextUnderIcon);
+    QVERIFY(!toolbar().isMovable());
+    QVERIFY(!toolbar().toggleViewAction()->isVisible());
+    QCOMPARE(controller().window().contextMenuPolicy(), Qt::NoContextMenu);
+    QCOMPARE(controller().toolbarDefaultItemIdentifiers(), QStringList());
+}
+
+void MBPreferencesControllerTest::itemsAreTheModules() {
+    controller().setModules(list({_one, _two, _three}));
+    const QStringList names{u"one"_s, u"two"_s, u"three"_s};
+    QCOMPARE(items(), names);
+    QCOMPARE(controller().toolbarAllowedItemIdentifiers(), names);
+    QCOMPARE(controller().toolbarSelectableItemIdentifiers(), names);
+    for (const auto* item : toolbar().actions()) {
+        QCOMPARE(item->text(), u"The "_s + item->objectName());
+        QVERIFY(!item->icon().isNull());
+        QVERIFY(item->isCheckable());
+    }
+}
+
+void MBPreferencesControllerTest::anUnknownItemIsBare() {
+    controller().setModules(list({_one}));
+    const auto item = controller().toolbarItemForItemIdentifier(u"other"_s);
+    QCOMPARE(item->objectName(), u"other"_s);
+    QCOMPARE(item->text(), QString());
+    QVERIFY(item->icon().isNull());
+    item->trigger();
+    QCOMPARE(_one->timesDisplayed(), 1);
+    QCOMPARE(controller().currentModule().get(), _one.get());
+}
+
+void MBPreferencesControllerTest::theLaterOfTwoLikeModulesIsFound() {
+    const auto late = std::make_shared<RecordingModule>(u"one"_s, QSize(200, 200));
+    controller().setModules(list({_one, _two, late}));
+    QCOMPARE(controller().moduleForIdentifier(u"one"_s).get(), late.get());
+    QVERIFY(controller().moduleForIdentifier(u"One"_s) == nullptr);
+    toolbar().actions().constFirst()->trigger();
+    QCOMPARE(controller().currentModule().get(), late.get());
+}
+
+void MBPreferencesControllerTest::theFirstModuleIsShownAtFirst() {
+    controller().setModules(list({_one, _two}));
+    QCOMPARE(controller().currentModule().get(), _one.get());
+    QCOMPARE(selectedItem(), u"one"_s);
+    QCOMPARE(remembered(), u"one"_s);
+    QCOMPARE(controller().window().windowTitle(), u"The one"_s);
+    QCOMPARE(contentSize(), QSize(400, 300));
+}
+
+void MBPreferencesControllerTest::theModuleShownLastIsShownAgain() {
+    _platform->settings().setObject(u"two"_s, u"MBPreferencesSelection"_s);
+    controller().setModules(list({_one, _two}));
+    QCOMPARE(controller().currentModule().get(), _two.get());
+    QCOMPARE(_one->timesDisplayed(), 0);
+    controller().setSelectedPreferenceItemWithIdentifier(u"one"_s);
+    QCOMPARE(remembered(), u"one"_s);
+}
+
+void MBPreferencesControllerTest::aModuleThatIsGoneFallsBackToTheFirst() {
+    _platform->settings().setObject(u"gone"_s, u"MBPreferencesSelection"_s);
+    controller().setModules(list({_one, _two}));
+    QCOMPARE(controller().currentModule().get(), _one.get());
+    QCOMPARE(remembered(), u"one"_s);
+}
+
+void MBPreferencesControllerTest::theSameListChangesNothing() {
+    const auto modules = list({_one, _two});
+    controller().setModules(modules);
+    const auto before = toolbar().actions();
+    controller().setModules(modules);
+    QCOMPARE(toolbar().actions(), before);
+    QCOMPARE(_one->timesDisplayed(), 1);
+    controller().setModules(list(*modules));
+    QCOMPARE(_one->timesDisplayed(), 2);
+}
+
+void MBPreferencesControllerTest::aNewListLeavesTheFirstItem() {
+    controller().setModules(list({_one, _two}));
+    auto* first = toolbar().actions().constFirst();
+    controller().setModules(list({_three, _two}));
+    QCOMPARE(items(), QStringList({u"one"_s, u"three"_s, u"two"_s}));
+    QCOMPARE(toolbar().actions().constFirst(), first);
+    QCOMPARE(controller().currentModule().get(), _three.get());
+    // The item that is left over has no module any more.
+    first->trigger();
+    QCOMPARE(controller().currentModule().get(), _three.get());
+}
+
+void MBPreferencesControllerTest::anEmptyListKeepsWhatIsShown() {
+    controller().setModules(list({_one, _two}));
+    controller().setModules(list({}));
+    QCOMPARE(items(), QStringList{u"one"_s});
+    QCOMPARE(controller().currentModule().get(), _one.get());
+    QCOMPARE(remembered(), u"one"_s);
+}
+
+void MBPreferencesControllerTest::anItemSelectsItsModule() {
+    controller().setModules(list({_one, _two}));
+    show(0);
+    auto* button = toolbar().widgetForAction(toolbar().actions().constLast());
+    QTest::mouseClick(button, Qt::LeftButton);
+    QCOMPARE(controller().currentModule().get(), _two.get());
+    QCOMPARE(selectedItem(), u"two"_s);
+    QVERIFY(_two->view()->isVisible());
+    QVERIFY(!_one->view()->isVisible());
+    QVERIFY(_one->view()->parent() == nullptr);
+}
+
+void MBPreferencesControllerTest::theShownModuleCanBeSelectedAgain() {
+    controller().setModules(list({_one, _two}));
+    toolbar().actions().constFirst()->trigger();
+    QCOMPARE(_one->timesDisplayed(), 2);
+    QCOMPARE(selectedItem(), u"one"_s);
+    QVERIFY(_one->view()->parent() != nullptr);
+}
+
+void MBPreferencesControllerTest::otherSendersSelectNothing() {
+    controller().setModules(list({_one, _two}));
+    QObject stranger;
+    stranger.setObjectName(u"two"_s);
+    controller().selectModule(&stranger);
+    controller().selectModule(nullptr);
+    QCOMPARE(controller().currentModule().get(), _one.get());
+    controller().selectModule(toolbar().actions().constLast());
+    QCOMPARE(controller().currentModule().get(), _two.get());
+}
+
+void MBPreferencesControllerTest::aModuleIsSelectedByItsIdentifier() {
+    controller().setModules(list({_one, _two}));
+    controller().setSelectedPreferenceItemWithIdentifier(u"two"_s);
+    QCOMPARE(controller().currentModule().get(), _two.get());
+}
+
+void MBPreferencesControllerTest::noModuleLeavesTheWindowEmpty() {
+    controller().setModules(list({_one, _two}));
+    controller().setSelectedPreferenceItemWithIdentifier(u"other"_s);
+    QVERIFY(controller().currentModule() == nullptr);
+    QVERIFY(_one->view()->parent() == nullptr);
+    QCOMPARE(contentSize().height(), 0);
+    QCOMPARE(controller().window().windowTitle(), QString());
+    QCOMPARE(selectedItem(), QString());
+    QCOMPARE(remembered(), QString());
+    controller().setSelectedPreferenceItemWithIdentifier(u"two"_s);
+    QCOMPARE(contentSize(), QSize(500, 350));
+}
+
+void MBPreferencesControllerTest::aModuleWithoutViewLeavesTheWindowEmpty() {
+    _two->dropView();
+    controller().setModules(list({_one, _two}));
+    controller().changeToModule(_two);
+    QCOMPARE(controller().currentModule().get(), _two.get());
+    QCOMPARE(contentSize().height(), 0);
+    QCOMPARE(_two->timesDisplayed(), 1);
+    QCOMPARE(remembered(), u"two"_s);
+    controller().changeToModule(_one);
+    QVERIFY(_one->view()->parent() != nullptr);
+}
+
+void MBPreferencesControllerTest::openingCentresTheWindow() {
+    controller().setModules(list({_one}));
+    show(0);
+    auto& window = controller().window();
+    const auto middle = window.screen()->availableGeometry().center();
+    for (int i = 0; i < 2; ++i) {
+        const auto distance = window.frameGeometry().center() - middle;
+        // The frame is not known before the window is first shown.
+        QVERIFY(distance.manhattanLength() <= 4);
+        window.move(3, 4);
+        if (i == 0) {
+            window.close();
+        }
+        controller().showWindow(nullptr);
+    }
+    QVERIFY((window.frameGeometry().center() - middle).manhattanLength() <= 2);
+}
+
+void MBPreferencesControllerTest::closingAndOpeningShowsTheSame() {
+    controller().setModules(list({_one, _two}));
+    show(0);
+    controller().changeToModule(_two);
+    QTest::keyClick(&controller().window(), Qt::Key_W, Qt::ControlModifier);
+    QVERIFY(!controller().window().isVisible());
+    controller().showWindow(nullptr);
+    QVERIFY(controller().window().isVisible());
+    QVERIFY(_two->view()->isVisible());
+}
+
+void MBPreferencesControllerTest::escapeStopsTheKeyer() {
+    controller().setModules(list({_one}));
+    show(0);
+    auto& engine = WinKeyerUsb::sharedInstance();
+    engine.setKeyboardBuffer(u"CQ TEST"_s);
+    QTest::keyClick(&controller().window(), Qt::Key_Escape);
+    QCOMPARE(engine.keyboardBuffer(), u""_s);
+    QVERIFY(controller().window().isVisible());
+    engine.setKeyboardBuffer(u"CQ TEST"_s);
+    controller().cancel(this);
+    QCOMPARE(engine.keyboardBuffer(), u""_s);
+}
+
+void MBPreferencesControllerTest::itemsAreReachedByKeyboard() {
+    controller().setModules(list({_one, _two}));
+    show(0);
+    toolbar().widgetForAction(toolbar().actions().constFirst())->setFocus(Qt::TabFocusReason);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
+    QCOMPARE(controller().currentModule().get(), _two.get());
+}
+
+void MBPreferencesControllerTest::theEndOfThePlatformEndsAll() {
+    controller().setModules(list({_one, _two}));
+    show(0);
+    const std::weak_ptr<RecordingModule> module = _one;
+    _one.reset();
+    const QPointer<QMainWindow> window = &controller().window();
+    _platform.reset();
+    QVERIFY(window.isNull());
+    QVERIFY(module.expired());
+}
+
+QTEST_MAIN(MBPreferencesControllerTest)
+#include "MBPreferencesControllerTest.moc"
