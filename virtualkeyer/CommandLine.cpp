@@ -34,6 +34,11 @@ struct Options {
     QCommandLineOption transcript{u"transcript"_s,
                                   u"Writes a line for every event, with its time in ms, to FILE."_s,
                                   u"FILE"_s};
+    QCommandLineOption registers{
+        u"registers"_s,
+        u"Keeps FILE up to date with the keyer's registers, and the settings and messages of its "
+        "memory: lines of a name and a value. Each change replaces the file as a whole."_s,
+        u"FILE"_s};
     QCommandLineOption speed{
         u"speed"_s,
         u"Where the speed pot stands, %1 to %2 words per minute, %3 by default. It counts within "
@@ -67,6 +72,9 @@ QString readValues(const QCommandLineParser& parser, const Options& options, Com
     result.transcriptPath = parser.value(options.transcript);
     if (parser.isSet(options.transcript) && result.transcriptPath.isEmpty())
         return u"The transcript needs a file name."_s;
+    result.registersPath = parser.value(options.registers);
+    if (parser.isSet(options.registers) && result.registersPath.isEmpty())
+        return u"The registers need a file name."_s;
     result.profile = *profile;
     result.profile.potWpm = speed;
     return {};
@@ -82,8 +90,8 @@ CommandLine CommandLine::parse(const QStringList& arguments) {
         "program that opens it, and prints what it keys to standard output."_s);
     const QCommandLineOption help({u"h"_s, u"help"_s}, u"Shows this text."_s);
     const QCommandLineOption version({u"v"_s, u"version"_s}, u"Shows the version."_s);
-    parser.addOptions({help, version, options.headless, options.transcript, options.speed,
-                       options.profile, options.link});
+    parser.addOptions({help, version, options.headless, options.transcript, options.registers,
+                       options.speed, options.profile, options.link});
 
     CommandLine result;
     if (!parser.parse(arguments))

@@ -17,6 +17,8 @@ struct CommandLine {
     QString linkName;
     /// Empty for no transcript.
     QString transcriptPath;
+    /// Empty for no file of registers.
+    QString registersPath;
 
     /// Reads the program's arguments, its own name first.
     [[nodiscard]] static CommandLine parse(const QStringList& arguments);

@@ -1,4 +1,5 @@
 #include "virtualkeyer/CommandLine.h"
+#include "virtualkeyer/RegisterWriter.h"
 #include "virtualkeyer/TextPrinter.h"
 #include "virtualkeyer/TranscriptWriter.h"
 #include "virtualkeyer/pty/KeyerLoop.h"
@@ -23,6 +24,14 @@ constexpr int badOptions = 2;
 int complain(const char* what, int status) {
     std::fprintf(stderr, "quorvel-virtual-keyer: %s\n", what);
     return status;
+}
+
+/// Makes the writer of a file and adds it to the listeners, if there is to be one.
+template <typename Writer>
+void writeTo(const QString& path, std::optional<Writer>& writer,
+             std::vector<KeyerListener*>& listeners) {
+    if (!path.isEmpty())
+        listeners.push_back(&writer.emplace(QFile::encodeName(path).toStdString()));
 }
 
 void run(const CommandLine& commandLine, std::vector<KeyerListener*> listeners) {
@@ -53,14 +62,13 @@ int main(int argc, char* argv[]) {
 
     TextPrinter printer;
     std::optional<TranscriptWriter> transcript;
+    std::optional<RegisterWriter> registers;
     std::vector<KeyerListener*> listeners{&printer};
-    if (!commandLine.transcriptPath.isEmpty()) {
-        try {
-            transcript.emplace(QFile::encodeName(commandLine.transcriptPath).toStdString());
-        } catch (const std::system_error& error) {
-            return complain(error.what(), badOptions);
-        }
-        listeners.push_back(&*transcript);
+    try {
+        writeTo(commandLine.transcriptPath, transcript, listeners);
+        writeTo(commandLine.registersPath, registers, listeners);
+    } catch (const std::system_error& error) {
+        return complain(error.what(), badOptions);
     }
     try {
         run(commandLine, std::move(listeners));

@@ -44,4 +44,8 @@ const Registers& Keyer::registers() const {
     return _machine->registers();
 }
 
+const Memory& Keyer::memory() const {
+    return _machine->memory();
+}
+
 } // namespace virtualkeyer

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "virtualkeyer/core/Event.h"
+#include "virtualkeyer/core/Memory.h"
 #include "virtualkeyer/core/Profile.h"
 #include "virtualkeyer/core/Registers.h"
 
@@ -46,6 +47,9 @@ class Keyer {
 
     /// What the host has set, for a panel or a test to read.
     [[nodiscard]] const Registers& registers() const;
+
+    /// What the keyer keeps without power, for a panel or a test to read.
+    [[nodiscard]] const Memory& memory() const;
 
   private:
     class Machine;

@@ -25,6 +25,7 @@ class Keyer::Machine {
     [[nodiscard]] std::optional<Time> nextEvent() const;
     [[nodiscard]] std::vector<Event> takeEvents() { return _board.outbox.take(); }
     [[nodiscard]] const Registers& registers() const { return _board.registers; }
+    [[nodiscard]] const Memory& memory() const { return _memory; }
 
   private:
     void runNext(Time now);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "virtualkeyer/core/Event.h"
+#include "virtualkeyer/core/Memory.h"
 #include "virtualkeyer/core/Registers.h"
 
 #include <optional>
@@ -15,6 +16,10 @@ class KeyerListener {
 
     /// The keyer did something; `registers` are the ones in force.
     virtual void keyerDid(const Event& event, const Registers& registers) = 0;
+
+    /// What the keyer holds now, whether that has changed or not: told at the start, after every
+    /// byte from the host, and when time has passed.
+    virtual void keyerHolds(const Registers& /*registers*/, const Memory& /*memory*/) {}
 
     /// Nothing more happens up to `now`.
     virtual void timePassed(Time /*now*/) {}

@@ -5,7 +5,9 @@
 namespace virtualkeyer {
 
 SerialKeyer::SerialKeyer(const Profile& profile, std::vector<KeyerListener*> listeners)
-    : _keyer(profile), _listeners(std::move(listeners)) {}
+    : _keyer(profile), _listeners(std::move(listeners)) {
+    handOn();
+}
 
 void SerialKeyer::send(std::uint8_t byte, Time at) {
     _fromHost.put(byte, at);
@@ -49,7 +51,7 @@ std::optional<Time> SerialKeyer::nextEvent() const {
     return next;
 }
 
-/// Gives the keyer's events to the listener and its bytes to the line.
+/// Gives the keyer's events and state to the listeners and its bytes to the line.
 void SerialKeyer::handOn() {
     for (const Event& event : _keyer.takeEvents()) {
         if (const auto* byte = std::get_if<HostByte>(&event.what))
@@ -61,6 +63,8 @@ void SerialKeyer::handOn() {
         for (KeyerListener* listener : _listeners)
             listener->keyerDid(event, _keyer.registers());
     }
+    for (KeyerListener* listener : _listeners)
+        listener->keyerHolds(_keyer.registers(), _keyer.memory());
 }
 
 } // namespace virtualkeyer

@@ -75,6 +75,9 @@ class VirtualKeyerProgramTest : public QObject {
     void twoKeyersWithNamesOfTheirOwnLiveTogether();
     void aReaderOfTheTextThatGoesAwayEndsIt();
     void aTranscriptThatTakesNoMoreEndsIt();
+    void theRegistersAreInTheirFileFromTheStart();
+    void theRegistersFollowTheHost();
+    void aDirectoryOfRegistersThatGoesEndsIt();
     void aMissingRuntimeDirectoryIsAFailure();
     void withoutARuntimeDirectoryQtsPlaceIsUsed();
     void badOptionsAreRefused_data();
@@ -309,6 +312,40 @@ void VirtualKeyerProgramTest::aTranscriptThatTakesNoMoreEndsIt() {
                                     "/dev/full: No space left on device\n"_s));
 }
 
+void VirtualKeyerProgramTest::theRegistersAreInTheirFileFromTheStart() {
+    const QString registers = inRuntime(u"registers"_s);
+    KeyerProcess keyer(*_runtime);
+    QVERIFY(keyer.plugIn({u"--registers"_s, registers}));
+    QCOMPARE(linesOf(registers).value(0), u"mode 0"_s);
+    QVERIFY(linesOf(registers).contains(u"weighting 50"_s));
+}
+
+void VirtualKeyerProgramTest::theRegistersFollowTheHost() {
+    const QString registers = inRuntime(u"registers"_s);
+    KeyerProcess keyer(*_runtime);
+    QVERIFY(keyer.plugIn({u"--registers"_s, registers}));
+    const Port port(keyer.linkPath());
+    port.send(openCommand + fortyWpm + serialEchoOn);
+    QTRY_VERIFY(linesOf(registers).contains(u"mode 4"_s));
+    QVERIFY(linesOf(registers).contains(u"speed 40"_s));
+    QVERIFY(linesOf(registers).contains(u"wpm 40"_s));
+    QCOMPARE(QDir(_runtime->path()).entryList({u"registers*"_s}), {u"registers"_s});
+}
+
+void VirtualKeyerProgramTest::aDirectoryOfRegistersThatGoesEndsIt() {
+    QDir(_runtime->path()).mkdir(u"gone"_s);
+    KeyerProcess keyer(*_runtime);
+    QVERIFY(keyer.plugIn({u"--registers"_s, inRuntime(u"gone/registers"_s)}));
+    QVERIFY(QDir(inRuntime(u"gone"_s)).removeRecursively());
+    const Port port(keyer.linkPath());
+    port.send(openCommand + fortyWpm);
+    QVERIFY(keyer.process().waitForFinished(10'000));
+    QCOMPARE(keyer.process().exitCode(), 1);
+    QVERIFY(keyer.errors().endsWith(
+        u"quorvel-virtual-keyer: cannot write the registers "
+        "%1/gone/registers: No such file or directory\n"_s.arg(_runtime->path())));
+}
+
 void VirtualKeyerProgramTest::aMissingRuntimeDirectoryIsAFailure() {
     KeyerProcess keyer(*_runtime);
     QVERIFY(_runtime->remove());
@@ -354,6 +391,9 @@ void VirtualKeyerProgramTest::badOptionsAreRefused_data() {
     row("an empty name", {u"--link="_s}, name.arg(QString()));
     row("a transcript without a name", {u"--transcript="_s},
         u"The transcript needs a file name."_s);
+    row("registers without a name", {u"--registers="_s}, u"The registers need a file name."_s);
+    row("registers in a directory that is missing", {u"--registers"_s, u"/nowhere/at/all"_s},
+        u"cannot write the registers /nowhere/at/all: No such file or directory"_s);
     row("a transcript in a directory that is missing", {u"--transcript"_s, u"/nowhere/at/all"_s},
         u"cannot write the transcript /nowhere/at/all: No such file or directory"_s);
     row("a transcript that is a directory", {u"--transcript"_s, u"/"_s},
@@ -375,11 +415,12 @@ void VirtualKeyerProgramTest::helpListsOptionsAndProfiles() {
     QCOMPARE(keyer.runToEnd({u"--help"_s}), 0);
     const QString help = keyer.output();
     for (const QString& word :
-         {u"--headless"_s, u"--transcript <FILE>"_s, u"--speed <WPM>"_s, u"--profile <NAME>"_s,
-          u"--link <NAME>"_s, u"--version"_s, u"default: a version 2 keyer"_s, u"late-echo:"_s,
-          u"status-after-open:"_s, u"echo-then-idle:"_s, u"idle-then-echo:"_s, u"early-xoff:"_s,
-          u"abrupt-clear:"_s, u"boot-loader:"_s, u"start-beep:"_s, u"no-memory-load:"_s,
-          u"single-break-in:"_s, u"repeat-after-pause:"_s})
+         {u"--headless"_s, u"--transcript <FILE>"_s, u"--registers <FILE>"_s, u"--speed <WPM>"_s,
+          u"--profile <NAME>"_s, u"--link <NAME>"_s, u"--version"_s,
+          u"default: a version 2 keyer"_s, u"late-echo:"_s, u"status-after-open:"_s,
+          u"echo-then-idle:"_s, u"idle-then-echo:"_s, u"early-xoff:"_s, u"abrupt-clear:"_s,
+          u"boot-loader:"_s, u"start-beep:"_s, u"no-memory-load:"_s, u"single-break-in:"_s,
+          u"repeat-after-pause:"_s})
         QVERIFY2(help.contains(word), qPrintable(word));
     QCOMPARE(keyer.errors(), QString());
 }

@@ -1,0 +1,85 @@
+#include "virtualkeyer/RegisterWriter.h"
+
+#include "virtualkeyer/core/KeyLineDecoder.h"
+#include "virtualkeyer/core/Memory.h"
+#include "virtualkeyer/core/MorseTable.h"
+#include "virtualkeyer/pty/SystemFailure.h"
+
+#include <array>
+#include <cstdio>
+#include <memory>
+#include <string_view>
+#include <utility>
+
+namespace virtualkeyer {
+
+namespace {
+
+constexpr std::array<std::string_view, Registers::count> names{
+    "mode",       "speed",       "sidetone",  "weighting",        "lead-in",
+    "tail",       "pot-minimum", "pot-range", "first-extension",  "compensation",
+    "farnsworth", "switchpoint", "ratio",     "pin-configuration"};
+
+constexpr std::size_t extraFlagsAt = 15;
+constexpr std::size_t commandSpeedAt = 16;
+constexpr int messageCount = 6;
+
+std::string line(std::string_view name, int value) {
+    return std::string(name) + ' ' + std::to_string(value) + '\n';
+}
+
+std::string textOf(const std::vector<std::string>& letters) {
+    std::string text;
+    for (const std::string& letter : letters)
+        text += letter == " " ? ' ' : characterOf(letter).value_or(KeyLineDecoder::unknown);
+    return text;
+}
+
+struct Closing {
+    void operator()(std::FILE* file) const { std::fclose(file); }
+};
+
+} // namespace
+
+std::string registerText(const Registers& registers, const Memory& memory) {
+    std::string text;
+    for (std::size_t i = 0; i < names.size(); ++i)
+        text += line(names[i], registers.value(static_cast<Register>(i)));
+    text += line("wpm", registers.wpm());
+
+    const Registers::Values settings = memory.settings();
+    for (std::size_t i = 0; i < names.size(); ++i)
+        text += "memory-" + line(names[i], settings[i]);
+    text += line("memory-extra-flags", memory.image()[extraFlagsAt]);
+    text += line("memory-command-speed", memory.image()[commandSpeedAt]);
+    for (int number = 1; number <= messageCount; ++number) {
+        const std::string message = textOf(memory.message(number));
+        text += "memory-message" + std::to_string(number) + (message.empty() ? "" : " ") + message +
+                '\n';
+    }
+    return text;
+}
+
+RegisterWriter::RegisterWriter(std::string path) : _path(std::move(path)) {
+    write();
+}
+
+void RegisterWriter::keyerHolds(const Registers& registers, const Memory& memory) {
+    std::string text = registerText(registers, memory);
+    if (text == _text)
+        return;
+    _text = std::move(text);
+    write();
+}
+
+void RegisterWriter::write() const {
+    const std::string newPath = _path + ".new";
+    std::unique_ptr<std::FILE, Closing> file(std::fopen(newPath.c_str(), "we"));
+    const bool isWritten = file && std::fputs(_text.c_str(), file.get()) >= 0 &&
+                           std::fclose(file.release()) == 0 &&
+                           std::rename(newPath.c_str(), _path.c_str()) == 0;
+    if (!isWritten)
+        throwSystemFailure("cannot write the registers " + _path);
+}
+
+} // namespace virtualkeyer
