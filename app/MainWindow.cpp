@@ -1,8 +1,12 @@
 #include "app/MainWindow.h"
 
+#include "app/AboutBox.h"
+#include "app/EditActions.h"
+#include "app/GuideWindow.h"
 #include "app/MessageButtons.h"
 #include "app/ModeSwitches.h"
 #include "app/TuneSwitch.h"
+#include "app/WindowPlace.h"
 #include "keyer/WinKeyerUsb.h"
 #include "ui_MainWindow.h"
 
@@ -38,6 +42,7 @@ MainWindow::MainWindow(WinKeyerUsb& engine)
     setUpContact();
     setUpSwitches();
     setUpMenus();
+    new WindowPlace(*this, u"MainWindowPlace"_s, this);
 
     _ui->tuneWarning->setEngine(_engine);
     _ui->keyerStatusLabel->setEngine(_engine);
@@ -92,11 +97,7 @@ void MainWindow::setUpSwitches() {
     new ModeSwitches(
         _engine, {.pause = _ui->pauseButton, .hscw = _ui->hscwButton, .beacon = _ui->beaconButton},
         this);
-    QObject::connect(_ui->stopButton, &QPushButton::clicked, this, [this] {
-        // Key up first: it is what cannot wait.
-        letGoOfTune();
-        _engine.stopMessageSending(_ui->stopButton);
-    });
+    QObject::connect(_ui->stopButton, &QPushButton::clicked, this, &MainWindow::stop);
 }
 
 void MainWindow::setUpMenus() {
@@ -116,14 +117,51 @@ void MainWindow::setUpMenus() {
                      _ui->incrementSerialNumberButton, &QToolButton::click);
     QObject::connect(_ui->decrementSerialNumberAction, &QAction::triggered,
                      _ui->decrementSerialNumberButton, &QToolButton::click);
+    new EditActions(*this,
+                    {.undo = _ui->undoAction,
+                     .redo = _ui->redoAction,
+                     .cut = _ui->cutAction,
+                     .copy = _ui->copyAction,
+                     .paste = _ui->pasteAction,
+                     .selectAll = _ui->selectAllAction},
+                    this);
+    QObject::connect(_ui->guideAction, &QAction::triggered, this, &MainWindow::showGuide);
+    QObject::connect(_ui->aboutAction, &QAction::triggered, this,
+                     [this] { (new AboutBox(this))->show(); });
 }
 
 QLineEdit& MainWindow::hisCallsignTextField() const {
     return *_ui->hisCallsignTextField;
 }
 
+/// Key up first: it is what cannot wait.
+void MainWindow::stop() {
+    letGoOfTune();
+    _engine.stopMessageSending(_ui->stopButton);
+}
+
 void MainWindow::letGoOfTune() {
     _tuneSwitch->letGo();
+}
+
+void MainWindow::showGuide() {
+    if (_guide == nullptr) {
+        _guide = new GuideWindow(this);
+    }
+    _guide->show();
+    _guide->raise();
+    _guide->activateWindow();
+}
+
+void MainWindow::comeToFront(const QString& activationToken) {
+    if (!activationToken.isEmpty()) {
+        // Where the toolkit looks for it; a Wayland desktop lets nobody come to the front without.
+        qputenv("XDG_ACTIVATION_TOKEN", activationToken.toUtf8());
+    }
+    setWindowState(windowState() & ~Qt::WindowMinimized);
+    show();
+    raise();
+    activateWindow();
 }
 
 /// Nobody sees the warning of a window that is closed.

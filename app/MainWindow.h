@@ -4,8 +4,7 @@
 
 #include <memory>
 
-class QAction;
-class QAbstractButton;
+class GuideWindow;
 class QLineEdit;
 class TuneSwitch;
 class WinKeyerUsb;
@@ -28,6 +27,11 @@ class MainWindow final : public QMainWindow {
 
     /// Keys the transmitter up, if Tune has it down.
     void letGoOfTune();
+    /// Lets go of Tune, empties the keyer's buffer, and forgets the text.
+    void stop();
+    /// Has the operator see the window, also when it is minimised or closed; with the token that
+    /// the desktop gave for that, or an empty one.
+    void comeToFront(const QString& activationToken);
 
   Q_SIGNALS:
     void preferencesRequested();
@@ -43,10 +47,12 @@ class MainWindow final : public QMainWindow {
     void setUpSwitches();
     void setUpMenus();
     void enlargeFonts();
+    void showGuide();
     void showSpeed();
     void showTitle();
 
     WinKeyerUsb& _engine;
     std::unique_ptr<Ui::MainWindow> _ui;
     TuneSwitch* _tuneSwitch = nullptr;
+    GuideWindow* _guide = nullptr;
 };

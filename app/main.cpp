@@ -1,29 +1,48 @@
 #include "app/DesktopApplication.h"
+#include "app/EscapeKey.h"
 #include "app/MainWindow.h"
 #include "app/QuorvelDelegate.h"
+#include "app/SettingsFileAlert.h"
+#include "app/Termination.h"
 #include "app/TerminationSignals.h"
+#include "app/Translations.h"
 #include "keyer/WinKeyerUsb.h"
+#include "platform/Log.h"
 #include "platform/Platform.h"
 #include "platform/SystemClock.h"
 #include "platform/linux/LinuxDeviceRegistry.h"
 #include "platform/linux/LogindPower.h"
+#include "platform/linux/SingleInstance.h"
 #include "preferences/PreferencesGeneral.h"
 #include "preferences/PreferencesMessagesViewController.h"
 #include "preferences/PreferencesWinKeyer.h"
 
 #include <QApplication>
+#include <QLocale>
+#include <QMessageBox>
 #include <QTimer>
+
+#include <cstdlib>
+#include <memory>
 
 using namespace Qt::StringLiterals;
 
-int main(int argc, char* argv[]) {
-    QApplication::setApplicationName(u"quorvel"_s);
-    QApplication::setApplicationDisplayName(u"Quorvel"_s);
-    QApplication::setDesktopFileName(bundleIdentifier);
-    const QApplication toolkit(argc, argv);
-    // Quitting takes the keyer link down first, whatever asked for it.
-    QApplication::setQuitOnLastWindowClosed(false);
+namespace {
 
+/// What the desktop gave this start, so that a window may come to the front.
+QString activationToken() {
+    return qEnvironmentVariable("XDG_ACTIVATION_TOKEN", qEnvironmentVariable("DESKTOP_STARTUP_ID"));
+}
+
+int tellThatTheRunningOneHangs() {
+    const auto message = QCoreApplication::translate(
+        "main", "Quorvel is running already, and does not answer. End it, then start it again.");
+    logLine(message);
+    QMessageBox::critical(nullptr, {}, message);
+    return EXIT_FAILURE;
+}
+
+int run(SingleInstance& instance) {
     auto application = std::make_unique<DesktopApplication>();
     auto& alerts = *application;
     Platform platform({.settings = std::make_unique<SettingsStore>(SettingsStore::standardPath()),
@@ -41,22 +60,46 @@ int main(int argc, char* argv[]) {
     alerts.setAlertParent(&window);
     QObject::connect(&delegate, &QuorvelDelegate::willDisconnect, &window,
                      &MainWindow::letGoOfTune);
+    const EscapeKey escape;
+    QObject::connect(&escape, &EscapeKey::pressed, &window, &MainWindow::stop);
+    QObject::connect(&instance, &SingleInstance::activated, &window, &MainWindow::comeToFront);
 
-    const auto quit = [&delegate, &platform] {
-        delegate.applicationShouldTerminate();
-        platform.notificationCenter().post(NSApplicationWillTerminateNotification, nullptr);
-        QApplication::exit();
-    };
-    QObject::connect(&window, &MainWindow::quitRequested, &delegate, quit);
+    Termination termination(delegate);
+    QObject::connect(&window, &MainWindow::quitRequested, &termination, &Termination::terminate);
     const TerminationSignals terminationSignals;
-    QObject::connect(&terminationSignals, &TerminationSignals::requested, &delegate, quit);
-    QObject::connect(&toolkit, &QGuiApplication::lastWindowClosed, &delegate, [&delegate, quit] {
-        if (delegate.applicationShouldTerminateAfterLastWindowClosed()) {
-            quit();
-        }
-    });
+    QObject::connect(&terminationSignals, &TerminationSignals::requested, &termination,
+                     &Termination::terminate);
 
     window.show();
-    QTimer::singleShot(0, &delegate, &QuorvelDelegate::applicationDidFinishLaunching);
+    QTimer::singleShot(0, &delegate, [&] {
+        if (const auto alert = settingsFileAlert(platform.settings())) {
+            alerts.runModal(*alert);
+        }
+        delegate.applicationDidFinishLaunching();
+    });
     return QApplication::exec();
+}
+
+} // namespace
+
+int main(int argc, char* argv[]) {
+    QApplication::setApplicationName(u"quorvel"_s);
+    QApplication::setApplicationDisplayName(u"Quorvel"_s);
+    QApplication::setApplicationVersion(QStringLiteral(QUORVEL_VERSION));
+    QApplication::setDesktopFileName(bundleIdentifier);
+    // The toolkit takes it out of the environment.
+    const auto token = activationToken();
+    const QApplication toolkit(argc, argv);
+    const Translations translations(QLocale(), u":/translations"_s);
+
+    SingleInstance instance;
+    switch (instance.begin(token)) {
+    case SingleInstance::Role::First:
+        return run(instance);
+    case SingleInstance::Role::Second:
+        return EXIT_SUCCESS;
+    case SingleInstance::Role::Unanswered:
+        break;
+    }
+    return tellThatTheRunningOneHangs();
 }

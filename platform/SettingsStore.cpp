@@ -51,8 +51,7 @@ QString putAsideIfCorrupt(const QString& path) {
 /// The file to use. QSettings would replace a file that is still in place and corrupt, or one that
 /// it may not read, as soon as it writes; beside it, nothing is lost.
 QString safePath(const QString& path, const QString& corruptFile) {
-    const QFileInfo file(path);
-    const bool isUnreadable = file.exists() && !file.isReadable();
+    const bool isUnreadable = QFileInfo(path).isFile() && !QFile(path).open(QIODevice::ReadOnly);
     return corruptFile == path || isUnreadable ? path + u".new"_s : path;
 }
 
@@ -96,7 +95,7 @@ QString SettingsStore::standardPath() {
 }
 
 SettingsStore::SettingsStore(const QString& path)
-    : _corruptFile(putAsideIfCorrupt(path)),
+    : _path(path), _corruptFile(putAsideIfCorrupt(path)),
       _settings(safePath(path, _corruptFile), QSettings::IniFormat) {}
 
 void SettingsStore::registerDefaults(const QHash<QString, QVariant>& defaults) {

@@ -48,14 +48,21 @@ class SettingsStore final : public QObject {
     /// Writes what is not yet in the file. False when the file could not be written.
     [[nodiscard]] bool synchronize();
 
-    /// Where a file that could not be parsed is now; null when the file was sound.
+    /// Where a file that could not be parsed is now: aside, or still at path(). Null when the file
+    /// was sound, or could not be read at all.
     [[nodiscard]] QString corruptFile() const { return _corruptFile; }
+
+    /// The file that the store was made for.
+    [[nodiscard]] QString path() const { return _path; }
+    /// The file in use: path(), or the one beside it when that had to be left as it is.
+    [[nodiscard]] QString fileName() const { return _settings.fileName(); }
 
   Q_SIGNALS:
     /// The value of `key` is another one now.
     void changed(const QString& key);
 
   private:
+    QString _path;
     QString _corruptFile;
     QSettings _settings;
     QHash<QString, QVariant> _defaults;

@@ -408,6 +408,7 @@ void SettingsStoreTest::aCorruptFileIsMovedAside() {
     {
         SettingsStore store(path());
         aside = store.corruptFile();
+        QCOMPARE(store.fileName(), path());
         QVERIFY(QRegularExpression(u"^.*/quorvel\\.conf\\.corrupt-\\d{8}-\\d{6}$"_s)
                     .match(aside)
                     .hasMatch());
@@ -435,6 +436,7 @@ void SettingsStoreTest::aSoundFileStays() {
     write(content);
     const SettingsStore store(path());
     QVERIFY(store.corruptFile().isNull());
+    QCOMPARE(store.fileName(), path());
     QCOMPARE(contentOf(path()), content);
 }
 
@@ -459,6 +461,8 @@ void SettingsStoreTest::aCorruptFileThatCannotBeMovedIsLeftAlone() {
         const OrdinaryUser user;
         SettingsStore store(path());
         QCOMPARE(store.corruptFile(), path());
+        QCOMPARE(store.path(), path());
+        QCOMPARE(store.fileName(), path() + u".new"_s);
         store.setObject(1, u"k"_s);
         QVERIFY(!store.synchronize());
         QCOMPARE(store.integerForKey(u"k"_s), 1);
@@ -475,6 +479,8 @@ void SettingsStoreTest::anUnreadableFileIsLeftAlone() {
         const OrdinaryUser user;
         SettingsStore store(path());
         QVERIFY(store.corruptFile().isNull());
+        QCOMPARE(store.path(), path());
+        QCOMPARE(store.fileName(), path() + u".new"_s);
         store.setObject(2, u"k"_s);
         static_cast<void>(store.synchronize());
         QCOMPARE(store.integerForKey(u"k"_s), 2);

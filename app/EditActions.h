@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QObject>
+
+#include <functional>
+
+class KeyboardView;
+class QAction;
+class QLineEdit;
+class QWidget;
+
+/// The items of the Edit menu: they act on the field of the window that has the keyboard.
+class EditActions final : public QObject {
+    Q_OBJECT
+  public:
+    struct Actions {
+        QAction* undo;
+        QAction* redo;
+        QAction* cut;
+        QAction* copy;
+        QAction* paste;
+        QAction* selectAll;
+    };
+
+    /// `window` must outlive the actions.
+    EditActions(QWidget& window, const Actions& actions, QObject* parent);
+
+  private:
+    using InView = std::function<void(KeyboardView&)>;
+    using InField = std::function<void(QLineEdit&)>;
+
+    void connectAction(QAction* action, const InView& inView, const InField& inField);
+    void edit(const InView& inView, const InField& inField) const;
+
+    QWidget& _window;
+};

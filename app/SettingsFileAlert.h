@@ -1,0 +1,11 @@
+#pragma once
+
+#include "platform/Application.h"
+
+#include <optional>
+
+class SettingsStore;
+
+/// What the operator has to be told of the settings' file: where one that could not be read is now,
+/// and where the settings go meanwhile. Nothing when all is well with it.
+[[nodiscard]] std::optional<Alert> settingsFileAlert(const SettingsStore& settings);
