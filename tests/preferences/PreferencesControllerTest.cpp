@@ -1,0 +1,120 @@
+#include "preferences/PreferencesController.h"
+
+#include "preferences/MBPreferencesController.h"
+#include "preferences/PreferencesGeneral.h"
+#include "preferences/PreferencesMessagesViewController.h"
+#include "preferences/PreferencesWinKeyer.h"
+#include "tests/support/TestPlatform.h"
+
+#include <QComboBox>
+#include <QTest>
+
+#include <optional>
+
+using namespace Qt::StringLiterals;
+
+class PreferencesControllerTest : public QObject {
+    Q_OBJECT
+
+  private Q_SLOTS:
+    void init();
+    void cleanup();
+
+    void thePanesAreInOrder();
+    void theFirstLaunchShowsTheGeneralPane();
+    void thePaneShownLastIsShownAtTheNextLaunch();
+    void showingOpensTheOneWindow();
+    void eachPaneFitsASmallScreen();
+    void thePortsReachTheirPane();
+    void portsBeforeThePanesAreNoMatter();
+
+  private:
+    [[nodiscard]] static MBPreferencesController& window() {
+        return MBPreferencesController::sharedController();
+    }
+    void launch() {
+        _platform.emplace();
+        PreferencesWinKeyer::initialize();
+        PreferencesMessagesViewController::initialize();
+        PreferencesGeneral::initialize();
+    }
+
+    std::optional<TestPlatform> _platform;
+};
+
+void PreferencesControllerTest::init() {
+    launch();
+}
+
+void PreferencesControllerTest::cleanup() {
+    _platform.reset();
+}
+
+void PreferencesControllerTest::thePanesAreInOrder() {
+    PreferencesController().awakeFromNib();
+    QCOMPARE(window().toolbarAllowedItemIdentifiers(),
+             QStringList({u"PreferencesGeneralPane"_s, u"PreferencesMessagesPane"_s,
+                          u"PreferencesWinKeyerPane"_s}));
+    QVERIFY(!window().window().isVisible());
+}
+
+void PreferencesControllerTest::theFirstLaunchShowsTheGeneralPane() {
+    PreferencesController().awakeFromNib();
+    QCOMPARE(window().currentModule()->identifier(), u"PreferencesGeneralPane"_s);
+    QCOMPARE(_platform->settings().stringForKey(u"MBPreferencesSelection"_s),
+             u"PreferencesGeneralPane"_s);
+}
+
+void PreferencesControllerTest::thePaneShownLastIsShownAtTheNextLaunch() {
+    PreferencesController().awakeFromNib();
+    window().setSelectedPreferenceItemWithIdentifier(u"PreferencesMessagesPane"_s);
+    const auto remembered = _platform->settings().stringForKey(u"MBPreferencesSelection"_s);
+    QCOMPARE(remembered, u"PreferencesMessagesPane"_s);
+    _platform.reset();
+    launch();
+    _platform->settings().setObject(remembered, u"MBPreferencesSelection"_s);
+    PreferencesController().awakeFromNib();
+    QCOMPARE(window().currentModule()->identifier(), u"PreferencesMessagesPane"_s);
+}
+
+void PreferencesControllerTest::showingOpensTheOneWindow() {
+    PreferencesController controller;
+    controller.awakeFromNib();
+    controller.showPreferences(this);
+    QVERIFY(QTest::qWaitForWindowActive(&window().window()));
+    QVERIFY(window().currentModule()->view()->isVisible());
+}
+
+void PreferencesControllerTest::eachPaneFitsASmallScreen() {
+    PreferencesController controller;
+    controller.awakeFromNib();
+    controller.showPreferences(this);
+    for (const auto& pane : *window().modules()) {
+        window().changeToModule(pane);
+        const auto size = window().window().size();
+        QVERIFY2(size.width() <= 800 && size.height() <= 600, qPrintable(pane->title()));
+        QVERIFY2(pane->view()->minimumSizeHint().width() <= pane->view()->width(),
+                 qPrintable(pane->title()));
+    }
+}
+
+void PreferencesControllerTest::thePortsReachTheirPane() {
+    PreferencesController controller;
+    controller.awakeFromNib();
+    controller.setSerialPortNames({u"None"_s, u"usbserial-A"_s});
+    const auto* chooser = window()
+                              .moduleForIdentifier(u"PreferencesGeneralPane"_s)
+                              ->view()
+                              ->findChild<QComboBox*>(u"serialPortChooser"_s);
+    QCOMPARE(chooser->itemText(1), u"usbserial-A"_s);
+}
+
+void PreferencesControllerTest::portsBeforeThePanesAreNoMatter() {
+    PreferencesController controller;
+    controller.setSerialPortNames({u"None"_s});
+    controller.awakeFromNib();
+    QCOMPARE(window().modules()->size(), 3);
+}
+
+QTEST_MAIN(PreferencesControllerTest)
+#include "PreferencesControllerTest.moc"
