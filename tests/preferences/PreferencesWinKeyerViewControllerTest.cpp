@@ -82,7 +82,7 @@ QByteArray PreferencesWinKeyerViewControllerTest::sentBy(Action action, const QO
 void PreferencesWinKeyerViewControllerTest::itIsTheModuleOfTheKeyer() {
     QCOMPARE(_controller->title(), u"WinKeyer"_s);
     QCOMPARE(_controller->identifier(), u"PreferencesWinKeyerPane"_s);
-    QVERIFY(!_controller->image().isNull());
+    QVERIFY(!_controller->image().pixmap(32).isNull());
     QVERIFY(_controller->view() != nullptr);
     QCOMPARE(_bench->written(), "");
 }

@@ -1,0 +1,668 @@
+#include "keyer/KeyerSettings.h"
+#include "preferences/KeyedWaveView.h"
+#include "preferences/PreferencesWinKeyerViewController.h"
+#include "tests/keyer/KeyerBench.h"
+#include "tests/preferences/PaneOperator.h"
+
+#include <QAccessible>
+#include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDoubleSpinBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QSet>
+#include <QSpinBox>
+#include <QStyleOptionSpinBox>
+#include <QTabBar>
+#include <QTabWidget>
+#include <QTest>
+#include <QToolButton>
+
+#include <algorithm>
+#include <optional>
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+/// The controls of the keyer's pane, worked with mouse and keys, and what each of them sends.
+class PreferencesWinKeyerPaneTest : public QObject {
+    Q_OBJECT
+
+  private Q_SLOTS:
+    void init();
+    void cleanup();
+
+    void everySettingHasOneControlOfItsKind();
+    void everyControlHasItsSettingOrAction();
+    void listsOfferTheChoicesOfTheirSettings();
+    void theListOfRatesOffersRatesThatTheKeyerTakes();
+    void openingStoresAndSendsNothing();
+    void aControlStoresAndSends_data();
+    void aControlStoresAndSends();
+    void everySettingIsOperatedHere();
+    void checkBoxesWorkBothWays();
+    void aNumberActsOnceItHasSettled();
+    void heldKeysSendOneCommand();
+    void arrowsWorkByMouse();
+    void aNumberThatComesBackSendsNothing();
+    void aNumberOutOfRangeCannotBeTyped_data();
+    void aNumberOutOfRangeCannotBeTyped();
+    void resetBringsTheDefaultBack();
+    void theSwitchpointNeedsTheMemory();
+    void aChangeFromElsewhereIsShown();
+    void aStoredValueOutOfRangeIsToldAndKept();
+    void buttonsSendTheStandaloneMessages();
+    void savingShowsItsProgress();
+    void savingThatFailsShowsNone();
+    void allSettingsSurviveARestart();
+
+    void itFitsTheSmallestScreen_data();
+    void itFitsTheSmallestScreen();
+    void eachPageHasItsOwnMnemonics();
+    void everyControlIsNamedByItsLabel();
+    void everyControlTellsWhatItDoes();
+    void tabReachesEveryControl();
+
+  private:
+    [[nodiscard]] QWidget& view() { return *_controller->view(); }
+    [[nodiscard]] QTabWidget& pages() { return *view().findChild<QTabWidget*>(); }
+    [[nodiscard]] SettingsStore& settings() { return _bench->settings(); }
+    [[nodiscard]] QList<QWidget*> inputs();
+    /// Works the control of a setting as the test's table says.
+    void operate(QLatin1StringView key);
+
+    std::optional<KeyerBench> _bench;
+    std::optional<PreferencesWinKeyerViewController> _controller;
+    std::optional<PaneOperator> _operator;
+};
+
+namespace {
+
+/// What the operator makes of a setting, and what the keyer gets to hear of it. Of a check box
+/// there is nothing to be entered.
+struct Operation {
+    QLatin1StringView key;
+    const char16_t* entered;
+    QVariant stored;
+    const char* sent;
+};
+
+const QList<Operation>& operations() {
+    static const QList<Operation> all{
+        {WKWeighting, u"-12", -12, "03 26"},
+        {WKRatio, u"2.90", 2.9, "17 30"},
+        {WKKeyingCompensation, u"8", 8, "11 08"},
+        {WKFirstExtension, u"250", 250, "10 fa"},
+        {WKFarnsworthSpeed, u"18", 18, "0d 12"},
+        {WKContestSpacing, nullptr, false, "0e 14"},
+        {WKKeyMode, u"Bug", u"Bug"_s, "0e 35"},
+        {WKDitDahPriority, u"Dots", u"Dots"_s, "09 86"},
+        {WKEnableDitDahMemory, nullptr, false, "12 00"},
+        {WKPaddleSwitchpoint, u"60", 30, "12 1e"},
+        {WKPaddleSwap, nullptr, true, "0e 1d"},
+        {WKAutospace, nullptr, true, "0e 17"},
+        {WKDisablePaddleWatchdog, nullptr, true, "0e 95"},
+        {WKPaddleEchoback, nullptr, true, "0e 55"},
+        {WKSerialEchoback, nullptr, false, "0e 11"},
+        {WKSidetoneEnable, nullptr, false, "09 04"},
+        {WKSidetoneFrequency, u"800 Hz", u"800 Hz"_s, "01 85"},
+        {WKPaddleOnlySidetone, nullptr, false, "01 0a"},
+        {WKKeyOut1Enable, nullptr, false, "09 02"},
+        {WKKeyOut2Enable, nullptr, true, "09 0e"},
+        {WKPTTEnable, nullptr, true, "09 07"},
+        {WKPTTLeadTime, u"30", 3, "04 03 0a"},
+        {WKPTTTailTime, u"250", 25, "04 00 19"},
+        {WKPaddleHang, u"1.66", u"1.66"_s, "09 26"},
+        {WKSpeedPotMinimum, u"5", 5, "05 05 20 ff 02 00 07"},
+        {WKSpeedPotRange, u"31", 31, "05 0d 1f ff 02 00 07"},
+        {WKHSCWSpeed, u"2000 lpm", u"2000 lpm"_s, ""},
+        {WKStandaloneCommandSpeed, u"15", 15, ""},
+        {WKStandaloneEnableMessageBreak, nullptr, false, ""},
+        {WKStandaloneCutSerialNumbers, nullptr, false, ""},
+        {WKStandaloneMessages[0], u"CQ", u"CQ"_s, ""},
+        {WKStandaloneMessages[1], u"5NN", u"5NN"_s, ""},
+        {WKStandaloneMessages[2], u"TU", u"TU"_s, ""},
+        {WKStandaloneMessages[3], u"QRL?", u"QRL?"_s, ""},
+        {WKStandaloneMessages[4], u"TEST", u"TEST"_s, ""},
+        {WKStandaloneMessages[5], u"73", u"73"_s, ""},
+    };
+    return all;
+}
+
+bool isInside(const QWidget& widget, const char* type) {
+    for (const auto* each = &widget; each != nullptr; each = each->parentWidget()) {
+        if (each->inherits(type)) {
+            return true;
+        }
+    }
+    return false;
+}
+
+/// Parts of a control, which Qt makes.
+bool isPart(const QWidget& widget) {
+    return isInside(*widget.parentWidget(), "QAbstractSpinBox") ||
+           isInside(*widget.parentWidget(), "QComboBox") ||
+           isInside(*widget.parentWidget(), "QTabBar");
+}
+
+QString nameOf(QWidget* widget) {
+    return QAccessible::queryAccessibleInterface(widget)->text(QAccessible::Name);
+}
+
+bool isLabelledBy(QWidget* widget, QWidget* label) {
+    const auto relations =
+        QAccessible::queryAccessibleInterface(widget)->relations(QAccessible::Label);
+    return std::ranges::any_of(relations,
+                               [label](const auto& each) { return each.first->object() == label; });
+}
+
+QString withoutMnemonic(QString text) {
+    return text.remove(u'&');
+}
+
+/// What a text has behind its ampersand, if it has one.
+QString mnemonicOf(const QString& text) {
+    return QKeySequence::mnemonic(text).toString();
+}
+
+} // namespace
+
+void PreferencesWinKeyerPaneTest::init() {
+    _bench.emplace();
+    QVERIFY(_bench->connect());
+    _controller.emplace();
+    _operator.emplace(view());
+}
+
+void PreferencesWinKeyerPaneTest::cleanup() {
+    _operator.reset();
+    _controller.reset();
+    _bench.reset();
+    QApplication::setFont(QFont(), "QWidget");
+    QApplication::setLayoutDirection(Qt::LeftToRight);
+}
+
+/// What can be changed or pressed on all pages, but for what belongs to the picture alone.
+QList<QWidget*> PreferencesWinKeyerPaneTest::inputs() {
+    QList<QWidget*> found;
+    for (auto* widget : view().findChildren<QWidget*>()) {
+        if (widget->focusPolicy() != Qt::NoFocus && !isPart(*widget) &&
+            !isInside(*widget, "KeyedWaveView") && !widget->inherits("QTabBar") &&
+            !widget->inherits("QTabWidget")) {
+            found.append(widget);
+        }
+    }
+    return found;
+}
+
+void PreferencesWinKeyerPaneTest::operate(QLatin1StringView key) {
+    const auto operation = std::ranges::find_if(
+        operations(), [key](const Operation& each) { return each.key == key; });
+    QVERIFY2(operation != operations().end(), key.data());
+    const auto entered = QString::fromUtf16(operation->entered);
+    auto& control = _operator->control(key);
+    if (operation->entered == nullptr) {
+        _operator->toggle(key);
+    } else if (control.inherits("QComboBox")) {
+        _operator->choose(key, entered);
+    } else {
+        _operator->enter(key, entered);
+    }
+}
+
+void PreferencesWinKeyerPaneTest::everySettingHasOneControlOfItsKind() {
+    for (const auto& setting : keyerSettings) {
+        if (setting.key == WKSpeed) {
+            QVERIFY(_operator->controls(setting.key).isEmpty()); // the speed pot sets the speed
+            continue;
+        }
+        QCOMPARE(_operator->controls(setting.key).size(), 1);
+        const auto& control = _operator->control(setting.key);
+        const auto is = [&control](const char* type) { return control.inherits(type); };
+        const bool isRight = std::holds_alternative<bool>(setting.defaultValue)  ? is("QCheckBox")
+                             : std::holds_alternative<int>(setting.defaultValue) ? is("QSpinBox")
+                             : std::holds_alternative<double>(setting.defaultValue)
+                                 ? is("QDoubleSpinBox")
+                             : !setting.choices.empty() ? is("QComboBox")
+                                                        : is("QComboBox") || is("QLineEdit");
+        QVERIFY2(isRight, setting.key.data());
+        if (!control.inherits("QLineEdit")) {
+            QVERIFY(_operator->resetButton(setting.key).isVisibleTo(&view()) ||
+                    !control.isVisible());
+        }
+    }
+}
+
+void PreferencesWinKeyerPaneTest::everyControlHasItsSettingOrAction() {
+    for (const auto* widget : inputs()) {
+        if (widget->objectName().startsWith(u"mark")) {
+            continue; // tells what is wrong with a message
+        }
+        const char* property = widget->inherits("QToolButton")   ? "resets"
+                               : widget->inherits("QPushButton") ? "action"
+                                                                 : "setting";
+        QVERIFY2(!widget->property(property).toString().isEmpty(),
+                 qPrintable(widget->objectName()));
+    }
+}
+
+void PreferencesWinKeyerPaneTest::listsOfferTheChoicesOfTheirSettings() {
+    for (const auto& setting : keyerSettings) {
+        if (setting.choices.empty()) {
+            continue;
+        }
+        const auto& list = _operator->control<QComboBox>(setting.key);
+        QVERIFY(!list.isEditable());
+        QCOMPARE(list.count(), static_cast<int>(setting.choices.size()));
+        for (int i = 0; i < list.count(); ++i) {
+            QCOMPARE(list.itemText(i), setting.choices[static_cast<std::size_t>(i)].text);
+        }
+    }
+}
+
+void PreferencesWinKeyerPaneTest::theListOfRatesOffersRatesThatTheKeyerTakes() {
+    const auto& list = _operator->control<QComboBox>(WKHSCWSpeed);
+    QVERIFY(!list.isEditable());
+    QCOMPARE(list.currentText(), u"1000 lpm"_s);
+    QCOMPARE(list.itemText(0), u"800 lpm"_s);
+    QCOMPARE(list.itemText(list.count() - 1), u"8000 lpm"_s);
+    for (int i = 0; i < list.count(); ++i) {
+        const auto rate = list.itemText(i).chopped(4).toInt();
+        QCOMPARE(list.itemText(i), u"%1 lpm"_s.arg(rate));
+        QCOMPARE(rate % 100, 0);
+        QVERIFY(i == 0 || rate > list.itemText(i - 1).chopped(4).toInt());
+    }
+}
+
+void PreferencesWinKeyerPaneTest::openingStoresAndSendsNothing() {
+    for (int i = 0; i < pages().count(); ++i) {
+        pages().setCurrentIndex(i);
+        QTest::qWait(0);
+    }
+    _bench->clock().advance(1s);
+    view().hide();
+    QCOMPARE(_bench->written(), "");
+    QVERIFY(settings().synchronize());
+    const SettingsStore stored(_bench->platform().settingsPath());
+    for (const auto& setting : keyerSettings) {
+        QVERIFY2(!stored.objectForKey(setting.key).isValid(), setting.key.data());
+    }
+}
+
+void PreferencesWinKeyerPaneTest::aControlStoresAndSends_data() {
+    QTest::addColumn<int>("index");
+    for (int i = 0; i < operations().size(); ++i) {
+        QTest::newRow(operations()[i].key.data()) << i;
+    }
+}
+
+void PreferencesWinKeyerPaneTest::aControlStoresAndSends() {
+    QFETCH(int, index);
+    const auto& operation = operations()[index];
+    operate(operation.key);
+    QCOMPARE(settings().objectForKey(operation.key), operation.stored);
+    QCOMPARE(_bench->written(), operation.sent);
+    _bench->clock().advance(1s);
+    view().hide();
+    QCOMPARE(_bench->written(), ""); // nothing is sent twice
+}
+
+void PreferencesWinKeyerPaneTest::everySettingIsOperatedHere() {
+    for (const auto& setting : keyerSettings) {
+        const auto rows = std::ranges::count_if(
+            operations(), [&](const Operation& each) { return each.key == setting.key; });
+        QCOMPARE(rows, setting.key == WKSpeed ? 0 : 1);
+    }
+}
+
+void PreferencesWinKeyerPaneTest::checkBoxesWorkBothWays() {
+    for (const auto& setting : keyerSettings) {
+        if (!std::holds_alternative<bool>(setting.defaultValue)) {
+            continue;
+        }
+        auto& box = _operator->control<QCheckBox>(setting.key);
+        const bool wasOn = settings().boolForKey(setting.key);
+        QCOMPARE(box.isChecked(), wasOn);
+        _operator->toggle(setting.key);
+        const auto sent = _bench->written();
+        QCOMPARE(settings().boolForKey(setting.key), !wasOn);
+        QTest::keyClick(&box, Qt::Key_Space);
+        QCOMPARE(settings().boolForKey(setting.key), wasOn);
+        QVERIFY(_bench->written() != sent || sent.isEmpty());
+    }
+}
+
+void PreferencesWinKeyerPaneTest::aNumberActsOnceItHasSettled() {
+    auto& weighting = _operator->control(WKWeighting);
+    weighting.setFocus();
+    QTest::keyClick(&weighting, Qt::Key_Up);
+    QCOMPARE(settings().integerForKey(WKWeighting), 1);
+    QCOMPARE(_bench->written(), "");
+    _bench->clock().advance(1s);
+    QCOMPARE(_bench->written(), "03 33");
+
+    QTest::keyClick(&weighting, Qt::Key_Up);
+    QTest::keyClick(&weighting, Qt::Key_Tab); // left: that settles it
+    QCOMPARE(_bench->written(), "03 34");
+}
+
+void PreferencesWinKeyerPaneTest::heldKeysSendOneCommand() {
+    auto& lead = _operator->control(WKPTTLeadTime);
+    pages().setCurrentIndex(2);
+    lead.setFocus();
+    for (int i = 0; i < 12; ++i) {
+        QTest::keyClick(&lead, Qt::Key_Up);
+        _bench->clock().advance(30ms); // as keys repeat
+    }
+    QCOMPARE(settings().integerForKey(WKPTTLeadTime), 12);
+    QCOMPARE(_bench->written(), "");
+    _bench->clock().advance(1s);
+    QCOMPARE(_bench->written(), "04 0c 0a");
+}
+
+void PreferencesWinKeyerPaneTest::arrowsWorkByMouse() {
+    auto& ratio = _operator->control<QDoubleSpinBox>(WKRatio);
+    QStyleOptionSpinBox option;
+    option.initFrom(&ratio);
+    option.subControls = QStyle::SC_All;
+    option.stepEnabled = QAbstractSpinBox::StepUpEnabled | QAbstractSpinBox::StepDownEnabled;
+    const auto arrow =
+        ratio.style()->subControlRect(QStyle::CC_SpinBox, &option, QStyle::SC_SpinBoxDown, &ratio);
+    QTest::mouseClick(&ratio, Qt::LeftButton, {}, arrow.center());
+    QTest::mouseClick(&ratio, Qt::LeftButton, {}, arrow.center());
+    QCOMPARE(settings().doubleForKey(WKRatio), 2.8);
+    _bench->clock().advance(1s);
+    QCOMPARE(_bench->written(), "17 2e");
+}
+
+void PreferencesWinKeyerPaneTest::aNumberThatComesBackSendsNothing() {
+    auto& weighting = _operator->control(WKWeighting);
+    weighting.setFocus();
+    QTest::keyClick(&weighting, Qt::Key_Up);
+    QTest::keyClick(&weighting, Qt::Key_Down);
+    _bench->clock().advance(1s);
+    QCOMPARE(_bench->written(), "");
+}
+
+void PreferencesWinKeyerPaneTest::aNumberOutOfRangeCannotBeTyped_data() {
+    QTest::addColumn<QString>("key");
+    for (const auto& setting : keyerSettings) {
+        if (setting.range) {
+            QTest::newRow(setting.key.data()) << QString(setting.key);
+        }
+    }
+}
+
+void PreferencesWinKeyerPaneTest::aNumberOutOfRangeCannotBeTyped() {
+    QFETCH(QString, key);
+    const auto setting = std::ranges::find_if(
+        keyerSettings, [&key](const Setting& each) { return each.key == key; });
+    for (const auto* text : {u"0", u"1", u"4", u"9", u"100", u"300", u"9999", u"-41", u"-1"}) {
+        _operator->enter(setting->key, QString::fromUtf16(text));
+        const auto stored = settings().doubleForKey(key);
+        QVERIFY(stored >= setting->range->minimum && stored <= setting->range->maximum);
+    }
+}
+
+void PreferencesWinKeyerPaneTest::resetBringsTheDefaultBack() {
+    const auto defaults = defaultsOf(keyerSettings);
+    for (const auto* button : view().findChildren<QToolButton*>()) {
+        const auto key = button->property("resets").toString().toLatin1();
+        if (key.isEmpty()) {
+            continue;
+        }
+        const QLatin1StringView name(key);
+        QVERIFY2(!button->isEnabled(), key);
+        operate(name);
+        QVERIFY2(button->isEnabled(), key);
+        const auto sent = _bench->written();
+        _operator->reset(name);
+        QVERIFY(!button->isEnabled());
+        QCOMPARE(settings().objectForKey(name), defaults.value(name));
+        const auto sentBack = _bench->written();
+        QVERIFY2(sentBack != sent || sent.isEmpty(), key);
+        QCOMPARE(sentBack.left(2), sent.left(2)); // the same command
+    }
+}
+
+void PreferencesWinKeyerPaneTest::theSwitchpointNeedsTheMemory() {
+    _operator->enter(WKPaddleSwitchpoint, u"120"_s);
+    QCOMPARE(_bench->written(), "12 3c");
+    _operator->toggle(WKEnableDitDahMemory);
+    QCOMPARE(_bench->written(), "12 00");
+    QVERIFY(!_operator->control(WKPaddleSwitchpoint).isEnabled());
+    QVERIFY(!_operator->resetButton(WKPaddleSwitchpoint).isEnabled());
+    QCOMPARE(settings().integerForKey(WKPaddleSwitchpoint), 60);
+    _operator->toggle(WKEnableDitDahMemory);
+    QCOMPARE(_bench->written(), "12 3c");
+    QVERIFY(_operator->control(WKPaddleSwitchpoint).isEnabled());
+    QVERIFY(_operator->resetButton(WKPaddleSwitchpoint).isEnabled());
+}
+
+void PreferencesWinKeyerPaneTest::aChangeFromElsewhereIsShown() {
+    settings().setObject(u"Bug"_s, WKKeyMode);
+    settings().setObject(5, WKPTTTailTime);
+    settings().setObject(3.5, WKRatio);
+    settings().setObject(false, WKEnableDitDahMemory);
+    settings().setObject(40, WKPaddleSwitchpoint);
+    QCOMPARE(_operator->shown(WKKeyMode), u"Bug"_s);
+    QCOMPARE(_operator->shown(WKPTTTailTime), u"50 ms"_s);
+    QCOMPARE(_operator->shown(WKRatio), u"3.50 : 1"_s);
+    QCOMPARE(_operator->shown(WKEnableDitDahMemory), u"off"_s);
+    QCOMPARE(_operator->shown(WKPaddleSwitchpoint), u"80 % of a dit"_s);
+    QVERIFY(!_operator->control(WKPaddleSwitchpoint).isEnabled());
+    _bench->clock().advance(1s);
+    QCOMPARE(_bench->written(), "");
+}
+
+void PreferencesWinKeyerPaneTest::aStoredValueOutOfRangeIsToldAndKept() {
+    settings().setObject(-60, WKWeighting);
+    settings().setObject(30, WKPTTLeadTime);
+    settings().setObject(u"1999 lpm"_s, WKHSCWSpeed);
+    QVERIFY(_operator->shown(WKWeighting).contains(u"-60 %"));
+    QVERIFY(_operator->shown(WKPTTLeadTime).contains(u"300 ms"));
+    QCOMPARE(_operator->shown(WKHSCWSpeed), u"1999 lpm"_s);
+    view().hide();
+    QCOMPARE(settings().integerForKey(WKWeighting), -60);
+    QCOMPARE(settings().integerForKey(WKPTTLeadTime), 30);
+    QCOMPARE(settings().stringForKey(WKHSCWSpeed), u"1999 lpm"_s);
+    QCOMPARE(_bench->written(), "");
+}
+
+void PreferencesWinKeyerPaneTest::buttonsSendTheStandaloneMessages() {
+    pages().setCurrentIndex(4);
+    for (auto* button : view().findChildren<QPushButton*>()) {
+        if (button->property("action").toString() == u"sendStandaloneMessage") {
+            const auto number = withoutMnemonic(button->text()).back().digitValue();
+            QTest::mouseClick(button, Qt::LeftButton);
+            QCOMPARE(_bench->written(), "00 0e 0" + QByteArray::number(number));
+            QTest::keyClick(button, Qt::Key_Space);
+            QCOMPARE(_bench->written(), "00 0e 0" + QByteArray::number(number));
+        }
+    }
+}
+
+void PreferencesWinKeyerPaneTest::savingShowsItsProgress() {
+    pages().setCurrentIndex(4);
+    auto* save = view().findChild<QPushButton*>(u"save"_s);
+    auto* progress = view().findChild<QProgressBar*>();
+    QVERIFY(!progress->isVisible());
+    QTest::mouseClick(save, Qt::LeftButton);
+    QVERIFY(_bench->written().startsWith("00 0d a5"));
+    QVERIFY(progress->isVisible());
+    operate(WKWeighting); // the pane stays usable
+    QCOMPARE(_bench->written(), "03 26");
+    pages().setCurrentIndex(4);
+    _bench->clock().advance(3s);
+    QVERIFY(!progress->isVisible());
+    QVERIFY(_bench->platform().application().alerts().isEmpty());
+}
+
+void PreferencesWinKeyerPaneTest::savingThatFailsShowsNone() {
+    pages().setCurrentIndex(4);
+    settings().setObject(u"GR\u00DCN"_s, WKStandaloneMessages[0]);
+    QTest::mouseClick(view().findChild<QPushButton*>(u"save"_s), Qt::LeftButton);
+    QCOMPARE(_bench->platform().application().alerts().size(), 1);
+    QVERIFY(!view().findChild<QProgressBar*>()->isVisible());
+    QCOMPARE(_bench->written(), "");
+}
+
+void PreferencesWinKeyerPaneTest::allSettingsSurviveARestart() {
+    for (const auto& operation : operations()) {
+        if (operation.key != WKEnableDitDahMemory) { // without it there is no switchpoint to set
+            operate(operation.key);
+        }
+    }
+    operate(WKEnableDitDahMemory);
+    QVERIFY(settings().synchronize());
+
+    SettingsStore again(_bench->platform().settingsPath());
+    again.registerDefaults(defaultsOf(keyerSettings));
+    for (const auto& operation : operations()) {
+        const auto& key = operation.key;
+        const bool isBool = operation.entered == nullptr;
+        const auto read = isBool ? QVariant(again.boolForKey(key))
+                          : operation.stored.typeId() == QMetaType::Int
+                              ? QVariant(static_cast<int>(again.integerForKey(key)))
+                          : operation.stored.typeId() == QMetaType::Double
+                              ? QVariant(again.doubleForKey(key))
+                              : QVariant(again.stringForKey(key));
+        QCOMPARE(read, operation.stored);
+    }
+}
+
+void PreferencesWinKeyerPaneTest::itFitsTheSmallestScreen_data() {
+    QTest::addColumn<int>("pointSize");
+    QTest::addColumn<Qt::LayoutDirection>("direction");
+    for (const auto size : {9, 10, 14}) {
+        QTest::addRow("%d pt", size) << size << Qt::LeftToRight;
+        QTest::addRow("%d pt from the right", size) << size << Qt::RightToLeft;
+    }
+}
+
+/// A screen of 800 by 600 less a title bar, the toolbar and a panel.
+void PreferencesWinKeyerPaneTest::itFitsTheSmallestScreen() {
+    QFETCH(int, pointSize);
+    QFETCH(Qt::LayoutDirection, direction);
+    QApplication::setLayoutDirection(direction);
+    auto font = QApplication::font();
+    font.setPointSize(pointSize);
+    QApplication::setFont(font, "QWidget");
+    view().adjustSize();
+    QVERIFY2(view().width() <= 760, qPrintable(QString::number(view().width())));
+    QVERIFY2(view().height() <= 460, qPrintable(QString::number(view().height())));
+    QVERIFY(pages().tabBar()->sizeHint().width() <= pages().width());
+    for (int i = 0; i < pages().count(); ++i) {
+        pages().setCurrentIndex(i);
+        QTest::qWait(0);
+        for (const auto* widget : pages().widget(i)->findChildren<QWidget*>()) {
+            if (!widget->isVisible() || isPart(*widget)) {
+                continue;
+            }
+            const auto name = widget->objectName().toUtf8();
+            QVERIFY2(widget->width() >= widget->minimumSizeHint().width(), name);
+            QVERIFY2(widget->height() >= widget->minimumSizeHint().height(), name);
+            QVERIFY2(widget->parentWidget()->rect().contains(widget->geometry()), name);
+            if (widget->inherits("QCheckBox") || widget->inherits("QAbstractSpinBox") ||
+                widget->inherits("QPushButton")) {
+                QVERIFY2(widget->width() >= widget->sizeHint().width(), name);
+            }
+            if (const auto* label = qobject_cast<const QLabel*>(widget)) {
+                QVERIFY2(label->heightForWidth(label->width()) <= label->height(), name);
+            }
+        }
+    }
+}
+
+void PreferencesWinKeyerPaneTest::eachPageHasItsOwnMnemonics() {
+    QStringList ofTabs;
+    for (int i = 0; i < pages().count(); ++i) {
+        ofTabs.append(mnemonicOf(pages().tabText(i)));
+    }
+    QVERIFY(!ofTabs.contains(QString()));
+    for (int i = 0; i < pages().count(); ++i) {
+        auto mnemonics = ofTabs;
+        for (const auto* label : pages().widget(i)->findChildren<QLabel*>()) {
+            if (label->buddy() != nullptr) {
+                QVERIFY2(!mnemonicOf(label->text()).isEmpty(), qPrintable(label->text()));
+                mnemonics.append(mnemonicOf(label->text()));
+            }
+        }
+        for (const auto* button : pages().widget(i)->findChildren<QAbstractButton*>()) {
+            const auto mnemonic = mnemonicOf(button->text());
+            QVERIFY2(!mnemonic.isEmpty() || !button->inherits("QCheckBox"),
+                     qPrintable(button->text()));
+            if (!mnemonic.isEmpty()) {
+                mnemonics.append(mnemonic);
+            }
+        }
+        auto doubles = mnemonics;
+        doubles.removeDuplicates();
+        QVERIFY2(doubles.size() == mnemonics.size(), qPrintable(mnemonics.join(u' ')));
+    }
+}
+
+void PreferencesWinKeyerPaneTest::everyControlIsNamedByItsLabel() {
+    for (auto* widget : inputs()) {
+        QVERIFY2(!nameOf(widget).isEmpty(), qPrintable(widget->objectName()));
+    }
+    for (auto* label : view().findChildren<QLabel*>()) {
+        if (label->buddy() != nullptr) {
+            // The name of a list is its entry: the label is known by its relation.
+            QVERIFY2(nameOf(label->buddy()) == withoutMnemonic(label->text()) ||
+                         isLabelledBy(label->buddy(), label),
+                     qPrintable(label->text()));
+        }
+    }
+    for (auto* box : view().findChildren<QCheckBox*>()) {
+        QCOMPARE(nameOf(box), withoutMnemonic(box->text()));
+    }
+}
+
+void PreferencesWinKeyerPaneTest::everyControlTellsWhatItDoes() {
+    for (auto* widget : inputs()) {
+        const auto name = widget->objectName().toUtf8();
+        if (widget->property("setting").isValid() || widget->property("action").isValid() ||
+            widget->property("resets").isValid()) {
+            QVERIFY2(!widget->toolTip().isEmpty(), name);
+        }
+        if (isInside(*widget, "StandaloneMessages")) {
+            continue;
+        }
+        for (const auto& line : widget->toolTip().split(u'\n')) {
+            // A plain tool tip breaks no lines by itself.
+            QVERIFY2(line.size() <= 100, name);
+        }
+    }
+    QVERIFY(_operator->control(WKPTTLeadTime).toolTip().contains(u"0 to 250 ms, default 0 ms"));
+    QVERIFY(_operator->control(WKPaddleSwitchpoint)
+                .toolTip()
+                .contains(u"20 to 180 % of a dit, default 100 % of a dit"));
+    QVERIFY(_operator->control(WKSerialEchoback).toolTip().contains(u"gaps"));
+}
+
+void PreferencesWinKeyerPaneTest::tabReachesEveryControl() {
+    for (int i = 0; i < pages().count(); ++i) {
+        pages().setCurrentIndex(i);
+        QSet<QWidget*> missing;
+        for (auto* widget : inputs()) {
+            if (widget->isVisible() && widget->isEnabled()) {
+                missing.insert(widget);
+            }
+        }
+        QVERIFY(!missing.isEmpty());
+        pages().setFocus();
+        for (auto steps = 3 * missing.size() + 20; steps > 0; --steps) {
+            missing.remove(QApplication::focusWidget());
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        }
+        QVERIFY2(missing.isEmpty(),
+                 missing.isEmpty() ? "" : qPrintable((*missing.begin())->objectName()));
+    }
+}
+
+QTEST_MAIN(PreferencesWinKeyerPaneTest)
+#include "PreferencesWinKeyerPaneTest.moc"
