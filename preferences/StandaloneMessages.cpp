@@ -17,6 +17,9 @@ namespace {
 constexpr Clock::Duration loadingTime =
     Clock::Duration(1s) * (2 + std::tuple_size_v<KeyerMemory::Image>)*11 / 1200;
 
+/// Characters of a message that are seen at once, even where the window is as narrow as it can be.
+constexpr int readableLength = 40;
+
 QString quoted(QChar character) {
     return StandaloneMessages::tr("“%1”").arg(character);
 }
@@ -74,6 +77,7 @@ StandaloneMessages::~StandaloneMessages() = default;
 
 void StandaloneMessages::setUpRow(const Row& row) {
     row.field->setValidator(new MessageFormatter(row.field));
+    row.field->setMinimumWidth(fontMetrics().averageCharWidth() * readableLength);
     connect(row.field, &QLineEdit::textChanged, this, &StandaloneMessages::showShares);
 
     auto* mark = row.mark;
