@@ -60,6 +60,33 @@ QToolButton& PaneOperator::resetButton(QLatin1StringView key) const {
     throw std::runtime_error(key.data());
 }
 
+QList<QWidget*> PaneOperator::inputs() const {
+    QList<QWidget*> found;
+    for (auto* widget : _pane.findChildren<QWidget*>()) {
+        if (widget->focusPolicy() != Qt::NoFocus && !isPart(*widget) &&
+            !isInside(*widget, "KeyedWaveView") && !widget->inherits("QTabBar") &&
+            !widget->inherits("QTabWidget")) {
+            found.append(widget);
+        }
+    }
+    return found;
+}
+
+bool PaneOperator::isInside(const QWidget& widget, const char* type) {
+    for (const auto* each = &widget; each != nullptr; each = each->parentWidget()) {
+        if (each->inherits(type)) {
+            return true;
+        }
+    }
+    return false;
+}
+
+bool PaneOperator::isPart(const QWidget& widget) {
+    const auto& parent = *widget.parentWidget();
+    return isInside(parent, "QAbstractSpinBox") || isInside(parent, "QComboBox") ||
+           isInside(parent, "QTabBar");
+}
+
 void PaneOperator::turnTo(const QWidget& widget) {
     auto* tabs = _pane.findChild<QTabWidget*>();
     for (int i = 0; i < tabs->count(); ++i) {

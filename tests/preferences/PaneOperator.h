@@ -22,6 +22,13 @@ class PaneOperator {
     [[nodiscard]] QList<QWidget*> controls(QLatin1StringView key) const;
     [[nodiscard]] QToolButton& resetButton(QLatin1StringView key) const;
 
+    /// What can be changed or pressed on all pages, but for what belongs to a picture alone.
+    [[nodiscard]] QList<QWidget*> inputs() const;
+    /// Whether the widget is or lies in one of that class.
+    [[nodiscard]] static bool isInside(const QWidget& widget, const char* type);
+    /// Whether the widget is what Qt makes a control of.
+    [[nodiscard]] static bool isPart(const QWidget& widget);
+
     /// Clicks a check box.
     void toggle(QLatin1StringView key);
     /// Opens a pop-up and takes one of its entries.

@@ -1,22 +1,15 @@
 #include "keyer/KeyerSettings.h"
-#include "preferences/KeyedWaveView.h"
 #include "preferences/PreferencesWinKeyerViewController.h"
 #include "tests/keyer/KeyerBench.h"
 #include "tests/preferences/PaneOperator.h"
 
-#include <QAccessible>
-#include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDoubleSpinBox>
-#include <QLabel>
-#include <QLineEdit>
 #include <QProgressBar>
 #include <QPushButton>
-#include <QSet>
 #include <QSpinBox>
 #include <QStyleOptionSpinBox>
-#include <QTabBar>
 #include <QTabWidget>
 #include <QTest>
 #include <QToolButton>
@@ -59,18 +52,10 @@ class PreferencesWinKeyerPaneTest : public QObject {
     void savingThatFailsShowsNone();
     void allSettingsSurviveARestart();
 
-    void itFitsTheSmallestScreen_data();
-    void itFitsTheSmallestScreen();
-    void eachPageHasItsOwnMnemonics();
-    void everyControlIsNamedByItsLabel();
-    void everyControlTellsWhatItDoes();
-    void tabReachesEveryControl();
-
   private:
     [[nodiscard]] QWidget& view() { return *_controller->view(); }
     [[nodiscard]] QTabWidget& pages() { return *view().findChild<QTabWidget*>(); }
     [[nodiscard]] SettingsStore& settings() { return _bench->settings(); }
-    [[nodiscard]] QList<QWidget*> inputs();
     /// Works the control of a setting as the test's table says.
     void operate(QLatin1StringView key);
 
@@ -132,42 +117,6 @@ const QList<Operation>& operations() {
     return all;
 }
 
-bool isInside(const QWidget& widget, const char* type) {
-    for (const auto* each = &widget; each != nullptr; each = each->parentWidget()) {
-        if (each->inherits(type)) {
-            return true;
-        }
-    }
-    return false;
-}
-
-/// Parts of a control, which Qt makes.
-bool isPart(const QWidget& widget) {
-    return isInside(*widget.parentWidget(), "QAbstractSpinBox") ||
-           isInside(*widget.parentWidget(), "QComboBox") ||
-           isInside(*widget.parentWidget(), "QTabBar");
-}
-
-QString nameOf(QWidget* widget) {
-    return QAccessible::queryAccessibleInterface(widget)->text(QAccessible::Name);
-}
-
-bool isLabelledBy(QWidget* widget, QWidget* label) {
-    const auto relations =
-        QAccessible::queryAccessibleInterface(widget)->relations(QAccessible::Label);
-    return std::ranges::any_of(relations,
-                               [label](const auto& each) { return each.first->object() == label; });
-}
-
-QString withoutMnemonic(QString text) {
-    return text.remove(u'&');
-}
-
-/// What a text has behind its ampersand, if it has one.
-QString mnemonicOf(const QString& text) {
-    return QKeySequence::mnemonic(text).toString();
-}
-
 } // namespace
 
 void PreferencesWinKeyerPaneTest::init() {
@@ -181,21 +130,6 @@ void PreferencesWinKeyerPaneTest::cleanup() {
     _operator.reset();
     _controller.reset();
     _bench.reset();
-    QApplication::setFont(QFont(), "QWidget");
-    QApplication::setLayoutDirection(Qt::LeftToRight);
-}
-
-/// What can be changed or pressed on all pages, but for what belongs to the picture alone.
-QList<QWidget*> PreferencesWinKeyerPaneTest::inputs() {
-    QList<QWidget*> found;
-    for (auto* widget : view().findChildren<QWidget*>()) {
-        if (widget->focusPolicy() != Qt::NoFocus && !isPart(*widget) &&
-            !isInside(*widget, "KeyedWaveView") && !widget->inherits("QTabBar") &&
-            !widget->inherits("QTabWidget")) {
-            found.append(widget);
-        }
-    }
-    return found;
 }
 
 void PreferencesWinKeyerPaneTest::operate(QLatin1StringView key) {
@@ -237,7 +171,7 @@ void PreferencesWinKeyerPaneTest::everySettingHasOneControlOfItsKind() {
 }
 
 void PreferencesWinKeyerPaneTest::everyControlHasItsSettingOrAction() {
-    for (const auto* widget : inputs()) {
+    for (const auto* widget : _operator->inputs()) {
         if (widget->objectName().startsWith(u"mark")) {
             continue; // tells what is wrong with a message
         }
@@ -476,7 +410,7 @@ void PreferencesWinKeyerPaneTest::buttonsSendTheStandaloneMessages() {
     pages().setCurrentIndex(4);
     for (auto* button : view().findChildren<QPushButton*>()) {
         if (button->property("action").toString() == u"sendStandaloneMessage") {
-            const auto number = withoutMnemonic(button->text()).back().digitValue();
+            const auto number = button->text().back().digitValue();
             QTest::mouseClick(button, Qt::LeftButton);
             QCOMPARE(_bench->written(), "00 0e 0" + QByteArray::number(number));
             QTest::keyClick(button, Qt::Key_Space);
@@ -531,136 +465,6 @@ void PreferencesWinKeyerPaneTest::allSettingsSurviveARestart() {
                               ? QVariant(again.doubleForKey(key))
                               : QVariant(again.stringForKey(key));
         QCOMPARE(read, operation.stored);
-    }
-}
-
-void PreferencesWinKeyerPaneTest::itFitsTheSmallestScreen_data() {
-    QTest::addColumn<int>("pointSize");
-    QTest::addColumn<Qt::LayoutDirection>("direction");
-    for (const auto size : {9, 10, 14}) {
-        QTest::addRow("%d pt", size) << size << Qt::LeftToRight;
-        QTest::addRow("%d pt from the right", size) << size << Qt::RightToLeft;
-    }
-}
-
-/// A screen of 800 by 600 less a title bar, the toolbar and a panel.
-void PreferencesWinKeyerPaneTest::itFitsTheSmallestScreen() {
-    QFETCH(int, pointSize);
-    QFETCH(Qt::LayoutDirection, direction);
-    QApplication::setLayoutDirection(direction);
-    auto font = QApplication::font();
-    font.setPointSize(pointSize);
-    QApplication::setFont(font, "QWidget");
-    view().adjustSize();
-    QVERIFY2(view().width() <= 760, qPrintable(QString::number(view().width())));
-    QVERIFY2(view().height() <= 460, qPrintable(QString::number(view().height())));
-    QVERIFY(pages().tabBar()->sizeHint().width() <= pages().width());
-    for (int i = 0; i < pages().count(); ++i) {
-        pages().setCurrentIndex(i);
-        QTest::qWait(0);
-        for (const auto* widget : pages().widget(i)->findChildren<QWidget*>()) {
-            if (!widget->isVisible() || isPart(*widget)) {
-                continue;
-            }
-            const auto name = widget->objectName().toUtf8();
-            QVERIFY2(widget->width() >= widget->minimumSizeHint().width(), name);
-            QVERIFY2(widget->height() >= widget->minimumSizeHint().height(), name);
-            QVERIFY2(widget->parentWidget()->rect().contains(widget->geometry()), name);
-            if (widget->inherits("QCheckBox") || widget->inherits("QAbstractSpinBox") ||
-                widget->inherits("QPushButton")) {
-                QVERIFY2(widget->width() >= widget->sizeHint().width(), name);
-            }
-            if (const auto* label = qobject_cast<const QLabel*>(widget)) {
-                QVERIFY2(label->heightForWidth(label->width()) <= label->height(), name);
-            }
-        }
-    }
-}
-
-void PreferencesWinKeyerPaneTest::eachPageHasItsOwnMnemonics() {
-    QStringList ofTabs;
-    for (int i = 0; i < pages().count(); ++i) {
-        ofTabs.append(mnemonicOf(pages().tabText(i)));
-    }
-    QVERIFY(!ofTabs.contains(QString()));
-    for (int i = 0; i < pages().count(); ++i) {
-        auto mnemonics = ofTabs;
-        for (const auto* label : pages().widget(i)->findChildren<QLabel*>()) {
-            if (label->buddy() != nullptr) {
-                QVERIFY2(!mnemonicOf(label->text()).isEmpty(), qPrintable(label->text()));
-                mnemonics.append(mnemonicOf(label->text()));
-            }
-        }
-        for (const auto* button : pages().widget(i)->findChildren<QAbstractButton*>()) {
-            const auto mnemonic = mnemonicOf(button->text());
-            QVERIFY2(!mnemonic.isEmpty() || !button->inherits("QCheckBox"),
-                     qPrintable(button->text()));
-            if (!mnemonic.isEmpty()) {
-                mnemonics.append(mnemonic);
-            }
-        }
-        auto doubles = mnemonics;
-        doubles.removeDuplicates();
-        QVERIFY2(doubles.size() == mnemonics.size(), qPrintable(mnemonics.join(u' ')));
-    }
-}
-
-void PreferencesWinKeyerPaneTest::everyControlIsNamedByItsLabel() {
-    for (auto* widget : inputs()) {
-        QVERIFY2(!nameOf(widget).isEmpty(), qPrintable(widget->objectName()));
-    }
-    for (auto* label : view().findChildren<QLabel*>()) {
-        if (label->buddy() != nullptr) {
-            // The name of a list is its entry: the label is known by its relation.
-            QVERIFY2(nameOf(label->buddy()) == withoutMnemonic(label->text()) ||
-                         isLabelledBy(label->buddy(), label),
-                     qPrintable(label->text()));
-        }
-    }
-    for (auto* box : view().findChildren<QCheckBox*>()) {
-        QCOMPARE(nameOf(box), withoutMnemonic(box->text()));
-    }
-}
-
-void PreferencesWinKeyerPaneTest::everyControlTellsWhatItDoes() {
-    for (auto* widget : inputs()) {
-        const auto name = widget->objectName().toUtf8();
-        if (widget->property("setting").isValid() || widget->property("action").isValid() ||
-            widget->property("resets").isValid()) {
-            QVERIFY2(!widget->toolTip().isEmpty(), name);
-        }
-        if (isInside(*widget, "StandaloneMessages")) {
-            continue;
-        }
-        for (const auto& line : widget->toolTip().split(u'\n')) {
-            // A plain tool tip breaks no lines by itself.
-            QVERIFY2(line.size() <= 100, name);
-        }
-    }
-    QVERIFY(_operator->control(WKPTTLeadTime).toolTip().contains(u"0 to 250 ms, default 0 ms"));
-    QVERIFY(_operator->control(WKPaddleSwitchpoint)
-                .toolTip()
-                .contains(u"20 to 180 % of a dit, default 100 % of a dit"));
-    QVERIFY(_operator->control(WKSerialEchoback).toolTip().contains(u"gaps"));
-}
-
-void PreferencesWinKeyerPaneTest::tabReachesEveryControl() {
-    for (int i = 0; i < pages().count(); ++i) {
-        pages().setCurrentIndex(i);
-        QSet<QWidget*> missing;
-        for (auto* widget : inputs()) {
-            if (widget->isVisible() && widget->isEnabled()) {
-                missing.insert(widget);
-            }
-        }
-        QVERIFY(!missing.isEmpty());
-        pages().setFocus();
-        for (auto steps = 3 * missing.size() + 20; steps > 0; --steps) {
-            missing.remove(QApplication::focusWidget());
-            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-        }
-        QVERIFY2(missing.isEmpty(),
-                 missing.isEmpty() ? "" : qPrintable((*missing.begin())->objectName()));
     }
 }
 
