@@ -13,6 +13,7 @@
 #include "platform/linux/LinuxDeviceRegistry.h"
 #include "platform/linux/LogindPower.h"
 #include "platform/linux/SingleInstance.h"
+#include "preferences/PreferencesController.h"
 #include "preferences/PreferencesGeneral.h"
 #include "preferences/PreferencesMessagesViewController.h"
 #include "preferences/PreferencesWinKeyer.h"
@@ -60,6 +61,13 @@ int run(SingleInstance& instance) {
     alerts.setAlertParent(&window);
     QObject::connect(&delegate, &QuorvelDelegate::willDisconnect, &window,
                      &MainWindow::letGoOfTune);
+    PreferencesController preferences;
+    preferences.awakeFromNib();
+    QObject::connect(&window, &MainWindow::preferencesRequested, &preferences,
+                     [&] { preferences.showPreferences(&window); });
+    QObject::connect(&delegate, &QuorvelDelegate::serialPortNameArrayChanged, &preferences,
+                     [&] { preferences.setSerialPortNames(delegate.serialPortNameArray()); });
+
     const EscapeKey escape;
     QObject::connect(&escape, &EscapeKey::pressed, &window, &MainWindow::stop);
     QObject::connect(&instance, &SingleInstance::activated, &window, &MainWindow::comeToFront);
