@@ -32,7 +32,6 @@ PreferencesWinKeyerViewController::PreferencesWinKeyerViewController()
 }
 
 PreferencesWinKeyerViewController::~PreferencesWinKeyerViewController() {
-    _binder.settle();
     delete _view; // unless the window that showed it has taken it along
 }
 

@@ -38,6 +38,7 @@ class PreferencesWinKeyerPaneTest : public QObject {
     void everySettingIsOperatedHere();
     void checkBoxesWorkBothWays();
     void aNumberActsOnceItHasSettled();
+    void aNumberThatHasNotSettledActsAtTheEnd();
     void heldKeysSendOneCommand();
     void arrowsWorkByMouse();
     void aNumberThatComesBackSendsNothing();
@@ -45,6 +46,7 @@ class PreferencesWinKeyerPaneTest : public QObject {
     void aNumberOutOfRangeCannotBeTyped();
     void resetBringsTheDefaultBack();
     void theSwitchpointNeedsTheMemory();
+    void withoutTheMemoryItOpensWithoutASwitchpoint();
     void aChangeFromElsewhereIsShown();
     void aStoredValueOutOfRangeIsToldAndKept();
     void buttonsSendTheStandaloneMessages();
@@ -283,6 +285,15 @@ void PreferencesWinKeyerPaneTest::aNumberActsOnceItHasSettled() {
     QCOMPARE(_bench->written(), "03 34");
 }
 
+void PreferencesWinKeyerPaneTest::aNumberThatHasNotSettledActsAtTheEnd() {
+    _operator->type(WKWeighting, u"7"_s);
+    QCOMPARE(_bench->written(), "");
+    _operator.reset();
+    _controller.reset();
+    QCOMPARE(settings().integerForKey(WKWeighting), 7);
+    QCOMPARE(_bench->written(), "03 39");
+}
+
 void PreferencesWinKeyerPaneTest::heldKeysSendOneCommand() {
     auto& lead = _operator->control(WKPTTLeadTime);
     pages().setCurrentIndex(2);
@@ -374,6 +385,17 @@ void PreferencesWinKeyerPaneTest::theSwitchpointNeedsTheMemory() {
     QCOMPARE(_bench->written(), "12 3c");
     QVERIFY(_operator->control(WKPaddleSwitchpoint).isEnabled());
     QVERIFY(_operator->resetButton(WKPaddleSwitchpoint).isEnabled());
+}
+
+void PreferencesWinKeyerPaneTest::withoutTheMemoryItOpensWithoutASwitchpoint() {
+    settings().setObject(false, WKEnableDitDahMemory);
+    settings().setObject(40, WKPaddleSwitchpoint);
+    _operator.reset();
+    _controller.emplace();
+    _operator.emplace(view());
+    QCOMPARE(_operator->shown(WKEnableDitDahMemory), u"off"_s);
+    QVERIFY(!_operator->control(WKPaddleSwitchpoint).isEnabled());
+    QVERIFY(!_operator->resetButton(WKPaddleSwitchpoint).isEnabled());
 }
 
 void PreferencesWinKeyerPaneTest::aChangeFromElsewhereIsShown() {
