@@ -26,6 +26,17 @@ namespace {
 
 constexpr QLatin1StringView MBPreferencesSelection{"MBPreferencesSelection"};
 
+/// The first widget of the view that the Tab key reaches; nullptr if there is none.
+QWidget* firstControl(const QWidget& view) {
+    for (auto* each = view.nextInFocusChain(); each != &view; each = each->nextInFocusChain()) {
+        if (view.isAncestorOf(each) && each->isEnabled() &&
+            (each->focusPolicy() & Qt::TabFocus) == Qt::TabFocus) {
+            return each;
+        }
+    }
+    return nullptr;
+}
+
 } // namespace
 
 MBPreferencesController& MBPreferencesController::sharedController() {
@@ -48,8 +59,9 @@ MBPreferencesController& MBPreferencesController::sharedController() {
 }
 
 MBPreferencesController::MBPreferencesController() : _contentView(new QWidget) {
-    _window.setWindowFlags(Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
-                           Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint);
+    _window.setWindowFlags(Qt::Window | Qt::MSWindowsFixedSizeDialogHint | Qt::CustomizeWindowHint |
+                           Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
+                           Qt::WindowCloseButtonHint);
     _window.setContextMenuPolicy(Qt::NoContextMenu); // it would hide the toolbar
     _window.setCentralWidget(_contentView);
     auto* layout = new QVBoxLayout(_contentView);
@@ -106,7 +118,7 @@ void MBPreferencesController::rebuildToolbarItems() {
         item->setParent(_toolbar);
         _items->addAction(item);
         _toolbar->addAction(item);
-        _toolbar->widgetForAction(item)->setFocusPolicy(Qt::StrongFocus);
+        _toolbar->widgetForAction(item)->setFocusPolicy(Qt::TabFocus);
     }
 }
 
@@ -197,12 +209,19 @@ void MBPreferencesController::showView() {
     if (view != nullptr) {
         _contentView->layout()->addWidget(view);
         view->show();
+        auto* first = firstControl(*view);
+        if (first != nullptr && _window.focusWidget() == nullptr) {
+            first->setFocus(); // the window would begin with the toolbar
+        }
     }
 }
 
 void MBPreferencesController::takeViewOut() {
     auto* view = _currentModule != nullptr ? _currentModule->view() : nullptr;
     if (view != nullptr && view->parentWidget() == _contentView) {
+        if (auto* focused = _window.focusWidget(); view->isAncestorOf(focused)) {
+            focused->clearFocus(); // else the toolbar had it next
+        }
         _contentView->layout()->removeWidget(view);
         view->setParent(nullptr);
     }

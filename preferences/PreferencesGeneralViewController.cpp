@@ -9,6 +9,8 @@
 #include <QScopedValueRollback>
 #include <QSignalBlocker>
 
+#include <utility>
+
 using namespace Qt::StringLiterals;
 
 PreferencesGeneralViewController::PreferencesGeneralViewController()
@@ -56,7 +58,11 @@ void PreferencesGeneralViewController::changeSerialPort(const QObject* sender) {
     }
     const QScopedValueRollback changing(_isChangingPort, true);
     while (std::exchange(_hasToChangeAgain, false)) {
+        // It takes seconds in which nothing is painted: no pop-up must seem to be still open.
+        _ui->linkLabel->setText(tr("Changing the serial port..."));
+        _view->window()->repaint();
         delegate->changeSerialPort(sender);
+        showLink();
     }
 }
 

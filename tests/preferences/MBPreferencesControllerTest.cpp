@@ -3,6 +3,7 @@
 #include "keyer/WinKeyerUsb.h"
 #include "tests/preferences/PreferencesWindowBench.h"
 
+#include <QLineEdit>
 #include <QPointer>
 #include <QScreen>
 
@@ -44,6 +45,7 @@ class MBPreferencesControllerTest : public QObject, private PreferencesWindowBen
     void closingAndOpeningShowsTheSame();
     void escapeStopsTheKeyer();
     void itemsAreReachedByKeyboard();
+    void theFirstControlOfTheModuleHasTheFocus();
     void theEndOfThePlatformEndsAll();
 };
 
@@ -78,6 +80,7 @@ void MBPreferencesControllerTest::theWindowCanBeMovedAndClosedOnly() {
     const auto& window = controller().window();
     QCOMPARE(window.minimumSize(), window.maximumSize());
     const auto flags = window.windowFlags();
+    QVERIFY(flags.testFlag(Qt::MSWindowsFixedSizeDialogHint));
     QVERIFY(flags.testFlag(Qt::WindowTitleHint));
     QVERIFY(flags.testFlag(Qt::WindowCloseButtonHint));
     QVERIFY(!flags.testFlag(Qt::WindowMinimizeButtonHint));
@@ -293,6 +296,19 @@ void MBPreferencesControllerTest::itemsAreReachedByKeyboard() {
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
     QCOMPARE(controller().currentModule().get(), _two.get());
+}
+
+void MBPreferencesControllerTest::theFirstControlOfTheModuleHasTheFocus() {
+    QLineEdit disabled(_one->view());
+    disabled.setEnabled(false);
+    QLineEdit first(_one->view());
+    QLineEdit second(_one->view());
+    QLineEdit other(_two->view());
+    controller().setModules(list({_one, _two}));
+    show(0);
+    QCOMPARE(QApplication::focusWidget(), &first);
+    QTest::mouseClick(toolbar().widgetForAction(toolbar().actions().constLast()), Qt::LeftButton);
+    QCOMPARE(QApplication::focusWidget(), &other);
 }
 
 void MBPreferencesControllerTest::theEndOfThePlatformEndsAll() {

@@ -67,6 +67,7 @@ class PreferencesGeneralViewControllerTest : public QObject {
     void aPortThatIsAbsentIsShownAsSuch();
     void thePortFollowsTheEngine();
     void aChangeWithinAChangeIsMadeUpFor();
+    void theOperatorIsToldWhileThePortChanges();
     void withoutDelegateThePortIsOnlyStored();
     void theOwnCallIsInUpperCase();
     void theOwnCallTakesOnlyCallSigns();
@@ -218,6 +219,20 @@ void PreferencesGeneralViewControllerTest::aChangeWithinAChangeIsMadeUpFor() {
     QTest::keyClick(&chooser(), Qt::Key_Down);
     QCOMPARE(depth, 1);
     QCOMPARE(_delegate->take(), QStringList{u"None"_s});
+}
+
+void PreferencesGeneralViewControllerTest::theOperatorIsToldWhileThePortChanges() {
+    show();
+    QString told;
+    bool hasPopUp = true;
+    _delegate->setWhileChanging([&] {
+        told = link();
+        hasPopUp = chooser().view()->isVisible();
+    });
+    choose(2);
+    QCOMPARE(told, u"Changing the serial port..."_s);
+    QVERIFY(!hasPopUp);
+    QCOMPARE(link(), u"Not connected"_s);
 }
 
 void PreferencesGeneralViewControllerTest::withoutDelegateThePortIsOnlyStored() {
