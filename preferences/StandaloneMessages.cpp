@@ -18,7 +18,7 @@ constexpr Clock::Duration loadingTime =
     Clock::Duration(1s) * (2 + std::tuple_size_v<KeyerMemory::Image>)*11 / 1200;
 
 /// Characters of a message that are seen at once, even where the window is as narrow as it can be.
-constexpr int readableLength = 40;
+constexpr int readableLength = 24;
 
 QString quoted(QChar character) {
     return StandaloneMessages::tr("“%1”").arg(character);

@@ -97,6 +97,9 @@ void PreferencesWinKeyerPaneLayoutTest::itFitsTheSmallestScreen() {
     auto font = QApplication::font();
     font.setPointSize(pointSize);
     QApplication::setFont(font, "QWidget");
+    _operator.reset();
+    _controller.emplace(); // opened with that font
+    _operator.emplace(view());
     view().adjustSize();
     QVERIFY2(view().width() <= 760, qPrintable(QString::number(view().width())));
     QVERIFY2(view().height() <= 460, qPrintable(QString::number(view().height())));
