@@ -1,6 +1,7 @@
 #include "app/KeyboardView.h"
 
 #include "app/Composition.h"
+#include "app/KeyboardViewAccessible.h"
 #include "keyer/WinKeyerUsb.h"
 
 #include <QAction>
@@ -24,6 +25,7 @@ KeyboardView::KeyboardView(QWidget* parent)
     // The document knows nothing of what has been sent, and its own undo would key text twice.
     setUndoRedoEnabled(false);
     setTabChangesFocus(true);
+    KeyboardViewAccessible::install();
     QObject::connect(this, &QPlainTextEdit::textChanged, this, &KeyboardView::takeOperatorsText);
     QObject::connect(verticalScrollBar(), &QScrollBar::actionTriggered, &_scrollRest,
                      &ScrollRest::noteUse);
@@ -34,7 +36,7 @@ void KeyboardView::setEngine(WinKeyerUsb& engine) {
     _engine = &engine;
     QObject::connect(_engine, &WinKeyerUsb::keyboardBufferChanged, this,
                      &KeyboardView::showEnginesText);
-    QObject::connect(_engine, &WinKeyerUsb::sendingProgressed, this, &KeyboardView::showProgress);
+    QObject::connect(_engine, &WinKeyerUsb::sendingProgressed, this, &KeyboardView::takeProgress);
     showChange(TextChange::between(text(), _engine->keyboardBuffer()));
     showProgress();
 }
@@ -58,8 +60,8 @@ void KeyboardView::takeOperatorsText() {
         const auto isTyped = change.removed.size() + change.inserted.size() == 1;
         _history.record(change, handedOver,
                         isTyped ? EditHistory::Kind::Typed : EditHistory::Kind::Whole);
-        showProgress();
     }
+    showProgress();
 }
 
 void KeyboardView::giveToEngine(const QString& text) {
@@ -157,10 +159,6 @@ void KeyboardView::keepSelection(int begin, int end, bool isReversed) {
     setTextCursor(selection);
 }
 
-bool KeyboardView::isComposing() const {
-    return Composition::isAt(textCursor());
-}
-
 // How far the sending is.
 
 SendingMarks::State KeyboardView::sendingState() const {
@@ -171,10 +169,17 @@ qsizetype KeyboardView::waitingCount() const {
     return _engine == nullptr ? 0 : _engine->keyboardBuffer().size() - _engine->inFlightIndex();
 }
 
-void KeyboardView::showProgress() {
-    if (_engine->keyboardBuffer().isEmpty() && !_isEngineTakingText) {
+void KeyboardView::takeProgress() {
+    if (_isEngineTakingText) {
+        return; // there is more to come
+    }
+    if (_engine->keyboardBuffer().isEmpty()) {
         _history.clear(); // stopped, or broken in on
     }
+    showProgress();
+}
+
+void KeyboardView::showProgress() {
     _history.handOver(_engine->outputBufferIndex());
     announceHistory();
     if (_shownState != sendingState()) {
@@ -184,30 +189,37 @@ void KeyboardView::showProgress() {
     followSending();
 }
 
-bool KeyboardView::isInUse() {
-    return textCursor().hasSelection() || isComposing() || !_scrollRest.isOver();
+bool KeyboardView::isInUse() const {
+    return textCursor().hasSelection() || Composition::isAt(textCursor()) || !_scrollRest.isOver();
 }
 
 void KeyboardView::followSending() {
-    if (isInUse()) {
+    if (_engine == nullptr || isInUse()) {
         return;
     }
-    const auto position = static_cast<int>(_engine->inFlightIndex());
-    const auto block = document()->findBlock(position);
-    if (!block.isValid()) {
-        return;
-    }
-    static_cast<void>(blockBoundingRect(block)); // has it laid out
-    const auto line = block.layout()->lineForTextPosition(position - block.position());
-    if (!line.isValid()) {
-        return;
-    }
-    const auto wanted = block.firstLineNumber() + line.lineNumber();
-    const auto page = std::max(1, static_cast<int>(viewport()->height() / line.height()));
+    const auto line = lineOf(static_cast<int>(_engine->inFlightIndex()));
     auto* bar = verticalScrollBar();
-    if (wanted < bar->value() || wanted >= bar->value() + page) {
-        bar->setValue(wanted - page / 3);
+    if (line < bar->value() || line >= bar->value() + linesInSight()) {
+        bar->setValue(line - linesInSight() / 3);
     }
+}
+
+int KeyboardView::linesInSight() const {
+    return std::max(1, viewport()->height() / fontMetrics().lineSpacing());
+}
+
+int KeyboardView::lineOf(int position) const {
+    // What is not laid out yet counts as one line a paragraph. So that the number holds for
+    // scrolling there, the lines in sight before it must be laid out too.
+    const auto target = document()->findBlock(position);
+    int laidOut = 0;
+    for (auto block = target; block.isValid() && laidOut <= linesInSight();
+         block = block.previous()) {
+        static_cast<void>(blockBoundingRect(block));
+        laidOut += block == target ? 0 : block.lineCount();
+    }
+    const auto line = target.layout()->lineForTextPosition(position - target.position());
+    return target.firstLineNumber() + (line.isValid() ? line.lineNumber() : 0);
 }
 
 void KeyboardView::paintEvent(QPaintEvent* event) {
@@ -218,8 +230,8 @@ void KeyboardView::paintEvent(QPaintEvent* event) {
     auto colours = palette();
     colours.setCurrentColorGroup(hasFocus() ? QPalette::Active : QPalette::Inactive);
     const auto cursor = textCursor();
-    const SendingMarks marks(_shownState, {cursor.selectionStart(), cursor.selectionEnd()},
-                             colours);
+    const SendingMarks marks(_shownState, {cursor.selectionStart(), cursor.selectionEnd()}, colours,
+                             event->rect());
     QPainter painter(viewport());
     painter.setClipRegion(event->region());
     for (auto block = firstVisibleBlock(); block.isValid(); block = block.next()) {
@@ -227,7 +239,7 @@ void KeyboardView::paintEvent(QPaintEvent* event) {
         if (geometry.top() > event->rect().bottom()) {
             break;
         }
-        marks.paint(painter, {*block.layout(), block.position(), geometry.topLeft()});
+        marks.paint(painter, {block, geometry.topLeft()});
     }
 }
 

@@ -73,11 +73,13 @@ class KeyboardView final : public QPlainTextEdit {
     void showChange(const TextChange& change);
     void breakParagraphs();
     void keepSelection(int begin, int end, bool isReversed);
-    [[nodiscard]] bool isComposing() const;
 
+    void takeProgress();
     void showProgress();
     void followSending();
-    [[nodiscard]] bool isInUse();
+    [[nodiscard]] bool isInUse() const;
+    [[nodiscard]] int linesInSight() const;
+    [[nodiscard]] int lineOf(int position) const;
     [[nodiscard]] SendingMarks::State sendingState() const;
 
     WinKeyerUsb* _engine = nullptr;

@@ -4,24 +4,23 @@
 
 void ScrollRest::noteUse() {
     _end = Platform::current().clock().now() + length;
-}
-
-bool ScrollRest::isOver() {
-    if (Platform::current().clock().now() >= _end) {
-        return true;
-    }
     if (!_timer) {
-        wait();
+        waitForEnd();
     }
-    return false;
 }
 
-void ScrollRest::wait() {
+bool ScrollRest::isOver() const {
+    return Platform::current().clock().now() >= _end;
+}
+
+void ScrollRest::waitForEnd() {
     auto& clock = Platform::current().clock();
     _timer = clock.scheduleTimer(_end - clock.now(), this, [this] {
         _timer.reset();
         if (isOver()) {
             Q_EMIT over();
+        } else {
+            waitForEnd();
         }
     });
 }

@@ -19,15 +19,14 @@ class ScrollRest final : public QObject {
     /// The operator types, clicks or scrolls just now.
     void noteUse();
 
-    /// Whether the rest is over. While it is not, `over` is emitted at its end.
-    [[nodiscard]] bool isOver();
+    [[nodiscard]] bool isOver() const;
 
   Q_SIGNALS:
-    /// Somebody has asked, and nothing has been used for long enough since.
+    /// The view has not been used for long enough now.
     void over();
 
   private:
-    void wait();
+    void waitForEnd();
 
     Clock::Duration _end{0};
     std::shared_ptr<Timer> _timer;

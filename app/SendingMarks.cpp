@@ -2,6 +2,7 @@
 
 #include <QPainter>
 #include <QPen>
+#include <QTextLayout>
 
 #include <algorithm>
 #include <cmath>
@@ -11,11 +12,11 @@ namespace {
 using Range = SendingMarks::Range;
 
 /// The range of the text, in the layout's own counting: there, what is being composed counts too.
-Range inLayout(const SendingMarks::Paragraph& paragraph, Range range) {
-    const auto composed = paragraph.layout.preeditAreaText().size();
-    const auto position = paragraph.layout.preeditAreaPosition();
-    const auto begin = range.begin - paragraph.start;
-    const auto end = range.end - paragraph.start;
+Range inLayout(const QTextBlock& block, Range range) {
+    const auto composed = block.layout()->preeditAreaText().size();
+    const auto position = block.layout()->preeditAreaPosition();
+    const auto begin = range.begin - block.position();
+    const auto end = range.end - block.position();
     return {begin + (composed > 0 && begin >= position ? composed : 0),
             end + (composed > 0 && end > position ? composed : 0)};
 }
@@ -44,8 +45,8 @@ void invert(QPainter& painter, const QTextLine& line, const QRectF& extent, QPoi
             const SendingMarks::Colours& colours) {
     painter.save();
     painter.setClipRect(extent.translated(origin), Qt::IntersectClip);
-    painter.fillRect(extent.translated(origin), colours.background);
-    painter.setPen(colours.text);
+    painter.fillRect(extent.translated(origin), colours.text);
+    painter.setPen(colours.background);
     line.draw(&painter, origin);
     painter.restore();
 }
@@ -56,8 +57,8 @@ void SendingMarks::paint(QPainter& painter, const Paragraph& paragraph) const {
     const Colours plain{_palette.color(QPalette::Text), _palette.color(QPalette::Base)};
     const Colours selected{_palette.color(QPalette::HighlightedText),
                            _palette.color(QPalette::Highlight)};
-    const auto start = paragraph.start;
-    const auto end = start + paragraph.layout.text().size();
+    const qsizetype start = paragraph.block.position();
+    const auto end = start + paragraph.block.length() - 1;
     paintPart(painter, paragraph, {start, std::min(end, _selection.begin)}, plain);
     paintPart(painter, paragraph, _selection.within({start, end}), selected);
     paintPart(painter, paragraph, {std::max(start, _selection.end), end}, plain);
@@ -67,13 +68,17 @@ void SendingMarks::paintPart(QPainter& painter, const Paragraph& paragraph, Rang
                              const Colours& colours) const {
     const auto onItsWay = part.within({_state.inFlight, _state.waiting});
     const auto waits = part.within({_state.waiting, part.end});
-    const auto& layout = paragraph.layout;
+    const auto& layout = *paragraph.block.layout();
     for (int i = 0; i < layout.lineCount(); ++i) {
         const auto line = layout.lineAt(i);
-        if (const auto where = extent(line, inLayout(paragraph, onItsWay)); !where.isEmpty()) {
+        if (!line.rect().translated(paragraph.origin).intersects(_visible)) {
+            continue;
+        }
+        if (const auto where = extent(line, inLayout(paragraph.block, onItsWay));
+            !where.isEmpty()) {
             invert(painter, line, where, paragraph.origin, colours);
         }
-        if (const auto where = extent(line, inLayout(paragraph, waits)); !where.isEmpty()) {
+        if (const auto where = extent(line, inLayout(paragraph.block, waits)); !where.isEmpty()) {
             underline(painter, line, where.translated(paragraph.origin), colours.text);
         }
     }

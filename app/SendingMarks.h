@@ -3,7 +3,8 @@
 #include <QColor>
 #include <QPalette>
 #include <QPointF>
-#include <QTextLayout>
+#include <QRectF>
+#include <QTextBlock>
 
 #include <algorithm>
 
@@ -33,10 +34,9 @@ class SendingMarks {
         }
     };
 
-    /// A paragraph as it was drawn: its text begins at index `start`, its layout at `origin`.
+    /// A paragraph, and where it was drawn.
     struct Paragraph {
-        const QTextLayout& layout;
-        qsizetype start;
+        QTextBlock block;
         QPointF origin;
     };
 
@@ -45,8 +45,10 @@ class SendingMarks {
         QColor background;
     };
 
-    SendingMarks(const State& state, Range selection, const QPalette& palette)
-        : _state(state), _selection(selection), _palette(palette) {}
+    /// Only lines that touch `visible` are drawn on.
+    SendingMarks(const State& state, Range selection, const QPalette& palette,
+                 const QRectF& visible)
+        : _state(state), _selection(selection), _palette(palette), _visible(visible) {}
 
     /// Draws the marks over a paragraph. What is being composed with an input method gets none.
     void paint(QPainter& painter, const Paragraph& paragraph) const;
@@ -58,4 +60,5 @@ class SendingMarks {
     State _state;
     Range _selection;
     QPalette _palette;
+    QRectF _visible;
 };
