@@ -19,14 +19,19 @@ using namespace Qt::StringLiterals;
 namespace {
 
 /// Has a menu item be the button in another place: it presses the button, and is in step with it.
-void join(QAction& action, QAbstractButton& button) {
-    QObject::connect(&action, &QAction::triggered, &button, &QAbstractButton::click);
-    QObject::connect(&button, &QAbstractButton::toggled, &action, &QAction::setChecked);
+void join(QAction& action, SwitchButton& button) {
+    QObject::connect(&action, &QAction::triggered, &button, &SwitchButton::click);
+    QObject::connect(&button, &SwitchButton::toggled, &action, &QAction::setChecked);
+    QObject::connect(&button, &SwitchButton::enabledChanged, &action, &QAction::setEnabled);
+    action.setChecked(button.isChecked());
+    action.setEnabled(button.isEnabled());
 }
 
-void enlarge(QWidget& widget, double factor) {
-    auto font = widget.font();
-    font.setPointSizeF(QApplication::font().pointSizeF() * factor);
+/// Sets a font that is so many points larger than the application's.
+void enlarge(QWidget& widget, int points, QFont::Weight weight = QFont::Normal) {
+    auto font = QApplication::font();
+    font.setPointSizeF(font.pointSizeF() + points);
+    font.setWeight(weight);
     widget.setFont(font);
 }
 
@@ -171,19 +176,22 @@ void MainWindow::closeEvent(QCloseEvent* event) {
 }
 
 void MainWindow::changeEvent(QEvent* event) {
-    if (event->type() == QEvent::ApplicationFontChange) {
+    if (event->type() == QEvent::FontChange) {
         enlargeFonts();
     }
     QMainWindow::changeEvent(event);
 }
 
-/// What is read at arm's length is larger than the rest.
+/// What is read from a distance is larger than the rest, by an amount that a large font of the
+/// desktop does not multiply.
 void MainWindow::enlargeFonts() {
-    enlarge(*_ui->tuneWarning, 1.4);
-    enlarge(*_ui->keyboardView, 1.6);
-    enlarge(*_ui->hisCallsignTextField, 1.6);
-    enlarge(*_ui->serialNumberBox, 1.6);
-    enlarge(*_ui->speedLabel, 2);
+    enlarge(*_ui->tuneWarning, 3, QFont::Bold);
+    enlarge(*_ui->keyboardView, 6);
+    enlarge(*_ui->hisCallsignTextField, 6);
+    enlarge(*_ui->decrementSerialNumberButton, 6);
+    enlarge(*_ui->serialNumberBox, 6);
+    enlarge(*_ui->incrementSerialNumberButton, 6);
+    enlarge(*_ui->speedLabel, 10);
 }
 
 void MainWindow::showSpeed() {

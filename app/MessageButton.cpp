@@ -4,15 +4,27 @@
 #include <QStylePainter>
 
 namespace {
-constexpr int shownCharacters = 16;
-}
+constexpr int wantedCharacters = 16;
+constexpr int leastCharacters = 8;
+constexpr int leastHeight = 36;
+} // namespace
 
 QSize MessageButton::sizeHint() const {
+    return sizeFor(wantedCharacters);
+}
+
+QSize MessageButton::minimumSizeHint() const {
+    return sizeFor(leastCharacters);
+}
+
+QSize MessageButton::sizeFor(int characters) const {
     QStyleOptionButton option;
     initStyleOption(&option);
     const auto metrics = fontMetrics();
-    const QSize text(shownCharacters * metrics.averageCharWidth(), metrics.height());
-    return style()->sizeFromContents(QStyle::CT_PushButton, &option, text, this);
+    const QSize text(characters * metrics.averageCharWidth(), metrics.height());
+    return style()
+        ->sizeFromContents(QStyle::CT_PushButton, &option, text, this)
+        .expandedTo(QSize(0, leastHeight));
 }
 
 void MessageButton::paintEvent(QPaintEvent*) {
@@ -21,5 +33,7 @@ void MessageButton::paintEvent(QPaintEvent*) {
     initStyleOption(&option);
     const auto room = style()->subElementRect(QStyle::SE_PushButtonContents, &option, this).width();
     option.text = fontMetrics().elidedText(option.text, Qt::ElideRight, room, Qt::TextShowMnemonic);
+    // A key and a label read from left to right, whatever way the window does.
+    option.text = u'\u2066' + option.text + u'\u2069';
     painter.drawControl(QStyle::CE_PushButton, option);
 }

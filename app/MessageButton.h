@@ -11,8 +11,11 @@ class MessageButton final : public QPushButton {
 
     /// Has room for some words, whatever the text.
     [[nodiscard]] QSize sizeHint() const override;
-    [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
+    [[nodiscard]] QSize minimumSizeHint() const override;
 
   protected:
     void paintEvent(QPaintEvent* event) override;
+
+  private:
+    [[nodiscard]] QSize sizeFor(int characters) const;
 };

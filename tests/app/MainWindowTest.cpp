@@ -1,17 +1,27 @@
 #include "app/MainWindow.h"
 
+#include "app/AboutBox.h"
+#include "app/GuideWindow.h"
 #include "app/KeyboardView.h"
 #include "app/QuorvelDelegate.h"
 #include "keyer/GeneralSettings.h"
 #include "tests/keyer/KeyerBench.h"
 
+#include <QAccessible>
+#include <QAction>
+#include <QClipboard>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScreen>
+#include <QShortcut>
+#include <QSignalSpy>
 #include <QSpinBox>
 #include <QTest>
+#include <QTextDocument>
 #include <QToolButton>
 
+#include <functional>
 #include <optional>
 
 using namespace Qt::StringLiterals;
@@ -33,10 +43,33 @@ class MainWindowTest : public QObject {
     void theirCallReachesTheEngine();
     void theirCallTakesOnlyCallSigns();
     void theSerialNumberIsSteppedAndTyped();
+    void theSerialNumberIsSteppedByKeysFromAnywhere();
     void pauseFollowsTheEngineBothWays();
+    void aToolTipTellsWhatWouldBeSent();
+    void aLongLabelDoesNotWidenTheWindow();
+    void aHeldKeySendsItsMessageOnce();
+    void theMenusDoWhatTheControlsDo();
+    void theMenusSwitchesAreInStepWithTheButtons();
+    void everyShortcutIsTakenOnce();
+    void everyShortcutWorksFromEveryControl();
+    void theEditMenuActsOnTheFocusedField();
+    void preferencesAndQuitAreAskedFor();
+    void theGuideAndTheAboutBoxOpen();
+    void theWindowComesBackWhereItWas();
+    void aPlaceOnAScreenThatIsGoneIsNotTaken();
+    void theWindowComesToTheFront();
     void everyControlHasAnAccessibleName();
+    void everyControlHasAPlaceInTheTabOrder();
+    void theControlsComeBeforeTheMenusForAScreenReader();
 
   private:
+    /// On the native window, as the desktop does.
+    void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+        QTest::keyClick(_window->windowHandle(), key, modifiers);
+    }
+    void trigger(const QString& action) { find<QAction>(action)->trigger(); }
+    [[nodiscard]] QList<QWidget*> tabOrder();
+
     template <typename Widget>
     [[nodiscard]] Widget* find(const QString& name) {
         return _window->findChild<Widget*>(name);
@@ -58,6 +91,16 @@ void MainWindowTest::init() {
 void MainWindowTest::cleanup() {
     _window.reset();
     _bench.reset();
+}
+
+QList<QWidget*> MainWindowTest::tabOrder() {
+    QList<QWidget*> controls;
+    for (auto* control : find<QWidget>(u"console"_s)->findChildren<QWidget*>()) {
+        if ((control->focusPolicy() & Qt::TabFocus) != 0 && control->isVisible()) {
+            controls.append(control);
+        }
+    }
+    return controls;
 }
 
 void MainWindowTest::theKeyboardHasTheFocusAtStart() {
@@ -178,6 +221,298 @@ void MainWindowTest::everyControlHasAnAccessibleName() {
             control->isEnabled() && !control->objectName().startsWith(u"qt_")) {
             QVERIFY2(!control->accessibleName().isEmpty(), qPrintable(control->objectName()));
         }
+    }
+}
+
+void MainWindowTest::theSerialNumberIsSteppedByKeysFromAnywhere() {
+    for (const auto* name : {"keyboardView", "hisCallsignTextField", "serialNumberBox"}) {
+        find<QWidget>(QString::fromLatin1(name))->setFocus();
+        _bench->engine().setSerialNumber(7);
+        press(Qt::Key_Up, Qt::ControlModifier);
+        QCOMPARE(_bench->engine().serialNumber(), 8);
+        press(Qt::Key_Down, Qt::ControlModifier);
+        press(Qt::Key_Down, Qt::ControlModifier);
+        QCOMPARE(_bench->engine().serialNumber(), 6);
+    }
+    find<QSpinBox>(u"serialNumberBox"_s)->setFocus();
+    press(Qt::Key_Up);
+    QCOMPARE(_bench->engine().serialNumber(), 7);
+}
+
+void MainWindowTest::aToolTipTellsWhatWouldBeSent() {
+    const auto* button = find<QPushButton>(u"message1Button"_s);
+    const auto told = [button] {
+        QTextDocument toolTip;
+        toolTip.setHtml(button->toolTip());
+        return toolTip.toPlainText();
+    };
+    QCOMPARE(told(), u"CQ TEST N0CALL N0CALL"_s);
+    QCOMPARE(button->accessibleDescription(), told());
+    _bench->settings().setObject(u"~ ur # de ` <b>"_s, u"Message1"_s);
+    QCOMPARE(told(), u"~ UR TT1 DE N0CALL <B>"_s);
+    _bench->engine().setHisCallsign(u"W9XYZ"_s);
+    QCOMPARE(told(), u"W9XYZ UR TT1 DE N0CALL <B>"_s);
+    _bench->engine().setSerialNumber(120);
+    QCOMPARE(told(), u"W9XYZ UR 12T DE N0CALL <B>"_s);
+    _bench->settings().setObject(u"K1A"_s, MyCall);
+    QCOMPARE(told(), u"W9XYZ UR 12T DE K1A <B>"_s);
+}
+
+void MainWindowTest::aLongLabelDoesNotWidenTheWindow() {
+    const auto before = _window->minimumSizeHint();
+    const auto label = u"An exchange with a great many words "_s.repeated(20);
+    _bench->settings().setObject(label, u"Message2Label"_s);
+    QCOMPARE(_window->minimumSizeHint(), before);
+    auto* button = find<QPushButton>(u"message2Button"_s);
+    QCOMPARE(button->accessibleName(), u"Message 2: "_s + label);
+    QVERIFY(find<QAction>(u"message2Action"_s)->text().size() < 60);
+    // Cut short, and not merely cut off: the last that is drawn differs with the label.
+    _bench->settings().setObject(label.first(300), u"Message2Label"_s);
+    QVERIFY(!button->grab().isNull());
+}
+
+void MainWindowTest::aHeldKeySendsItsMessageOnce() {
+    _bench->settings().setObject(u"E"_s, u"Message1"_s);
+    auto* window = _window->windowHandle();
+    QTest::simulateEvent(window, true, Qt::Key_F1, Qt::NoModifier, {}, false);
+    QTest::simulateEvent(window, true, Qt::Key_F1, Qt::NoModifier, {}, true);
+    QCOMPARE(_bench->engine().keyboardBuffer(), u"E"_s);
+}
+
+void MainWindowTest::theMenusDoWhatTheControlsDo() {
+    for (int number = 1; number <= 8; ++number) {
+        const auto text = u"TEXT %1"_s.arg(number);
+        _bench->settings().setObject(text, u"Message%1"_s.arg(number));
+        _bench->engine().clearSending();
+        trigger(u"message%1Action"_s.arg(number));
+        QCOMPARE(_bench->engine().keyboardBuffer(), text);
+    }
+    trigger(u"stopAction"_s);
+    QCOMPARE(_bench->engine().keyboardBuffer(), u""_s);
+    trigger(u"incrementSerialNumberAction"_s);
+    trigger(u"incrementSerialNumberAction"_s);
+    trigger(u"decrementSerialNumberAction"_s);
+    QCOMPARE(_bench->engine().serialNumber(), 2);
+    trigger(u"hisCallsignAction"_s);
+    QVERIFY(find<QWidget>(u"hisCallsignTextField"_s)->hasFocus());
+    trigger(u"keyboardAction"_s);
+    QVERIFY(find<QWidget>(u"keyboardView"_s)->hasFocus());
+}
+
+void MainWindowTest::theMenusSwitchesAreInStepWithTheButtons() {
+    for (const auto* name : {"tune", "pause", "hscw", "beacon"}) {
+        auto* action = find<QAction>(QString::fromLatin1(name) + u"Action"_s);
+        auto* button = find<QPushButton>(QString::fromLatin1(name) + u"Button"_s);
+        action->trigger();
+        QVERIFY2(action->isChecked() && button->isChecked(), name);
+        button->click();
+        QVERIFY2(!action->isChecked() && !button->isChecked(), name);
+    }
+    QCOMPARE(_bench->written(), "0b 01 0b 00 06 01 06 00 1d 0a 02 00");
+    QVERIFY(_bench->engine().disconnect(nullptr));
+    QVERIFY(!find<QAction>(u"tuneAction"_s)->isEnabled());
+    QVERIFY(!find<QAction>(u"hscwAction"_s)->isEnabled());
+    QVERIFY(_bench->connect());
+    QVERIFY(find<QAction>(u"tuneAction"_s)->isEnabled());
+    QVERIFY(find<QAction>(u"hscwAction"_s)->isEnabled());
+}
+
+void MainWindowTest::everyShortcutIsTakenOnce() {
+    QStringList taken;
+    for (const auto* action : _window->findChildren<QAction*>()) {
+        for (const auto& shortcut : action->shortcuts()) {
+            taken.append(shortcut.toString());
+        }
+    }
+    for (const auto* shortcut : _window->findChildren<QShortcut*>()) {
+        taken.append(shortcut->key().toString());
+    }
+    QVERIFY(taken.contains(u"F8"_s) && taken.contains(u"Esc"_s) && taken.contains(u"Ctrl+Q"_s));
+    auto once = taken;
+    once.removeDuplicates();
+    QCOMPARE(taken, once);
+}
+
+void MainWindowTest::everyShortcutWorksFromEveryControl() {
+    const QList<std::pair<Qt::Key, Qt::KeyboardModifier>> keys{
+        {Qt::Key_F1, Qt::NoModifier},      {Qt::Key_F8, Qt::NoModifier},
+        {Qt::Key_T, Qt::ControlModifier},  {Qt::Key_P, Qt::ControlModifier},
+        {Qt::Key_H, Qt::ControlModifier},  {Qt::Key_B, Qt::ControlModifier},
+        {Qt::Key_L, Qt::ControlModifier},  {Qt::Key_M, Qt::ControlModifier},
+        {Qt::Key_Up, Qt::ControlModifier}, {Qt::Key_Down, Qt::ControlModifier},
+        {Qt::Key_Q, Qt::ControlModifier},  {Qt::Key_Comma, Qt::ControlModifier}};
+    for (auto* control : tabOrder()) {
+        for (const auto& [key, modifier] : keys) {
+            int triggered = 0;
+            const QObject listener;
+            for (const auto* action : _window->findChildren<QAction*>()) {
+                if (action->shortcut() == QKeySequence(key | modifier)) {
+                    QObject::connect(action, &QAction::triggered, &listener,
+                                     [&triggered] { ++triggered; });
+                }
+            }
+            control->setFocus();
+            press(key, modifier);
+            QVERIFY2(triggered == 1,
+                     qPrintable(control->objectName() + QKeySequence(key).toString()));
+        }
+    }
+}
+
+void MainWindowTest::theEditMenuActsOnTheFocusedField() {
+    auto* field = find<QLineEdit>(u"hisCallsignTextField"_s);
+    field->setFocus();
+    QTest::keyClicks(field, u"K1A"_s);
+    trigger(u"selectAllAction"_s);
+    QCOMPARE(field->selectedText(), u"K1A"_s);
+    trigger(u"copyAction"_s);
+    QCOMPARE(QGuiApplication::clipboard()->text(), u"K1A"_s);
+    trigger(u"cutAction"_s);
+    QCOMPARE(field->text(), u""_s);
+    trigger(u"undoAction"_s);
+    QCOMPARE(field->text(), u"K1A"_s);
+    trigger(u"redoAction"_s);
+    QCOMPARE(field->text(), u""_s);
+
+    auto* view = find<KeyboardView>(u"keyboardView"_s);
+    view->setFocus();
+    trigger(u"pasteAction"_s);
+    QCOMPARE(view->text(), u"K1A"_s);
+    trigger(u"selectAllAction"_s);
+    QCOMPARE(view->textCursor().selectedText(), u"K1A"_s);
+    _bench->engine().stopMessageSending(nullptr);
+    _bench->engine().setPauseState(1);
+    QTest::keyClicks(view, u"DE K"_s);
+    trigger(u"undoAction"_s);
+    QCOMPARE(view->text(), u"DE "_s);
+    trigger(u"redoAction"_s);
+    QCOMPARE(view->text(), u"DE K"_s);
+
+    auto* box = find<QSpinBox>(u"serialNumberBox"_s);
+    box->setFocus();
+    trigger(u"selectAllAction"_s);
+    trigger(u"copyAction"_s);
+    QCOMPARE(QGuiApplication::clipboard()->text(), u"1"_s);
+}
+
+void MainWindowTest::preferencesAndQuitAreAskedFor() {
+    const QSignalSpy preferences(&*_window, &MainWindow::preferencesRequested);
+    const QSignalSpy quit(&*_window, &MainWindow::quitRequested);
+    press(Qt::Key_Comma, Qt::ControlModifier);
+    QCOMPARE(preferences.size(), 1);
+    press(Qt::Key_Q, Qt::ControlModifier);
+    QCOMPARE(quit.size(), 1);
+}
+
+void MainWindowTest::theGuideAndTheAboutBoxOpen() {
+    trigger(u"guideAction"_s);
+    const auto* guide = _window->findChild<GuideWindow*>();
+    QVERIFY(guide->isVisible());
+    QVERIFY(guide->toPlainText().contains(u"CQ within a minute"));
+    trigger(u"guideAction"_s);
+    QCOMPARE(_window->findChildren<GuideWindow*>().size(), 1);
+
+    trigger(u"aboutAction"_s);
+    auto* about = _window->findChild<AboutBox*>();
+    QVERIFY(about->isVisible());
+    QVERIFY(!about->isModal());
+    QVERIFY(about->text().startsWith(u"Quorvel"));
+    about->close();
+    QTRY_VERIFY(_window->findChild<AboutBox*>() == nullptr);
+}
+
+void MainWindowTest::theWindowComesBackWhereItWas() {
+    const QRect place(20, 30, 790, 590);
+    _window->setGeometry(place);
+    _window->close();
+    _window.emplace(_bench->engine());
+    _window->show();
+    QCOMPARE(_window->geometry(), place);
+
+    // The end of the application closes no window.
+    const QRect other(40, 50, 780, 580);
+    _window->setGeometry(other);
+    _bench->platform().notifications().post(NSApplicationWillTerminateNotification, nullptr);
+    _window.emplace(_bench->engine());
+    _window->show();
+    QCOMPARE(_window->geometry(), other);
+}
+
+void MainWindowTest::aPlaceOnAScreenThatIsGoneIsNotTaken() {
+    _window->setGeometry(20'000, 20'000, 780, 580);
+    _window->close();
+    _window.emplace(_bench->engine());
+    _window->show();
+    QVERIFY(_window->screen()->availableGeometry().intersects(_window->geometry()));
+}
+
+void MainWindowTest::theWindowComesToTheFront() {
+    QWidget other;
+    other.show();
+    other.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&other));
+    _window->comeToFront(u"token"_s);
+    QVERIFY(QTest::qWaitForWindowActive(&*_window));
+    QCOMPARE(qgetenv("XDG_ACTIVATION_TOKEN"), QByteArray("token"));
+    qunsetenv("XDG_ACTIVATION_TOKEN");
+    _window->showMinimized();
+    _window->comeToFront({});
+    QVERIFY(!_window->isMinimized());
+    _window->close();
+    _window->comeToFront({});
+    QVERIFY(_window->isVisible());
+    QVERIFY(!qEnvironmentVariableIsSet("XDG_ACTIVATION_TOKEN"));
+}
+
+void MainWindowTest::everyControlHasAPlaceInTheTabOrder() {
+    QStringList reached;
+    find<QWidget>(u"keyboardView"_s)->setFocus();
+    do {
+        reached.append(QApplication::focusWidget()->objectName());
+        press(Qt::Key_Tab);
+    } while (!QApplication::focusWidget()->objectName().startsWith(u"keyboardView") &&
+             reached.size() < 100);
+    const QStringList expected{u"keyboardView"_s,
+                               u"hisCallsignTextField"_s,
+                               u"decrementSerialNumberButton"_s,
+                               u"serialNumberBox"_s,
+                               u"incrementSerialNumberButton"_s,
+                               u"stopButton"_s,
+                               u"tuneButton"_s,
+                               u"pauseButton"_s,
+                               u"hscwButton"_s,
+                               u"beaconButton"_s,
+                               u"message1Button"_s,
+                               u"message2Button"_s,
+                               u"message3Button"_s,
+                               u"message4Button"_s,
+                               u"message5Button"_s,
+                               u"message6Button"_s,
+                               u"message7Button"_s,
+                               u"message8Button"_s};
+    QCOMPARE(reached, expected);
+}
+
+/// The first that bears a name is what somebody who goes by names finds.
+void MainWindowTest::theControlsComeBeforeTheMenusForAScreenReader() {
+    const std::function<QAccessibleInterface*(QAccessibleInterface*, const QString&)> first =
+        [&first](QAccessibleInterface* element, const QString& name) -> QAccessibleInterface* {
+        if (element->text(QAccessible::Name) == name) {
+            return element;
+        }
+        for (int i = 0; i < element->childCount(); ++i) {
+            if (auto* found = first(element->child(i), name)) {
+                return found;
+            }
+        }
+        return nullptr;
+    };
+    auto* window = QAccessible::queryAccessibleInterface(&*_window);
+    for (const auto* name : {"Stop", "Tune", "Pause", "High-speed CW", "Beacon", "Their call",
+                             "Keyboard", "Serial number", "Speed", "Keyer status"}) {
+        const auto* found = first(window, QString::fromLatin1(name));
+        QVERIFY2(found != nullptr, name);
+        QVERIFY2(qobject_cast<QWidget*>(found->object()) != nullptr, name);
     }
 }
 

@@ -1,5 +1,7 @@
 #include "platform/SettingsStore.h"
 
+#include "tests/support/OrdinaryUser.h"
+
 #include <QDir>
 #include <QRegularExpression>
 #include <QSignalSpy>
@@ -9,34 +11,8 @@
 #include <limits>
 #include <memory>
 #include <sys/stat.h>
-#include <unistd.h>
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-/// Takes root's rights away while it lives, for root may read and write everything.
-class OrdinaryUser {
-  public:
-    OrdinaryUser() : _former(::geteuid()) {
-        if (_former == 0 && ::seteuid(nobody) != 0) {
-            throw std::runtime_error("seteuid");
-        }
-    }
-    OrdinaryUser(const OrdinaryUser&) = delete;
-    OrdinaryUser& operator=(const OrdinaryUser&) = delete;
-    ~OrdinaryUser() {
-        if (::seteuid(_former) != 0) {
-            std::terminate();
-        }
-    }
-
-  private:
-    static constexpr uid_t nobody = 65534;
-    uid_t _former;
-};
-
-} // namespace
 
 class SettingsStoreTest : public QObject {
     Q_OBJECT

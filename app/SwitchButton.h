@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QPushButton>
+
+/// A push button that stays on or off, and shows which by a filled or an empty lamp: in some themes
+/// the shade of a pressed button is all that tells, which is too little.
+class SwitchButton final : public QPushButton {
+    Q_OBJECT
+  public:
+    explicit SwitchButton(QWidget* parent = nullptr);
+
+    [[nodiscard]] QSize sizeHint() const override;
+    [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
+
+  Q_SIGNALS:
+    void enabledChanged(bool isEnabled);
+
+  protected:
+    void changeEvent(QEvent* event) override;
+    void initStyleOption(QStyleOptionButton* option) const override;
+};

@@ -1,0 +1,177 @@
+#include "app/EscapeKey.h"
+
+#include "app/DesktopApplication.h"
+#include "app/MainWindow.h"
+#include "tests/keyer/KeyerBench.h"
+
+#include <QComboBox>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QPlainTextEdit>
+#include <QShortcut>
+#include <QTest>
+#include <QTimer>
+
+#include <optional>
+
+using namespace Qt::StringLiterals;
+
+/// Keys are pressed on native windows, as the desktop does, so that they take the whole way.
+class EscapeKeyTest : public QObject {
+    Q_OBJECT
+
+  private Q_SLOTS:
+    void init();
+    void cleanup();
+
+    void stopsOnceFromEveryControl();
+    void stopsFromAMenu();
+    void stopsFromTheMenuBar();
+    void stopsFromAContextMenu();
+    void stopsFromAnAlertAndClosesIt();
+    void stopsFromTheGuideAndTheAboutBox();
+    void isLeftToAWindowThatHasItsOwn();
+    void stopsOnceFromAPopupOfSuchAWindow();
+    void otherKeysStopNothing();
+
+  private:
+    void press(QWidget& window, Qt::Key key = Qt::Key_Escape);
+
+    std::optional<KeyerBench> _bench;
+    std::optional<MainWindow> _window;
+    std::optional<EscapeKey> _escape;
+};
+
+void EscapeKeyTest::init() {
+    _bench.emplace();
+    QVERIFY(_bench->connect());
+    _window.emplace(_bench->engine());
+    _escape.emplace();
+    QObject::connect(&*_escape, &EscapeKey::pressed, &*_window, &MainWindow::stop);
+    _window->show();
+    QVERIFY(QTest::qWaitForWindowActive(&*_window));
+}
+
+void EscapeKeyTest::cleanup() {
+    _escape.reset();
+    _window.reset();
+    _bench.reset();
+}
+
+void EscapeKeyTest::press(QWidget& window, Qt::Key key) {
+    QTest::keyClick(window.windowHandle(), key);
+}
+
+void EscapeKeyTest::stopsOnceFromEveryControl() {
+    int count = 0;
+    for (auto* control : _window->findChildren<QWidget*>()) {
+        if ((control->focusPolicy() & Qt::TabFocus) == 0 || !control->isVisible() ||
+            !control->isEnabled() || control->window() != &*_window) {
+            continue;
+        }
+        control->setFocus();
+        press(*_window);
+        QVERIFY2(_bench->written() == "0a", qPrintable(control->objectName()));
+        ++count;
+    }
+    QVERIFY2(count >= 17, qPrintable(QString::number(count)));
+}
+
+void EscapeKeyTest::stopsFromAMenu() {
+    auto* menu = _window->findChild<QMenu*>(u"sendMenu"_s);
+    menu->popup(_window->mapToGlobal(QPoint(10, 10)));
+    QVERIFY(QTest::qWaitForWindowExposed(menu));
+    press(*_window);
+    QVERIFY(!menu->isVisible());
+    QCOMPARE(_bench->written(), "0a");
+}
+
+void EscapeKeyTest::stopsFromTheMenuBar() {
+    _window->menuBar()->setActiveAction(_window->menuBar()->actions().constFirst());
+    press(*_window);
+    press(*_window);
+    QCOMPARE(_bench->written(), "0a 0a");
+}
+
+void EscapeKeyTest::stopsFromAContextMenu() {
+    QMenu menu;
+    menu.addAction(u"Copy"_s);
+    menu.popup(_window->mapToGlobal(QPoint(10, 10)));
+    QVERIFY(QTest::qWaitForWindowExposed(&menu));
+    press(*_window);
+    QVERIFY(!menu.isVisible());
+    QCOMPARE(_bench->written(), "0a");
+}
+
+void EscapeKeyTest::stopsFromAnAlertAndClosesIt() {
+    DesktopApplication application;
+    application.setAlertParent(&*_window);
+    QTimer::singleShot(0, &*_window, [this] {
+        auto* const box = QApplication::activeModalWidget();
+        QVERIFY(box != nullptr);
+        press(*box);
+        QVERIFY(!box->isVisible());
+    });
+    const auto answer = application.runModal({.messageText = u"Ready?"_s,
+                                              .informativeText = {},
+                                              .defaultButton = u"Yes"_s,
+                                              .alternateButton = u"No"_s});
+    QCOMPARE(answer, AlertAnswer::Alternate);
+    QCOMPARE(_bench->written(), "0a");
+}
+
+void EscapeKeyTest::stopsFromTheGuideAndTheAboutBox() {
+    for (const auto* name : {"guideAction", "aboutAction"}) {
+        _window->findChild<QAction*>(QString::fromLatin1(name))->trigger();
+        QWidget* opened = nullptr;
+        for (auto* each : QApplication::topLevelWidgets()) {
+            if (each->isVisible() && each != &*_window) {
+                opened = each;
+            }
+        }
+        QVERIFY(opened != nullptr);
+        QVERIFY(QTest::qWaitForWindowExposed(opened));
+        press(*opened);
+        QVERIFY(!opened->isVisible());
+        QCOMPARE(_bench->written(), "0a");
+        // A box that goes does so in the event loop.
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+}
+
+void EscapeKeyTest::isLeftToAWindowThatHasItsOwn() {
+    QWidget other;
+    int presses = 0;
+    const QShortcut own(Qt::Key_Escape, &other, [&presses] { ++presses; });
+    other.show();
+    other.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&other));
+    press(other);
+    QCOMPARE(presses, 1);
+    QCOMPARE(_bench->written(), "");
+}
+
+void EscapeKeyTest::stopsOnceFromAPopupOfSuchAWindow() {
+    QWidget other;
+    const QShortcut own(Qt::Key_Escape, &other,
+                        [this] { _bench->engine().stopMessageSending(nullptr); });
+    QComboBox box(&other);
+    box.addItems({u"a"_s, u"b"_s});
+    other.show();
+    other.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&other));
+    box.showPopup();
+    QVERIFY(QApplication::activePopupWidget() != nullptr);
+    press(other);
+    QVERIFY(QApplication::activePopupWidget() == nullptr);
+    QCOMPARE(_bench->written(), "0a");
+}
+
+void EscapeKeyTest::otherKeysStopNothing() {
+    press(*_window, Qt::Key_Shift);
+    QCOMPARE(_bench->written(), "");
+}
+
+QTEST_MAIN(EscapeKeyTest)
+#include "EscapeKeyTest.moc"

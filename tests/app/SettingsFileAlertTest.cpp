@@ -1,0 +1,99 @@
+#include "app/SettingsFileAlert.h"
+
+#include "platform/SettingsStore.h"
+#include "tests/support/OrdinaryUser.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <memory>
+#include <sys/stat.h>
+
+using namespace Qt::StringLiterals;
+
+class SettingsFileAlertTest : public QObject {
+    Q_OBJECT
+
+  private Q_SLOTS:
+    void init();
+    void cleanup();
+
+    void aSoundFileIsNotSpokenOf();
+    void aMissingFileIsNotSpokenOf();
+    void namesWhereTheFileIsNow();
+    void saysThatAFileWasLeftInPlace();
+    void saysThatAFileMayNotBeRead();
+
+  private:
+    void write(const QByteArray& content) const;
+    [[nodiscard]] QString path() const { return _directory->filePath(u"quorvel.conf"_s); }
+    void setMode(const QString& file, mode_t mode) const;
+
+    std::unique_ptr<QTemporaryDir> _directory;
+};
+
+void SettingsFileAlertTest::init() {
+    _directory = std::make_unique<QTemporaryDir>();
+}
+
+void SettingsFileAlertTest::cleanup() {
+    setMode(_directory->path(), 0700);
+    _directory.reset();
+}
+
+void SettingsFileAlertTest::write(const QByteArray& content) const {
+    QFile file(path());
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    QCOMPARE(file.write(content), content.size());
+}
+
+void SettingsFileAlertTest::setMode(const QString& file, mode_t mode) const {
+    QCOMPARE(::chmod(QFile::encodeName(file).constData(), mode), 0);
+}
+
+void SettingsFileAlertTest::aSoundFileIsNotSpokenOf() {
+    write("[General]\nMyCall=N0CALL\n");
+    QVERIFY(!settingsFileAlert(SettingsStore(path())));
+}
+
+void SettingsFileAlertTest::aMissingFileIsNotSpokenOf() {
+    QVERIFY(!settingsFileAlert(SettingsStore(path())));
+}
+
+void SettingsFileAlertTest::namesWhereTheFileIsNow() {
+    write("junk");
+    const SettingsStore store(path());
+    const auto alert = settingsFileAlert(store);
+    QVERIFY(alert.has_value());
+    QCOMPARE(alert->messageText, u"Your settings could not be read."_s);
+    QVERIFY(alert->informativeText.contains(store.corruptFile()));
+    QVERIFY(alert->informativeText.contains(u"Nothing of it is lost"));
+    QVERIFY(QFile::exists(store.corruptFile()));
+}
+
+void SettingsFileAlertTest::saysThatAFileWasLeftInPlace() {
+    write("junk");
+    setMode(path(), 0666);
+    setMode(_directory->path(), 0555);
+    const OrdinaryUser user;
+    const auto alert = settingsFileAlert(SettingsStore(path()));
+    QVERIFY(alert.has_value());
+    QVERIFY(alert->informativeText.contains(path() + u" that is no setting"_s));
+    QVERIFY(alert->informativeText.contains(u"could not be put aside"));
+    QVERIFY(alert->informativeText.contains(path() + u".new"_s));
+}
+
+void SettingsFileAlertTest::saysThatAFileMayNotBeRead() {
+    write("[General]\nMyCall=N0CALL\n");
+    setMode(path(), 0000);
+    setMode(_directory->path(), 0777);
+    const OrdinaryUser user;
+    const auto alert = settingsFileAlert(SettingsStore(path()));
+    QVERIFY(alert.has_value());
+    QVERIFY(alert->informativeText.startsWith(u"You may not read "_s + path()));
+    QVERIFY(alert->informativeText.contains(path() + u".new"_s));
+}
+
+QTEST_GUILESS_MAIN(SettingsFileAlertTest)
+#include "SettingsFileAlertTest.moc"
