@@ -88,6 +88,7 @@ void StandaloneMessages::setUpRow(const Row& row) {
     mark->setSizePolicy(policy);
     mark->setText(faultOf({.silent = u'W'}));
     mark->setFixedWidth(mark->sizeHint().width());
+    mark->setText({});
     connect(mark, &QToolButton::clicked, mark, [mark] {
         QToolTip::showText(mark->mapToGlobal(mark->rect().bottomLeft()), mark->toolTip(), mark);
     });

@@ -50,6 +50,13 @@ class Accessible:
         """The text of an edited element."""
         return _reading(lambda: Atspi.Text.get_text(self._element, 0, -1), "")
 
+    def value(self):
+        """The number of a spin box or a bar, in its own unit; None where there is none."""
+        return _reading(lambda: Atspi.Value.get_current_value(self._element), None)
+
+    def set_value(self, number):
+        assert Atspi.Value.set_current_value(self._element, number), f"{self.name()} stays"
+
     def is_in_state(self, state):
         """`state` as in "focused" or "active"."""
         wanted = getattr(Atspi.StateType, state.upper())
@@ -94,6 +101,19 @@ class Accessible:
                  if each.name() == name and "menu" not in each.role()]
         return next((each for each in found if each.is_in_state("focusable")),
                     found[0] if found else None)
+
+    def labelled(self, label):
+        """The control that a visible label in it stands for; None when there is none. By it a
+        screen reader names a list to choose from, whose own name is what is chosen."""
+        return next((target for each in self.all()
+                     if each.name() == label and each.role() == "label"
+                     for target in each._targets(Atspi.RelationType.LABEL_FOR)), None)
+
+    def _targets(self, kind):
+        relations = _reading(self._element.get_relation_set, [])
+        return [Accessible(relation.get_target(i)) for relation in relations
+                if relation.get_relation_type() == kind
+                for i in range(relation.get_n_targets())]
 
     def describe(self, depth=0):
         """Everything in it, a line each, for the eyes of whoever reads a failure."""

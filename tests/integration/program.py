@@ -27,12 +27,13 @@ Message8={LONG_TEXT}
 
 
 class Keyer(Process):
-    """The virtual keyer's program, plugged in."""
+    """The virtual keyer's program, plugged in, its speed pot at `speed`."""
 
-    def __init__(self, environment, directory):
+    def __init__(self, environment, directory, speed=SPEED):
         self._transcript = directory / "transcript.txt"
-        super().__init__([VIRTUAL_KEYER, "--headless", "--speed", str(SPEED), "--transcript",
-                          self._transcript], environment, directory)
+        self._registers = directory / "registers.txt"
+        super().__init__([VIRTUAL_KEYER, "--headless", "--speed", str(speed), "--transcript",
+                          self._transcript, "--registers", self._registers], environment, directory)
         self.wait_for("the keyer", lambda: "Plugged in as" in self.errors())
 
     def keyed(self):
@@ -44,6 +45,11 @@ class Keyer(Process):
         """The bytes that went to the application, in the transcript's words."""
         lines = self._transcript.read_text().splitlines()
         return [line.split()[2] for line in lines if line.split()[1] == "host"]
+
+    def registers(self):
+        """What the keyer holds now, and its memory: texts by name."""
+        lines = self._registers.read_text().splitlines()
+        return {name: value for name, _, value in (line.partition(" ") for line in lines)}
 
     def is_key_down(self):
         """What the transcript last says of the key line."""
@@ -89,8 +95,8 @@ class ProgramTest(unittest.TestCase):
         self.addCleanup(quorvel.end, signal.SIGKILL)
         return quorvel
 
-    def start_keyer(self):
-        keyer = Keyer(self.environment, self.home)
+    def start_keyer(self, speed=SPEED):
+        keyer = Keyer(self.environment, self.home, speed)
         self.addCleanup(keyer.end, signal.SIGKILL)
         return keyer
 

@@ -25,6 +25,7 @@ class KeyedWaveViewTest : public QObject {
     void theOperatorChoosesASpeedWhileThePotIsUnknown();
     void itFollowsTheSpeedPot();
     void theChoiceIsFreeAgainWithoutAKeyer();
+    void theChoiceIsFreeAgainOnceTheKeyerIsPulledOut();
     void aPotBeyondTheChoiceIsShownToo();
 
   private:
@@ -108,6 +109,14 @@ void KeyedWaveViewTest::theChoiceIsFreeAgainWithoutAKeyer() {
     QVERIFY(_bench->connect());
     _bench->receive({0x80 + 12});
     _bench->engine().disconnect(nullptr);
+    QVERIFY(speed().isEnabled());
+    QCOMPARE(speed().value(), 25);
+}
+
+void KeyedWaveViewTest::theChoiceIsFreeAgainOnceTheKeyerIsPulledOut() {
+    QVERIFY(_bench->connect());
+    _bench->receive({0x80 + 12});
+    _bench->platform().devices().unplug({_bench->device()});
     QVERIFY(speed().isEnabled());
     QCOMPARE(speed().value(), 25);
 }
