@@ -111,9 +111,9 @@ void QuorvelDelegate::serialPortRemoved(const Notification& notification) {
         disconnectFromKeyer(nullptr);
         application().runModal(
             {.messageText =
-                 u"The WinKeyer using serial port %1 has been unplugged."_s.arg(port->name()),
+                 tr("The WinKeyer using serial port %1 has been unplugged.").arg(port->name()),
              .informativeText =
-                 u"Plug it back in, or choose another serial port in General preferences."_s});
+                 tr("Plug it back in, or choose another serial port in General preferences.")});
         break;
     }
     updateSerialPortList();
@@ -131,10 +131,10 @@ void QuorvelDelegate::serialPortAdded(const Notification& notification) {
             continue;
         }
         const auto answer = application().runModal(
-            {.messageText = u"The serial port %1 has been plugged in."_s.arg(port->name()),
-             .informativeText = u"Try to use this port to communicate with a WinKeyer?"_s,
-             .defaultButton = u"Yes"_s,
-             .alternateButton = u"No"_s});
+            {.messageText = tr("The serial port %1 has been plugged in.").arg(port->name()),
+             .informativeText = tr("Try to use this port to communicate with a WinKeyer?"),
+             .defaultButton = tr("Yes"),
+             .alternateButton = tr("No")});
         if (answer == AlertAnswer::Default) {
             SettingsStore::standardUserDefaults().setObject(port->name(), WKPortName);
             changeSerialPort(this);

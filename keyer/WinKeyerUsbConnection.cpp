@@ -14,8 +14,13 @@ using namespace std::chrono_literals;
 
 namespace {
 
-constexpr auto giveUp = "Giving up and closing connection to keyer."_L1;
-constexpr auto seeHeader = "See AMSerialErrors.h"_L1;
+QString giveUp() {
+    return WinKeyerUsb::tr("Giving up and closing connection to keyer.");
+}
+
+QString seeHeader() {
+    return WinKeyerUsb::tr("See AMSerialErrors.h");
+}
 
 /// The code of the error that the caller's slot held already. Callers pass an empty one, so that
 /// the messages which print it say 0.
@@ -24,7 +29,7 @@ int codeIn(const Error* slot) {
 }
 
 /// A message that ends in that code.
-QString withCode(QLatin1StringView message, const Error* slot) {
+QString withCode(const QString& message, const Error* slot) {
     return message + QString::number(codeIn(slot));
 }
 
@@ -81,10 +86,10 @@ bool WinKeyerUsb::disconnect(Error* error) {
 bool WinKeyerUsb::determinePortName(QString* name, Error* error) {
     *name = SettingsStore::standardUserDefaults().stringForKey(WKPortName);
     if (*name == noPortName) {
-        fill(error,
-             Error::ofApplication(u"There is no port defined for the WinKeyer."_s,
-                                  u"Choose a serial port other than None in the General "
-                                  "Preferences pane. Or, plug in a cable to your WinKeyer USB."_s));
+        fill(error, Error::ofApplication(
+                        tr("There is no port defined for the WinKeyer."),
+                        tr("Choose a serial port other than None in the General "
+                           "Preferences pane. Or, plug in a cable to your WinKeyer USB.")));
         return false;
     }
     return true;
@@ -102,10 +107,10 @@ bool WinKeyerUsb::determineSerialPortForName(const QString& name, Error* error) 
     return refuse(
         error,
         Error::ofApplication(
-            u"The WinKeyer serial port %1 is not available."_s.arg(name),
-            u"Confirm that the WinKeyer is connected to the selected port, and that no other "
-            "application is using that port. Also confirm that the FDTI driver is installed. "
-            "Obtain the appropriate Mac OS X driver at https://ftdichip.com/drivers/."_s));
+            tr("The WinKeyer serial port %1 is not available.").arg(name),
+            tr("Confirm that the WinKeyer is connected to the selected port, and that no other "
+               "application is using that port. Also confirm that the FDTI driver is installed. "
+               "Obtain the appropriate Mac OS X driver at https://ftdichip.com/drivers/.")));
 }
 
 bool WinKeyerUsb::configureSerialPort(Error*) {
@@ -123,10 +128,11 @@ bool WinKeyerUsb::openSerialPort(Error* error) {
     if (_winKeyerSerialPort->isOpen()) {
         return true;
     }
-    return refuse(error, Error::ofApplication(
-                             u"Unable to open the WinKeyer serial port %1."_s.arg(
-                                 _winKeyerSerialPort->name()),
-                             u"Confirm that the USB-Serial device is connected and active."_s));
+    return refuse(
+        error,
+        Error::ofApplication(
+            tr("Unable to open the WinKeyer serial port %1.").arg(_winKeyerSerialPort->name()),
+            tr("Confirm that the USB-Serial device is connected and active.")));
 }
 
 bool WinKeyerUsb::syncWinKeyer(Error* error) {
@@ -135,7 +141,7 @@ bool WinKeyerUsb::syncWinKeyer(Error* error) {
             return refuse(
                 error,
                 Error::ofApplication(
-                    withCode("WinKeyer sync failed with AMSerial code: "_L1, error), seeHeader));
+                    withCode(tr("WinKeyer sync failed with AMSerial code: "), error), seeHeader()));
         }
     }
     return true;
@@ -148,8 +154,8 @@ bool WinKeyerUsb::echoTest(Error* error) {
     return refuse(
         error,
         Error::ofApplication(
-            withCode("WinKeyer echo test Admin command failed with AMSerial code: "_L1, error),
-            seeHeader));
+            withCode(tr("WinKeyer echo test Admin command failed with AMSerial code: "), error),
+            seeHeader()));
 }
 
 bool WinKeyerUsb::openHostMode(Error* error) {
@@ -169,7 +175,7 @@ bool WinKeyerUsb::hostOpen(Error* error) {
         return readVersion(error);
     }
     return refuse(error,
-                  Error::ofApplication(u"WinKeyer Host Open Admin command failed."_s, giveUp));
+                  Error::ofApplication(tr("WinKeyer Host Open Admin command failed."), giveUp()));
 }
 
 bool WinKeyerUsb::readVersion(Error*) {
@@ -182,8 +188,8 @@ bool WinKeyerUsb::validateVersion(Error* error) {
         return true;
     }
     const auto reason =
-        Error::ofApplication(u"WinKeyer returned unsupported version: %1."_s.arg(version),
-                             u"Confirm that the WinKeyer version is between 20 and 23."_s);
+        Error::ofApplication(tr("WinKeyer returned unsupported version: %1.").arg(version),
+                             tr("Confirm that the WinKeyer version is between 20 and 23."));
     setVersionString({});
     return refuse(error, reason);
 }
@@ -193,7 +199,7 @@ bool WinKeyerUsb::setWK2Mode(Error* error) {
         return true;
     }
     return refuse(error, Error::ofApplication(
-                             u"WinKeyer Set WinKeyer 2 Mode Admin command failed."_s, giveUp));
+                             tr("WinKeyer Set WinKeyer 2 Mode Admin command failed."), giveUp()));
 }
 
 bool WinKeyerUsb::closeHostMode(Error* error) {
@@ -206,8 +212,8 @@ bool WinKeyerUsb::closeHostMode(Error* error) {
     }
     fill(error,
          Error::ofApplication(
-             withCode("WinKeyer Host Close Admin command failed with AMSerial code: "_L1, error),
-             seeHeader));
+             withCode(tr("WinKeyer Host Close Admin command failed with AMSerial code: "), error),
+             seeHeader()));
     logLine(u"closeHostMode failed"_s);
     return false;
 }

@@ -11,7 +11,8 @@
 class UpperCaseFormatter : public QValidator {
     Q_OBJECT
   public:
-    using QValidator::QValidator;
+    /// `field`, where there is one, is the field that is to use the formatter.
+    explicit UpperCaseFormatter(QObject* field = nullptr);
 
     /// A text in upper case; null for what is no text.
     [[nodiscard]] QString stringForObjectValue(const QVariant& object) const;
@@ -23,6 +24,10 @@ class UpperCaseFormatter : public QValidator {
     State validate(QString& input, int& position) const final;
 
   protected:
+    /// Typed letters reach the field in upper case: a field forgets what it can take back whenever
+    /// its validator gives it a replacement.
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
     /// Makes one pass over a text as it was just edited, and moves the insertion point with it.
     virtual void replace(QString& input, int& position) const = 0;
 

@@ -1,7 +1,9 @@
 #include "app/formatters/CallsignFormatter.h"
 
+#include <QAccessible>
 #include <QClipboard>
 #include <QGuiApplication>
+#include <QInputMethodEvent>
 #include <QLineEdit>
 #include <QTest>
 
@@ -17,6 +19,10 @@ class CallsignFormatterTest : public QObject {
     void aFieldShowsTheReplacement();
     void theInsertionPointStays();
     void pastedTextIsPassedOverOnceAnEdit();
+    void typingCanBeTakenBack();
+    void aCommitOfAnInputMethodIsReplaced();
+    void textFromAnAssistiveTechnologyIsReplaced();
+    void textPutInByTheProgramIsReplaced();
 };
 
 void CallsignFormatterTest::replacesText_data() {
@@ -79,6 +85,58 @@ void CallsignFormatterTest::pastedTextIsPassedOverOnceAnEdit() {
     QCOMPARE(field.text(), u"DL1-ABC"_s);
     QTest::keyClicks(&field, u"/"_s);
     QCOMPARE(field.text(), u"DL1ABC/"_s);
+}
+
+void CallsignFormatterTest::typingCanBeTakenBack() {
+    QLineEdit field;
+    field.setValidator(new CallsignFormatter(&field));
+    QTest::keyClicks(&field, u"w9xyz"_s);
+    QCOMPARE(field.text(), u"W9XYZ"_s);
+    field.undo();
+    QCOMPARE(field.text(), u""_s);
+    field.redo();
+    QCOMPARE(field.text(), u"W9XYZ"_s);
+}
+
+void CallsignFormatterTest::aCommitOfAnInputMethodIsReplaced() {
+    QLineEdit field;
+    CallsignFormatter formatter;
+    field.setValidator(&formatter);
+    field.setText(u"W9"_s);
+    field.setCursorPosition(1);
+    QInputMethodEvent composing(u"k-"_s, {});
+    QCoreApplication::sendEvent(&field, &composing);
+    QCOMPARE(field.text(), u"W9"_s);
+    QInputMethodEvent commit;
+    commit.setCommitString(u"k-1"_s);
+    QCoreApplication::sendEvent(&field, &commit);
+    QCOMPARE(field.text(), u"WK19"_s);
+    QCOMPARE(field.cursorPosition(), 3);
+}
+
+void CallsignFormatterTest::textFromAnAssistiveTechnologyIsReplaced() {
+    QLineEdit field;
+    CallsignFormatter formatter;
+    field.setValidator(&formatter);
+    auto* text = QAccessible::queryAccessibleInterface(&field)->editableTextInterface();
+    text->insertText(0, u"w9xyz"_s);
+    QCOMPARE(field.text(), u"W9XYZ"_s);
+    text->insertText(2, u"-a"_s);
+    QCOMPARE(field.text(), u"W9AXYZ"_s);
+    text->replaceText(2, 4, u"k m"_s);
+    QCOMPARE(field.text(), u"W9KMYZ"_s);
+    text->deleteText(0, 2);
+    QCOMPARE(field.text(), u"KMYZ"_s);
+}
+
+void CallsignFormatterTest::textPutInByTheProgramIsReplaced() {
+    QLineEdit field;
+    CallsignFormatter formatter;
+    field.setValidator(&formatter);
+    field.setText(u"k1-a"_s);
+    QCOMPARE(field.text(), u"K1A"_s);
+    field.insert(u"/p"_s);
+    QCOMPARE(field.text(), u"K1A/P"_s);
 }
 
 QTEST_MAIN(CallsignFormatterTest)

@@ -1,7 +1,9 @@
 #include "app/formatters/MessageFormatter.h"
 
+#include <QAccessible>
 #include <QClipboard>
 #include <QGuiApplication>
+#include <QInputMethodEvent>
 #include <QLineEdit>
 #include <QTest>
 
@@ -18,6 +20,9 @@ class MessageFormatterTest : public QObject {
     void aFieldShowsTheReplacement();
     void theInsertionPointStays();
     void pastedTextLosesOneCharacterAPass();
+    void typingCanBeTakenBack();
+    void aCommitOfAnInputMethodIsReplaced();
+    void textFromAnAssistiveTechnologyIsReplaced();
 };
 
 void MessageFormatterTest::replacesText_data() {
@@ -97,6 +102,43 @@ void MessageFormatterTest::pastedTextLosesOneCharacterAPass() {
     QCOMPARE(field.text(), u"AB*C"_s);
     QTest::keyClicks(&field, u"d"_s);
     QCOMPARE(field.text(), u"ABCD"_s);
+}
+
+void MessageFormatterTest::typingCanBeTakenBack() {
+    QLineEdit field;
+    field.setValidator(new MessageFormatter(&field));
+    QTest::keyClicks(&field, u"cq test"_s);
+    QCOMPARE(field.text(), u"CQ TEST"_s);
+    field.undo();
+    QCOMPARE(field.text(), u""_s);
+    field.redo();
+    QCOMPARE(field.text(), u"CQ TEST"_s);
+}
+
+void MessageFormatterTest::aCommitOfAnInputMethodIsReplaced() {
+    QLineEdit field;
+    MessageFormatter formatter;
+    field.setValidator(&formatter);
+    field.setText(u"CQ"_s);
+    field.setCursorPosition(1);
+    QInputMethodEvent commit;
+    commit.setCommitString(u"a&"_s);
+    QCoreApplication::sendEvent(&field, &commit);
+    QCOMPARE(field.text(), u"CAQ"_s);
+    QCOMPARE(field.cursorPosition(), 2);
+}
+
+void MessageFormatterTest::textFromAnAssistiveTechnologyIsReplaced() {
+    QLineEdit field;
+    MessageFormatter formatter;
+    field.setValidator(&formatter);
+    auto* text = QAccessible::queryAccessibleInterface(&field)->editableTextInterface();
+    text->insertText(0, u"cq&test"_s);
+    QCOMPARE(field.text(), u"CQTEST"_s);
+    text->insertText(2, u" `_"_s);
+    QCOMPARE(field.text(), u"CQ `TEST"_s);
+    text->replaceText(0, 2, u"qrz!"_s);
+    QCOMPARE(field.text(), u"QRZ `TEST"_s);
 }
 
 QTEST_MAIN(MessageFormatterTest)
