@@ -9,13 +9,7 @@ namespace {
 constexpr QSize preferredSize(760, 640);
 }
 
-/// The library is a static one, whose resources nothing else would pull in.
-static void loadGuide() {
-    Q_INIT_RESOURCE(guide);
-}
-
 GuideWindow::GuideWindow(QWidget* parent) : QTextBrowser(parent) {
-    loadGuide();
     setWindowFlag(Qt::Window);
     setWindowTitle(tr("Quorvel Guide"));
     setAccessibleName(tr("Guide"));

@@ -39,7 +39,10 @@ void enlarge(QWidget& widget, int points, QFont::Weight weight = QFont::Normal) 
 
 MainWindow::MainWindow(WinKeyerUsb& engine)
     : _engine(engine), _ui(std::make_unique<Ui::MainWindow>()) {
+    // The library is a static one, whose resources nothing else would pull in.
+    Q_INIT_RESOURCE(resources);
     _ui->setupUi(this);
+    setWindowIcon(QIcon(u":/icon.png"_s));
     enlargeFonts();
     setUpMessages();
     _ui->keyboardView->setEngine(_engine);
