@@ -116,7 +116,7 @@ void BoundControl::reset() {
 }
 
 void BoundControl::act() {
-    if (_action.isValid() && _controller) {
+    if (_action.isValid()) {
         const QObject* sender = &_widget;
         _action.invoke(_controller, Qt::DirectConnection, Q_ARG(const QObject*, sender));
     }

@@ -33,8 +33,10 @@ class BoundControlTest : public QObject, private BinderBench {
     void aTypedNumberActsWhenReturnIsPressed();
     void aTypedNumberActsWhenTheFieldIsLeft();
     void aTypedNumberActsWhenTheViewHides();
+    void aTypedNumberActsWhenSettlingIsAskedFor();
     void aDraggedSliderActsOnRelease();
     void aSliderByKeyActsWhenSettled();
+    void aSliderActsWhenItIsLeft();
 };
 
 void BoundControlTest::aNumberBeyondItsRangeStaysUntilItIsChanged() {
@@ -272,6 +274,16 @@ void BoundControlTest::aTypedNumberActsWhenTheViewHides() {
     QCOMPARE(calls(), QStringList{u"Speed=11"_s});
 }
 
+void BoundControlTest::aTypedNumberActsWhenSettlingIsAskedFor() {
+    bind();
+    showView();
+    _view->speed.setFocus();
+    _view->speed.selectAll();
+    QTest::keyClicks(&_view->speed, u"45"_s);
+    _binder->settle();
+    QCOMPARE(calls(), QStringList{u"Speed=45"_s});
+}
+
 void BoundControlTest::aDraggedSliderActsOnRelease() {
     bind();
     _view->level.setSliderDown(true);
@@ -290,6 +302,15 @@ void BoundControlTest::aSliderByKeyActsWhenSettled() {
     QCOMPARE(calls(), QStringList());
     _platform->clock().advance(250ms);
     QCOMPARE(calls(), QStringList{u"Level=22"_s});
+}
+
+void BoundControlTest::aSliderActsWhenItIsLeft() {
+    bind();
+    showView();
+    _view->level.setFocus();
+    QTest::keyClick(&_view->level, Qt::Key_Right);
+    QTest::keyClick(&_view->level, Qt::Key_Tab);
+    QCOMPARE(calls(), QStringList{u"Level=21"_s});
 }
 
 QTEST_MAIN(BoundControlTest)

@@ -317,9 +317,13 @@ void MBPreferencesControllerTest::theEndOfThePlatformEndsAll() {
     const std::weak_ptr<RecordingModule> module = _one;
     _one.reset();
     const QPointer<QMainWindow> window = &controller().window();
+    // A module that somebody else keeps keeps its view, shown or not.
+    controller().changeToModule(_two);
+    const QPointer<QWidget> view = _two->view();
     _platform.reset();
     QVERIFY(window.isNull());
     QVERIFY(module.expired());
+    QVERIFY(!view.isNull());
 }
 
 QTEST_MAIN(MBPreferencesControllerTest)

@@ -221,6 +221,9 @@ void SettingBinderTest::theWheelChangesOnlyWhatHasTheFocus() {
                           {0, 120}, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
         QApplication::sendEvent(&widget, &event);
     };
+    // A real wheel would first bring the focus to what takes it by wheel.
+    QCOMPARE(_view->speed.focusPolicy(), Qt::StrongFocus);
+    QCOMPARE(_view->mode.focusPolicy(), Qt::StrongFocus);
     wheel(_view->speed);
     wheel(_view->mode);
     wheel(_view->level);
