@@ -1,5 +1,6 @@
 #include "app/DesktopApplication.h"
 #include "app/EscapeKey.h"
+#include "app/FieldEdges.h"
 #include "app/MainWindow.h"
 #include "app/QuorvelDelegate.h"
 #include "app/SettingsFileAlert.h"
@@ -98,6 +99,7 @@ int main(int argc, char* argv[]) {
     // The toolkit takes it out of the environment.
     const auto token = activationToken();
     const QApplication toolkit(argc, argv);
+    QApplication::setStyle(new FieldEdges);
     const Translations translations(QLocale(), u":/translations"_s);
 
     SingleInstance instance;

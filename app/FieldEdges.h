@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QProxyStyle>
+
+/// The desktop's style, but with edges of fields and a hint in empty ones that can be seen: on dark
+/// desktops both are as dark as what is around them.
+class FieldEdges final : public QProxyStyle {
+    Q_OBJECT
+  public:
+    using QProxyStyle::QProxyStyle;
+
+    void polish(QPalette& palette) override;
+    void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                       const QWidget* widget) const override;
+    void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
+                            QPainter* painter, const QWidget* widget) const override;
+
+    using QProxyStyle::polish;
+};
