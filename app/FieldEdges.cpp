@@ -17,11 +17,7 @@ QColor edgeColor(const QPalette& palette) {
             (text.blue() + window.blue()) / 2};
 }
 
-/// A field that has the keyboard has an edge of the style's own.
 void drawEdge(const QStyleOption& option, QPainter& painter) {
-    if (option.state.testFlag(QStyle::State_HasFocus)) {
-        return;
-    }
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(edgeColor(option.palette));
@@ -29,6 +25,11 @@ void drawEdge(const QStyleOption& option, QPainter& painter) {
     painter.drawRoundedRect(QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5), cornerRadius,
                             cornerRadius);
     painter.restore();
+}
+
+/// A line that has the keyboard has an edge of the style's own.
+bool hasEdgeOfFocus(const QStyleOption& option) {
+    return option.state.testFlag(QStyle::State_HasFocus);
 }
 
 } // namespace
@@ -45,7 +46,7 @@ void FieldEdges::drawPrimitive(PrimitiveElement element, const QStyleOption* opt
     QProxyStyle::drawPrimitive(element, option, painter, widget);
     const bool isScrolledField =
         element == PE_Frame && qobject_cast<const QAbstractScrollArea*>(widget) != nullptr;
-    if (element == PE_FrameLineEdit || isScrolledField) {
+    if (isScrolledField || (element == PE_FrameLineEdit && !hasEdgeOfFocus(*option))) {
         drawEdge(*option, *painter);
     }
 }
@@ -53,7 +54,7 @@ void FieldEdges::drawPrimitive(PrimitiveElement element, const QStyleOption* opt
 void FieldEdges::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
                                     QPainter* painter, const QWidget* widget) const {
     QProxyStyle::drawComplexControl(control, option, painter, widget);
-    if (control == CC_SpinBox) {
+    if (control == CC_SpinBox && !hasEdgeOfFocus(*option)) {
         drawEdge(*option, *painter);
     }
 }

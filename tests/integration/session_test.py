@@ -1,0 +1,67 @@
+"""Quorvel in its session: started twice, with a damaged settings file, and without a bus.
+
+Usage: session_test.py QUORVEL VIRTUAL_KEYER [TEST...]
+"""
+
+import os
+import signal
+
+from program import PORT, SETTINGS, ProgramTest, run_tests
+
+
+class SessionTest(ProgramTest):
+    def test_a_second_start_raises_the_first_one(self):
+        keyer, quorvel, _ = self.start_connected()
+        self.desktop.xdotool("windowminimize", self.desktop.xdotool("getactivewindow"))
+        quorvel.wait_for("the window to go",
+                         lambda: self.desktop.active_process() != quorvel.pid)
+        second = self.start_quorvel()
+        self.assertEqual(second.status(), 0)
+        self.active_window(quorvel)
+        self.desktop.type("k")
+        keyer.has_keyed("K")
+        self.terminate(keyer, quorvel)
+
+    def test_a_second_start_does_not_wait_for_one_that_hangs(self):
+        self.write_settings(SETTINGS.replace(PORT, "None"))
+        first = self.start_quorvel()
+        self.answer_alert(first, "There is no port defined for the WinKeyer.")
+        os.kill(first.pid, signal.SIGSTOP)
+        second = self.start_quorvel()
+        second.wait_for("the message", lambda: "does not answer" in second.errors())
+        second.wait_for("the alert", lambda: self.desktop.active_process() == second.pid)
+        self.desktop.press("Return")
+        self.assertEqual(second.status(), 1)
+        os.kill(first.pid, signal.SIGCONT)
+        self.assertEqual(first.end(), 0)
+
+    def test_it_takes_the_place_of_one_that_is_quitting(self):
+        keyer, first, _ = self.start_connected()
+        os.kill(first.pid, signal.SIGTERM)
+        second = self.start_quorvel()
+        self.assertEqual(first.status(), 0)
+        window = self.active_window(second)
+        self.wait_for_speed(second, window)
+        self.terminate(keyer, second)
+
+    def test_without_a_bus_it_runs(self):
+        keyer = self.start_keyer()
+        self.write_settings(SETTINGS)
+        self.environment["DBUS_SESSION_BUS_ADDRESS"] = "unix:path=/nowhere"
+        quorvel = self.start_quorvel()
+        keyer.wait_for("the greeting", lambda: keyer.answers()[-1:] and
+                       0x80 <= int(keyer.answers()[-1], 16) < 0xC0)
+        self.terminate(keyer, quorvel)
+
+    def test_a_damaged_settings_file_is_put_aside_and_reported(self):
+        self.write_settings("this is no setting")
+        quorvel = self.start_quorvel()
+        self.answer_alert(quorvel, "Your settings could not be read.")
+        self.answer_alert(quorvel, "There is no port defined for the WinKeyer.")
+        self.assertEqual(quorvel.end(), 0)
+        aside = list(self.settings.parent.glob("quorvel.conf.corrupt-*"))
+        self.assertEqual([each.read_text() for each in aside], ["this is no setting"])
+
+
+if __name__ == "__main__":
+    run_tests()
