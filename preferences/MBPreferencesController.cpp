@@ -146,8 +146,27 @@ MBPreferencesController::toolbarItemForItemIdentifier(const QString& identifier)
         item->setCheckable(true);
         connect(item.get(), &QAction::triggered, this,
                 [this, sender = item.get()] { selectModule(sender); });
+        connect(item.get(), &QAction::toggled, this, [this, sender = item.get()] {
+            QMetaObject::invokeMethod(
+                sender, [this, sender, change = _changes] { followItem(*sender, change); },
+                Qt::QueuedConnection);
+        });
     }
     return item;
+}
+
+/// A screen reader switches an item on or off without triggering it: what nothing has followed when
+/// the event loop comes round is followed here.
+void MBPreferencesController::followItem(QAction& item, int change) {
+    if (change != _changes) {
+        return;
+    }
+    const bool isShown = moduleForIdentifier(item.objectName()) == _currentModule;
+    if (item.isChecked() && !isShown) {
+        selectModule(&item);
+    } else if (isShown && _items->checkedAction() == nullptr) {
+        item.setChecked(true);
+    }
 }
 
 MBPreferencesController::Module

@@ -70,6 +70,7 @@ class MBPreferencesController final : public QObject {
     void setUpToolbar();
     void setUpKeys();
     void rebuildToolbarItems();
+    void followItem(QAction& item, int change);
     void selectToolbarItem(const QString& identifier);
     [[nodiscard]] QRect frameFor(const MBPreferencesModule* module) const;
     void setFrame(const QRect& frame);

@@ -165,7 +165,7 @@ class PreferencesTest(ProgramTest):
             return next((each for each in self.application.children()
                          if each.is_in_state("active") and each.find("WinKeyer")), None)
         window = self.wait_for("the preferences", preferences)
-        self.desktop.click(window.find("WinKeyer"))
+        window.find("WinKeyer").press()
         self.wait_for("the keyer's pane", lambda: window.find("Groups of settings"))
         self.pane = window
         self.controls = {}

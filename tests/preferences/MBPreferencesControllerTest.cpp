@@ -3,9 +3,11 @@
 #include "keyer/WinKeyerUsb.h"
 #include "tests/preferences/PreferencesWindowBench.h"
 
+#include <QAccessible>
 #include <QLineEdit>
 #include <QPointer>
 #include <QScreen>
+#include <QToolButton>
 
 #include <array>
 #include <atomic>
@@ -36,6 +38,7 @@ class MBPreferencesControllerTest : public QObject, private PreferencesWindowBen
     void aNewListLeavesTheFirstItem();
     void anEmptyListKeepsWhatIsShown();
     void anItemSelectsItsModule();
+    void aScreenReaderSelectsAModule();
     void theShownModuleCanBeSelectedAgain();
     void otherSendersSelectNothing();
     void aModuleIsSelectedByItsIdentifier();
@@ -195,6 +198,24 @@ void MBPreferencesControllerTest::anItemSelectsItsModule() {
     QVERIFY(_two->view()->isVisible());
     QVERIFY(!_one->view()->isVisible());
     QVERIFY(_one->view()->parent() == nullptr);
+}
+
+void MBPreferencesControllerTest::aScreenReaderSelectsAModule() {
+    controller().setModules(list({_one, _two}));
+    show(0);
+    auto* button =
+        qobject_cast<QToolButton*>(toolbar().widgetForAction(toolbar().actions().constLast()));
+    auto* actions = QAccessible::queryAccessibleInterface(button)->actionInterface();
+    actions->doAction(actions->actionNames().constFirst());
+    QTRY_COMPARE(controller().currentModule().get(), _two.get());
+    QCOMPARE(_two->timesDisplayed(), 1);
+    QCOMPARE(selectedItem(), u"two"_s);
+    QVERIFY(button->isChecked());
+
+    actions->doAction(actions->actionNames().constFirst());
+    QTRY_VERIFY(button->isChecked());
+    QCOMPARE(selectedItem(), u"two"_s);
+    QCOMPARE(_two->timesDisplayed(), 1);
 }
 
 void MBPreferencesControllerTest::theShownModuleCanBeSelectedAgain() {
