@@ -95,7 +95,8 @@ QString SettingsStore::standardPath() {
 }
 
 SettingsStore::SettingsStore(const QString& path)
-    : _path(path), _corruptFile(putAsideIfCorrupt(path)),
+    : _path(path),
+      _corruptFile(putAsideIfCorrupt(path)),
       _settings(safePath(path, _corruptFile), QSettings::IniFormat) {}
 
 void SettingsStore::registerDefaults(const QHash<QString, QVariant>& defaults) {
