@@ -14,8 +14,8 @@ using namespace std::chrono_literals;
 namespace {
 
 /// The command and the image, each byte 11 bits on a line of 1200 baud.
-constexpr Clock::Duration loadingTime =
-    Clock::Duration(1s) * (2 + std::tuple_size_v<KeyerMemory::Image>)*11 / 1200;
+constexpr int loadedBits = static_cast<int>(2 + std::tuple_size_v<KeyerMemory::Image>) * 11;
+constexpr Clock::Duration loadingTime = Clock::Duration(1s) * loadedBits / 1200;
 
 /// Characters of a message that are seen at once, even where the window is as narrow as it can be.
 constexpr int readableLength = 24;
