@@ -8,7 +8,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QMessageBox>
-#include <QPlainTextEdit>
+#include <QPointer>
 #include <QShortcut>
 #include <QTest>
 #include <QTimer>
@@ -124,18 +124,18 @@ void EscapeKeyTest::stopsFromAnAlertAndClosesIt() {
 void EscapeKeyTest::stopsFromTheGuideAndTheAboutBox() {
     for (const auto* name : {"guideAction", "aboutAction"}) {
         _window->findChild<QAction*>(QString::fromLatin1(name))->trigger();
-        QWidget* opened = nullptr;
+        QPointer<QWidget> opened;
         for (auto* each : QApplication::topLevelWidgets()) {
             if (each->isVisible() && each != &*_window) {
                 opened = each;
             }
         }
-        QVERIFY(opened != nullptr);
+        QVERIFY(!opened.isNull());
         QVERIFY(QTest::qWaitForWindowExposed(opened));
         press(*opened);
-        QVERIFY(!opened->isVisible());
+        // A box that goes does so in the event loop, which may have run.
+        QVERIFY(opened.isNull() || !opened->isVisible());
         QCOMPARE(_bench->written(), "0a");
-        // A box that goes does so in the event loop.
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
 }
