@@ -27,6 +27,7 @@ KeyboardView::KeyboardView(QWidget* parent)
     setTabChangesFocus(true);
     KeyboardViewAccessible::install();
     QObject::connect(this, &QPlainTextEdit::textChanged, this, &KeyboardView::takeOperatorsText);
+    // The wheel moves the scroll bar, too.
     QObject::connect(verticalScrollBar(), &QScrollBar::actionTriggered, &_scrollRest,
                      &ScrollRest::noteUse);
     QObject::connect(&_scrollRest, &ScrollRest::over, this, &KeyboardView::followSending);
@@ -273,11 +274,6 @@ void KeyboardView::mousePressEvent(QMouseEvent* event) {
 void KeyboardView::mouseReleaseEvent(QMouseEvent* event) {
     _scrollRest.noteUse();
     QPlainTextEdit::mouseReleaseEvent(event);
-}
-
-void KeyboardView::wheelEvent(QWheelEvent* event) {
-    _scrollRest.noteUse();
-    QPlainTextEdit::wheelEvent(event);
 }
 
 void KeyboardView::contextMenuEvent(QContextMenuEvent* event) {

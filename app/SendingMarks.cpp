@@ -42,11 +42,11 @@ void underline(QPainter& painter, const QTextLine& line, const QRectF& extent,
 }
 
 void invert(QPainter& painter, const QTextLine& line, const QRectF& extent, QPointF origin,
-            const SendingMarks::Colours& colours) {
+            const QPalette& palette) {
     painter.save();
     painter.setClipRect(extent.translated(origin), Qt::IntersectClip);
-    painter.fillRect(extent.translated(origin), colours.text);
-    painter.setPen(colours.background);
+    painter.fillRect(extent.translated(origin), palette.color(QPalette::Text));
+    painter.setPen(palette.color(QPalette::Base));
     line.draw(&painter, origin);
     painter.restore();
 }
@@ -54,9 +54,8 @@ void invert(QPainter& painter, const QTextLine& line, const QRectF& extent, QPoi
 } // namespace
 
 void SendingMarks::paint(QPainter& painter, const Paragraph& paragraph) const {
-    const Colours plain{_palette.color(QPalette::Text), _palette.color(QPalette::Base)};
-    const Colours selected{_palette.color(QPalette::HighlightedText),
-                           _palette.color(QPalette::Highlight)};
+    const auto plain = _palette.color(QPalette::Text);
+    const auto selected = _palette.color(QPalette::HighlightedText);
     const qsizetype start = paragraph.block.position();
     const auto end = start + paragraph.block.length() - 1;
     paintPart(painter, paragraph, {start, std::min(end, _selection.begin)}, plain);
@@ -65,7 +64,7 @@ void SendingMarks::paint(QPainter& painter, const Paragraph& paragraph) const {
 }
 
 void SendingMarks::paintPart(QPainter& painter, const Paragraph& paragraph, Range part,
-                             const Colours& colours) const {
+                             const QColor& ink) const {
     const auto onItsWay = part.within({_state.inFlight, _state.waiting});
     const auto waits = part.within({_state.waiting, part.end});
     const auto& layout = *paragraph.block.layout();
@@ -76,10 +75,10 @@ void SendingMarks::paintPart(QPainter& painter, const Paragraph& paragraph, Rang
         }
         if (const auto where = extent(line, inLayout(paragraph.block, onItsWay));
             !where.isEmpty()) {
-            invert(painter, line, where, paragraph.origin, colours);
+            invert(painter, line, where, paragraph.origin, _palette);
         }
         if (const auto where = extent(line, inLayout(paragraph.block, waits)); !where.isEmpty()) {
-            underline(painter, line, where.translated(paragraph.origin), colours.text);
+            underline(painter, line, where.translated(paragraph.origin), ink);
         }
     }
 }

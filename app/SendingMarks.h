@@ -40,11 +40,6 @@ class SendingMarks {
         QPointF origin;
     };
 
-    struct Colours {
-        QColor text;
-        QColor background;
-    };
-
     /// Only lines that touch `visible` are drawn on.
     SendingMarks(const State& state, Range selection, const QPalette& palette,
                  const QRectF& visible)
@@ -55,7 +50,7 @@ class SendingMarks {
 
   private:
     void paintPart(QPainter& painter, const Paragraph& paragraph, Range part,
-                   const Colours& colours) const;
+                   const QColor& ink) const;
 
     State _state;
     Range _selection;
