@@ -116,7 +116,7 @@ void KeyedWaveViewTest::theChoiceIsFreeAgainWithoutAKeyer() {
 void KeyedWaveViewTest::theChoiceIsFreeAgainOnceTheKeyerIsPulledOut() {
     QVERIFY(_bench->connect());
     _bench->receive({0x80 + 12});
-    _bench->platform().devices().unplug({_bench->device()});
+    _bench->platform().devices().unplug(_bench->device());
     QVERIFY(speed().isEnabled());
     QCOMPARE(speed().value(), 25);
 }
