@@ -19,6 +19,7 @@
 
 #include <mutex>
 #include <stdexcept>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -217,10 +218,11 @@ void MBPreferencesController::changeToModule(Module module) {
     if (module != nullptr) {
         module->willBeDisplayed();
     }
-    _currentModule = module;
+    _currentModule = std::move(module);
     showView();
     SettingsStore::standardUserDefaults().setObject(
-        module != nullptr ? QVariant(module->identifier()) : QVariant(), MBPreferencesSelection);
+        _currentModule != nullptr ? QVariant(_currentModule->identifier()) : QVariant(),
+        MBPreferencesSelection);
 }
 
 void MBPreferencesController::showView() {
