@@ -10,9 +10,12 @@ class DesktopApplication final : public Application {
   public:
     AlertAnswer runModal(const Alert& alert) override;
 
-    /// The window that alerts belong to; nullptr for none.
+    /// The window that alerts belong to while none of the application's is active; nullptr for
+    /// none.
     void setAlertParent(QWidget* window) { _alertParent = window; }
 
   private:
+    [[nodiscard]] QWidget* windowInUse() const;
+
     QPointer<QWidget> _alertParent;
 };

@@ -20,6 +20,7 @@ class DesktopApplicationTest : public QObject {
     void aStatementHasOneButton();
     void anErrorShowsItsMessageAndSuggestion();
     void textIsShownAsItStands();
+    void anAlertStandsAboveTheWindowInUse();
     void devicesThatComeMeanwhileAreAnnouncedAfterwards();
 
   private:
@@ -89,6 +90,28 @@ void DesktopApplicationTest::textIsShownAsItStands() {
     });
     _application.runModal({.messageText = u"<b>port</b>"_s, .informativeText = {}});
     QVERIFY(_wasShown);
+}
+
+void DesktopApplicationTest::anAlertStandsAboveTheWindowInUse() {
+    QWidget mainWindow;
+    _application.setAlertParent(&mainWindow);
+    const auto parentOfAnAlert = [this] {
+        const QWidget* parent = nullptr;
+        whileShown([&parent](QMessageBox& box) {
+            parent = box.parentWidget();
+            box.accept();
+        });
+        _application.runModal({.messageText = u"Done."_s, .informativeText = {}});
+        return parent;
+    };
+    QCOMPARE(parentOfAnAlert(), &mainWindow);
+
+    QWidget preferences;
+    mainWindow.show();
+    preferences.show();
+    preferences.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&preferences));
+    QCOMPARE(parentOfAnAlert(), &preferences);
 }
 
 void DesktopApplicationTest::devicesThatComeMeanwhileAreAnnouncedAfterwards() {
