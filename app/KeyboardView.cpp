@@ -298,11 +298,10 @@ QMimeData* KeyboardView::createMimeDataFromSelection() const {
     return plain.release();
 }
 
-bool KeyboardView::canInsertFromMimeData(const QMimeData* source) const {
-    return source->hasText();
-}
-
 void KeyboardView::insertFromMimeData(const QMimeData* source) {
+    if (!source->hasText()) {
+        return; // a pasted picture leaves even the selection alone
+    }
     auto caret = textCursor();
     caret.insertText(KeyboardText::withoutLineEnds(source->text()));
     setTextCursor(caret);

@@ -59,7 +59,6 @@ class KeyboardView final : public QPlainTextEdit {
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
     [[nodiscard]] QMimeData* createMimeDataFromSelection() const override;
-    [[nodiscard]] bool canInsertFromMimeData(const QMimeData* source) const override;
     void insertFromMimeData(const QMimeData* source) override;
 
   private:
