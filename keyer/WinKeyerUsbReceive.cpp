@@ -52,7 +52,7 @@ void WinKeyerUsb::handleByte(std::uint8_t byte) {
         break;
     case ReceivedByte::SpeedPot: {
         const auto minimum = SettingsStore::standardUserDefaults().integerForKey(WKSpeedPotMinimum);
-        setSpeedString(u"%1 WPM"_s.arg((byte & 0x3F) + minimum));
+        setSpeedString(tr("%1 WPM").arg((byte & 0x3F) + minimum));
         break;
     }
     case ReceivedByte::Status:

@@ -5,6 +5,7 @@
 #include "keyer/GeneralSettings.h"
 #include "tests/keyer/KeyerBench.h"
 
+#include <QAccessible>
 #include <QLabel>
 #include <QPushButton>
 #include <QTest>
@@ -100,8 +101,10 @@ void TuneSwitchTest::theWindowSaysThatItTransmits() {
     QVERIFY(!isTransmittingShown());
     tune();
     QVERIFY(isTransmittingShown());
-    const auto* warning = _window->findChild<QLabel*>(u"tuneWarning"_s);
+    auto* warning = _window->findChild<QLabel*>(u"tuneWarning"_s);
     QVERIFY(warning->text().contains(u"TRANSMITTING: tune is on. Press Esc to let go."_s));
+    QCOMPARE(QAccessible::queryAccessibleInterface(warning)->text(QAccessible::Name),
+             warning->text());
     QTest::mouseClick(_button, Qt::LeftButton);
     QVERIFY(!isTransmittingShown());
 }
