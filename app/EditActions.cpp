@@ -3,12 +3,15 @@
 #include "app/KeyboardView.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QLineEdit>
 
 #include <functional>
 
-EditActions::EditActions(QWidget& window, const Actions& actions, QObject* parent)
-    : QObject(parent), _window(window) {
+EditActions::EditActions(QWidget& window, KeyboardView& view, const Actions& actions,
+                         QObject* parent)
+    : QObject(parent), _window(window), _view(view) {
+    followHistory(actions);
     connectAction(actions.undo, std::mem_fn(&KeyboardView::undoTyping),
                   std::mem_fn(&QLineEdit::undo));
     connectAction(actions.redo, std::mem_fn(&KeyboardView::redoTyping),
@@ -25,10 +28,22 @@ void EditActions::connectAction(QAction* action, const InView& inView, const InF
                      [this, inView, inField] { edit(inView, inField); });
 }
 
+void EditActions::followHistory(const Actions& actions) {
+    const auto follow = [this, undo = actions.undo, redo = actions.redo] {
+        const bool isInView = _window.focusWidget() == &_view;
+        undo->setEnabled(!isInView || _view.canUndoTyping());
+        redo->setEnabled(!isInView || _view.canRedoTyping());
+    };
+    QObject::connect(&_view, &KeyboardView::canUndoTypingChanged, this, follow);
+    QObject::connect(&_view, &KeyboardView::canRedoTypingChanged, this, follow);
+    QObject::connect(qApp, &QApplication::focusChanged, this, follow);
+    follow();
+}
+
 void EditActions::edit(const InView& inView, const InField& inField) const {
     auto* focus = _window.focusWidget();
-    if (auto* view = qobject_cast<KeyboardView*>(focus)) {
-        inView(*view);
+    if (focus == &_view) {
+        inView(_view);
         return;
     }
     auto* field = qobject_cast<QLineEdit*>(focus);

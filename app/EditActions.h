@@ -9,7 +9,9 @@ class QAction;
 class QLineEdit;
 class QWidget;
 
-/// The items of the Edit menu: they act on the field of the window that has the keyboard.
+/// The items of the Edit menu: they act on the field of the window that has the keyboard. Undo and
+/// redo can be chosen only while the keyboard view, if it is that field, has something to take
+/// back.
 class EditActions final : public QObject {
     Q_OBJECT
   public:
@@ -22,15 +24,17 @@ class EditActions final : public QObject {
         QAction* selectAll;
     };
 
-    /// `window` must outlive the actions.
-    EditActions(QWidget& window, const Actions& actions, QObject* parent);
+    /// `window`, whose keyboard view `view` is, must outlive the actions.
+    EditActions(QWidget& window, KeyboardView& view, const Actions& actions, QObject* parent);
 
   private:
     using InView = std::function<void(KeyboardView&)>;
     using InField = std::function<void(QLineEdit&)>;
 
     void connectAction(QAction* action, const InView& inView, const InField& inField);
+    void followHistory(const Actions& actions);
     void edit(const InView& inView, const InField& inField) const;
 
     QWidget& _window;
+    KeyboardView& _view;
 };

@@ -125,7 +125,7 @@ void MainWindow::setUpMenus() {
                      _ui->incrementSerialNumberButton, &QToolButton::click);
     QObject::connect(_ui->decrementSerialNumberAction, &QAction::triggered,
                      _ui->decrementSerialNumberButton, &QToolButton::click);
-    new EditActions(*this,
+    new EditActions(*this, *_ui->keyboardView,
                     {.undo = _ui->undoAction,
                      .redo = _ui->redoAction,
                      .cut = _ui->cutAction,

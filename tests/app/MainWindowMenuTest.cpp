@@ -188,14 +188,19 @@ void MainWindowMenuTest::theEditMenuActsOnTheFocusedField() {
     QCOMPARE(view->textCursor().selectedText(), u"K1A"_s);
     _bench->engine().stopMessageSending(nullptr);
     _bench->engine().setPauseState(1);
+    QVERIFY(!find<QAction>(u"undoAction"_s)->isEnabled());
     QTest::keyClicks(view, u"DE K"_s);
+    QVERIFY(!find<QAction>(u"redoAction"_s)->isEnabled());
     trigger(u"undoAction"_s);
     QCOMPARE(view->text(), u"DE "_s);
     trigger(u"redoAction"_s);
     QCOMPARE(view->text(), u"DE K"_s);
 
+    _bench->engine().stopMessageSending(nullptr);
+    QVERIFY(!find<QAction>(u"undoAction"_s)->isEnabled());
     auto* box = find<QSpinBox>(u"serialNumberBox"_s);
     box->setFocus();
+    QVERIFY(find<QAction>(u"undoAction"_s)->isEnabled());
     trigger(u"selectAllAction"_s);
     trigger(u"copyAction"_s);
     QCOMPARE(QGuiApplication::clipboard()->text(), u"1"_s);
