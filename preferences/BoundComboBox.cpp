@@ -1,6 +1,8 @@
 #include "preferences/BoundComboBox.h"
 
-#include <QLineEdit>
+#include <QAbstractItemView>
+#include <QKeyEvent>
+#include <QScopedValueRollback>
 #include <QVariant>
 
 using namespace Qt::StringLiterals;
@@ -9,6 +11,26 @@ namespace {
 
 /// Marks the item that stands for a stored text beside the list.
 constexpr int extraRole = Qt::UserRole + 1;
+
+/// Whether the key chooses an entry of a list that is not even open, by its place.
+bool isStep(const QKeyEvent& event) {
+    switch (event.key()) {
+    case Qt::Key_Up:
+    case Qt::Key_Down:
+    case Qt::Key_PageUp:
+    case Qt::Key_PageDown:
+    case Qt::Key_Home:
+    case Qt::Key_End:
+        return true;
+    default:
+        return false;
+    }
+}
+
+/// Whether the key looks for an entry by its text.
+bool isSearch(const QKeyEvent& event) {
+    return !event.text().isEmpty() && event.text().front().isPrint();
+}
 
 } // namespace
 
@@ -24,13 +46,6 @@ BoundComboBox::BoundComboBox(QComboBox& box, const Setting& setting, QObject& co
     }
     connect(&box, &QComboBox::currentIndexChanged, this, &BoundComboBox::choose);
     connect(&box, &QComboBox::activated, this, &BoundComboBox::chosen);
-    if (auto* field = box.lineEdit()) {
-        box.setInsertPolicy(QComboBox::NoInsert);
-        // What is typed is what is stored, not what a completer makes of its beginning.
-        box.setCompleter(nullptr);
-        connect(field, &QLineEdit::textEdited, this, &BoundComboBox::change);
-        connect(field, &QLineEdit::editingFinished, this, &BoundComboBox::settle);
-    }
 }
 
 QString BoundComboBox::textToStore(int index) const {
@@ -62,13 +77,51 @@ void BoundComboBox::choose(int index) {
     }
 }
 
-void BoundComboBox::chosen(int index) {
-    change(textToStore(index)); // of an editable box, the item may be the old one, and the text not
+/// Who passes entries on the closed list wants the last; who opens it wants the chosen one at once.
+void BoundComboBox::chosen(int) {
+    if (_isStepping) {
+        return;
+    }
     if (isUnsettled()) {
         settle();
-    } else if (_box.property("actsOnEveryChoice").toBool()) {
+    } else if (actsOnEveryChoice()) {
         act();
     }
+}
+
+bool BoundComboBox::actsOnEveryChoice() const {
+    return _box.property("actsOnEveryChoice").toBool();
+}
+
+bool BoundComboBox::eventFilter(QObject* watched, QEvent* event) {
+    if (BoundControl::eventFilter(watched, event)) {
+        return true;
+    }
+    const bool isChoice = event->type() == QEvent::KeyPress || event->type() == QEvent::Wheel;
+    if (!isChoice || _box.view()->isVisible()) {
+        return false;
+    }
+    return actsOnEveryChoice() ? preventChoice(*event) : step(*event);
+}
+
+/// No stray key or turn of the wheel may choose what acts at once: keys open the list.
+bool BoundComboBox::preventChoice(QEvent& event) {
+    if (event.type() == QEvent::Wheel) {
+        event.ignore();
+        return true;
+    }
+    const auto& key = static_cast<const QKeyEvent&>(event);
+    if (isStep(key) || key.key() == Qt::Key_Space) {
+        _box.showPopup();
+        return true;
+    }
+    return isSearch(key);
+}
+
+bool BoundComboBox::step(QEvent& event) {
+    const QScopedValueRollback stepping(_isStepping, true);
+    _box.event(&event);
+    return true;
 }
 
 void BoundComboBox::removeExtraItem() {
@@ -86,9 +139,6 @@ void BoundComboBox::addExtraItem(const QString& stored) {
 
 void BoundComboBox::showStored() {
     const auto stored = storedText();
-    if (_box.isEditable() && _box.currentText() == stored) {
-        return; // being typed
-    }
     auto index = indexOf(stored);
     if (index < 0 && setting().choices.empty()) {
         removeExtraItem();
@@ -97,9 +147,6 @@ void BoundComboBox::showStored() {
     }
     _box.setPlaceholderText(index < 0 ? strangeText() : QString());
     _box.setCurrentIndex(index);
-    if (_box.isEditable()) {
-        _box.setEditText(stored);
-    }
     if (!isExtra(index)) {
         removeExtraItem();
     }

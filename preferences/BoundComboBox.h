@@ -4,7 +4,10 @@
 
 #include <QComboBox>
 
-/// A text that is chosen from a list, or typed where the box is editable.
+/// A text that is chosen from a list.
+///
+/// A choice from the opened list acts at once. Keys and the wheel on the closed one act when they
+/// have settled; where every choice acts (`actsOnEveryChoice`), keys open the list instead.
 ///
 /// A setting with choices has exactly those for items; another one keeps the box's own, and what
 /// is stored beside them is one more item. An item's data is stored in place of its text, where it
@@ -14,6 +17,8 @@ class BoundComboBox final : public BoundControl {
   public:
     BoundComboBox(QComboBox& box, const Setting& setting, QObject& controller);
 
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
   protected:
     void showStored() override;
     [[nodiscard]] bool offersStored() const override;
@@ -21,6 +26,9 @@ class BoundComboBox final : public BoundControl {
   private:
     void choose(int index);
     void chosen(int index);
+    [[nodiscard]] bool actsOnEveryChoice() const;
+    [[nodiscard]] bool preventChoice(QEvent& event);
+    [[nodiscard]] bool step(QEvent& event);
     [[nodiscard]] QString textToStore(int index) const;
     [[nodiscard]] int indexOf(const QString& stored) const;
     [[nodiscard]] bool isExtra(int index) const;
@@ -29,4 +37,6 @@ class BoundComboBox final : public BoundControl {
 
     QComboBox& _box;
     QString _missingText;
+    /// Keys or the wheel are choosing on the closed list.
+    bool _isStepping = false;
 };

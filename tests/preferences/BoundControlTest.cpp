@@ -2,10 +2,30 @@
 
 #include "tests/preferences/BinderBench.h"
 
+#include <QAbstractItemView>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
+
+namespace {
+
+void chooseFromList(QComboBox& box, int index) {
+    box.setFocus();
+    box.showPopup();
+    box.view()->setCurrentIndex(box.model()->index(index, 0));
+    QTest::keyClick(box.view(), Qt::Key_Return);
+}
+
+/// Whether the widget has taken the turn for itself.
+bool turnWheel(QWidget& widget) {
+    QWheelEvent event(widget.rect().center(), widget.mapToGlobal(widget.rect().center()), {},
+                      {0, 120}, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(&widget, &event);
+    return event.isAccepted();
+}
+
+} // namespace
 
 class BoundControlTest : public QObject, private BinderBench {
     Q_OBJECT
@@ -21,9 +41,16 @@ class BoundControlTest : public QObject, private BinderBench {
     void aMissingTextIsShownAsSuch();
     void itemsDataIsStoredInPlaceOfTheirText();
     void aReplacedListShowsTheStoredText();
-    void anEditableBoxStoresWhatIsTyped();
     void aCheckBoxActsAtOnce();
-    void aChosenItemActsAtOnce();
+    void anItemOfTheOpenListActsAtOnce();
+    void itemsPassedByKeyActOnceSettled_data();
+    void itemsPassedByKeyActOnceSettled();
+    void itemsPassedByWheelActOnceSettled();
+    void anItemPassedActsWhenTheBoxIsLeft();
+    void whatActsOnEveryChoiceOpensByKey_data();
+    void whatActsOnEveryChoiceOpensByKey();
+    void whatActsOnEveryChoiceIgnoresTheWheel();
+    void whatActsOnEveryChoiceSearchesOnlyItsOpenList();
     void aChosenItemActsOnceByEitherWay();
     void choosingTheSameItemActsWhereThatIsAskedFor();
     void aTextIsStoredLetterByLetterAndActsOnce();
@@ -99,6 +126,7 @@ void BoundControlTest::aTextBesideTheItemsIsOneMoreItem() {
     QTest::keyClick(&_view->pace, Qt::Key_Home);
     QCOMPARE(stored(u"Pace"_s), QVariant(u"1000 lpm"_s));
     QCOMPARE(_view->pace.count(), 2);
+    _platform->clock().advance(250ms);
     QCOMPARE(calls(), QStringList{u"Pace=1000 lpm"_s});
 }
 
@@ -136,27 +164,6 @@ void BoundControlTest::aReplacedListShowsTheStoredText() {
     QCOMPARE(calls(), QStringList());
 }
 
-void BoundControlTest::anEditableBoxStoresWhatIsTyped() {
-    _view->pace.setEditable(true);
-    bind();
-    showView();
-    _view->pace.setFocus();
-    _view->pace.lineEdit()->selectAll();
-    QTest::keyClicks(&_view->pace, u"20"_s);
-    QCOMPARE(stored(u"Pace"_s), QVariant(u"20"_s));
-    QCOMPARE(_view->pace.currentText(), u"20"_s);
-    QCOMPARE(calls(), QStringList());
-    QTest::keyClick(&_view->pace, Qt::Key_Return);
-    QCOMPARE(calls(), QStringList{u"Pace=20"_s});
-    QCOMPARE(_view->pace.currentText(), u"20"_s);
-    // The current item is still the first one, but not the text.
-    Q_EMIT _view->pace.activated(0);
-    QCOMPARE(stored(u"Pace"_s), QVariant(u"1000 lpm"_s));
-    QCOMPARE(_view->pace.currentText(), u"1000 lpm"_s);
-    store(u"1234 lpm"_s, u"Pace"_s);
-    QCOMPARE(_view->pace.currentText(), u"1234 lpm"_s);
-}
-
 void BoundControlTest::aCheckBoxActsAtOnce() {
     bind();
     _view->swap.click();
@@ -166,12 +173,112 @@ void BoundControlTest::aCheckBoxActsAtOnce() {
     QCOMPARE(stored(u"Swap"_s), QVariant(false));
 }
 
-void BoundControlTest::aChosenItemActsAtOnce() {
+void BoundControlTest::anItemOfTheOpenListActsAtOnce() {
     bind();
-    QTest::keyClick(&_view->mode, Qt::Key_Down);
+    showView();
+    chooseFromList(_view->mode, 2);
     QCOMPARE(calls(), QStringList{u"Mode=Bug"_s});
     _platform->clock().advance(1s);
     QCOMPARE(calls(), QStringList());
+}
+
+void BoundControlTest::itemsPassedByKeyActOnceSettled_data() {
+    QTest::addColumn<QList<Qt::Key>>("keys");
+    QTest::newRow("by steps") << QList{Qt::Key_Up, Qt::Key_Down, Qt::Key_Down};
+    QTest::newRow("to the ends") << QList{Qt::Key_Home, Qt::Key_End};
+    QTest::newRow("by the first letter") << QList{Qt::Key_I, Qt::Key_B};
+}
+
+void BoundControlTest::itemsPassedByKeyActOnceSettled() {
+    QFETCH(QList<Qt::Key>, keys);
+    QApplication::setKeyboardInputInterval(0);
+    bind();
+    for (const auto key : keys) {
+        QTest::qWait(2); // else letters were one search
+        QTest::keyClick(&_view->mode, key);
+        _platform->clock().advance(249ms);
+    }
+    QCOMPARE(stored(u"Mode"_s), QVariant(u"Bug"_s));
+    QCOMPARE(calls(), QStringList());
+    _platform->clock().advance(1ms);
+    QCOMPARE(calls(), QStringList{u"Mode=Bug"_s});
+    _platform->clock().advance(1s);
+    QCOMPARE(calls(), QStringList());
+}
+
+void BoundControlTest::itemsPassedByWheelActOnceSettled() {
+    bind();
+    showView();
+    _view->mode.setFocus();
+    turnWheel(_view->mode);
+    QCOMPARE(stored(u"Mode"_s), QVariant(u"Iambic B"_s));
+    QCOMPARE(calls(), QStringList());
+    _platform->clock().advance(250ms);
+    QCOMPARE(calls(), QStringList{u"Mode=Iambic B"_s});
+}
+
+void BoundControlTest::anItemPassedActsWhenTheBoxIsLeft() {
+    bind();
+    showView();
+    _view->mode.setFocus();
+    QTest::keyClick(&_view->mode, Qt::Key_Down);
+    QTest::keyClick(&_view->mode, Qt::Key_Tab);
+    QCOMPARE(calls(), QStringList{u"Mode=Bug"_s});
+}
+
+void BoundControlTest::whatActsOnEveryChoiceOpensByKey_data() {
+    QTest::addColumn<Qt::Key>("key");
+    QTest::newRow("Up") << Qt::Key_Up;
+    QTest::newRow("Down") << Qt::Key_Down;
+    QTest::newRow("Page Up") << Qt::Key_PageUp;
+    QTest::newRow("Page Down") << Qt::Key_PageDown;
+    QTest::newRow("Home") << Qt::Key_Home;
+    QTest::newRow("End") << Qt::Key_End;
+    QTest::newRow("Space") << Qt::Key_Space;
+}
+
+void BoundControlTest::whatActsOnEveryChoiceOpensByKey() {
+    QFETCH(Qt::Key, key);
+    store(u"1500 lpm"_s, u"Pace"_s);
+    _view->pace.insertItem(1, u"1500 lpm"_s);
+    _view->pace.setProperty("actsOnEveryChoice", true);
+    bind();
+    showView();
+    _view->pace.setFocus();
+    QTest::keyClick(&_view->pace, key);
+    QVERIFY(_view->pace.view()->isVisible());
+    QTest::keyClick(_view->pace.view(), Qt::Key_Escape);
+    _platform->clock().advance(1s);
+    QCOMPARE(stored(u"Pace"_s), QVariant(u"1500 lpm"_s));
+    QCOMPARE(calls(), QStringList());
+}
+
+void BoundControlTest::whatActsOnEveryChoiceIgnoresTheWheel() {
+    store(u"2000 lpm"_s, u"Pace"_s);
+    _view->pace.setProperty("actsOnEveryChoice", true);
+    bind();
+    showView();
+    _view->pace.setFocus();
+    QVERIFY(!turnWheel(_view->pace)); // the page behind it may scroll
+    _platform->clock().advance(1s);
+    QCOMPARE(stored(u"Pace"_s), QVariant(u"2000 lpm"_s));
+    QCOMPARE(calls(), QStringList());
+}
+
+void BoundControlTest::whatActsOnEveryChoiceSearchesOnlyItsOpenList() {
+    _view->pace.setProperty("actsOnEveryChoice", true);
+    bind();
+    showView();
+    _view->pace.setFocus();
+    QTest::keyClick(&_view->pace, Qt::Key_2);
+    QVERIFY(!_view->pace.view()->isVisible());
+    _platform->clock().advance(1s);
+    QCOMPARE(stored(u"Pace"_s), QVariant(u"1000 lpm"_s));
+    QCOMPARE(calls(), QStringList());
+    QTest::keyClick(&_view->pace, Qt::Key_Down);
+    QTest::keyClick(_view->pace.view(), Qt::Key_2);
+    QTest::keyClick(_view->pace.view(), Qt::Key_Return);
+    QCOMPARE(calls(), QStringList{u"Pace=2000 lpm"_s});
 }
 
 void BoundControlTest::aChosenItemActsOnceByEitherWay() {
@@ -189,7 +296,8 @@ void BoundControlTest::choosingTheSameItemActsWhereThatIsAskedFor() {
     QCOMPARE(calls(), QStringList());
     Q_EMIT _view->pace.activated(0);
     QCOMPARE(calls(), QStringList{u"Pace=1000 lpm"_s});
-    QTest::keyClick(&_view->pace, Qt::Key_Down);
+    showView();
+    chooseFromList(_view->pace, 1);
     QCOMPARE(calls(), QStringList{u"Pace=2000 lpm"_s});
 }
 

@@ -16,6 +16,7 @@
 #include <optional>
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
 namespace {
 
@@ -62,6 +63,7 @@ class PreferencesGeneralViewControllerTest : public QObject {
     void theSamePortIsTakenAgain();
     void noPortIsAChoiceToo();
     void thePopUpChoosesByKeyboard();
+    void noStrayKeyReachesThePort();
     void thePortsFollowPlugAndUnplug();
     void thePortsFollowWhileTheyAreBeingChosenFrom();
     void aPortThatIsAbsentIsShownAsSuch();
@@ -164,8 +166,27 @@ void PreferencesGeneralViewControllerTest::noPortIsAChoiceToo() {
 }
 
 void PreferencesGeneralViewControllerTest::thePopUpChoosesByKeyboard() {
-    QTest::keyClick(&chooser(), Qt::Key_Down);
+    show();
+    chooser().setFocus();
+    QTest::keyClick(&chooser(), Qt::Key_Down); // opens it
+    QCOMPARE(_delegate->take(), QStringList());
+    QTest::keyClick(chooser().view(), Qt::Key_Down);
+    QTest::keyClick(chooser().view(), Qt::Key_Return);
     QCOMPARE(_delegate->take(), QStringList{u"ttyS0"_s});
+}
+
+void PreferencesGeneralViewControllerTest::noStrayKeyReachesThePort() {
+    show();
+    auto* first = _pane->view()->nextInFocusChain();
+    while ((first->focusPolicy() & Qt::TabFocus) != Qt::TabFocus) {
+        first = first->nextInFocusChain();
+    }
+    QCOMPARE(first, &myCall()); // what the window gives the focus to when it opens
+    chooser().setFocus();
+    QTest::keyClick(&chooser(), Qt::Key_T);
+    _bench->clock().advance(1s);
+    QCOMPARE(stored(WKPortName), u"usbserial-A"_s);
+    QCOMPARE(_delegate->take(), QStringList());
 }
 
 void PreferencesGeneralViewControllerTest::thePortsFollowPlugAndUnplug() {
@@ -211,12 +232,13 @@ void PreferencesGeneralViewControllerTest::thePortFollowsTheEngine() {
 }
 
 void PreferencesGeneralViewControllerTest::aChangeWithinAChangeIsMadeUpFor() {
+    show();
     int depth = 0;
     _delegate->setWhileChanging([&] {
-        QTest::keyClick(&chooser(), Qt::Key_Home);
+        choose(0);
         depth = static_cast<int>(_delegate->take().size());
     });
-    QTest::keyClick(&chooser(), Qt::Key_Down);
+    choose(2);
     QCOMPARE(depth, 1);
     QCOMPARE(_delegate->take(), QStringList{u"None"_s});
 }
@@ -237,10 +259,11 @@ void PreferencesGeneralViewControllerTest::theOperatorIsToldWhileThePortChanges(
 
 void PreferencesGeneralViewControllerTest::withoutDelegateThePortIsOnlyStored() {
     _delegate.reset();
-    QTest::keyClick(&chooser(), Qt::Key_Down);
+    show();
+    choose(2);
     QCOMPARE(stored(WKPortName), u"ttyS0"_s);
     _delegate.emplace(_bench->platform());
-    QTest::keyClick(&chooser(), Qt::Key_Up);
+    choose(1);
     QCOMPARE(_delegate->take(), QStringList{u"usbserial-A"_s});
 }
 
