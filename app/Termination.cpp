@@ -1,12 +1,32 @@
 #include "app/Termination.h"
 
 #include "app/QuorvelDelegate.h"
+#include "keyer/WinKeyerUsb.h"
 #include "platform/NotificationCenter.h"
 
 #include <QEvent>
 #include <QGuiApplication>
+#include <QSignalBlocker>
 
+#include <cstdlib>
 #include <utility>
+
+namespace {
+
+// A callback of exit() is given nothing.
+Termination* current = nullptr;
+
+void terminateAtExit() {
+    if (current != nullptr) {
+        current->terminateWithoutDesktop();
+    }
+}
+
+void hearExit() {
+    [[maybe_unused]] static const int result = std::atexit(terminateAtExit);
+}
+
+} // namespace
 
 Termination::Termination(QuorvelDelegate& delegate) : _delegate(delegate) {
     // Without this the toolkit would end the loop by itself, with the link still up.
@@ -22,6 +42,12 @@ Termination::Termination(QuorvelDelegate& delegate) : _delegate(delegate) {
                      Qt::DirectConnection);
     NotificationCenter::defaultCenter().addObserver(this, NSWorkspaceWillPowerOffNotification,
                                                     [this](const Notification&) { terminate(); });
+    current = this;
+    hearExit();
+}
+
+Termination::~Termination() {
+    current = nullptr;
 }
 
 void Termination::terminate() {
@@ -30,6 +56,17 @@ void Termination::terminate() {
         NotificationCenter::defaultCenter().post(NSApplicationWillTerminateNotification, nullptr);
     }
     QCoreApplication::exit();
+}
+
+void Termination::terminateWithoutDesktop() {
+    if (!std::exchange(_hasBegun, true)) {
+        auto& engine = _delegate.winKeyerUsb();
+        // The windows have nothing left to show it on.
+        const QSignalBlocker silence(engine);
+        engine.setTuneState(0);
+        engine.tune(nullptr);
+        static_cast<void>(engine.disconnect(nullptr));
+    }
 }
 
 bool Termination::eventFilter(QObject* watched, QEvent* event) {

@@ -8,16 +8,25 @@ class QuorvelDelegate;
 /// ends it, the link is taken down, everyone is told, and the event loop ends.
 ///
 /// Hears the last window close, the desktop's request to quit, and the end of the session and of
-/// the machine. Main thread only.
+/// the machine. An X11 desktop that goes without a word, as when the screen's server fails, has the
+/// toolkit call exit(), and the keyer is left by way of that. A Wayland desktop that goes may have
+/// it call _exit() or abort(), which nothing hears: there the keyer stays as it was.
+///
+/// One at a time; main thread only.
 class Termination final : public QObject {
     Q_OBJECT
   public:
     /// `delegate` must outlive this.
     explicit Termination(QuorvelDelegate& delegate);
+    ~Termination() override;
 
     /// Asked again while an alert of the way out waits, it ends that alert; the link is taken down
     /// only once.
     void terminate();
+
+    /// Takes the link down, if nothing has yet, where the process exits with no desktop and no
+    /// event loop: nothing is shown, and nobody is told.
+    void terminateWithoutDesktop();
 
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override;

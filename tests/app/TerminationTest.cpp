@@ -29,6 +29,8 @@ class TerminationTest : public QObject {
     void theDesktopsRequestToQuitTakesTheWayOut();
     void theMachinesEndTakesTheWayOut();
     void theSessionsEndTakesTheWayOut();
+    void anExitWithoutTheDesktopLeavesTheKeyer();
+    void anExitAfterTheWayOutDoesNothing();
     void theLastWindowQuits();
     void aWindowThatIsNotTheLastDoesNotQuit();
 
@@ -126,6 +128,24 @@ void TerminationTest::theMachinesEndTakesTheWayOut() {
 void TerminationTest::theSessionsEndTakesTheWayOut() {
     QVERIFY(QObject::disconnect(qGuiApp, &QGuiApplication::commitDataRequest, &*_termination,
                                 &Termination::terminate));
+}
+
+void TerminationTest::anExitWithoutTheDesktopLeavesTheKeyer() {
+    _bench->engine().setTuneState(1);
+    QSignalSpy changes(&_bench->engine(), &WinKeyerUsb::tuneStateChanged);
+    _termination->terminateWithoutDesktop();
+    QCOMPARE(_bench->written(), "0b 00 00 03");
+    QVERIFY(!_bench->engine().isConnected());
+    QCOMPARE(changes.size(), 0);
+    QCOMPARE(_tellings, 0);
+    QVERIFY(_bench->platform().application().alerts().isEmpty());
+}
+
+void TerminationTest::anExitAfterTheWayOutDoesNothing() {
+    runLoop([this] { _termination->terminate(); });
+    _bench->engine().setTuneState(1);
+    _termination->terminateWithoutDesktop();
+    QCOMPARE(_bench->engine().tuneState(), 1);
 }
 
 void TerminationTest::theLastWindowQuits() {

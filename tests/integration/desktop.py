@@ -25,7 +25,7 @@ class Desktop:
             GSETTINGS_BACKEND="memory", QT_QPA_PLATFORM="xcb",
             QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1", QT_FORCE_STDERR_LOGGING="1")
         try:
-            self._start_screen()
+            _, self.environment["DISPLAY"] = self.start_screen()
             self._start_bus()
             self._start(["openbox"])
             wait_for("the window manager", lambda: self.xdotool("get_desktop") is not None)
@@ -64,30 +64,33 @@ class Desktop:
         from accessible import Accessible
         return Accessible.application(pid)
 
+    def start_screen(self):
+        """One more screen, without a window manager; its process and the name of its display."""
+        process, number = self._start_and_ask(
+            ["Xvfb", "-displayfd", "{descriptor}", "-screen", "0", "1280x960x24", "-nolisten",
+             "tcp", "-noreset"])
+        return process, f":{number}"
+
     def _start(self, command, pass_fds=()):
         process = Process(command, self.environment, self._logs, pass_fds)
         self._processes.append(process)
         return process
 
     def _start_and_ask(self, command):
-        """Starts a program that says on a descriptor of its own when it is ready; what it says."""
+        """Starts a program that says on a descriptor of its own when it is ready; its process and
+        what it says."""
         read_end, write_end = os.pipe()
         command = [each.format(descriptor=write_end) for each in command]
-        self._start(command, (write_end,))
+        process = self._start(command, (write_end,))
         os.close(write_end)
         with open(read_end, encoding="ascii") as pipe:
             answer = pipe.readline().strip()
         assert answer, f"{command[0]} does not start"
-        return answer
-
-    def _start_screen(self):
-        number = self._start_and_ask(["Xvfb", "-displayfd", "{descriptor}", "-screen", "0",
-                                      "1280x960x24", "-nolisten", "tcp", "-noreset"])
-        self.environment["DISPLAY"] = f":{number}"
+        return process, answer
 
     def _start_bus(self):
-        address = self._start_and_ask(["dbus-daemon", "--session", "--nofork", "--nopidfile",
-                                       "--print-address={descriptor}"])
+        _, address = self._start_and_ask(["dbus-daemon", "--session", "--nofork", "--nopidfile",
+                                          "--print-address={descriptor}"])
         self.environment["DBUS_SESSION_BUS_ADDRESS"] = address
 
     def _begin_reading(self):

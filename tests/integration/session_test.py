@@ -53,6 +53,21 @@ class SessionTest(ProgramTest):
                        0x80 <= int(keyer.answers()[-1], 16) < 0xC0)
         self.terminate(keyer, quorvel)
 
+    def test_the_keyer_is_left_when_the_screen_goes(self):
+        screen, self.environment["DISPLAY"] = self.desktop.start_screen()
+        keyer = self.start_keyer()
+        self.write_settings(SETTINGS)
+        quorvel = self.start_quorvel()
+        window = quorvel.wait_for("the window", lambda: self.desktop.application(quorvel.pid))
+        quorvel.wait_for("the speed", lambda: window.find("Speed") is not None)
+        self.wait_for_speed(quorvel, window)
+        window.find("Tune").press()
+        keyer.wait_for("the key", keyer.is_key_down)
+        screen.end()
+        self.assertNotEqual(quorvel.status(), 0)
+        self.assertFalse(keyer.is_key_down())
+        self.expect_closed(keyer)
+
     def test_a_damaged_settings_file_is_put_aside_and_reported(self):
         self.write_settings("this is no setting")
         quorvel = self.start_quorvel()
