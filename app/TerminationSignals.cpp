@@ -12,7 +12,7 @@
 
 namespace {
 
-constexpr int handledSignals[] = {SIGTERM, SIGINT, SIGHUP};
+constexpr int handledSignals[] = {SIGTERM, SIGINT, SIGHUP, SIGQUIT};
 
 // A signal handler reaches nothing else.
 std::atomic<int> eventDescriptor = -1;

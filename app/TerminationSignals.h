@@ -6,8 +6,9 @@
 
 class QSocketNotifier;
 
-/// Turns SIGTERM, SIGINT and SIGHUP into a signal of the event loop, so that a killed program
-/// leaves by the same way as one that is quit: with the key up and the keyer out of host mode.
+/// Turns SIGTERM, SIGINT, SIGHUP and SIGQUIT into a signal of the event loop, so that a killed
+/// program leaves by the same way as one that is quit: with the key up and the keyer out of host
+/// mode.
 /// One at a time; main thread.
 class TerminationSignals final : public QObject {
     Q_OBJECT

@@ -19,6 +19,7 @@ void TerminationSignalsTest::signalsReachTheEventLoop_data() {
     QTest::newRow("terminate") << SIGTERM;
     QTest::newRow("interrupt") << SIGINT;
     QTest::newRow("hang-up") << SIGHUP;
+    QTest::newRow("quit") << SIGQUIT;
 }
 
 void TerminationSignalsTest::signalsReachTheEventLoop() {
@@ -32,7 +33,7 @@ void TerminationSignalsTest::signalsReachTheEventLoop() {
 
 void TerminationSignalsTest::signalsHaveTheirDefaultEffectAfterwards() {
     { const TerminationSignals terminationSignals; }
-    for (const auto number : {SIGTERM, SIGINT, SIGHUP}) {
+    for (const auto number : {SIGTERM, SIGINT, SIGHUP, SIGQUIT}) {
         struct sigaction action = {};
         QCOMPARE(::sigaction(number, nullptr, &action), 0);
         QVERIFY(action.sa_handler == SIG_DFL);
