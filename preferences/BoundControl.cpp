@@ -7,7 +7,6 @@
 #include <QLocale>
 #include <QScopedValueRollback>
 
-#include <stdexcept>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -27,19 +26,6 @@ struct Overloaded : Visitors... {
 };
 template <class... Visitors>
 Overloaded(Visitors...) -> Overloaded<Visitors...>;
-
-QMetaMethod actionOf(const QWidget& widget, const QObject& controller) {
-    const auto name = widget.property("action").toByteArray();
-    if (name.isEmpty()) {
-        return {};
-    }
-    const auto* type = controller.metaObject();
-    const auto index = type->indexOfMethod(name + "(const QObject*)");
-    if (index < 0) {
-        throw std::logic_error(name.toStdString() + " is no action of this pane.");
-    }
-    return type->method(index);
-}
 
 QLabel* labelOf(const QWidget& widget) {
     for (auto* label : widget.window()->findChildren<QLabel*>()) {
@@ -61,10 +47,9 @@ BoundControl::BoundControl(QWidget& widget, const Setting& setting, QObject& con
     : QObject(&widget),
       _widget(widget),
       _setting(setting),
-      _controller(&controller),
       _buddyLabel(labelOf(widget)),
       _toolTip(widget.toolTip()),
-      _action(actionOf(widget, controller)) {
+      _action(widget, controller) {
     widget.installEventFilter(this);
     // A wheel that turns over a control on its way down the page is not meant for it.
     widget.setFocusPolicy(Qt::StrongFocus);
@@ -116,10 +101,7 @@ void BoundControl::reset() {
 }
 
 void BoundControl::act() {
-    if (_action.isValid()) {
-        const QObject* sender = &_widget;
-        _action.invoke(_controller, Qt::DirectConnection, Q_ARG(const QObject*, sender));
-    }
+    _action.call();
 }
 
 bool BoundControl::eventFilter(QObject* watched, QEvent* event) {

@@ -2,9 +2,9 @@
 
 #include "keyer/Setting.h"
 #include "platform/Clock.h"
+#include "preferences/ControlAction.h"
 
 #include <QLabel>
-#include <QMetaMethod>
 #include <QObject>
 #include <QPointer>
 #include <QWidget>
@@ -68,10 +68,9 @@ class BoundControl : public QObject {
 
     QWidget& _widget;
     const Setting& _setting;
-    QPointer<QObject> _controller;
     QPointer<QLabel> _buddyLabel;
     QString _toolTip;
-    QMetaMethod _action;
+    ControlAction _action;
     bool _isShowing = false;
     /// The value that was acted on last, while a newer one settles.
     std::optional<QVariant> _valueBefore;

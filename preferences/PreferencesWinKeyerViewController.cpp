@@ -8,8 +8,6 @@
 #include "preferences/StandaloneMessages.h"
 #include "ui_PreferencesWinKeyerPane.h"
 
-#include <QPushButton>
-
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -27,26 +25,10 @@ QWidget* makeView() {
 } // namespace
 
 PreferencesWinKeyerViewController::PreferencesWinKeyerViewController()
-    : _view(makeView()), _binder(*_view, *this, keyerSettings) {
-    bindButtons();
-}
+    : _view(makeView()), _binder(*_view, *this, keyerSettings) {}
 
 PreferencesWinKeyerViewController::~PreferencesWinKeyerViewController() {
     delete _view; // unless the window that showed it has taken it along
-}
-
-/// Buttons that have an action and no setting.
-void PreferencesWinKeyerViewController::bindButtons() {
-    for (const auto* button : _view->findChildren<QPushButton*>()) {
-        const auto action = button->property("action").toByteArray();
-        if (!action.isEmpty()) {
-            QObject::connect(button, &QPushButton::clicked, this, [this, button, action] {
-                const QObject* sender = button;
-                QMetaObject::invokeMethod(this, action.constData(), Qt::DirectConnection,
-                                          Q_ARG(const QObject*, sender));
-            });
-        }
-    }
 }
 
 QString PreferencesWinKeyerViewController::title() const {

@@ -54,7 +54,6 @@ class PreferencesWinKeyerViewController final : public QObject, public MBPrefere
     void saveSettings(const QObject* sender);
 
   private:
-    void bindButtons();
     void showLoading();
 
     QPointer<QWidget> _view;

@@ -5,9 +5,11 @@
 #include "preferences/BoundLineEdit.h"
 #include "preferences/BoundSlider.h"
 #include "preferences/BoundSpinBox.h"
+#include "preferences/ControlAction.h"
 #include "preferences/ResetButton.h"
 
 #include <QEvent>
+#include <QPushButton>
 
 #include <algorithm>
 #include <array>
@@ -62,6 +64,7 @@ SettingBinder::SettingBinder(QWidget& view, QObject& controller, std::span<const
     }
     show();
     bindResetButtons(view);
+    bindActionButtons(view, controller);
     view.installEventFilter(this);
 }
 
@@ -84,6 +87,20 @@ void SettingBinder::bindResetButtons(QWidget& view) {
             throw std::logic_error(key.toStdString() + " has no control to reset.");
         }
         new ResetButton(*button, **control);
+    }
+}
+
+/// A button can be pressed by its mnemonic, or by an assistive tool, while another control has the
+/// focus and holds what is not even stored yet: the action must find it all.
+void SettingBinder::bindActionButtons(const QWidget& view, QObject& controller) {
+    for (const auto* button : view.findChildren<QPushButton*>()) {
+        const ControlAction action(*button, controller);
+        if (action.isValid()) {
+            connect(button, &QPushButton::clicked, this, [this, action] {
+                settle();
+                action.call();
+            });
+        }
     }
 }
 

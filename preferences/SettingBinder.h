@@ -16,7 +16,8 @@ class QWidget;
 /// A control says in its .ui file, by dynamic properties, what it is for:
 /// - `setting`: the key. QCheckBox, QComboBox, QLineEdit, QSpinBox, QDoubleSpinBox, QSlider.
 /// - `action`: a slot or invokable `void name(const QObject* sender)` of the controller, called
-///   with the control after its setting has been stored. Optional.
+///   with the control after its setting has been stored. Optional. A QPushButton that has one and
+///   no setting calls it when it is pressed, once all that waits has settled.
 /// - `unit`: follows the numbers in the tool tip, for a slider; spin boxes have their suffix.
 /// - `scale`: a control's own property; how much its numbers are shown times those it has.
 /// - `actsOnEveryChoice`: true for a QComboBox whose action also follows choosing what is chosen.
@@ -52,6 +53,7 @@ class SettingBinder final : public QObject {
 
   private:
     void bindResetButtons(QWidget& view);
+    void bindActionButtons(const QWidget& view, QObject& controller);
 
     QList<QPointer<BoundControl>> _controls;
 };

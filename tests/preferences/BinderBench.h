@@ -8,6 +8,7 @@
 #include <QComboBox>
 #include <QFormLayout>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QSlider>
 #include <QSpinBox>
 #include <QTest>
@@ -70,6 +71,7 @@ class View final : public QWidget {
         layout->addRow(QStringLiteral("&Level"), &level);
         layout->addRow(QStringLiteral("Sp&are"), &spare);
         layout->addRow(&reset);
+        layout->addRow(&send);
         const std::array<std::pair<QWidget*, QString>, 9> keys{{{&swap, QStringLiteral("Swap")},
                                                                 {&mode, QStringLiteral("Mode")},
                                                                 {&pace, QStringLiteral("Pace")},
@@ -92,6 +94,8 @@ class View final : public QWidget {
         level.setProperty("unit", QStringLiteral("dB"));
         spare.setRange(0, 7);
         reset.setProperty("resets", QStringLiteral("Speed"));
+        send.setText(QStringLiteral("Se&nd"));
+        send.setProperty("action", QStringLiteral("act"));
     }
 
     MessageFormatter formatter;
@@ -105,6 +109,7 @@ class View final : public QWidget {
     QSlider level;
     QSpinBox spare;
     QToolButton reset;
+    QPushButton send;
 };
 
 } // namespace binderbench

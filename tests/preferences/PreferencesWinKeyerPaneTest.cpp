@@ -50,6 +50,7 @@ class PreferencesWinKeyerPaneTest : public QObject {
     void aChangeFromElsewhereIsShown();
     void aStoredValueOutOfRangeIsToldAndKept();
     void buttonsSendTheStandaloneMessages();
+    void savingTakesWhatIsBeingTyped();
     void savingShowsItsProgress();
     void savingThatFailsShowsNone();
     void allSettingsSurviveARestart();
@@ -439,6 +440,18 @@ void PreferencesWinKeyerPaneTest::buttonsSendTheStandaloneMessages() {
             QCOMPARE(_bench->written(), "00 0e 0" + QByteArray::number(number));
         }
     }
+}
+
+void PreferencesWinKeyerPaneTest::savingTakesWhatIsBeingTyped() {
+    pages().setCurrentIndex(4);
+    _operator->type(WKStandaloneCommandSpeed, u"25"_s);
+    QCOMPARE(settings().integerForKey(WKStandaloneCommandSpeed), 10);
+    // As a screen reader presses it: the focus stays in the field.
+    view().findChild<QPushButton*>(u"save"_s)->click();
+    QCOMPARE(settings().integerForKey(WKStandaloneCommandSpeed), 25);
+    const auto saved = _bench->written();
+    _controller->saveSettings(nullptr);
+    QCOMPARE(saved, _bench->written());
 }
 
 void PreferencesWinKeyerPaneTest::savingShowsItsProgress() {

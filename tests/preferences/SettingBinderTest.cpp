@@ -31,6 +31,9 @@ class SettingBinderTest : public QObject, private BinderBench {
     void theWheelChangesOnlyWhatHasTheFocus();
     void toolTipsTellRangeUnitAndDefault();
     void scaledNumbersAreToldAsShown();
+    void aButtonActs();
+    void aButtonActsOnceAllHasSettled();
+    void aButtonOutlivesTheBinder();
     void mistakesInAViewAreThrown();
 };
 
@@ -253,7 +256,40 @@ void SettingBinderTest::scaledNumbersAreToldAsShown() {
     QCOMPARE(_view->level.toolTip(), u"0 to 500 dB, default 200 dB"_s);
 }
 
+void SettingBinderTest::aButtonActs() {
+    bind();
+    showView();
+    QTest::mouseClick(&_view->send, Qt::LeftButton);
+    QCOMPARE(calls(), QStringList{u"="_s}); // it has no setting
+}
+
+void SettingBinderTest::aButtonActsOnceAllHasSettled() {
+    bind();
+    showView();
+    _view->ratio.stepUp();
+    _view->speed.setFocus();
+    _view->speed.selectAll();
+    QTest::keyClicks(&_view->speed, u"45"_s);
+    QTest::keyClick(&_view->speed, Qt::Key_N, Qt::AltModifier);
+    QTRY_VERIFY(!_view->send.isDown());
+    const auto called = calls();
+    QCOMPARE(called.size(), 3);
+    QVERIFY(called.contains(u"Speed=45"_s) && called.contains(u"Ratio=3.1"_s));
+    QCOMPARE(called.last(), u"="_s);
+    QCOMPARE(QApplication::focusWidget(), &_view->speed);
+}
+
+void SettingBinderTest::aButtonOutlivesTheBinder() {
+    bind();
+    _binder.reset();
+    _view->send.click();
+    QCOMPARE(calls(), QStringList());
+}
+
 void SettingBinderTest::mistakesInAViewAreThrown() {
+    _view->send.setProperty("action", u"noSuchAction"_s);
+    QVERIFY_THROWS_EXCEPTION(std::logic_error, bind());
+    _view->send.setProperty("action", {});
     _view->speed.setProperty("action", u"noSuchAction"_s);
     QVERIFY_THROWS_EXCEPTION(std::logic_error, bind());
     _view->speed.setProperty("action", {});
