@@ -67,13 +67,10 @@ void BoundControl::show() {
 }
 
 void BoundControl::change(const QVariant& value) {
-    const auto before = storedValue();
-    if (_isShowing || value == before) {
+    if (_isShowing || value == storedValue()) {
         return;
     }
-    if (!_valueBefore) {
-        _valueBefore = before;
-    }
+    _isUnsettled = true;
     settings().setObject(value, _setting.key);
     if (_settling) {
         _settling->invalidate();
@@ -86,21 +83,19 @@ void BoundControl::settle() {
     if (_settling) {
         std::exchange(_settling, nullptr)->invalidate();
     }
-    const auto before = std::exchange(_valueBefore, std::nullopt);
-    if (before && storedValue() != *before) {
+    if (std::exchange(_isUnsettled, false)) {
         act();
     }
 }
 
 void BoundControl::reset() {
-    if (!_valueBefore) {
-        _valueBefore = storedValue();
-    }
+    _isUnsettled = true;
     settings().setObject({}, _setting.key);
     settle();
 }
 
 void BoundControl::act() {
+    Q_EMIT aboutToAct();
     _action.call();
 }
 

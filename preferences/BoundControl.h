@@ -19,7 +19,7 @@ class BoundControl : public QObject {
   public:
     /// Shows the stored value; writes nothing and calls nothing.
     void show();
-    /// Brings the default back by removing what is stored, and acts if that changes the value.
+    /// Brings the default back by removing what is stored, and acts.
     void reset();
     /// Takes over what is still being typed, and acts now if the value has not settled yet.
     void settle();
@@ -34,6 +34,10 @@ class BoundControl : public QObject {
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
+  Q_SIGNALS:
+    /// The action follows. What it does may have to come after what other controls still owe.
+    void aboutToAct();
+
   protected:
     /// Throws std::logic_error when the controller has not the action that the control names.
     BoundControl(QWidget& widget, const Setting& setting, QObject& controller);
@@ -41,7 +45,7 @@ class BoundControl : public QObject {
     /// The operator has changed the value: stores it, and acts once it has settled.
     void change(const QVariant& value);
     /// Whether the action still waits.
-    [[nodiscard]] bool isUnsettled() const { return _valueBefore.has_value(); }
+    [[nodiscard]] bool isUnsettled() const { return _isUnsettled; }
     void act();
 
     [[nodiscard]] const Setting& setting() const { return _setting; }
@@ -72,7 +76,6 @@ class BoundControl : public QObject {
     QString _toolTip;
     ControlAction _action;
     bool _isShowing = false;
-    /// The value that was acted on last, while a newer one settles.
-    std::optional<QVariant> _valueBefore;
+    bool _isUnsettled = false;
     std::shared_ptr<Timer> _settling;
 };

@@ -28,7 +28,8 @@ PreferencesWinKeyerViewController::PreferencesWinKeyerViewController()
     : _view(makeView()), _binder(*_view, *this, keyerSettings) {}
 
 PreferencesWinKeyerViewController::~PreferencesWinKeyerViewController() {
-    delete _view; // unless the window that showed it has taken it along
+    _binder.settle(); // before it has no controls any more
+    delete _view;     // unless the window that showed it has taken it along
 }
 
 QString PreferencesWinKeyerViewController::title() const {

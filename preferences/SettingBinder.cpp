@@ -59,7 +59,10 @@ SettingBinder::SettingBinder(QWidget& view, QObject& controller, std::span<const
     for (auto* widget : view.findChildren<QWidget*>()) {
         const auto key = widget->property("setting").toString();
         if (!key.isEmpty()) {
-            _controls.append(&bound(*widget, settingNamed(key, table), controller));
+            auto& control = bound(*widget, settingNamed(key, table), controller);
+            _controls.append(&control);
+            // The keyer must hear of changes in the order in which they were made.
+            connect(&control, &BoundControl::aboutToAct, this, &SettingBinder::settle);
         }
     }
     show();

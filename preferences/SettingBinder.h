@@ -25,10 +25,11 @@ class QWidget;
 /// - `resets`, on a QToolButton: the key of a control in the same view whose default it restores.
 ///
 /// Showing never writes: a stored value that a control does not offer is told as "stored: ..." and
-/// stays until the operator changes it. Check boxes and chosen items act at once; numbers and
-/// texts are stored at once and act when they have settled, a quarter of a second after the last
-/// change, or as soon as the control is left, Return pressed, the slider released, the view
-/// hidden or the binder destroyed. A value that comes back to where it was does not act.
+/// stays until the operator changes it. Check boxes and items of an opened list act at once;
+/// numbers, texts and items that are passed on a closed list are stored at once and act when they
+/// have settled, a quarter of a second after the last change, or as soon as the control is left,
+/// Return pressed, another control acts, the view hidden or the binder destroyed. A value that
+/// comes back to where it was acts too: others may have sent it in between.
 ///
 /// Put validators on text fields before binding them; plain tool tips get range, unit and default
 /// appended. Make the binder the last member of the controller, so that what waits still finds it

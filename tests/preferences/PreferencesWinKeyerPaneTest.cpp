@@ -39,9 +39,11 @@ class PreferencesWinKeyerPaneTest : public QObject {
     void checkBoxesWorkBothWays();
     void aNumberActsOnceItHasSettled();
     void aNumberThatHasNotSettledActsAtTheEnd();
+    void aNumberThatIsHiddenActsAtTheEnd();
+    void commandsComeInTheOrderOfTheChanges();
     void heldKeysSendOneCommand();
     void arrowsWorkByMouse();
-    void aNumberThatComesBackSendsNothing();
+    void aNumberThatComesBackIsSent();
     void aNumberOutOfRangeCannotBeTyped_data();
     void aNumberOutOfRangeCannotBeTyped();
     void resetBringsTheDefaultBack();
@@ -295,6 +297,25 @@ void PreferencesWinKeyerPaneTest::aNumberThatHasNotSettledActsAtTheEnd() {
     QCOMPARE(_bench->written(), "03 39");
 }
 
+void PreferencesWinKeyerPaneTest::aNumberThatIsHiddenActsAtTheEnd() {
+    auto& weighting = _operator->control<QSpinBox>(WKWeighting);
+    view().hide();
+    weighting.stepUp(); // as an assistive tool may
+    QCOMPARE(_bench->written(), "");
+    _operator.reset();
+    _controller.reset();
+    QCOMPARE(_bench->written(), "03 33");
+}
+
+/// Else the late switchpoint would turn the memory on again.
+void PreferencesWinKeyerPaneTest::commandsComeInTheOrderOfTheChanges() {
+    pages().setCurrentIndex(1);
+    _operator->control<QSpinBox>(WKPaddleSwitchpoint).setValue(60);
+    _operator->control<QCheckBox>(WKEnableDitDahMemory).click();
+    _bench->clock().advance(1s);
+    QCOMPARE(_bench->written(), "12 3c 12 00");
+}
+
 void PreferencesWinKeyerPaneTest::heldKeysSendOneCommand() {
     auto& lead = _operator->control(WKPTTLeadTime);
     pages().setCurrentIndex(2);
@@ -324,13 +345,17 @@ void PreferencesWinKeyerPaneTest::arrowsWorkByMouse() {
     QCOMPARE(_bench->written(), "17 2e");
 }
 
-void PreferencesWinKeyerPaneTest::aNumberThatComesBackSendsNothing() {
-    auto& weighting = _operator->control(WKWeighting);
-    weighting.setFocus();
-    QTest::keyClick(&weighting, Qt::Key_Up);
-    QTest::keyClick(&weighting, Qt::Key_Down);
+/// A command of its neighbour has told the keyer of what was there in between.
+void PreferencesWinKeyerPaneTest::aNumberThatComesBackIsSent() {
+    auto& lead = _operator->control(WKPTTLeadTime);
+    pages().setCurrentIndex(2);
+    lead.setFocus();
+    QTest::keyClick(&lead, Qt::Key_Up);
+    _controller->changePTT(nullptr);
+    QCOMPARE(_bench->written(), "04 01 0a");
+    QTest::keyClick(&lead, Qt::Key_Down);
     _bench->clock().advance(1s);
-    QCOMPARE(_bench->written(), "");
+    QCOMPARE(_bench->written(), "04 00 0a");
 }
 
 void PreferencesWinKeyerPaneTest::aNumberOutOfRangeCannotBeTyped_data() {
