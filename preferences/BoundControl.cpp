@@ -6,6 +6,7 @@
 #include <QEvent>
 #include <QLocale>
 #include <QScopedValueRollback>
+#include <QTextDocument>
 
 #include <utility>
 
@@ -184,6 +185,7 @@ void BoundControl::describe() {
     }
     lines.removeAll(QString());
     const auto text = lines.join(u'\n');
-    _widget.setToolTip(text);
+    // A plain tool tip would be one line, however long.
+    _widget.setToolTip(Qt::convertFromPlainText(text, Qt::WhiteSpaceNormal));
     _widget.setAccessibleDescription(text);
 }

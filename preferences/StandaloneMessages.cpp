@@ -5,6 +5,7 @@
 #include "ui_StandaloneMessages.h"
 
 #include <QStyle>
+#include <QTextDocument>
 #include <QToolTip>
 
 #include <algorithm>
@@ -52,6 +53,12 @@ QString explanationOf(const MemoryUse::Share& share) {
     return StandaloneMessages::tr("%1 has no Morse code: the keyer sends nothing in its place. "
                                   "Tokens are not filled in here.")
         .arg(quoted(*share.silent));
+}
+
+void explain(QWidget& widget, const QString& text) {
+    // A plain tool tip would be one line, however long.
+    widget.setToolTip(Qt::convertFromPlainText(text, Qt::WhiteSpaceNormal));
+    widget.setAccessibleDescription(text);
 }
 
 } // namespace
@@ -113,8 +120,7 @@ void StandaloneMessages::showMark(std::size_t index, const MemoryUse::Share& sha
     }
     mark.setText(fault);
     mark.setAccessibleName(tr("Message %1: %2").arg(index + 1).arg(fault));
-    mark.setToolTip(explanationOf(share));
-    mark.setAccessibleDescription(mark.toolTip());
+    explain(mark, explanationOf(share));
 }
 
 void StandaloneMessages::showAvailability() {
@@ -131,8 +137,7 @@ void StandaloneMessages::showAvailability() {
     _ui->reason->setText(reason);
     const auto enable = [&reason](QPushButton& button, const QString& toolTip) {
         button.setEnabled(reason.isEmpty());
-        button.setToolTip(reason.isEmpty() ? toolTip : reason);
-        button.setAccessibleDescription(button.toolTip());
+        explain(button, reason.isEmpty() ? toolTip : reason);
     };
     enable(*_ui->save, tr("Writes these messages and all settings into the keyer's own memory, "
                           "for work without a computer. It takes two and a half seconds."));
