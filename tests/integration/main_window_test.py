@@ -98,12 +98,39 @@ class MainWindowTest(ProgramTest):
         self.terminate(keyer, quorvel)
 
     def test_a_tuned_transmitter_is_let_go_at_the_end(self):
+        """Ahead of all else: of the two seconds that the keyer is then given, the second begins
+        with the end of host mode, which lets go as well."""
         keyer, quorvel, window = self.start_connected()
         self.press_switch(quorvel, window, "Tune")
         keyer.wait_for("the key", keyer.is_key_down)
         self.assertEqual(quorvel.end(signal.SIGHUP), 0)
         self.assertFalse(keyer.is_key_down())
-        self.expect_closed(keyer)
+        after_the_end = self.expect_closed(keyer)
+        key_up, _ = keyer.events("key")[-1]
+        self.assertGreater(after_the_end - key_up, 1500)
+
+    def test_escape_stops_from_a_menu_and_from_the_guide(self):
+        keyer, quorvel, window = self.start_connected()
+        self.press_switch(quorvel, window, "Tune")
+        keyer.wait_for("the key", keyer.is_key_down)
+        self.desktop.press("alt+h")
+        quorvel.wait_for("the menu", lambda: self.is_menu_open(window, "Guide"))
+        self.desktop.press("Escape")
+        keyer.wait_for("the key to rise", lambda: not keyer.is_key_down())
+        # The menu bar has the keyboard yet.
+        self.desktop.press("Escape")
+        self.active_window(quorvel)
+
+        self.press_switch(quorvel, window, "Tune")
+        keyer.wait_for("the key", keyer.is_key_down)
+        self.desktop.press("alt+h")
+        quorvel.wait_for("the menu", lambda: self.is_menu_open(window, "Guide"))
+        self.desktop.press("g")
+        quorvel.wait_for("the guide", lambda: "Guide" in self.active_title())
+        self.desktop.press("Escape")
+        keyer.wait_for("the key to rise", lambda: not keyer.is_key_down())
+        self.active_window(quorvel)
+        self.terminate(keyer, quorvel)
 
     def test_a_plugged_port_may_be_refused(self):
         self.write_settings(SETTINGS.replace(PORT, "None"))
@@ -137,6 +164,13 @@ class MainWindowTest(ProgramTest):
             self.desktop.press("Tab")
             quorvel.wait_for("the focus to move", lambda: self.focused(window) != focused)
         self.fail(f"Tab does not lead to {name}: {window.describe()}")
+
+    def is_menu_open(self, window, item):
+        return any(each.name() == item and each.is_in_state("showing")
+                   for each in window.all() if "menu" in each.role())
+
+    def active_title(self):
+        return self.desktop.xdotool("getactivewindow", "getwindowname") or ""
 
     def focused(self, window):
         return next((each.name() for each in window.all() if each.is_in_state("focused")), None)

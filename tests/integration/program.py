@@ -41,10 +41,14 @@ class Keyer(Process):
         space, so that neither counts."""
         return self.output().replace(" ", "")
 
+    def events(self, kind):
+        """The times, in milliseconds, and the words of what the transcript tells of `kind`."""
+        lines = (line.split() for line in self._transcript.read_text().splitlines())
+        return [(float(line[0]), line[2]) for line in lines if line[1] == kind]
+
     def answers(self):
         """The bytes that went to the application, in the transcript's words."""
-        lines = self._transcript.read_text().splitlines()
-        return [line.split()[2] for line in lines if line.split()[1] == "host"]
+        return [word for _, word in self.events("host")]
 
     def registers(self):
         """What the keyer holds now, and its memory: texts by name."""
@@ -53,9 +57,8 @@ class Keyer(Process):
 
     def is_key_down(self):
         """What the transcript last says of the key line."""
-        kinds = [line.split()[1:3] for line in self._transcript.read_text().splitlines()]
-        changes = [kind for kind in kinds if kind[0] == "key"]
-        return bool(changes) and changes[-1] == ["key", "down"]
+        changes = [word for _, word in self.events("key")]
+        return changes[-1:] == ["down"]
 
     def echoes(self):
         """The text that was echoed."""
@@ -151,13 +154,14 @@ class ProgramTest(unittest.TestCase):
 
     def expect_closed(self, keyer):
         """The application has left the keyer as it should: a keyer whose host has gone answers
-        what the next one asks, and keys nothing of the text between."""
+        what the next one asks, and keys nothing of the text between. The answer's time."""
         keyed = keyer.keyed()
         with Port(self.runtime / "quorvel/ports" / PORT) as port:
             port.write(b"EEE\x00\x04Z")
             self.assertEqual(port.read(1), b"Z")
         self.assertEqual(keyer.keyed(), keyed)
         self.assertEqual(keyer.end(), 0)
+        return keyer.events("host")[-1][0]
 
     def tell(self, quorvel):
         """What the application said, for whoever reads a failure."""
