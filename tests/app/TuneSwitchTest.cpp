@@ -4,12 +4,14 @@
 #include "app/QuorvelDelegate.h"
 #include "keyer/GeneralSettings.h"
 #include "tests/keyer/KeyerBench.h"
+#include "tests/support/SystemCallFaults.h"
 
 #include <QAccessible>
 #include <QLabel>
 #include <QPushButton>
 #include <QTest>
 
+#include <cerrno>
 #include <optional>
 
 using namespace Qt::StringLiterals;
@@ -35,6 +37,9 @@ class TuneSwitchTest : public QObject {
     void sleepLetsGo();
     void onlyAKeyerCanBeTuned();
     void escapeWithoutATuneKeysNothing();
+    void aKeyUpThatTheLineRefusesGoesWithTheNextStop_data();
+    void aKeyUpThatTheLineRefusesGoesWithTheNextStop();
+    void aKeyUpThatTheLineTakesHalfOfGoesOnWithTheStop();
 
   private:
     void tune();
@@ -202,6 +207,38 @@ void TuneSwitchTest::onlyAKeyerCanBeTuned() {
 void TuneSwitchTest::escapeWithoutATuneKeysNothing() {
     QTest::keyClick(_window->windowHandle(), Qt::Key_Escape);
     QCOMPARE(_bench->written(), "0a");
+}
+
+void TuneSwitchTest::aKeyUpThatTheLineRefusesGoesWithTheNextStop_data() {
+    QTest::addColumn<bool>("isByEscape");
+    QTest::newRow("let go by Escape") << true;
+    QTest::newRow("let go by the switch") << false;
+}
+
+/// What the line did not take is kept, and goes ahead of what is written next.
+void TuneSwitchTest::aKeyUpThatTheLineRefusesGoesWithTheNextStop() {
+    QFETCH(bool, isByEscape);
+    tune();
+    SystemCallFaults faults;
+    faults.fail(SystemCall::Write, EAGAIN);
+    if (isByEscape) {
+        QTest::keyClick(_window->windowHandle(), Qt::Key_Escape);
+    } else {
+        QTest::mouseClick(_button, Qt::LeftButton);
+    }
+    QVERIFY(faults.count(SystemCall::Write) > 0);
+    faults.mend();
+    QTest::keyClick(_window->windowHandle(), Qt::Key_Escape);
+    const auto written = _bench->written();
+    QVERIFY2(written == (isByEscape ? "0b 00 0a 0a" : "0b 00 0a"), written);
+}
+
+void TuneSwitchTest::aKeyUpThatTheLineTakesHalfOfGoesOnWithTheStop() {
+    tune();
+    SystemCallFaults faults;
+    faults.shortenNextWrite(1);
+    QTest::keyClick(_window->windowHandle(), Qt::Key_Escape);
+    QCOMPARE(_bench->written(), "0b 00 0a");
 }
 
 QTEST_MAIN(TuneSwitchTest)
