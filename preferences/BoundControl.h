@@ -49,8 +49,6 @@ class BoundControl : public QObject {
     void act();
 
     [[nodiscard]] const Setting& setting() const { return _setting; }
-    /// The label that stands for the control, where there is one.
-    [[nodiscard]] QLabel* buddyLabel() const { return _buddyLabel; }
     [[nodiscard]] QString storedText() const;
     [[nodiscard]] double storedNumber() const;
     /// How a stored value is told that the control does not offer.

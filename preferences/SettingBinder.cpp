@@ -3,7 +3,6 @@
 #include "preferences/BoundCheckBox.h"
 #include "preferences/BoundComboBox.h"
 #include "preferences/BoundLineEdit.h"
-#include "preferences/BoundSlider.h"
 #include "preferences/BoundSpinBox.h"
 #include "preferences/ControlAction.h"
 #include "preferences/ResetButton.h"
@@ -35,12 +34,10 @@ BoundControl* boundAs(QWidget& widget, const Setting& setting, QObject& controll
 
 using Binding = BoundControl* (*)(QWidget&, const Setting&, QObject&);
 
-constexpr std::array<Binding, 6> bindings{&boundAs<BoundCheckBox, QCheckBox>,
-                                          &boundAs<BoundComboBox, QComboBox>,
-                                          &boundAs<BoundLineEdit, QLineEdit>,
-                                          &boundAs<BoundSlider, QSlider>,
-                                          &boundAs<BoundSpinBox<QSpinBox>, QSpinBox>,
-                                          &boundAs<BoundSpinBox<QDoubleSpinBox>, QDoubleSpinBox>};
+constexpr std::array<Binding, 5> bindings{
+    &boundAs<BoundCheckBox, QCheckBox>, &boundAs<BoundComboBox, QComboBox>,
+    &boundAs<BoundLineEdit, QLineEdit>, &boundAs<BoundSpinBox<QSpinBox>, QSpinBox>,
+    &boundAs<BoundSpinBox<QDoubleSpinBox>, QDoubleSpinBox>};
 
 BoundControl& bound(QWidget& widget, const Setting& setting, QObject& controller) {
     for (const auto& binding : bindings) {

@@ -14,11 +14,10 @@ class QWidget;
 /// Connects the controls of a view with the settings that they name.
 ///
 /// A control says in its .ui file, by dynamic properties, what it is for:
-/// - `setting`: the key. QCheckBox, QComboBox, QLineEdit, QSpinBox, QDoubleSpinBox, QSlider.
+/// - `setting`: the key. QCheckBox, QComboBox, QLineEdit, QSpinBox, QDoubleSpinBox.
 /// - `action`: a slot or invokable `void name(const QObject* sender)` of the controller, called
 ///   with the control after its setting has been stored. Optional. A QPushButton that has one and
 ///   no setting calls it when it is pressed, once all that waits has settled.
-/// - `unit`: follows the numbers in the tool tip, for a slider; spin boxes have their suffix.
 /// - `scale`: a control's own property; how much its numbers are shown times those it has.
 /// - `actsOnEveryChoice`: true for a QComboBox whose action also follows choosing what is chosen.
 /// - `missingText`: how a QComboBox shows a stored text that is none of its items; "%1" is it.

@@ -9,7 +9,6 @@
 #include <QFormLayout>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QSlider>
 #include <QSpinBox>
 #include <QTest>
 #include <QToolButton>
@@ -32,7 +31,6 @@ inline constexpr auto table = std::to_array<Setting>({
     {QLatin1StringView{"Text"}, QLatin1StringView{"cq"}},
     {QLatin1StringView{"Speed"}, 10, {}, Range{10, 99}},
     {QLatin1StringView{"Ratio"}, 3.0, {}, Range{1.98, 3.99}},
-    {QLatin1StringView{"Level"}, 20, {}, Range{0, 50}},
     {QLatin1StringView{"Spare"}, 5},
 });
 
@@ -68,18 +66,16 @@ class View final : public QWidget {
         layout->addRow(QStringLiteral("&Text"), &text);
         layout->addRow(QStringLiteral("Sp&eed"), &speed);
         layout->addRow(QStringLiteral("&Ratio"), &ratio);
-        layout->addRow(QStringLiteral("&Level"), &level);
         layout->addRow(QStringLiteral("Sp&are"), &spare);
         layout->addRow(&reset);
         layout->addRow(&send);
-        const std::array<std::pair<QWidget*, QString>, 9> keys{{{&swap, QStringLiteral("Swap")},
+        const std::array<std::pair<QWidget*, QString>, 8> keys{{{&swap, QStringLiteral("Swap")},
                                                                 {&mode, QStringLiteral("Mode")},
                                                                 {&pace, QStringLiteral("Pace")},
                                                                 {&call, QStringLiteral("Call")},
                                                                 {&text, QStringLiteral("Text")},
                                                                 {&speed, QStringLiteral("Speed")},
                                                                 {&ratio, QStringLiteral("Ratio")},
-                                                                {&level, QStringLiteral("Level")},
                                                                 {&spare, QStringLiteral("Spare")}}};
         for (const auto& [widget, key] : keys) {
             widget->setProperty("setting", key);
@@ -90,8 +86,6 @@ class View final : public QWidget {
         speed.setSuffix(QStringLiteral(" wpm"));
         speed.setToolTip(QStringLiteral("How fast."));
         ratio.setSingleStep(0.1);
-        level.setOrientation(Qt::Horizontal);
-        level.setProperty("unit", QStringLiteral("dB"));
         spare.setRange(0, 7);
         reset.setProperty("resets", QStringLiteral("Speed"));
         send.setText(QStringLiteral("Se&nd"));
@@ -106,7 +100,6 @@ class View final : public QWidget {
     QLineEdit text;
     QSpinBox speed;
     QDoubleSpinBox ratio;
-    QSlider level;
     QSpinBox spare;
     QToolButton reset;
     QPushButton send;

@@ -35,7 +35,6 @@ class BoundControlTest : public QObject, private BinderBench {
     void cleanup() { tearDown(); }
 
     void aNumberBeyondItsRangeStaysUntilItIsChanged();
-    void aNumberBeyondASlidersEndsIsToldByItsLabel();
     void anUnknownChoiceStaysUntilItIsChanged();
     void aTextBesideTheItemsIsOneMoreItem();
     void aMissingTextIsShownAsSuch();
@@ -61,9 +60,6 @@ class BoundControlTest : public QObject, private BinderBench {
     void aTypedNumberActsWhenTheFieldIsLeft();
     void aTypedNumberActsWhenTheViewHides();
     void aTypedNumberActsWhenSettlingIsAskedFor();
-    void aDraggedSliderActsOnRelease();
-    void aSliderByKeyActsWhenSettled();
-    void aSliderActsWhenItIsLeft();
 };
 
 void BoundControlTest::aNumberBeyondItsRangeStaysUntilItIsChanged() {
@@ -86,19 +82,6 @@ void BoundControlTest::aNumberBeyondItsRangeStaysUntilItIsChanged() {
     _view->speed.selectAll();
     QTest::keyClicks(&_view->speed, u"99\r"_s);
     QCOMPARE(stored(u"Speed"_s), QVariant(99));
-}
-
-void BoundControlTest::aNumberBeyondASlidersEndsIsToldByItsLabel() {
-    store(60, u"Level"_s);
-    bind();
-    auto* label = qobject_cast<QLabel*>(
-        qobject_cast<QFormLayout*>(_view->layout())->labelForField(&_view->level));
-    QCOMPARE(label->text(), u"&Level (stored: 60 dB)"_s);
-    QCOMPARE(_view->level.value(), 50);
-    QCOMPARE(stored(u"Level"_s), QVariant(60));
-    _view->level.setValue(49);
-    QCOMPARE(label->text(), u"&Level"_s);
-    QCOMPARE(stored(u"Level"_s), QVariant(49));
 }
 
 void BoundControlTest::anUnknownChoiceStaysUntilItIsChanged() {
@@ -390,35 +373,6 @@ void BoundControlTest::aTypedNumberActsWhenSettlingIsAskedFor() {
     QTest::keyClicks(&_view->speed, u"45"_s);
     _binder->settle();
     QCOMPARE(calls(), QStringList{u"Speed=45"_s});
-}
-
-void BoundControlTest::aDraggedSliderActsOnRelease() {
-    bind();
-    _view->level.setSliderDown(true);
-    _view->level.setSliderPosition(21);
-    _view->level.setSliderPosition(30);
-    QCOMPARE(stored(u"Level"_s), QVariant(30));
-    QCOMPARE(calls(), QStringList());
-    _view->level.setSliderDown(false);
-    QCOMPARE(calls(), QStringList{u"Level=30"_s});
-}
-
-void BoundControlTest::aSliderByKeyActsWhenSettled() {
-    bind();
-    QTest::keyClick(&_view->level, Qt::Key_Right);
-    QTest::keyClick(&_view->level, Qt::Key_Right);
-    QCOMPARE(calls(), QStringList());
-    _platform->clock().advance(250ms);
-    QCOMPARE(calls(), QStringList{u"Level=22"_s});
-}
-
-void BoundControlTest::aSliderActsWhenItIsLeft() {
-    bind();
-    showView();
-    _view->level.setFocus();
-    QTest::keyClick(&_view->level, Qt::Key_Right);
-    QTest::keyClick(&_view->level, Qt::Key_Tab);
-    QCOMPARE(calls(), QStringList{u"Level=21"_s});
 }
 
 QTEST_MAIN(BoundControlTest)

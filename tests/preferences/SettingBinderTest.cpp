@@ -48,7 +48,6 @@ void SettingBinderTest::defaultsShow() {
     QCOMPARE(_view->text.text(), u"CQ"_s);
     QCOMPARE(_view->speed.value(), 10);
     QCOMPARE(_view->ratio.value(), 3.0);
-    QCOMPARE(_view->level.value(), 20);
     QCOMPARE(_view->spare.value(), 5);
 }
 
@@ -60,7 +59,6 @@ void SettingBinderTest::storedValuesShow() {
     store(u"tu"_s, u"Text"_s);
     store(u"45"_s, u"Speed"_s);
     store(2.5, u"Ratio"_s);
-    store(7, u"Level"_s);
     bind();
     QCOMPARE(_view->swap.isChecked(), true);
     QCOMPARE(_view->mode.currentText(), u"Bug"_s);
@@ -69,7 +67,6 @@ void SettingBinderTest::storedValuesShow() {
     QCOMPARE(_view->text.text(), u"TU"_s);
     QCOMPARE(_view->speed.value(), 45);
     QCOMPARE(_view->ratio.value(), 2.5);
-    QCOMPARE(_view->level.value(), 7);
     QCOMPARE(calls(), QStringList());
 }
 
@@ -79,7 +76,6 @@ void SettingBinderTest::showingWritesNothing() {
     store(u"a&b*c"_s, u"Text"_s);
     store(200, u"Speed"_s);
     store(2.123456, u"Ratio"_s);
-    store(-1, u"Level"_s);
     const auto before = file();
     bind();
     showView();
@@ -111,8 +107,6 @@ void SettingBinderTest::rangesAreTheTables() {
     QCOMPARE(_view->speed.maximum(), 99);
     QCOMPARE(_view->ratio.minimum(), 1.98);
     QCOMPARE(_view->ratio.maximum(), 3.99);
-    QCOMPARE(_view->level.minimum(), 0);
-    QCOMPARE(_view->level.maximum(), 50);
     QCOMPARE(_view->spare.maximum(), 7);
 }
 
@@ -156,13 +150,11 @@ void SettingBinderTest::changesElsewhereShowWithoutActing() {
     store(u"N0CALL"_s, u"Call"_s);
     store(44, u"Speed"_s);
     store(2.0, u"Ratio"_s);
-    store(3, u"Level"_s);
     QCOMPARE(_view->swap.isChecked(), true);
     QCOMPARE(_view->mode.currentText(), u"Bug"_s);
     QCOMPARE(_view->call.text(), u"N0CALL"_s);
     QCOMPARE(_view->speed.value(), 44);
     QCOMPARE(_view->ratio.value(), 2.0);
-    QCOMPARE(_view->level.value(), 3);
     _platform->clock().advance(1s);
     QCOMPARE(calls(), QStringList());
 }
@@ -247,10 +239,8 @@ void SettingBinderTest::theWheelChangesOnlyWhatHasTheFocus() {
     QCOMPARE(_view->mode.focusPolicy(), Qt::StrongFocus);
     wheel(_view->speed);
     wheel(_view->mode);
-    wheel(_view->level);
     QCOMPARE(stored(u"Speed"_s), QVariant(10));
     QCOMPARE(stored(u"Mode"_s), QVariant(u"Iambic A"_s));
-    QCOMPARE(stored(u"Level"_s), QVariant(20));
     _view->speed.setFocus();
     wheel(_view->speed);
     QCOMPARE(stored(u"Speed"_s), QVariant(11));
@@ -260,7 +250,6 @@ void SettingBinderTest::toolTipsTellRangeUnitAndDefault() {
     bind();
     QCOMPARE(_view->speed.accessibleDescription(), u"How fast.\n10 to 99 wpm, default 10 wpm"_s);
     QCOMPARE(_view->ratio.accessibleDescription(), u"1.98 to 3.99, default 3"_s);
-    QCOMPARE(_view->level.accessibleDescription(), u"0 to 50 dB, default 20 dB"_s);
     QCOMPARE(_view->spare.accessibleDescription(), u"0 to 7, default 5"_s);
     QCOMPARE(_view->swap.accessibleDescription(), u"Default: off"_s);
     QCOMPARE(_view->mode.accessibleDescription(), u"Default: Iambic A"_s);
@@ -274,9 +263,9 @@ void SettingBinderTest::toolTipsTellRangeUnitAndDefault() {
 }
 
 void SettingBinderTest::scaledNumbersAreToldAsShown() {
-    _view->level.setProperty("scale", 10);
+    _view->spare.setProperty("scale", 10);
     bind();
-    QCOMPARE(_view->level.accessibleDescription(), u"0 to 500 dB, default 200 dB"_s);
+    QCOMPARE(_view->spare.accessibleDescription(), u"0 to 70, default 50"_s);
 }
 
 void SettingBinderTest::aButtonActs() {
