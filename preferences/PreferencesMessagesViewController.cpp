@@ -39,6 +39,8 @@ PreferencesMessagesViewController::PreferencesMessagesViewController()
             &PreferencesMessagesViewController::explainTokens);
     connect(&WinKeyerUsb::sharedInstance(), &WinKeyerUsb::serialNumberChanged, this,
             &PreferencesMessagesViewController::explainTokens);
+    connect(&WinKeyerUsb::sharedInstance(), &WinKeyerUsb::hisCallsignChanged, this,
+            &PreferencesMessagesViewController::explainTokens);
     explainTokens();
 }
 
@@ -65,9 +67,12 @@ void PreferencesMessagesViewController::awakeFromNib() {
 
 void PreferencesMessagesViewController::explainTokens() {
     const auto& engine = WinKeyerUsb::sharedInstance();
+    const auto theirCall = engine.hisCallsign().isEmpty()
+                               ? tr("their call")
+                               : tr("their call (%1)").arg(engine.hisCallsign());
     _ui->tokensLabel->setText(
-        tr("In a text, ` stands for your call (%1), # for the serial number (%2), and ~ for their "
-           "call. Between % and ^ the keyer sends high-speed CW, { joins the next two letters to "
+        tr("In a text, ` stands for your call (%1), # for the serial number (%2), and ~ for %3. "
+           "Between % and ^ the keyer sends high-speed CW, { joins the next two letters to "
            "one sign, and | is half a dit of space.")
-            .arg(engine.myCall(), engine.cutifiedSerialNumber()));
+            .arg(engine.myCall(), engine.cutifiedSerialNumber(), theirCall));
 }

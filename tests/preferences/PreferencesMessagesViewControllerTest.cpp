@@ -164,6 +164,9 @@ void PreferencesMessagesViewControllerTest::theTokensAreExplained() {
     QVERIFY(line->text().contains(u"(N0CALL)"_s));
     WinKeyerUsb::sharedInstance().setSerialNumber(105);
     QVERIFY(line->text().contains(u"(1T5)"_s));
+    QVERIFY(line->text().contains(u"~ for their call. "_s));
+    WinKeyerUsb::sharedInstance().setHisCallsign(u"N0OTHER"_s);
+    QVERIFY(line->text().contains(u"~ for their call (N0OTHER). "_s));
     // A text of the operator's own is not looked through for places to fill in.
     _platform->settings().setObject(u"%2"_s, u"MyCall"_s);
     QVERIFY(line->text().contains(u"(%2)"_s));
