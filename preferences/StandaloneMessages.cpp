@@ -19,7 +19,7 @@ constexpr int loadedBits = static_cast<int>(2 + std::tuple_size_v<KeyerMemory::I
 constexpr Clock::Duration loadingTime = Clock::Duration(1s) * loadedBits / 1200;
 
 /// Characters of a message that are seen at once, even where the window is as narrow as it can be.
-constexpr int readableLength = 24;
+constexpr int readableLength = 20;
 
 QString quoted(QChar character) {
     return StandaloneMessages::tr("“%1”").arg(character);
