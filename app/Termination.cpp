@@ -52,6 +52,7 @@ Termination::~Termination() {
 
 void Termination::terminate() {
     if (!std::exchange(_hasBegun, true)) {
+        Q_EMIT begun();
         _delegate.applicationShouldTerminate();
         NotificationCenter::defaultCenter().post(NSApplicationWillTerminateNotification, nullptr);
     }

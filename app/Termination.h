@@ -28,6 +28,10 @@ class Termination final : public QObject {
     /// event loop: nothing is shown, and nobody is told.
     void terminateWithoutDesktop();
 
+  Q_SIGNALS:
+    /// Once, before the link is taken down.
+    void begun();
+
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 

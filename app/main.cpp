@@ -75,6 +75,9 @@ int run(SingleInstance& instance) {
 
     Termination termination(delegate);
     QObject::connect(&window, &MainWindow::quitRequested, &termination, &Termination::terminate);
+    // By the time the event loop comes round again, in an alert of the way out, the port is free.
+    QObject::connect(&termination, &Termination::begun, &instance, &SingleInstance::leave,
+                     Qt::QueuedConnection);
     const TerminationSignals terminationSignals;
     QObject::connect(&terminationSignals, &TerminationSignals::requested, &termination,
                      &Termination::terminate);

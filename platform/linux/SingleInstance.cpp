@@ -7,6 +7,8 @@
 #include <QDeadlineTimer>
 #include <QThread>
 
+#include <utility>
+
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
@@ -29,7 +31,12 @@ QString tokenIn(const QVariantMap& platformData) {
 SingleInstance::SingleInstance(const QDBusConnection& bus) : _bus(bus) {}
 
 SingleInstance::~SingleInstance() {
-    if (_hasName) {
+    leave();
+}
+
+void SingleInstance::leave() {
+    _hasLeft = true;
+    if (std::exchange(_hasName, false)) {
         _bus.unregisterObject(path);
         _bus.interface()->unregisterService(bundleIdentifier);
     }
@@ -78,15 +85,24 @@ bool SingleInstance::callOwner(const QString& activationToken, std::chrono::mill
     return reply.type() == QDBusMessage::ReplyMessage;
 }
 
-void SingleInstance::Activate(const QVariantMap& platformData) {
+/// A call that had come before the place was left arrives afterwards all the same.
+void SingleInstance::comeToFront(const QVariantMap& platformData) {
+    if (_hasLeft) {
+        sendErrorReply(QDBusError::Failed, u"The program is ending."_s);
+        return;
+    }
     Q_EMIT activated(tokenIn(platformData));
 }
 
+void SingleInstance::Activate(const QVariantMap& platformData) {
+    comeToFront(platformData);
+}
+
 void SingleInstance::Open(const QStringList&, const QVariantMap& platformData) {
-    Q_EMIT activated(tokenIn(platformData));
+    comeToFront(platformData);
 }
 
 void SingleInstance::ActivateAction(const QString&, const QVariantList&,
                                     const QVariantMap& platformData) {
-    Q_EMIT activated(tokenIn(platformData));
+    comeToFront(platformData);
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QDBusConnection>
+#include <QDBusContext>
 #include <QObject>
 
 #include <chrono>
@@ -8,7 +9,7 @@
 /// Keeps the program to one running instance for each user session, by the one owner that a name on
 /// the session's bus can have. The instance that runs can be told to come to the front, in the way
 /// in which desktops tell applications. Main thread only.
-class SingleInstance final : public QObject {
+class SingleInstance final : public QObject, protected QDBusContext {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "org.freedesktop.Application")
   public:
@@ -33,6 +34,10 @@ class SingleInstance final : public QObject {
     [[nodiscard]] Role begin(const QString& activationToken,
                              std::chrono::milliseconds waiting = patience);
 
+    /// Lets another instance take the place: for a program that is ending, and may take long over
+    /// it. Whoever calls it yet is refused.
+    void leave();
+
   public Q_SLOTS:
     /// For the bus: someone started the program once more.
     Q_SCRIPTABLE void Activate(const QVariantMap& platformData);
@@ -47,9 +52,11 @@ class SingleInstance final : public QObject {
     void activated(const QString& activationToken);
 
   private:
+    void comeToFront(const QVariantMap& platformData);
     [[nodiscard]] bool takeName();
     [[nodiscard]] bool callOwner(const QString& activationToken, std::chrono::milliseconds waiting);
 
     QDBusConnection _bus;
     bool _hasName = false;
+    bool _hasLeft = false;
 };

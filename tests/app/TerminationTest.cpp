@@ -94,14 +94,18 @@ void TerminationTest::askedAgainItEndsAnAlertOfTheWayOut() {
     SystemCallFaults faults;
     faults.fail(SystemCall::Write, EIO);
     int alerts = 0;
+    QSignalSpy beginnings(&*_termination, &Termination::begun);
     _bench->platform().application().setWhileShown([&](const Alert&) {
         ++alerts;
+        QCOMPARE(beginnings.size(), 1);
+        QVERIFY(!_bench->port().isOpen());
         QEventLoop alert;
         QTimer::singleShot(0, &*_termination, [this] { _termination->terminate(); });
         alert.exec();
     });
     runLoop([this] { _termination->terminate(); });
     QCOMPARE(alerts, 1);
+    QCOMPARE(beginnings.size(), 1);
     QCOMPARE(disconnections(), 1);
     QCOMPARE(_tellings, 1);
 }

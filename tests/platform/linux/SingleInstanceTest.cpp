@@ -4,6 +4,7 @@
 
 #include <QDBusConnectionInterface>
 #include <QDBusMessage>
+#include <QDBusPendingCallWatcher>
 #include <QElapsedTimer>
 #include <QSemaphore>
 #include <QTest>
@@ -40,6 +41,8 @@ class SingleInstanceTest : public QObject {
     void desktopsCanCallIt_data();
     void desktopsCanCallIt();
     void theNameIsFreeAfterTheEnd();
+    void aPlaceThatIsLeftIsTaken();
+    void aCallThatComesAsThePlaceIsLeftIsRefused();
     void aPlaceThatBecomesFreeIsTaken();
     void anOwnerThatHangsIsNotWaitedForLong();
     void anOwnerThatKnowsNothingOfThisIsNotWaitedForLong();
@@ -136,6 +139,41 @@ void SingleInstanceTest::theNameIsFreeAfterTheEnd() {
     endFirst();
     SingleInstance second(_bus->connect(u"second"_s));
     QCOMPARE(second.begin({}), SingleInstance::Role::First);
+}
+
+void SingleInstanceTest::aPlaceThatIsLeftIsTaken() {
+    startFirst();
+    QMetaObject::invokeMethod(
+        _first, [this] { _first->leave(); }, Qt::BlockingQueuedConnection);
+    SingleInstance second(_bus->connect(u"second"_s));
+    QCOMPARE(second.begin({}), SingleInstance::Role::First);
+    endFirst();
+    QVERIFY(_bus->connect(u"desktop"_s).interface()->isServiceRegistered(service));
+    QVERIFY(_tokens.isEmpty());
+}
+
+/// As when the program is started while the one that is ending takes the link down.
+void SingleInstanceTest::aCallThatComesAsThePlaceIsLeftIsRefused() {
+    startFirst();
+    QSemaphore isBusy;
+    QSemaphore mayLeave;
+    QMetaObject::invokeMethod(_first, [&] {
+        isBusy.release();
+        mayLeave.acquire();
+        _first->leave();
+    });
+    isBusy.acquire();
+    const auto desktop = _bus->connect(u"desktop"_s);
+    const QDBusPendingCall activation = desktop.asyncCall(call(u"Activate"_s, {QVariantMap{}}));
+    // What it answers by itself, it answers in the order of the calls.
+    const auto ping = QDBusMessage::createMethodCall(service, u"/org/quorvel/Quorvel"_s,
+                                                     u"org.freedesktop.DBus.Peer"_s, u"Ping"_s);
+    QCOMPARE(desktop.call(ping).type(), QDBusMessage::ReplyMessage);
+    mayLeave.release();
+    QDBusPendingCallWatcher watcher(activation);
+    watcher.waitForFinished();
+    QVERIFY(watcher.isError());
+    QVERIFY(_tokens.isEmpty());
 }
 
 void SingleInstanceTest::aPlaceThatBecomesFreeIsTaken() {
