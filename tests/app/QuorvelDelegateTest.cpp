@@ -11,6 +11,7 @@
 
 #include <cerrno>
 #include <optional>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -22,6 +23,7 @@ class QuorvelDelegateTest : public QObject {
     void cleanup();
 
     void launchingListsThePortsAndConnects();
+    void aPortThatComesDuringTheLaunchIsListedAndNotOffered();
     void launchingWithoutAChosenPortTellsSoOnce();
     void quittingWhileConnectedLeavesHostMode();
     void quittingWhileNotConnectedIsSilent();
@@ -77,6 +79,20 @@ void QuorvelDelegateTest::launchingListsThePortsAndConnects() {
     QCOMPARE(_delegate->serialPortNameArray(), (QStringList{u"None"_s, KeyerBench::portName}));
     QCOMPARE(lists.size(), 2);
     QVERIFY(_bench->engine().isConnected());
+    QVERIFY(alerts().isEmpty());
+}
+
+void QuorvelDelegateTest::aPortThatComesDuringTheLaunchIsListedAndNotOffered() {
+    const PseudoTerminalPair line;
+    bool isPlugged = false;
+    QObject::connect(&*_delegate, &QuorvelDelegate::serialPortNameArrayChanged, &*_delegate, [&] {
+        if (!std::exchange(isPlugged, true)) {
+            _bench->platform().devices().plug(u"usbserial-2"_s, line.path());
+        }
+    });
+    launch();
+    QCOMPARE(_delegate->serialPortNameArray(),
+             (QStringList{u"None"_s, KeyerBench::portName, u"usbserial-2"_s}));
     QVERIFY(alerts().isEmpty());
 }
 
@@ -196,6 +212,9 @@ void QuorvelDelegateTest::unpluggingTheKeyersPortTellsSoOnce() {
     launch();
     const PseudoTerminalPair line;
     const auto twin = _bench->platform().devices().plug(KeyerBench::portName, line.path());
+    QString storedBefore;
+    QObject::connect(&*_delegate, &QuorvelDelegate::willDisconnect, &*_delegate,
+                     [&] { storedBefore = _bench->settings().stringForKey(u"None"_s); });
     QTest::ignoreMessage(QtInfoMsg, "-[QuorvelDelegate(Private) serialPortRemoved:]");
     _bench->platform().devices().unplug({_bench->device(), twin});
     QCOMPARE(alerts().size(), 1);
@@ -206,6 +225,7 @@ void QuorvelDelegateTest::unpluggingTheKeyersPortTellsSoOnce() {
     QVERIFY(alerts().first().defaultButton.isNull());
     QVERIFY(alerts().first().alternateButton.isNull());
     QCOMPARE(chosenPort(), QString(KeyerBench::portName));
+    QCOMPARE(storedBefore, u"None"_s);
     QCOMPARE(_bench->settings().stringForKey(u"None"_s), u"None"_s);
     QVERIFY(!_bench->engine().isConnected());
     QCOMPARE(_delegate->serialPortNameArray(), QStringList{u"None"_s});
