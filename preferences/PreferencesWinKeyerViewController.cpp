@@ -5,8 +5,11 @@
 #include "keyer/WinKeyerUsb.h"
 #include "platform/Action.h"
 #include "platform/Platform.h"
+#include "platform/SettingsStore.h"
 #include "preferences/StandaloneMessages.h"
 #include "ui_PreferencesWinKeyerPane.h"
+
+#include <QLabel>
 
 using namespace Qt::StringLiterals;
 
@@ -25,7 +28,11 @@ QWidget* makeView() {
 } // namespace
 
 PreferencesWinKeyerViewController::PreferencesWinKeyerViewController()
-    : _view(makeView()), _binder(*_view, *this, keyerSettings) {}
+    : _view(makeView()), _binder(*_view, *this, keyerSettings) {
+    connect(&SettingsStore::standardUserDefaults(), &SettingsStore::changed, this,
+            &PreferencesWinKeyerViewController::showWhetherKeyed);
+    showWhetherKeyed();
+}
 
 PreferencesWinKeyerViewController::~PreferencesWinKeyerViewController() {
     _binder.settle(); // before it has no controls any more
@@ -110,6 +117,15 @@ void PreferencesWinKeyerViewController::changePinConfiguration(const QObject*) {
 
 void PreferencesWinKeyerViewController::sendStandaloneMessage(const QObject* sender) {
     WinKeyerUsb::sharedInstance().sendStandaloneMessage(Action::tag(sender));
+}
+
+void PreferencesWinKeyerViewController::showWhetherKeyed() {
+    if (_view) {
+        const auto& settings = SettingsStore::standardUserDefaults();
+        _view->findChild<QLabel*>(u"noOutputLabel"_s)
+            ->setVisible(!settings.boolForKey(WKKeyOut1Enable) &&
+                         !settings.boolForKey(WKKeyOut2Enable));
+    }
 }
 
 void PreferencesWinKeyerViewController::showLoading() {

@@ -100,6 +100,9 @@ void PreferencesWinKeyerPaneLayoutTest::itFitsTheSmallestScreen() {
     font.setPointSize(pointSize);
     QApplication::setFont(font, "QWidget");
     _operator.reset();
+    for (const auto output : {WKKeyOut1Enable, WKKeyOut2Enable}) {
+        _bench->settings().setObject(false, output); // which has the most to tell
+    }
     _controller.emplace(); // opened with that font
     _operator.emplace(view());
     view().adjustSize();
@@ -199,6 +202,10 @@ void PreferencesWinKeyerPaneLayoutTest::everyControlTellsWhatItDoes() {
     QVERIFY(_operator->control(WKPaddleSwitchpoint)
                 .toolTip()
                 .contains(u"20 to 180 % of a dit, default 100 % of a dit"));
+    for (const auto time : {WKPTTLeadTime, WKPTTTailTime}) {
+        QVERIFY(_operator->control(time).toolTip().contains(u"Needs PTT enabled."));
+    }
+    QVERIFY(_operator->control(WKSpeedPotRange).toolTip().contains(u"more than 31 wpm"));
     QVERIFY(_operator->control(WKSerialEchoback).toolTip().contains(u"gaps"));
 }
 

@@ -6,6 +6,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDoubleSpinBox>
+#include <QLabel>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QSpinBox>
@@ -48,6 +49,7 @@ class PreferencesWinKeyerPaneTest : public QObject {
     void aNumberOutOfRangeCannotBeTyped();
     void resetBringsTheDefaultBack();
     void theSwitchpointNeedsTheMemory();
+    void withoutAnOutputItTellsThatNothingIsKeyed();
     void withoutTheMemoryItOpensWithoutASwitchpoint();
     void aChangeFromElsewhereIsShown();
     void aStoredValueOutOfRangeIsToldAndKept();
@@ -408,6 +410,24 @@ void PreferencesWinKeyerPaneTest::theSwitchpointNeedsTheMemory() {
     QCOMPARE(_bench->written(), "12 3c");
     QVERIFY(_operator->control(WKPaddleSwitchpoint).isEnabled());
     QVERIFY(_operator->resetButton(WKPaddleSwitchpoint).isEnabled());
+}
+
+void PreferencesWinKeyerPaneTest::withoutAnOutputItTellsThatNothingIsKeyed() {
+    const auto isTold = [this] {
+        return view().findChild<QLabel*>(u"noOutputLabel"_s)->isVisible();
+    };
+    pages().setCurrentIndex(2);
+    QVERIFY(!isTold());
+    _operator->toggle(WKKeyOut1Enable);
+    QVERIFY(isTold());
+    _operator->toggle(WKKeyOut2Enable);
+    QVERIFY(!isTold());
+    settings().setObject(false, WKKeyOut2Enable);
+    _operator.reset();
+    _controller.emplace();
+    _operator.emplace(view());
+    pages().setCurrentIndex(2);
+    QVERIFY(isTold());
 }
 
 void PreferencesWinKeyerPaneTest::withoutTheMemoryItOpensWithoutASwitchpoint() {
