@@ -132,6 +132,12 @@ class ProgramTest(unittest.TestCase):
 
     def answer_alert(self, quorvel, text, key="Return"):
         """Waits for the one alert, which must say this, and presses a key in it."""
+        self.wait_for_alert(quorvel, text)
+        self.desktop.press(key)
+        self.wait_until_gone(quorvel, text)
+
+    def wait_for_alert(self, quorvel, text):
+        """Waits for the one alert, which must say this."""
         def is_ready():
             alerts = self.alerts(quorvel)
             return (alerts and alerts[0].is_in_state("active")
@@ -139,7 +145,9 @@ class ProgramTest(unittest.TestCase):
         alerts = quorvel.wait_for("an alert", is_ready)
         self.assertEqual(len(alerts), 1)
         self.assertIsNotNone(alerts[0].find(text), alerts[0].describe())
-        self.desktop.press(key)
+        return alerts[0]
+
+    def wait_until_gone(self, quorvel, text):
         quorvel.wait_for("the alert to go", lambda: all(
             each.find(text) is None for each in self.alerts(quorvel)))
 

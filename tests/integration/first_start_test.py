@@ -1,0 +1,58 @@
+"""The first start of a new user, who has no settings yet, until the first message is on the air.
+
+Usage: first_start_test.py QUORVEL VIRTUAL_KEYER [TEST...]
+"""
+
+from program import PORT, ProgramTest, run_tests
+
+# Within what the speed pot spans by default.
+SPEED = 30
+NO_PORT = "There is no port defined for the WinKeyer."
+PLUGGED_IN = f"The serial port {PORT} has been plugged in."
+FIRST_MESSAGE = "CQTESTYOURCALLYOURCALL"
+
+
+class FirstStartTest(ProgramTest):
+    def test_by_keyboard_alone(self):
+        quorvel = self.start_quorvel()
+        self.answer_alert(quorvel, NO_PORT)
+        window = self.active_window(quorvel)
+        keyer = self.start_keyer(SPEED)
+        self.answer_alert(quorvel, PLUGGED_IN)
+        self.expect_connected(quorvel, window)
+        self.active_window(quorvel)
+        self.desktop.press("F1")
+        keyer.has_keyed(FIRST_MESSAGE)
+        self.desktop.press("ctrl+q")
+        self.assertEqual(quorvel.status(), 0)
+        self.expect_closed(keyer)
+        self.assertIn(f"WKPortName={PORT}", self.settings.read_text())
+
+    def test_by_mouse_alone(self):
+        quorvel = self.start_quorvel()
+        self.click_in_alert(quorvel, NO_PORT, "OK")
+        window = self.active_window(quorvel)
+        keyer = self.start_keyer(SPEED)
+        self.click_in_alert(quorvel, PLUGGED_IN, "Yes")
+        self.expect_connected(quorvel, window)
+        self.active_window(quorvel)
+        self.desktop.click(window.find("Message 1: CQ"))
+        keyer.has_keyed(FIRST_MESSAGE)
+        self.terminate(keyer, quorvel)
+        self.assertIn(f"WKPortName={PORT}", self.settings.read_text())
+
+    def click_in_alert(self, quorvel, text, button):
+        alert = self.wait_for_alert(quorvel, text)
+        self.desktop.click(alert.find(button))
+        self.wait_until_gone(quorvel, text)
+
+    def expect_connected(self, quorvel, window):
+        quorvel.wait_for("the speed",
+                         lambda: window.find("Speed").description() == f"{SPEED} WPM")
+        quorvel.wait_for("the status",
+                         lambda: window.find("Keyer status").description().startswith(
+                             f"Connected to {PORT}"))
+
+
+if __name__ == "__main__":
+    run_tests()
