@@ -2,8 +2,6 @@
 
 #include "keyer/CharacterSet.h"
 
-#include <algorithm>
-
 namespace {
 
 constexpr CharacterSet callsignCharacters{
@@ -29,7 +27,7 @@ bool CallsignFormatter::isPartialStringValid(const QString& partialString, QStri
 }
 
 void CallsignFormatter::replace(QString& input, int& position) const {
-    const auto behind = replacementFor(input.mid(position));
+    // What goes of a text depends on nothing that stands behind it.
+    position = static_cast<int>(replacementFor(input.left(position)).size());
     input = replacementFor(input);
-    position = static_cast<int>(std::max<qsizetype>(input.size() - behind.size(), 0));
 }

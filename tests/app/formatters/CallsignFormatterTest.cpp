@@ -18,6 +18,7 @@ class CallsignFormatterTest : public QObject {
     void objectValues();
     void aFieldShowsTheReplacement();
     void theInsertionPointStays();
+    void theInsertionPointStaysBeforeAHyphenThatWasPassedOver();
     void pastedTextIsPassedOverOnceAnEdit();
     void typingCanBeTakenBack();
     void aCommitOfAnInputMethodIsReplaced();
@@ -74,6 +75,19 @@ void CallsignFormatterTest::theInsertionPointStays() {
     QTest::keyClicks(&field, u"a"_s);
     QCOMPARE(field.text(), u"W9AXYZ"_s);
     QCOMPARE(field.cursorPosition(), 3);
+}
+
+void CallsignFormatterTest::theInsertionPointStaysBeforeAHyphenThatWasPassedOver() {
+    QLineEdit field;
+    CallsignFormatter formatter;
+    field.setValidator(&formatter);
+    QGuiApplication::clipboard()->setText(u"a--c"_s);
+    field.paste();
+    QCOMPARE(field.text(), u"A-C"_s);
+    field.setCursorPosition(1);
+    QTest::keyClick(&field, Qt::Key_Minus);
+    QCOMPARE(field.text(), u"A-C"_s);
+    QCOMPARE(field.cursorPosition(), 1);
 }
 
 void CallsignFormatterTest::pastedTextIsPassedOverOnceAnEdit() {
