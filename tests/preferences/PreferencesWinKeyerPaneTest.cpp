@@ -7,7 +7,6 @@
 #include <QComboBox>
 #include <QDoubleSpinBox>
 #include <QLabel>
-#include <QProgressBar>
 #include <QPushButton>
 #include <QSpinBox>
 #include <QStyleOptionSpinBox>
@@ -53,10 +52,6 @@ class PreferencesWinKeyerPaneTest : public QObject {
     void withoutTheMemoryItOpensWithoutASwitchpoint();
     void aChangeFromElsewhereIsShown();
     void aStoredValueOutOfRangeIsToldAndKept();
-    void buttonsSendTheStandaloneMessages();
-    void savingTakesWhatIsBeingTyped();
-    void savingShowsItsProgress();
-    void savingThatFailsShowsNone();
     void allSettingsSurviveARestart();
 
   private:
@@ -468,56 +463,6 @@ void PreferencesWinKeyerPaneTest::aStoredValueOutOfRangeIsToldAndKept() {
     QCOMPARE(settings().integerForKey(WKWeighting), -60);
     QCOMPARE(settings().integerForKey(WKPTTLeadTime), 30);
     QCOMPARE(settings().stringForKey(WKHSCWSpeed), u"1999 lpm"_s);
-    QCOMPARE(_bench->written(), "");
-}
-
-void PreferencesWinKeyerPaneTest::buttonsSendTheStandaloneMessages() {
-    pages().setCurrentIndex(4);
-    for (auto* button : view().findChildren<QPushButton*>()) {
-        if (button->property("action").toString() == u"sendStandaloneMessage") {
-            const auto number = button->text().back().digitValue();
-            QTest::mouseClick(button, Qt::LeftButton);
-            QCOMPARE(_bench->written(), "00 0e 0" + QByteArray::number(number));
-            QTest::keyClick(button, Qt::Key_Space);
-            QCOMPARE(_bench->written(), "00 0e 0" + QByteArray::number(number));
-        }
-    }
-}
-
-void PreferencesWinKeyerPaneTest::savingTakesWhatIsBeingTyped() {
-    pages().setCurrentIndex(4);
-    _operator->type(WKStandaloneCommandSpeed, u"25"_s);
-    QCOMPARE(settings().integerForKey(WKStandaloneCommandSpeed), 10);
-    // As a screen reader presses it: the focus stays in the field.
-    view().findChild<QPushButton*>(u"save"_s)->click();
-    QCOMPARE(settings().integerForKey(WKStandaloneCommandSpeed), 25);
-    const auto saved = _bench->written();
-    _controller->saveSettings(nullptr);
-    QCOMPARE(saved, _bench->written());
-}
-
-void PreferencesWinKeyerPaneTest::savingShowsItsProgress() {
-    pages().setCurrentIndex(4);
-    auto* save = view().findChild<QPushButton*>(u"save"_s);
-    auto* progress = view().findChild<QProgressBar*>();
-    QVERIFY(!progress->isVisible());
-    QTest::mouseClick(save, Qt::LeftButton);
-    QVERIFY(_bench->written().startsWith("00 0d a5"));
-    QVERIFY(progress->isVisible());
-    operate(WKWeighting); // the pane stays usable
-    QCOMPARE(_bench->written(), "03 26");
-    pages().setCurrentIndex(4);
-    _bench->clock().advance(3s);
-    QVERIFY(!progress->isVisible());
-    QVERIFY(_bench->platform().application().alerts().isEmpty());
-}
-
-void PreferencesWinKeyerPaneTest::savingThatFailsShowsNone() {
-    pages().setCurrentIndex(4);
-    settings().setObject(u"GR\u00DCN"_s, WKStandaloneMessages[0]);
-    QTest::mouseClick(view().findChild<QPushButton*>(u"save"_s), Qt::LeftButton);
-    QCOMPARE(_bench->platform().application().alerts().size(), 1);
-    QVERIFY(!view().findChild<QProgressBar*>()->isVisible());
     QCOMPARE(_bench->written(), "");
 }
 
