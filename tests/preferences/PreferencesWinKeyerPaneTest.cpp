@@ -7,7 +7,6 @@
 #include <QComboBox>
 #include <QDoubleSpinBox>
 #include <QLabel>
-#include <QPushButton>
 #include <QSpinBox>
 #include <QStyleOptionSpinBox>
 #include <QTabWidget>
