@@ -6,7 +6,7 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-constexpr int leastHeight = 36;
+constexpr int leastSwitchHeight = 36;
 }
 
 SwitchButton::SwitchButton(QWidget* parent) : QPushButton(parent) {
@@ -31,5 +31,5 @@ QSize SwitchButton::sizeHint() const {
     const auto text = fontMetrics().size(Qt::TextShowMnemonic, option.text);
     return style()
         ->sizeFromContents(QStyle::CT_PushButton, &option, text, this)
-        .expandedTo(QSize(0, leastHeight));
+        .expandedTo(QSize(0, leastSwitchHeight));
 }

@@ -14,8 +14,8 @@ using namespace std::chrono_literals;
 
 namespace {
 
-constexpr QLatin1StringView path{"/org/quorvel/Quorvel"};
-constexpr QLatin1StringView interface { "org.freedesktop.Application" };
+constexpr QLatin1StringView objectPath{"/org/quorvel/Quorvel"};
+constexpr QLatin1StringView applicationInterface{"org.freedesktop.Application"};
 constexpr QLatin1StringView tokenKey{"activation-token"};
 /// What the key was called before there was Wayland.
 constexpr QLatin1StringView startupKey{"desktop-startup-id"};
@@ -37,7 +37,7 @@ SingleInstance::~SingleInstance() {
 void SingleInstance::leave() {
     _hasLeft = true;
     if (std::exchange(_hasName, false)) {
-        _bus.unregisterObject(path);
+        _bus.unregisterObject(objectPath);
         _bus.interface()->unregisterService(bundleIdentifier);
     }
 }
@@ -64,17 +64,18 @@ SingleInstance::Role SingleInstance::begin(const QString& activationToken,
 
 /// The object is there before the name, so that whoever finds the name finds it.
 bool SingleInstance::takeName() {
-    _bus.registerObject(path, this, QDBusConnection::ExportScriptableSlots);
+    _bus.registerObject(objectPath, this, QDBusConnection::ExportScriptableSlots);
     const auto reply = _bus.interface()->registerService(bundleIdentifier);
     _hasName = reply.isValid() && reply.value() == QDBusConnectionInterface::ServiceRegistered;
     if (!_hasName) {
-        _bus.unregisterObject(path);
+        _bus.unregisterObject(objectPath);
     }
     return _hasName;
 }
 
 bool SingleInstance::callOwner(const QString& activationToken, std::chrono::milliseconds waiting) {
-    auto call = QDBusMessage::createMethodCall(bundleIdentifier, path, interface, u"Activate"_s);
+    auto call = QDBusMessage::createMethodCall(bundleIdentifier, objectPath, applicationInterface,
+                                               u"Activate"_s);
     call.setAutoStartService(false);
     QVariantMap platformData;
     if (!activationToken.isEmpty()) {
