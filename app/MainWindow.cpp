@@ -11,6 +11,7 @@
 #include "ui_MainWindow.h"
 
 #include <QCloseEvent>
+#include <QGuiApplication>
 
 #include <algorithm>
 
@@ -42,7 +43,7 @@ MainWindow::MainWindow(WinKeyerUsb& engine)
     // The library is a static one, whose resources nothing else would pull in.
     Q_INIT_RESOURCE(resources);
     _ui->setupUi(this);
-    setWindowIcon(QIcon(u":/icon.png"_s));
+    QGuiApplication::setWindowIcon(QIcon(u":/icon.png"_s)); // of every window
     enlargeFonts();
     setUpMessages();
     _ui->keyboardView->setEngine(_engine);

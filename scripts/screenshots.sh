@@ -56,14 +56,17 @@ picture() {
     echo "$images/$1.png"
 }
 
-# shoot SUFFIX [VARIABLE=VALUE...]: all pictures of one theme, which the variables choose.
-shoot() {
+# write_settings [LINE...]: what Quorvel finds at its next start.
+write_settings() {
+    printf '%s\n' "[General]" WKPortName=usbserial-virtual MyCall=N0CALL "$@" \
+        >"$XDG_CONFIG_HOME/quorvel/quorvel.conf"
+}
+
+# shoot_window SUFFIX [VARIABLE=VALUE...]: the main window while it sends, and while it tunes.
+shoot_window() {
     local suffix=$1
     shift
-    printf '[General]\nWKPortName=usbserial-virtual\nMyCall=N0CALL\n' \
-        >"$XDG_CONFIG_HOME/quorvel/quorvel.conf"
-    transcript=$private_directory/transcript$suffix
-    start_keyer
+    write_settings
     open_window quorvel env "$@" "$bin/quorvel"
     xdotool key F1
     xdotool key ctrl+l type --delay 40 w9xyz
@@ -76,6 +79,29 @@ shoot() {
     xdotool key Escape
     wait_while quorvel 20 active_window_is Quorvel
     stop quorvel
+}
+
+# shoot_pane PANE SUFFIX [VARIABLE=VALUE...]: a pane of the preferences, opened as it was left.
+shoot_pane() {
+    local pane=$1 suffix=$2
+    shift 2
+    write_settings "MBPreferencesSelection=Preferences${pane}Pane"
+    open_window quorvel env "$@" "$bin/quorvel"
+    xdotool key ctrl+comma
+    wait_while quorvel 20 active_window_is "$pane"
+    picture "preferences-${pane,,}$suffix"
+    stop quorvel
+}
+
+# shoot SUFFIX [VARIABLE=VALUE...]: all pictures of one theme, which the variables choose.
+shoot() {
+    local suffix=$1 pane
+    transcript=$private_directory/transcript$suffix
+    start_keyer
+    shoot_window "$@"
+    for pane in General Messages WinKeyer; do
+        shoot_pane "$pane" "$@"
+    done
     stop keyer
 }
 
@@ -91,4 +117,4 @@ build_preset release
 start_screen
 shoot ""
 cp scripts/lib/dark-kdeglobals "$XDG_CONFIG_HOME/kdeglobals"
-shoot "-dark" QT_QPA_PLATFORMTHEME=kde XDG_CURRENT_DESKTOP=KDE KDE_SESSION_VERSION=5
+shoot -dark QT_QPA_PLATFORMTHEME=kde XDG_CURRENT_DESKTOP=KDE KDE_SESSION_VERSION=5
