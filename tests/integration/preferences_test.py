@@ -120,6 +120,29 @@ class PreferencesTest(ProgramTest):
         self.open_pane()
         self.expect_everything_to_be_shown()
 
+    def test_the_port_is_chosen(self):
+        self.write_settings(SETTINGS)
+        self.start()
+        self.open_preferences()
+        self.pick("Serial port", "None")
+        self.wait_for("the end of the link", lambda: not self.is_connected())
+        self.pick("Serial port", PORT)
+        self.wait_for("the link", self.is_connected)
+        # The port that is in use: the link goes down and comes up again.
+        before = self.greetings()
+        self.pick("Serial port", PORT)
+        self.wait_for("another greeting", lambda: self.greetings() == before + 1)
+        self.wait_for("the link again", self.is_connected)
+        self.assertEqual(self.alerts(self.quorvel), [])
+        self.terminate(self.keyer, self.quorvel)
+
+    def is_connected(self):
+        return self.application.find("Speed").description() == f"{POT_SPEED} WPM"
+
+    def greetings(self):
+        """How often the keyer has been asked for the test character."""
+        return self.keyer.answers().count("55")
+
     def save_messages(self):
         self.turn_to("Standalone")
         for number, text in enumerate(MESSAGES, 1):
@@ -158,17 +181,19 @@ class PreferencesTest(ProgramTest):
         self.application = self.active_window(self.quorvel)
         self.expect_registers("the settings")
 
-    def open_pane(self):
+    def open_preferences(self):
         self.desktop.press("ctrl+comma")
 
         def preferences():
             return next((each for each in self.application.children()
                          if each.is_in_state("active") and each.find("WinKeyer")), None)
-        window = self.wait_for("the preferences", preferences)
-        window.find("WinKeyer").press()
-        self.wait_for("the keyer's pane", lambda: window.find("Groups of settings"))
-        self.pane = window
+        self.pane = self.wait_for("the preferences", preferences)
         self.controls = {}
+
+    def open_pane(self):
+        self.open_preferences()
+        self.pane.find("WinKeyer").press()
+        self.wait_for("the keyer's pane", lambda: self.pane.find("Groups of settings"))
 
     def turn_to(self, group):
         tabs = next(each for each in self.pane.all() if each.role() == "page tab list")
@@ -198,6 +223,10 @@ class PreferencesTest(ProgramTest):
         self.expect(name, changes)
 
     def choose(self, name, title, **changes):
+        self.pick(name, title)
+        self.expect(f"{name} {title}", changes)
+
+    def pick(self, name, title):
         control = self.control(name)
         items = next(each for each in control.all() if each.role() == "list")
         titles = [each.name() for each in items.children()]
@@ -206,7 +235,6 @@ class PreferencesTest(ProgramTest):
         for key in ["Home", *["Down"] * titles.index(title), "Return"]:
             self.desktop.press(key)
         self.wait_for(title, lambda: control.name() == title)  # it is named after what is chosen
-        self.expect(f"{name} {title}", changes)
 
     def type_into(self, name, text, key=None, **changes):
         control = self.control(name)
