@@ -136,6 +136,33 @@ class PreferencesTest(ProgramTest):
         self.assertEqual(self.alerts(self.quorvel), [])
         self.terminate(self.keyer, self.quorvel)
 
+    def test_call_and_messages_hold_at_once_and_last(self):
+        self.write_settings(SETTINGS)
+        self.start()
+        self.open_preferences()
+        self.type_into("My call", "w1aw")
+        self.open_messages()
+        self.type_into("Message 2 label", "Report")
+        self.type_into("Message 2", "r 5nn` & #")
+        self.control("Beacon interval").set_value(7.5)
+        self.wait_for("the button's new name",
+                      lambda: self.application.find("Message 2: Report"))
+        self.application.find("Message 2: Report").press()
+        self.keyer.wait_for("the new text", lambda: self.keyer.keyed() == "R5NNW1AWTT1")
+        self.terminate(self.keyer, self.quorvel)
+
+        self.start()
+        self.open_preferences()
+        self.open_messages()
+        self.assertEqual(self.control("Message 2 label").text(), "Report")
+        self.assertEqual(self.control("Message 2").text(), "R 5NN`  #")
+        self.assertEqual(self.control("Beacon interval").value(), 7.5)
+        self.assertIn("MyCall=W1AW", self.settings.read_text())
+
+    def open_messages(self):
+        self.pane.find("Messages").press()
+        self.wait_for("the messages", lambda: self.pane.find("Beacon interval"))
+
     def is_connected(self):
         return self.application.find("Speed").description() == f"{POT_SPEED} WPM"
 
