@@ -13,7 +13,7 @@ ModeSwitches::ModeSwitches(WinKeyerUsb& engine, const Buttons& buttons, QObject*
 
 void ModeSwitches::setUpPause(QAbstractButton& button) {
     const auto follow = [this, &button] { button.setChecked(_engine.pauseState() != 0); };
-    QObject::connect(&_engine, &WinKeyerUsb::pauseStateChanged, &button, follow);
+    QObject::connect(&_engine, &WinKeyerUsb::pauseStateChanged, this, follow);
     QObject::connect(&button, &QAbstractButton::toggled, this, [this](bool isOn) {
         if (isOn != (_engine.pauseState() != 0)) {
             _engine.setPauseState(isOn ? 1 : 0);
@@ -24,7 +24,7 @@ void ModeSwitches::setUpPause(QAbstractButton& button) {
 
 void ModeSwitches::setUpHSCW(QAbstractButton& button) {
     const auto follow = [this, &button] { button.setChecked(_engine.hscwState() != 0); };
-    QObject::connect(&_engine, &WinKeyerUsb::hscwStateChanged, &button, follow);
+    QObject::connect(&_engine, &WinKeyerUsb::hscwStateChanged, this, follow);
     QObject::connect(&button, &QAbstractButton::toggled, this, [this, &button](bool isOn) {
         if (isOn != (_engine.hscwState() != 0)) {
             _engine.setHscwState(isOn ? 1 : 0);
@@ -50,7 +50,7 @@ void ModeSwitches::followLink(QAbstractButton& hscw) {
 
 void ModeSwitches::setUpBeacon(QAbstractButton& button) {
     const auto follow = [this, &button] { button.setChecked(_engine.beaconState() != 0); };
-    QObject::connect(&_engine, &WinKeyerUsb::beaconStateChanged, &button, follow);
+    QObject::connect(&_engine, &WinKeyerUsb::beaconStateChanged, this, follow);
     QObject::connect(&button, &QAbstractButton::toggled, this,
                      [this](bool isOn) { _engine.setBeaconState(isOn ? 1 : 0); });
     follow();

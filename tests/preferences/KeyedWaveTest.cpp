@@ -7,6 +7,7 @@
 #include <QTest>
 
 #include <cmath>
+#include <memory>
 
 using namespace KeyedWave;
 using namespace Qt::StringLiterals;
@@ -127,7 +128,8 @@ void KeyedWaveTest::keyDowns() {
     QFETCH(const Timing, timing);
     QFETCH(const Numbers, expected);
     const auto numbers = numbersOf(keyDownsOf(word, timing));
-    QVERIFY2(areNear(numbers, expected), QTest::toString(numbers));
+    const std::unique_ptr<char[]> seen(QTest::toString(numbers));
+    QVERIFY2(areNear(numbers, expected), seen.get());
 }
 
 void KeyedWaveTest::settings_data() {
