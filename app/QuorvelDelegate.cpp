@@ -1,6 +1,6 @@
 #include "app/QuorvelDelegate.h"
 
-#include "app/formatters/CallsignFormatter.h"
+#include "formatters/CallsignFormatter.h"
 #include "keyer/GeneralSettings.h"
 #include "keyer/WinKeyerUsb.h"
 #include "platform/Log.h"

@@ -1,13 +1,14 @@
 #include "app/DesktopApplication.h"
 #include "app/EscapeKey.h"
 #include "app/FieldEdges.h"
-#include "app/MainWindow.h"
 #include "app/QuorvelDelegate.h"
 #include "app/SettingsFileAlert.h"
 #include "app/Termination.h"
 #include "app/TerminationSignals.h"
 #include "app/Translations.h"
+#include "app/window/MainWindow.h"
 #include "keyer/WinKeyerUsb.h"
+#include "platform/BundleIdentifier.h"
 #include "platform/Log.h"
 #include "platform/Platform.h"
 #include "platform/SystemClock.h"
@@ -57,6 +58,8 @@ int run(SingleInstance& instance) {
     PreferencesGeneral::initialize();
 
     QuorvelDelegate delegate;
+    // Ahead of the port manager, which is made at launch: before the machine sleeps, the window has
+    // to let go of the transmitter while the port is still open.
     MainWindow window(WinKeyerUsb::sharedInstance());
     delegate.awakeFromNib(window.hisCallsignTextField());
     alerts.setAlertParent(&window);

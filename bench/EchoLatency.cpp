@@ -3,7 +3,7 @@
 //
 // The line's own share is measured too, with a bare thread in the place of all that.
 
-#include "tests/keyer/KeyerBench.h"
+#include "tests/keyer/EngineBench.h"
 
 #include <QCoreApplication>
 #include <QEventLoop>
@@ -70,7 +70,7 @@ void report(benchmark::State& state, const std::vector<Seconds>& times) {
 }
 
 void engine(benchmark::State& state) {
-    KeyerBench bench;
+    EngineBench bench;
     if (!bench.connect()) {
         state.SkipWithError("There is no line to the keyer.");
         return;

@@ -1,8 +1,8 @@
 // What the operator waits for when the text in the keyboard view is long: a keystroke, an appended
 // message and an echo, each from the event to the end of the repainting that it asks for.
 
-#include "app/KeyboardView.h"
-#include "tests/keyer/KeyerBench.h"
+#include "app/keyboard/KeyboardView.h"
+#include "tests/keyer/EngineBench.h"
 
 #include <QApplication>
 #include <QPainter>
@@ -87,7 +87,7 @@ class Station {
   private:
     qsizetype _length;
     QString _text;
-    KeyerBench _bench;
+    EngineBench _bench;
     KeyboardView _view;
 };
 

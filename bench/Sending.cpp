@@ -1,7 +1,7 @@
 // What one sent character costs the main thread: from the echo that lets it go to the return of
 // the write. It must not grow with the text.
 
-#include "tests/keyer/KeyerBench.h"
+#include "tests/keyer/EngineBench.h"
 
 #include <QCoreApplication>
 
@@ -28,7 +28,7 @@ void startOver(WinKeyerUsb& engine, const QString& text) {
 }
 
 void sendCharacter(benchmark::State& state) {
-    KeyerBench bench;
+    EngineBench bench;
     if (!bench.connect()) {
         state.SkipWithError("There is no line to the keyer.");
         return;

@@ -18,7 +18,7 @@ constexpr int slowestPotMinimum = 5;
 constexpr int highestPotMinimum = 99;
 constexpr int potRange = 63;
 
-int openPort(KeyerBench& bench, int wpm) {
+int openPort(EngineBench& bench, int wpm) {
     bench.settings().setObject(std::clamp(wpm, slowestPotMinimum, highestPotMinimum),
                                WKSpeedPotMinimum);
     bench.settings().setObject(potRange, WKSpeedPotRange);

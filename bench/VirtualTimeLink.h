@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tests/keyer/KeyerBench.h"
+#include "tests/keyer/EngineBench.h"
 #include "tests/support/CapturedWrites.h"
 #include "virtualkeyer/core/Keyer.h"
 #include "virtualkeyer/pty/PacedLine.h"
@@ -31,7 +31,7 @@ class VirtualTimeLink {
     [[nodiscard]] std::vector<KeyChange> runUntilQuiet();
 
     const Time _reaction;
-    KeyerBench _bench;
+    EngineBench _bench;
     CapturedWrites _writes;
     virtualkeyer::Keyer _keyer;
     virtualkeyer::PacedLine _toKeyer;

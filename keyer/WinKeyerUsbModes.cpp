@@ -1,8 +1,8 @@
 // Tune, pause and high-speed CW: what the operator switches on and off.
 
+#include "keyer/Action.h"
 #include "keyer/KeyerCommand.h"
 #include "keyer/WinKeyerUsb.h"
-#include "platform/Action.h"
 #include "platform/Log.h"
 
 using namespace Qt::StringLiterals;

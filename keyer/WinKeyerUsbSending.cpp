@@ -1,5 +1,6 @@
 // The text to be sent, the loop that feeds it to the keyer, and the stored messages.
 
+#include "keyer/Action.h"
 #include "keyer/GeneralSettings.h"
 #include "keyer/KeyerCommand.h"
 #include "keyer/KeyerSettings.h"
@@ -7,7 +8,6 @@
 #include "keyer/ReceivedByte.h"
 #include "keyer/SendableText.h"
 #include "keyer/WinKeyerUsb.h"
-#include "platform/Action.h"
 #include "platform/Log.h"
 #include "platform/SettingsStore.h"
 

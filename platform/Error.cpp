@@ -1,5 +1,7 @@
 #include "platform/Error.h"
 
+#include "platform/BundleIdentifier.h"
+
 #include <system_error>
 
 Error Error::ofApplication(const QString& message, const QString& suggestion) {

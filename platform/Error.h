@@ -13,8 +13,6 @@ inline constexpr QLatin1StringView NSLocalizedRecoverySuggestionErrorKey{
 inline constexpr QLatin1StringView NSFilePathErrorKey{"NSFilePath"};
 /// Domain of errors whose code is an errno.
 inline constexpr QLatin1StringView NSPOSIXErrorDomain{"NSPOSIXErrorDomain"};
-/// The application's bundle identifier, and the domain of its own errors.
-inline constexpr QLatin1StringView bundleIdentifier{"org.quorvel.Quorvel"};
 
 /// What went wrong, for a caller's error slot and for the operator. A default-made one says
 /// nothing.

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "preferences/KeyedWave.h"
+#include "keyer/KeyedWave.h"
 
 #include <QWidget>
 

@@ -1,6 +1,6 @@
 #include "preferences/PreferencesMessagesViewController.h"
 
-#include "app/formatters/MessageFormatter.h"
+#include "formatters/MessageFormatter.h"
 #include "keyer/MessageSettings.h"
 #include "keyer/WinKeyerUsb.h"
 #include "platform/SettingsStore.h"

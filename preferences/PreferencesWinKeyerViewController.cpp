@@ -1,9 +1,9 @@
 #include "preferences/PreferencesWinKeyerViewController.h"
 
+#include "keyer/Action.h"
 #include "keyer/KeyerCommand.h"
 #include "keyer/StoredSettings.h"
 #include "keyer/WinKeyerUsb.h"
-#include "platform/Action.h"
 #include "platform/Platform.h"
 #include "platform/SettingsStore.h"
 #include "preferences/StandaloneMessages.h"

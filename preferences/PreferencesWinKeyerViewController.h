@@ -1,7 +1,7 @@
 #pragma once
 
 #include "preferences/MBPreferencesModule.h"
-#include "preferences/SettingBinder.h"
+#include "preferences/binding/SettingBinder.h"
 
 #include <QObject>
 #include <QPointer>

@@ -1,11 +1,11 @@
 #include "preferences/StandaloneMessages.h"
 
-#include "app/formatters/MessageFormatter.h"
+#include "formatters/MessageFormatter.h"
 #include "keyer/WinKeyerUsb.h"
+#include "preferences/binding/Explanation.h"
 #include "ui_StandaloneMessages.h"
 
 #include <QStyle>
-#include <QTextDocument>
 #include <QToolTip>
 
 #include <algorithm>
@@ -53,12 +53,6 @@ QString explanationOf(const MemoryUse::Share& share) {
     return StandaloneMessages::tr("%1 has no Morse code: the keyer sends nothing in its place. "
                                   "Tokens are not filled in here.")
         .arg(quoted(*share.silent));
-}
-
-void explain(QWidget& widget, const QString& text) {
-    // A plain tool tip would be one line, however long.
-    widget.setToolTip(Qt::convertFromPlainText(text, Qt::WhiteSpaceNormal));
-    widget.setAccessibleDescription(text);
 }
 
 } // namespace

@@ -1,6 +1,6 @@
 #include "serial/ExclusiveDevice.h"
 
-#include "serial/Uninterrupted.h"
+#include "platform/Uninterrupted.h"
 
 #include <QFile>
 

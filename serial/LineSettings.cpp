@@ -1,6 +1,6 @@
 #include "serial/LineSettings.h"
 
-#include "serial/Uninterrupted.h"
+#include "platform/Uninterrupted.h"
 
 #include <algorithm>
 #include <array>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "serial/FileDescriptor.h"
+#include "platform/FileDescriptor.h"
 #include "serial/LineSettings.h"
 #include "serial/PinPoller.h"
 #include "serial/PortReader.h"

@@ -1,6 +1,6 @@
 #include "platform/linux/SingleInstance.h"
 
-#include "platform/Error.h"
+#include "platform/BundleIdentifier.h"
 
 #include <QDBusConnectionInterface>
 #include <QDBusMessage>

@@ -1,8 +1,8 @@
 #include "app/EscapeKey.h"
 
 #include "app/DesktopApplication.h"
-#include "app/MainWindow.h"
-#include "tests/keyer/KeyerBench.h"
+#include "app/window/MainWindow.h"
+#include "tests/keyer/EngineBench.h"
 
 #include <QComboBox>
 #include <QMenu>
@@ -38,7 +38,7 @@ class EscapeKeyTest : public QObject {
   private:
     void press(QWidget& window, Qt::Key key = Qt::Key_Escape);
 
-    std::optional<KeyerBench> _bench;
+    std::optional<EngineBench> _bench;
     std::optional<MainWindow> _window;
     std::optional<EscapeKey> _escape;
 };

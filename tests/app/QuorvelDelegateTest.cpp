@@ -3,7 +3,7 @@
 #include "keyer/GeneralSettings.h"
 #include "keyer/WinKeyerUsb.h"
 #include "serial/ORSSerialPortManager.h"
-#include "tests/keyer/KeyerBench.h"
+#include "tests/keyer/EngineBench.h"
 #include "tests/support/SystemCallFaults.h"
 
 #include <QSignalSpy>
@@ -54,7 +54,7 @@ class QuorvelDelegateTest : public QObject {
     [[nodiscard]] QString chosenPort() { return _bench->settings().stringForKey(WKPortName); }
     void launch();
 
-    std::optional<KeyerBench> _bench;
+    std::optional<EngineBench> _bench;
     std::optional<QuorvelDelegate> _delegate;
 };
 
@@ -76,7 +76,7 @@ void QuorvelDelegateTest::launch() {
 void QuorvelDelegateTest::launchingListsThePortsAndConnects() {
     QSignalSpy lists(&*_delegate, &QuorvelDelegate::serialPortNameArrayChanged);
     launch();
-    QCOMPARE(_delegate->serialPortNameArray(), (QStringList{u"None"_s, KeyerBench::portName}));
+    QCOMPARE(_delegate->serialPortNameArray(), (QStringList{u"None"_s, EngineBench::portName}));
     QCOMPARE(lists.size(), 2);
     QVERIFY(_bench->engine().isConnected());
     QVERIFY(alerts().isEmpty());
@@ -92,14 +92,14 @@ void QuorvelDelegateTest::aPortThatComesDuringTheLaunchIsListedAndNotOffered() {
     });
     launch();
     QCOMPARE(_delegate->serialPortNameArray(),
-             (QStringList{u"None"_s, KeyerBench::portName, u"usbserial-2"_s}));
+             (QStringList{u"None"_s, EngineBench::portName, u"usbserial-2"_s}));
     QVERIFY(alerts().isEmpty());
 }
 
 void QuorvelDelegateTest::launchingWithoutAChosenPortTellsSoOnce() {
     _bench->settings().setObject(u"None"_s, WKPortName);
     launch();
-    QCOMPARE(_delegate->serialPortNameArray(), (QStringList{u"None"_s, KeyerBench::portName}));
+    QCOMPARE(_delegate->serialPortNameArray(), (QStringList{u"None"_s, EngineBench::portName}));
     QCOMPARE(alerts().size(), 1);
     QCOMPARE(alerts().first().messageText, u"There is no port defined for the WinKeyer."_s);
     QCOMPARE(alerts().first().informativeText,
@@ -187,7 +187,7 @@ void QuorvelDelegateTest::quittingDuringAnAlertKeepsTheChoiceOfPort() {
     });
     _delegate->changeSerialPort(nullptr);
     QCOMPARE(alerts().size(), 1);
-    QCOMPARE(chosenPort(), QString(KeyerBench::portName));
+    QCOMPARE(chosenPort(), QString(EngineBench::portName));
     QVERIFY(!_bench->port().isOpen());
 }
 
@@ -203,15 +203,15 @@ void QuorvelDelegateTest::theListFollowsThePorts() {
     const PseudoTerminalPair line;
     const auto device = _bench->platform().devices().plug(u"ttyS0"_s, line.path());
     QCOMPARE(_delegate->serialPortNameArray(),
-             (QStringList{u"None"_s, KeyerBench::portName, u"ttyS0"_s}));
+             (QStringList{u"None"_s, EngineBench::portName, u"ttyS0"_s}));
     _bench->platform().devices().unplug(device);
-    QCOMPARE(_delegate->serialPortNameArray(), (QStringList{u"None"_s, KeyerBench::portName}));
+    QCOMPARE(_delegate->serialPortNameArray(), (QStringList{u"None"_s, EngineBench::portName}));
 }
 
 void QuorvelDelegateTest::unpluggingTheKeyersPortTellsSoOnce() {
     launch();
     const PseudoTerminalPair line;
-    const auto twin = _bench->platform().devices().plug(KeyerBench::portName, line.path());
+    const auto twin = _bench->platform().devices().plug(EngineBench::portName, line.path());
     QString storedBefore;
     QObject::connect(&*_delegate, &QuorvelDelegate::willDisconnect, &*_delegate,
                      [&] { storedBefore = _bench->settings().stringForKey(u"None"_s); });
@@ -224,7 +224,7 @@ void QuorvelDelegateTest::unpluggingTheKeyersPortTellsSoOnce() {
              u"Plug it back in, or choose another serial port in General preferences."_s);
     QVERIFY(alerts().first().defaultButton.isNull());
     QVERIFY(alerts().first().alternateButton.isNull());
-    QCOMPARE(chosenPort(), QString(KeyerBench::portName));
+    QCOMPARE(chosenPort(), QString(EngineBench::portName));
     QCOMPARE(storedBefore, u"None"_s);
     QCOMPARE(_bench->settings().stringForKey(u"None"_s), u"None"_s);
     QVERIFY(!_bench->engine().isConnected());
@@ -262,7 +262,7 @@ void QuorvelDelegateTest::unpluggingAnotherPortShowsNothing() {
     QVERIFY(alerts().isEmpty());
     QVERIFY(_bench->engine().isConnected());
     QVERIFY(_bench->settings().stringForKey(u"None"_s).isNull());
-    QCOMPARE(_delegate->serialPortNameArray(), (QStringList{u"None"_s, KeyerBench::portName}));
+    QCOMPARE(_delegate->serialPortNameArray(), (QStringList{u"None"_s, EngineBench::portName}));
 }
 
 void QuorvelDelegateTest::unpluggingWithNoneChosenShowsNothing() {
@@ -307,7 +307,7 @@ void QuorvelDelegateTest::aPluggedPortIsListedBeforeItIsOffered() {
         [&](const Alert&) { listed = _delegate->serialPortNameArray(); });
     const PseudoTerminalPair line;
     _bench->platform().devices().plug(u"usbserial-2"_s, line.path());
-    QCOMPARE(listed, (QStringList{u"None"_s, KeyerBench::portName, u"usbserial-2"_s}));
+    QCOMPARE(listed, (QStringList{u"None"_s, EngineBench::portName, u"usbserial-2"_s}));
 }
 
 void QuorvelDelegateTest::everyPortOfOneMomentIsOffered() {
@@ -332,7 +332,7 @@ void QuorvelDelegateTest::nothingIsOfferedWhileConnected() {
     const PseudoTerminalPair line;
     _bench->platform().devices().plug(u"usbserial-2"_s, line.path());
     QVERIFY(alerts().isEmpty());
-    QCOMPARE(chosenPort(), QString(KeyerBench::portName));
+    QCOMPARE(chosenPort(), QString(EngineBench::portName));
     QCOMPARE(_delegate->serialPortNameArray().size(), 3);
 }
 

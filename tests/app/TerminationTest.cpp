@@ -1,7 +1,7 @@
 #include "app/Termination.h"
 
 #include "app/QuorvelDelegate.h"
-#include "tests/keyer/KeyerBench.h"
+#include "tests/keyer/EngineBench.h"
 #include "tests/support/SystemCallFaults.h"
 
 #include <QApplication>
@@ -39,7 +39,7 @@ class TerminationTest : public QObject {
     void runLoop(const std::function<void()>& action);
     [[nodiscard]] qsizetype disconnections() const { return _disconnections->size(); }
 
-    std::optional<KeyerBench> _bench;
+    std::optional<EngineBench> _bench;
     std::optional<QuorvelDelegate> _delegate;
     std::optional<Termination> _termination;
     std::optional<QSignalSpy> _disconnections;

@@ -1,7 +1,7 @@
 #include "app/Translations.h"
 
 #include "app/QuorvelDelegate.h"
-#include "tests/keyer/KeyerBench.h"
+#include "tests/keyer/EngineBench.h"
 
 #include <QLocale>
 #include <QSet>
@@ -44,13 +44,13 @@ void TranslationsTest::aLanguageWithoutTranslationIsEnglish() {
 }
 
 void TranslationsTest::alertsAndErrorsAreTranslated() {
-    KeyerBench bench;
+    EngineBench bench;
     QuorvelDelegate delegate;
     bench.settings().setObject(u"None"_s, u"WKPortName"_s);
     Backwards backwards;
     QVERIFY(QCoreApplication::installTranslator(&backwards));
     delegate.applicationDidFinishLaunching();
-    bench.settings().setObject(QString(KeyerBench::portName), u"WKPortName"_s);
+    bench.settings().setObject(QString(EngineBench::portName), u"WKPortName"_s);
     bench.platform().devices().unplug(bench.device());
     QCoreApplication::removeTranslator(&backwards);
     const auto& alerts = bench.platform().application().alerts();

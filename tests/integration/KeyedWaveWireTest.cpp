@@ -1,6 +1,6 @@
+#include "keyer/KeyedWave.h"
 #include "keyer/KeyerSettings.h"
 #include "keyer/StoredSettings.h"
-#include "preferences/KeyedWave.h"
 #include "tests/integration/Station.h"
 
 #include <QTest>

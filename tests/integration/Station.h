@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tests/keyer/KeyerBench.h"
+#include "tests/keyer/EngineBench.h"
 #include "virtualkeyer/core/KeyLineDecoder.h"
 #include "virtualkeyer/core/Keyer.h"
 #include "virtualkeyer/pty/PacedLine.h"
@@ -94,7 +94,7 @@ class Station final : public ORSSerialPortDelegate {
     void deliver(std::uint8_t byte);
     void forget();
 
-    KeyerBench _bench;
+    EngineBench _bench;
     virtualkeyer::Keyer _keyer;
     virtualkeyer::PacedLine _toKeyer{1200};
     virtualkeyer::PacedLine _toEngine{1200};

@@ -1,5 +1,5 @@
 #include "keyer/KeyerActivity.h"
-#include "tests/keyer/KeyerBench.h"
+#include "tests/keyer/EngineBench.h"
 
 #include <QSignalSpy>
 #include <QTest>
@@ -27,7 +27,7 @@ class KeyerActivityTest : public QObject {
   private:
     WinKeyerUsb& engine() { return _bench->engine(); }
 
-    std::optional<KeyerBench> _bench;
+    std::optional<EngineBench> _bench;
 };
 
 void KeyerActivityTest::aStatusByteTellsTheActivity_data() {
@@ -54,7 +54,7 @@ void KeyerActivityTest::aKeyerIsSilentUntilItsFirstByte() {
     QVERIFY(engine().serialPortName().isNull());
     QVERIFY(_bench->connect());
     QCOMPARE(engine().activity(), KeyerActivity::Silent);
-    QCOMPARE(engine().serialPortName(), KeyerBench::portName);
+    QCOMPARE(engine().serialPortName(), EngineBench::portName);
     _bench->receive({0xC4});
     QCOMPARE(engine().activity(), KeyerActivity::Sending);
     engine().disconnect(nullptr);

@@ -1,6 +1,6 @@
 #include "keyer/GeneralSettings.h"
 #include "serial/ORSSerialPortManager.h"
-#include "tests/keyer/KeyerBench.h"
+#include "tests/keyer/EngineBench.h"
 #include "tests/support/SystemCallFaults.h"
 
 #include <QTest>
@@ -56,7 +56,7 @@ class WinKeyerUsbConnectionTest : public QObject {
     void versionsFrom20To23AreAccepted();
 
   private:
-    std::optional<KeyerBench> _bench;
+    std::optional<EngineBench> _bench;
 };
 
 void WinKeyerUsbConnectionTest::thereIsOneEngine() {
@@ -138,7 +138,7 @@ void WinKeyerUsbConnectionTest::unknownPortIsNamedAndForgotten() {
 
 void WinKeyerUsbConnectionTest::theFirstOfTwoPortsOfOneNameIsTaken() {
     const PseudoTerminalPair second;
-    _bench->platform().devices().plug(KeyerBench::portName, second.path());
+    _bench->platform().devices().plug(EngineBench::portName, second.path());
     QCOMPARE(ORSSerialPortManager::sharedSerialPortManager().availablePorts()->size(), 2);
     QVERIFY(_bench->connect());
     QVERIFY(_bench->port().isOpen());
@@ -247,7 +247,7 @@ void WinKeyerUsbConnectionTest::disconnectingTellsTheKeyerBetweenTwoPauses() {
     QCOMPARE(_bench->clock().naps(), (QList<Clock::Duration>{1s, 1s}));
     QVERIFY(!_bench->port().isOpen());
     QVERIFY(!_bench->engine().isConnected());
-    QCOMPARE(_bench->settings().stringForKey(WKPortName), QString(KeyerBench::portName));
+    QCOMPARE(_bench->settings().stringForKey(WKPortName), QString(EngineBench::portName));
 }
 
 void WinKeyerUsbConnectionTest::theKeyerHasASecondBeforeAndAfterItLeavesHostMode() {
@@ -294,7 +294,7 @@ void WinKeyerUsbConnectionTest::aFailedHostCloseStillReleasesThePort() {
     QCOMPARE(error.localizedRecoverySuggestion(), u"See AMSerialErrors.h"_s);
     QVERIFY(!_bench->port().isOpen());
     QVERIFY(!_bench->engine().isConnected());
-    QCOMPARE(_bench->settings().stringForKey(WKPortName), QString(KeyerBench::portName));
+    QCOMPARE(_bench->settings().stringForKey(WKPortName), QString(EngineBench::portName));
 }
 
 void WinKeyerUsbConnectionTest::aRefusedHostCloseCanBeTriedAgain() {
@@ -324,10 +324,10 @@ void WinKeyerUsbConnectionTest::aRemovedPortIsLetGo() {
     _bench->platform().devices().unplug(_bench->device());
     QVERIFY(!_bench->engine().isConnected());
     QVERIFY(!_bench->engine().echoTest(nullptr));
-    _bench->settings().setObject(QString(KeyerBench::portName), WKPortName);
+    _bench->settings().setObject(QString(EngineBench::portName), WKPortName);
     QVERIFY(_bench->engine().disconnect(nullptr));
     QVERIFY(_bench->clock().naps().isEmpty());
-    QCOMPARE(_bench->settings().stringForKey(WKPortName), QString(KeyerBench::portName));
+    QCOMPARE(_bench->settings().stringForKey(WKPortName), QString(EngineBench::portName));
 }
 
 void WinKeyerUsbConnectionTest::aPortUsedBeforeTakesNoLinkWithIt() {

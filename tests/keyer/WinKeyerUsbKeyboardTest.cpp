@@ -1,6 +1,6 @@
 #include "keyer/GeneralSettings.h"
 #include "keyer/WinKeyerUsb.h"
-#include "tests/keyer/KeyerBench.h"
+#include "tests/keyer/EngineBench.h"
 
 #include <QTest>
 
@@ -28,7 +28,7 @@ class WinKeyerUsbKeyboardTest : public QObject {
     void changesOfTheTextAreAnnounced();
 
   private:
-    std::optional<KeyerBench> _bench;
+    std::optional<EngineBench> _bench;
 };
 
 void WinKeyerUsbKeyboardTest::init() {

@@ -1,6 +1,6 @@
 #include "keyer/KeyerMemory.h"
 #include "keyer/KeyerSettings.h"
-#include "tests/keyer/KeyerBench.h"
+#include "tests/keyer/EngineBench.h"
 #include "tests/support/SystemCallFaults.h"
 
 #include <QTest>
@@ -34,7 +34,7 @@ class WinKeyerUsbMemoryTest : public QObject {
     void clearMessages();
     [[nodiscard]] QByteArray loadedImage();
 
-    std::optional<KeyerBench> _bench;
+    std::optional<EngineBench> _bench;
 };
 
 void WinKeyerUsbMemoryTest::init() {

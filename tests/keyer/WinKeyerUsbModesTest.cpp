@@ -1,5 +1,5 @@
 #include "keyer/KeyerSettings.h"
-#include "tests/keyer/KeyerBench.h"
+#include "tests/keyer/EngineBench.h"
 
 #include <QTest>
 
@@ -42,7 +42,7 @@ class WinKeyerUsbModesTest : public QObject {
     void theBeaconDoesNotSubstituteAgain();
 
   private:
-    std::optional<KeyerBench> _bench;
+    std::optional<EngineBench> _bench;
 };
 
 void WinKeyerUsbModesTest::init() {

@@ -1,4 +1,4 @@
-#include "tests/keyer/KeyerBench.h"
+#include "tests/keyer/EngineBench.h"
 
 #include <QSignalSpy>
 #include <QTest>
@@ -27,7 +27,7 @@ class WinKeyerUsbProgressTest : public QObject {
         return {_bench->engine().inFlightIndex(), _bench->engine().outputBufferIndex()};
     }
 
-    std::optional<KeyerBench> _bench;
+    std::optional<EngineBench> _bench;
 };
 
 namespace {

@@ -1,5 +1,5 @@
 #include "keyer/KeyerSettings.h"
-#include "tests/keyer/KeyerBench.h"
+#include "tests/keyer/EngineBench.h"
 #include "tests/support/SystemCallFaults.h"
 
 #include <QRegularExpression>
@@ -65,7 +65,7 @@ class WinKeyerUsbReceiveTest : public QObject {
     void aRefusedWriteIsLoggedOnly();
 
   private:
-    std::optional<KeyerBench> _bench;
+    std::optional<EngineBench> _bench;
 };
 
 void WinKeyerUsbReceiveTest::init() {

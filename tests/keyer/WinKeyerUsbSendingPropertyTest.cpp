@@ -5,7 +5,7 @@
 
 #include "keyer/GeneralSettings.h"
 #include "keyer/KeyerSettings.h"
-#include "tests/keyer/KeyerBench.h"
+#include "tests/keyer/EngineBench.h"
 #include "tests/keyer/SendingModel.h"
 #include "tests/support/CapturedWrites.h"
 
@@ -41,7 +41,7 @@ struct Subject {
         static_cast<void>(writes.take());
     }
 
-    KeyerBench bench;
+    EngineBench bench;
     bool isConnected;
     CapturedWrites writes;
 };

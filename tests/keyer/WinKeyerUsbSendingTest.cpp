@@ -1,7 +1,7 @@
 #include "keyer/GeneralSettings.h"
 #include "keyer/KeyerSettings.h"
 #include "keyer/MessageSettings.h"
-#include "tests/keyer/KeyerBench.h"
+#include "tests/keyer/EngineBench.h"
 #include "tests/support/LogKeeper.h"
 #include "tests/support/SystemCallFaults.h"
 
@@ -59,7 +59,7 @@ class WinKeyerUsbSendingTest : public QObject {
     void charactersThatAreNoTextNeverReachTheKeyer();
 
   private:
-    std::optional<KeyerBench> _bench;
+    std::optional<EngineBench> _bench;
 };
 
 void WinKeyerUsbSendingTest::init() {

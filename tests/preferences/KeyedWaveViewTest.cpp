@@ -2,7 +2,7 @@
 
 #include "keyer/KeyerSettings.h"
 #include "preferences/KeyedWavePicture.h"
-#include "tests/keyer/KeyerBench.h"
+#include "tests/keyer/EngineBench.h"
 
 #include <QLabel>
 #include <QSpinBox>
@@ -37,7 +37,7 @@ class KeyedWaveViewTest : public QObject {
         return *_view->findChild<KeyedWavePicture*>();
     }
 
-    std::optional<KeyerBench> _bench;
+    std::optional<EngineBench> _bench;
     std::optional<KeyedWaveView> _view;
 };
 

@@ -2,7 +2,7 @@
 
 #include "keyer/GeneralSettings.h"
 #include "preferences/PreferencesGeneral.h"
-#include "tests/keyer/KeyerBench.h"
+#include "tests/keyer/EngineBench.h"
 
 #include <QAbstractItemView>
 #include <QClipboard>
@@ -109,7 +109,7 @@ class PreferencesGeneralViewControllerTest : public QObject {
         QVERIFY(QTest::qWaitForWindowActive(_pane->view()));
     }
 
-    std::optional<KeyerBench> _bench;
+    std::optional<EngineBench> _bench;
     std::optional<Delegate> _delegate;
     std::optional<PreferencesGeneralViewController> _pane;
 };
@@ -292,7 +292,7 @@ void PreferencesGeneralViewControllerTest::theLinkIsTold() {
     QCOMPARE(link(), u"Not connected"_s);
     _pane->setSerialPortNames({u"None"_s});
     QCOMPARE(link(), u"No serial port is present. Plug the keyer in."_s);
-    _bench->settings().setObject(QString(KeyerBench::portName), WKPortName);
+    _bench->settings().setObject(QString(EngineBench::portName), WKPortName);
     QVERIFY(_bench->connect());
     QCOMPARE(link(), u"Connected to usbserial-WK1; the keyer has not answered yet"_s);
     _bench->receive({0x17});

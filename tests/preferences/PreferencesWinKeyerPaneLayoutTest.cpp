@@ -1,6 +1,6 @@
 #include "keyer/KeyerSettings.h"
 #include "preferences/PreferencesWinKeyerViewController.h"
-#include "tests/keyer/KeyerBench.h"
+#include "tests/keyer/EngineBench.h"
 #include "tests/preferences/PaneOperator.h"
 
 #include <QAccessible>
@@ -38,7 +38,7 @@ class PreferencesWinKeyerPaneLayoutTest : public QObject {
     [[nodiscard]] QWidget& view() { return *_controller->view(); }
     [[nodiscard]] QTabWidget& pages() { return *view().findChild<QTabWidget*>(); }
 
-    std::optional<KeyerBench> _bench;
+    std::optional<EngineBench> _bench;
     std::optional<PreferencesWinKeyerViewController> _controller;
     std::optional<PaneOperator> _operator;
 };

@@ -1,6 +1,6 @@
 #include "keyer/KeyerSettings.h"
 #include "preferences/PreferencesWinKeyerViewController.h"
-#include "tests/keyer/KeyerBench.h"
+#include "tests/keyer/EngineBench.h"
 #include "tests/preferences/PaneOperator.h"
 
 #include <QProgressBar>
@@ -31,7 +31,7 @@ class PreferencesWinKeyerPaneMemoryTest : public QObject {
     [[nodiscard]] SettingsStore& settings() { return _bench->settings(); }
     void showPage() { view().findChild<QTabWidget*>()->setCurrentIndex(4); }
 
-    std::optional<KeyerBench> _bench;
+    std::optional<EngineBench> _bench;
     std::optional<PreferencesWinKeyerViewController> _controller;
     std::optional<PaneOperator> _operator;
 };

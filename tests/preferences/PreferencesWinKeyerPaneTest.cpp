@@ -1,6 +1,6 @@
 #include "keyer/KeyerSettings.h"
 #include "preferences/PreferencesWinKeyerViewController.h"
-#include "tests/keyer/KeyerBench.h"
+#include "tests/keyer/EngineBench.h"
 #include "tests/preferences/PaneOperator.h"
 
 #include <QCheckBox>
@@ -60,7 +60,7 @@ class PreferencesWinKeyerPaneTest : public QObject {
     /// Works the control of a setting as the test's table says.
     void operate(QLatin1StringView key);
 
-    std::optional<KeyerBench> _bench;
+    std::optional<EngineBench> _bench;
     std::optional<PreferencesWinKeyerViewController> _controller;
     std::optional<PaneOperator> _operator;
 };

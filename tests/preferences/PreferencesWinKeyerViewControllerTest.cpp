@@ -4,7 +4,7 @@
 #include "keyer/KeyerMemory.h"
 #include "keyer/KeyerSettings.h"
 #include "keyer/StoredSettings.h"
-#include "tests/keyer/KeyerBench.h"
+#include "tests/keyer/EngineBench.h"
 #include "tests/support/SystemCallFaults.h"
 
 #include <QTest>
@@ -59,7 +59,7 @@ class PreferencesWinKeyerViewControllerTest : public QObject {
   private:
     [[nodiscard]] QByteArray sentBy(Action action, const QObject* sender = nullptr);
 
-    std::optional<KeyerBench> _bench;
+    std::optional<EngineBench> _bench;
     std::optional<Controller> _controller;
 };
 

@@ -1,9 +1,9 @@
 #include "preferences/StandaloneMessages.h"
 
-#include "platform/Action.h"
+#include "keyer/Action.h"
 #include "preferences/MemoryGauge.h"
 #include "preferences/TimedProgressBar.h"
-#include "tests/keyer/KeyerBench.h"
+#include "tests/keyer/EngineBench.h"
 
 #include <QLabel>
 #include <QLineEdit>
@@ -71,7 +71,7 @@ class StandaloneMessagesTest : public QObject {
     }
     void show();
 
-    std::optional<KeyerBench> _bench;
+    std::optional<EngineBench> _bench;
     std::optional<StandaloneMessages> _view;
 };
 

@@ -1,0 +1,92 @@
+#pragma once
+
+#include "app/keyboard/EditHistory.h"
+#include "app/keyboard/KeyboardText.h"
+#include "app/keyboard/ScrollRest.h"
+#include "app/keyboard/SendingMarks.h"
+
+#include <QPlainTextEdit>
+
+#include <optional>
+
+class WinKeyerUsb;
+
+/// The text that is being sent, for the operator to type into, marked with how far it is sent.
+///
+/// Bound both ways to the keyer engine's text: whatever way the operator's text takes, the engine
+/// filters it, and what the engine makes of it, or adds, shows here. Its changes leave caret,
+/// selection and a composition of an input method with their text. The view follows the sending
+/// while it is not in use. A position in the document is the index into the engine's text, but
+/// some spaces are ends of paragraphs there; see KeyboardText.
+class KeyboardView final : public QPlainTextEdit {
+    Q_OBJECT
+  public:
+    explicit KeyboardView(QWidget* parent = nullptr);
+
+    /// Binds the view to `engine`, which must outlive it. Call it once.
+    void setEngine(WinKeyerUsb& engine);
+
+    /// What the view shows, with all its spaces. Equal to the engine's text between two events.
+    [[nodiscard]] QString text() const { return _text.text(); }
+
+    /// Puts `text` in place of the characters [begin, end), as if the operator had typed it.
+    void replaceText(qsizetype begin, qsizetype end, const QString& text);
+
+    /// How many characters are on their way or wait.
+    [[nodiscard]] qsizetype waitingCount() const;
+
+    [[nodiscard]] bool canUndoTyping() const { return _history.canUndo(); }
+    [[nodiscard]] bool canRedoTyping() const { return _history.canRedo(); }
+
+  public Q_SLOTS:
+    /// Takes back the last word typed, other edit, or added message, if all of it still waits;
+    /// otherwise does nothing. undo() of the base class never does anything.
+    void undoTyping();
+    /// Makes again what undoTyping() took back, under the same condition.
+    void redoTyping();
+
+  Q_SIGNALS:
+    void canUndoTypingChanged(bool canUndo);
+    void canRedoTypingChanged(bool canRedo);
+
+  protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void inputMethodEvent(QInputMethodEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+    [[nodiscard]] QMimeData* createMimeDataFromSelection() const override;
+    void insertFromMimeData(const QMimeData* source) override;
+
+  private:
+    void takeOperatorsText();
+    void giveToEngine(const QString& text);
+    void travel(const std::optional<TextChange>& change);
+    void announceHistory();
+
+    void showEnginesText();
+    void showChange(const TextChange& change);
+    void breakParagraphs();
+    void keepSelection(int begin, int end, bool isReversed);
+
+    void takeProgress();
+    void showProgress();
+    void followSending();
+    [[nodiscard]] bool isInUse() const;
+    [[nodiscard]] int linesInSight() const;
+    [[nodiscard]] int lineOf(int position) const;
+    [[nodiscard]] SendingMarks::State sendingState() const;
+
+    WinKeyerUsb* _engine = nullptr;
+    KeyboardText _text;
+    EditHistory _history;
+    SendingMarks::State _shownState;
+    ScrollRest _scrollRest;
+    bool _isChangingDocument = false;
+    bool _isEngineTakingText = false;
+    bool _couldUndo = false;
+    bool _couldRedo = false;
+};

@@ -1,0 +1,212 @@
+#include "app/window/MainWindow.h"
+
+#include "app/window/AboutBox.h"
+#include "app/window/EditActions.h"
+#include "app/window/GuideWindow.h"
+#include "app/window/MessageButtons.h"
+#include "app/window/ModeSwitches.h"
+#include "app/window/TuneSwitch.h"
+#include "app/window/WindowPlace.h"
+#include "keyer/WinKeyerUsb.h"
+#include "ui_MainWindow.h"
+
+#include <QCloseEvent>
+#include <QGuiApplication>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Has a menu item be the button in another place: it presses the button, and is in step with it.
+void join(QAction& action, SwitchButton& button) {
+    QObject::connect(&action, &QAction::triggered, &button, &SwitchButton::click);
+    QObject::connect(&button, &SwitchButton::toggled, &action, &QAction::setChecked);
+    QObject::connect(&button, &SwitchButton::enabledChanged, &action, &QAction::setEnabled);
+    action.setChecked(button.isChecked());
+    action.setEnabled(button.isEnabled());
+}
+
+/// Sets a font that is so many points larger than the application's.
+void enlarge(QWidget& widget, int points, QFont::Weight weight = QFont::Normal) {
+    auto font = QApplication::font();
+    font.setPointSizeF(font.pointSizeF() + points);
+    font.setWeight(weight);
+    widget.setFont(font);
+}
+
+} // namespace
+
+MainWindow::MainWindow(WinKeyerUsb& engine)
+    : _engine(engine), _ui(std::make_unique<Ui::MainWindow>()) {
+    // The library is a static one, whose resources nothing else would pull in.
+    Q_INIT_RESOURCE(resources);
+    _ui->setupUi(this);
+    QGuiApplication::setWindowIcon(QIcon(u":/icon.png"_s)); // of every window
+    enlargeFonts();
+    setUpMessages();
+    _ui->keyboardView->setEngine(_engine);
+    _ui->keyboardView->setFocus();
+    setUpContact();
+    setUpSwitches();
+    setUpMenus();
+    new WindowPlace(*this, u"MainWindowPlace"_s, this);
+
+    _ui->tuneWarning->setEngine(_engine);
+    _ui->keyerStatusLabel->setEngine(_engine);
+    QObject::connect(&_engine, &WinKeyerUsb::speedStringChanged, this, &MainWindow::showSpeed);
+    showSpeed();
+    QObject::connect(&_engine, &WinKeyerUsb::tuneStateChanged, this, &MainWindow::showTitle);
+    showTitle();
+}
+
+MainWindow::~MainWindow() = default;
+
+void MainWindow::setUpMessages() {
+    new MessageButtons(_engine,
+                       {{_ui->message1Button, _ui->message1Action},
+                        {_ui->message2Button, _ui->message2Action},
+                        {_ui->message3Button, _ui->message3Action},
+                        {_ui->message4Button, _ui->message4Action},
+                        {_ui->message5Button, _ui->message5Action},
+                        {_ui->message6Button, _ui->message6Action},
+                        {_ui->message7Button, _ui->message7Action},
+                        {_ui->message8Button, _ui->message8Action}},
+                       this);
+}
+
+void MainWindow::setUpContact() {
+    auto* callsign = _ui->hisCallsignTextField;
+    QObject::connect(callsign, &QLineEdit::textChanged, &_engine, &WinKeyerUsb::setHisCallsign);
+    QObject::connect(&_engine, &WinKeyerUsb::hisCallsignChanged, callsign, [this, callsign] {
+        if (callsign->text() != _engine.hisCallsign()) {
+            callsign->setText(_engine.hisCallsign());
+        }
+    });
+
+    auto* number = _ui->serialNumberBox;
+    QObject::connect(number, &QSpinBox::valueChanged, &_engine, &WinKeyerUsb::setSerialNumber);
+    const auto showNumber = [this, number] {
+        number->setMaximum(std::max(number->maximum(), static_cast<int>(_engine.serialNumber())));
+        number->setValue(static_cast<int>(_engine.serialNumber()));
+    };
+    QObject::connect(&_engine, &WinKeyerUsb::serialNumberChanged, number, showNumber);
+    showNumber();
+    auto* increment = _ui->incrementSerialNumberButton;
+    QObject::connect(increment, &QToolButton::clicked, this,
+                     [this, increment] { _engine.incrementSerialNumber(increment); });
+    auto* decrement = _ui->decrementSerialNumberButton;
+    QObject::connect(decrement, &QToolButton::clicked, this,
+                     [this, decrement] { _engine.decrementSerialNumber(decrement); });
+}
+
+void MainWindow::setUpSwitches() {
+    _tuneSwitch = new TuneSwitch(_engine, *_ui->tuneButton, this);
+    new ModeSwitches(
+        _engine, {.pause = _ui->pauseButton, .hscw = _ui->hscwButton, .beacon = _ui->beaconButton},
+        this);
+    QObject::connect(_ui->stopButton, &QPushButton::clicked, this, &MainWindow::stop);
+}
+
+void MainWindow::setUpMenus() {
+    QObject::connect(_ui->preferencesAction, &QAction::triggered, this,
+                     &MainWindow::preferencesRequested);
+    QObject::connect(_ui->quitAction, &QAction::triggered, this, &MainWindow::quitRequested);
+    QObject::connect(_ui->stopAction, &QAction::triggered, _ui->stopButton, &QPushButton::click);
+    join(*_ui->tuneAction, *_ui->tuneButton);
+    join(*_ui->pauseAction, *_ui->pauseButton);
+    join(*_ui->hscwAction, *_ui->hscwButton);
+    join(*_ui->beaconAction, *_ui->beaconButton);
+    QObject::connect(_ui->hisCallsignAction, &QAction::triggered, _ui->hisCallsignTextField,
+                     [this] { _ui->hisCallsignTextField->setFocus(Qt::ShortcutFocusReason); });
+    QObject::connect(_ui->keyboardAction, &QAction::triggered, _ui->keyboardView,
+                     [this] { _ui->keyboardView->setFocus(Qt::ShortcutFocusReason); });
+    QObject::connect(_ui->incrementSerialNumberAction, &QAction::triggered,
+                     _ui->incrementSerialNumberButton, &QToolButton::click);
+    QObject::connect(_ui->decrementSerialNumberAction, &QAction::triggered,
+                     _ui->decrementSerialNumberButton, &QToolButton::click);
+    new EditActions(*this, *_ui->keyboardView,
+                    {.undo = _ui->undoAction,
+                     .redo = _ui->redoAction,
+                     .cut = _ui->cutAction,
+                     .copy = _ui->copyAction,
+                     .paste = _ui->pasteAction,
+                     .selectAll = _ui->selectAllAction},
+                    this);
+    QObject::connect(_ui->guideAction, &QAction::triggered, this, &MainWindow::showGuide);
+    QObject::connect(_ui->aboutAction, &QAction::triggered, this,
+                     [this] { (new AboutBox(this))->show(); });
+}
+
+QLineEdit& MainWindow::hisCallsignTextField() const {
+    return *_ui->hisCallsignTextField;
+}
+
+/// Key up first: it is what cannot wait.
+void MainWindow::stop() {
+    letGoOfTune();
+    _engine.stopMessageSending(_ui->stopButton);
+}
+
+void MainWindow::letGoOfTune() {
+    _tuneSwitch->letGo();
+}
+
+void MainWindow::showGuide() {
+    if (_guide == nullptr) {
+        _guide = new GuideWindow(this);
+    }
+    _guide->show();
+    _guide->raise();
+    _guide->activateWindow();
+}
+
+void MainWindow::comeToFront(const QString& activationToken) {
+    if (!activationToken.isEmpty()) {
+        // Where the toolkit looks for it; a Wayland desktop lets nobody come to the front without.
+        qputenv("XDG_ACTIVATION_TOKEN", activationToken.toUtf8());
+    }
+    setWindowState(windowState() & ~Qt::WindowMinimized);
+    show();
+    raise();
+    activateWindow();
+}
+
+/// Nobody sees the warning of a window that is closed.
+void MainWindow::closeEvent(QCloseEvent* event) {
+    letGoOfTune();
+    QMainWindow::closeEvent(event);
+}
+
+void MainWindow::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::FontChange) {
+        enlargeFonts();
+    }
+    QMainWindow::changeEvent(event);
+}
+
+/// What is read from a distance is larger than the rest, by an amount that a large font of the
+/// desktop does not multiply.
+void MainWindow::enlargeFonts() {
+    enlarge(*_ui->tuneWarning, 3, QFont::Bold);
+    enlarge(*_ui->keyboardView, 6);
+    enlarge(*_ui->hisCallsignTextField, 6);
+    enlarge(*_ui->decrementSerialNumberButton, 6);
+    enlarge(*_ui->serialNumberBox, 6);
+    enlarge(*_ui->incrementSerialNumberButton, 6);
+    enlarge(*_ui->speedLabel, 10);
+}
+
+void MainWindow::showSpeed() {
+    const auto speed = _engine.speedString();
+    const auto shown = speed.isNull() ? tr("– WPM") : speed;
+    _ui->speedLabel->setText(shown);
+    // A screen reader reads the label's name in place of its text.
+    _ui->speedLabel->setAccessibleDescription(shown);
+}
+
+/// The title is what is seen of a window that lies under others.
+void MainWindow::showTitle() {
+    setWindowTitle(_engine.tuneState() != 0 ? tr("TRANSMITTING – Quorvel") : tr("Quorvel"));
+}

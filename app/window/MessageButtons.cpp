@@ -1,0 +1,64 @@
+#include "app/window/MessageButtons.h"
+
+#include "keyer/MessageSettings.h"
+#include "keyer/WinKeyerUsb.h"
+#include "platform/SettingsStore.h"
+
+#include <QAction>
+#include <QPushButton>
+#include <QTextDocument>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr qsizetype longestMenuLabel = 40;
+
+/// A label is the operator's own text: an ampersand in it is no keyboard shortcut.
+QString withoutMnemonic(QString label) {
+    return label.replace(u"&"_s, u"&&"_s);
+}
+
+QString shortened(const QString& label) {
+    return label.size() <= longestMenuLabel ? label : label.first(longestMenuLabel - 1) + u'…';
+}
+
+} // namespace
+
+MessageButtons::MessageButtons(WinKeyerUsb& engine, const QList<Control>& controls, QObject* parent)
+    : QObject(parent), _engine(engine), _controls(controls) {
+    for (const auto& [button, action] : _controls) {
+        QObject::connect(button, &QPushButton::clicked, this,
+                         [this, sender = button] { _engine.sendMessage(sender); });
+        // A button's own shortcut would first show it pressed for a tenth of a second.
+        QObject::connect(action, &QAction::triggered, button, &QPushButton::click);
+    }
+    QObject::connect(&SettingsStore::standardUserDefaults(), &SettingsStore::changed, this,
+                     &MessageButtons::show);
+    QObject::connect(&_engine, &WinKeyerUsb::serialNumberChanged, this, &MessageButtons::show);
+    QObject::connect(&_engine, &WinKeyerUsb::hisCallsignChanged, this, &MessageButtons::show);
+    show();
+}
+
+void MessageButtons::show() {
+    const auto& settings = SettingsStore::standardUserDefaults();
+    for (int i = 0; i < _controls.size(); ++i) {
+        const auto& [button, action] = _controls.at(i);
+        const auto& message = messageSettings[static_cast<std::size_t>(i)];
+        const auto label = settings.stringForKey(message.labelKey);
+        const auto text = textToBeSent(settings.stringForKey(message.textKey));
+        button->setAccessibleName(tr("Message %1: %2").arg(i + 1).arg(label));
+        button->setAccessibleDescription(text);
+        button->setToolTip(Qt::convertFromPlainText(text));
+        button->setText(tr("F%1  %2").arg(i + 1).arg(withoutMnemonic(label)));
+        action->setText(tr("&%1  %2").arg(i + 1).arg(withoutMnemonic(shortened(label))));
+    }
+}
+
+QString MessageButtons::textToBeSent(const QString& stored) const {
+    auto text = _engine.substituteTokens(stored);
+    if (!_engine.hisCallsign().isEmpty()) {
+        text.replace(u'~', _engine.hisCallsign());
+    }
+    return text.toUpper();
+}

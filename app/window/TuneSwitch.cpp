@@ -1,0 +1,41 @@
+#include "app/window/TuneSwitch.h"
+
+#include "keyer/WinKeyerUsb.h"
+#include "platform/NotificationCenter.h"
+
+#include <QAbstractButton>
+
+TuneSwitch::TuneSwitch(WinKeyerUsb& engine, QAbstractButton& button, QObject* parent)
+    : QObject(parent), _engine(engine), _button(button) {
+    QObject::connect(&_button, &QAbstractButton::toggled, this, [this](bool isOn) {
+        if (isOn != (_engine.tuneState() != 0)) {
+            _engine.setTuneState(isOn ? 1 : 0);
+            _engine.tune(&_button);
+        }
+    });
+    QObject::connect(&_engine, &WinKeyerUsb::tuneStateChanged, this,
+                     [this] { _button.setChecked(_engine.tuneState() != 0); });
+    QObject::connect(&_engine, &WinKeyerUsb::messageSendingStopped, this, &TuneSwitch::letGo);
+    QObject::connect(&_engine, &WinKeyerUsb::activityChanged, this, &TuneSwitch::followLink);
+    NotificationCenter::defaultCenter().addObserver(this, NSWorkspaceWillSleepNotification,
+                                                    [this](const Notification&) { letGo(); });
+    _button.setChecked(_engine.tuneState() != 0);
+    followLink();
+}
+
+void TuneSwitch::letGo() {
+    if (_engine.tuneState() != 0) {
+        _engine.setTuneState(0);
+        _engine.tune(&_button);
+    }
+}
+
+void TuneSwitch::followLink() {
+    const bool isConnected = _engine.activity() != KeyerActivity::NotConnected;
+    if (!isConnected) {
+        letGo();
+    }
+    _button.setEnabled(isConnected);
+    _button.setToolTip(isConnected ? tr("Key the transmitter steadily (Ctrl+T)")
+                                   : tr("Tune needs a keyer, and none is connected"));
+}

@@ -1,0 +1,141 @@
+#include "app/window/ModeSwitches.h"
+
+#include "keyer/KeyerSettings.h"
+#include "tests/keyer/EngineBench.h"
+
+#include <QPushButton>
+#include <QTest>
+
+#include <optional>
+
+using namespace Qt::StringLiterals;
+
+class ModeSwitchesTest : public QObject {
+    Q_OBJECT
+
+  private Q_SLOTS:
+    void init();
+    void cleanup();
+
+    void pauseTellsTheKeyer();
+    void aKeyerThatIsFullIsSeenToPause();
+    void highSpeedTellsTheKeyer();
+    void theEndOfHighSpeedInATextIsSeen();
+    void aKeyerThatComesBackIsAtThePotsSpeed();
+    void highSpeedNeedsAKeyer();
+    void beaconIsTheEngines();
+    void aStopEndsTheBeacon();
+    void theSwitchesStartAsTheEngineIs();
+
+  private:
+    std::optional<EngineBench> _bench;
+    QPushButton _pause;
+    QPushButton _hscw;
+    QPushButton _beacon;
+    std::optional<ModeSwitches> _switches;
+};
+
+void ModeSwitchesTest::init() {
+    for (auto* button : {&_pause, &_hscw, &_beacon}) {
+        button->setCheckable(true);
+        button->setChecked(false);
+    }
+    _bench.emplace();
+    QVERIFY(_bench->connect());
+    _switches.emplace(_bench->engine(),
+                      ModeSwitches::Buttons{.pause = &_pause, .hscw = &_hscw, .beacon = &_beacon},
+                      nullptr);
+}
+
+void ModeSwitchesTest::cleanup() {
+    _switches.reset();
+    _bench.reset();
+}
+
+void ModeSwitchesTest::pauseTellsTheKeyer() {
+    _pause.click();
+    QCOMPARE(_bench->engine().pauseState(), 1);
+    QCOMPARE(_bench->written(), "06 01");
+    _pause.click();
+    QCOMPARE(_bench->engine().pauseState(), 0);
+    QCOMPARE(_bench->written(), "06 00");
+}
+
+void ModeSwitchesTest::aKeyerThatIsFullIsSeenToPause() {
+    _bench->receive({0xC1});
+    QVERIFY(_pause.isChecked());
+    _bench->receive({0xC0});
+    QVERIFY(!_pause.isChecked());
+    QCOMPARE(_bench->written(), "06 01 06 00");
+}
+
+void ModeSwitchesTest::highSpeedTellsTheKeyer() {
+    _bench->settings().setObject(u"2000 lpm"_s, WKHSCWSpeed);
+    _hscw.click();
+    QCOMPARE(_bench->engine().hscwState(), 1);
+    QCOMPARE(_bench->written(), "1d 14");
+    _hscw.click();
+    QCOMPARE(_bench->engine().hscwState(), 0);
+    QCOMPARE(_bench->written(), "02 00");
+}
+
+void ModeSwitchesTest::theEndOfHighSpeedInATextIsSeen() {
+    _hscw.click();
+    static_cast<void>(_bench->written());
+    _bench->type(u"^"_s);
+    QCOMPARE(_bench->engine().hscwState(), 0);
+    QVERIFY(!_hscw.isChecked());
+    QCOMPARE(_bench->written(), "1e");
+}
+
+void ModeSwitchesTest::aKeyerThatComesBackIsAtThePotsSpeed() {
+    _hscw.click();
+    QVERIFY(_bench->engine().disconnect(nullptr));
+    QCOMPARE(_bench->engine().hscwState(), 0);
+    QVERIFY(!_hscw.isChecked());
+    QVERIFY(_bench->connect());
+    QCOMPARE(_bench->engine().hscwState(), 0);
+}
+
+void ModeSwitchesTest::highSpeedNeedsAKeyer() {
+    const auto toolTip = _hscw.toolTip();
+    QVERIFY(_hscw.isEnabled());
+    QVERIFY(_bench->engine().disconnect(nullptr));
+    QVERIFY(!_hscw.isEnabled());
+    QVERIFY(_hscw.toolTip().contains(u"none is connected"));
+    QVERIFY(_bench->connect());
+    QVERIFY(_hscw.isEnabled());
+    QCOMPARE(_hscw.toolTip(), toolTip);
+}
+
+void ModeSwitchesTest::beaconIsTheEngines() {
+    _beacon.click();
+    QCOMPARE(_bench->engine().beaconState(), 1);
+    _beacon.click();
+    QCOMPARE(_bench->engine().beaconState(), 0);
+    _bench->engine().setBeaconState(1);
+    QVERIFY(_beacon.isChecked());
+    QCOMPARE(_bench->written(), "");
+}
+
+void ModeSwitchesTest::aStopEndsTheBeacon() {
+    _beacon.click();
+    _bench->engine().stopMessageSending(nullptr);
+    QVERIFY(!_beacon.isChecked());
+}
+
+void ModeSwitchesTest::theSwitchesStartAsTheEngineIs() {
+    _switches.reset();
+    _bench->engine().setPauseState(1);
+    _bench->engine().setHscwState(1);
+    _bench->engine().setBeaconState(1);
+    _switches.emplace(_bench->engine(),
+                      ModeSwitches::Buttons{.pause = &_pause, .hscw = &_hscw, .beacon = &_beacon},
+                      nullptr);
+    QVERIFY(_pause.isChecked());
+    QVERIFY(_hscw.isChecked());
+    QVERIFY(_beacon.isChecked());
+}
+
+QTEST_MAIN(ModeSwitchesTest)
+#include "ModeSwitchesTest.moc"

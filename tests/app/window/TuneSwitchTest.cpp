@@ -1,0 +1,245 @@
+#include "app/window/TuneSwitch.h"
+
+#include "app/QuorvelDelegate.h"
+#include "app/window/MainWindow.h"
+#include "keyer/GeneralSettings.h"
+#include "tests/keyer/EngineBench.h"
+#include "tests/support/SystemCallFaults.h"
+
+#include <QAccessible>
+#include <QLabel>
+#include <QPushButton>
+#include <QTest>
+
+#include <cerrno>
+#include <optional>
+
+using namespace Qt::StringLiterals;
+
+class TuneSwitchTest : public QObject {
+    Q_OBJECT
+
+  private Q_SLOTS:
+    void init();
+    void cleanup();
+
+    void keysDownAndUp();
+    void aSwitchThatAnotherOneTurnsFollows();
+    void theWindowSaysThatItTransmits();
+    void escapeLetsGo();
+    void stopLetsGo();
+    void aStopFromElsewhereLetsGo();
+    void losingThePortLetsGo();
+    void aRemovedPortLetsGo();
+    void anotherChoiceOfPortKeysUpBeforeItDisconnects();
+    void quittingKeysUpBeforeItDisconnects();
+    void closingTheWindowLetsGo();
+    void sleepLetsGo();
+    void onlyAKeyerCanBeTuned();
+    void escapeWithoutATuneKeysNothing();
+    void aKeyUpThatTheLineRefusesGoesWithTheNextStop_data();
+    void aKeyUpThatTheLineRefusesGoesWithTheNextStop();
+    void aKeyUpThatTheLineTakesHalfOfGoesOnWithTheStop();
+
+  private:
+    void tune();
+    [[nodiscard]] bool isTransmittingShown();
+
+    std::optional<EngineBench> _bench;
+    std::optional<QuorvelDelegate> _delegate;
+    std::optional<MainWindow> _window;
+    QPushButton* _button = nullptr;
+};
+
+void TuneSwitchTest::init() {
+    _bench.emplace();
+    _delegate.emplace();
+    _window.emplace(_bench->engine());
+    QObject::connect(&*_delegate, &QuorvelDelegate::willDisconnect, &*_window,
+                     &MainWindow::letGoOfTune);
+    QVERIFY(_bench->connect());
+    _window->show();
+    QVERIFY(QTest::qWaitForWindowActive(&*_window));
+    _button = _window->findChild<QPushButton*>(u"tuneButton"_s);
+}
+
+void TuneSwitchTest::cleanup() {
+    _window.reset();
+    _delegate.reset();
+    _bench.reset();
+}
+
+void TuneSwitchTest::tune() {
+    QTest::mouseClick(_button, Qt::LeftButton);
+    QCOMPARE(_bench->written(), "0b 01");
+    QCOMPARE(_bench->engine().tuneState(), 1);
+}
+
+bool TuneSwitchTest::isTransmittingShown() {
+    const auto* warning = _window->findChild<QLabel*>(u"tuneWarning"_s);
+    const auto* status = _window->findChild<QLabel*>(u"keyerStatusLabel"_s);
+    const QList<bool> signs{warning->isVisible(), status->text().contains(u"tune is on"),
+                            _window->windowTitle().contains(u"TRANSMITTING"), _button->isChecked()};
+    if (signs.contains(true) && signs.contains(false)) {
+        qWarning() << "The window contradicts itself:" << signs;
+        return !_bench->engine().tuneState();
+    }
+    return signs.constFirst();
+}
+
+void TuneSwitchTest::keysDownAndUp() {
+    tune();
+    QTest::mouseClick(_button, Qt::LeftButton);
+    QCOMPARE(_bench->written(), "0b 00");
+    QCOMPARE(_bench->engine().tuneState(), 0);
+}
+
+void TuneSwitchTest::aSwitchThatAnotherOneTurnsFollows() {
+    _bench->engine().setTuneState(1);
+    QVERIFY(_button->isChecked());
+    _bench->engine().setTuneState(0);
+    QVERIFY(!_button->isChecked());
+    QCOMPARE(_bench->written(), "");
+}
+
+void TuneSwitchTest::theWindowSaysThatItTransmits() {
+    QVERIFY(!isTransmittingShown());
+    tune();
+    QVERIFY(isTransmittingShown());
+    auto* warning = _window->findChild<QLabel*>(u"tuneWarning"_s);
+    QVERIFY(warning->text().contains(u"TRANSMITTING: tune is on. Press Esc to let go."_s));
+    QCOMPARE(QAccessible::queryAccessibleInterface(warning)->text(QAccessible::Name),
+             warning->text());
+    QTest::mouseClick(_button, Qt::LeftButton);
+    QVERIFY(!isTransmittingShown());
+}
+
+void TuneSwitchTest::escapeLetsGo() {
+    tune();
+    QTest::keyClick(_window->windowHandle(), Qt::Key_Escape);
+    QCOMPARE(_bench->written(), "0b 00 0a");
+    QVERIFY(!isTransmittingShown());
+}
+
+void TuneSwitchTest::stopLetsGo() {
+    tune();
+    QTest::mouseClick(_window->findChild<QPushButton*>(u"stopButton"_s), Qt::LeftButton);
+    QCOMPARE(_bench->written(), "0b 00 0a");
+    QVERIFY(!isTransmittingShown());
+}
+
+void TuneSwitchTest::aStopFromElsewhereLetsGo() {
+    tune();
+    _bench->engine().stopMessageSending(nullptr);
+    QCOMPARE(_bench->written(), "0a 0b 00");
+    QVERIFY(!isTransmittingShown());
+}
+
+void TuneSwitchTest::losingThePortLetsGo() {
+    tune();
+    QVERIFY(_bench->engine().disconnect(nullptr));
+    QVERIFY(!isTransmittingShown());
+}
+
+void TuneSwitchTest::aRemovedPortLetsGo() {
+    _delegate->applicationDidFinishLaunching();
+    QVERIFY(_bench->engine().isConnected());
+    static_cast<void>(_bench->written());
+    tune();
+    _bench->platform().devices().unplug(_bench->device());
+    QVERIFY(!_bench->engine().isConnected());
+    QVERIFY(!isTransmittingShown());
+}
+
+void TuneSwitchTest::anotherChoiceOfPortKeysUpBeforeItDisconnects() {
+    tune();
+    const auto before = _bench->clock().now();
+    Clock::Duration keyUp{-1};
+    QObject::connect(&_bench->engine(), &WinKeyerUsb::tuneStateChanged, &*_window,
+                     [&] { keyUp = _bench->clock().now(); });
+    _bench->settings().setObject(u"None"_s, WKPortName);
+    _delegate->changeSerialPort(nullptr);
+    QCOMPARE(keyUp, before);
+    QCOMPARE(_bench->written(), "0b 00 00 03");
+    QVERIFY(!isTransmittingShown());
+}
+
+void TuneSwitchTest::quittingKeysUpBeforeItDisconnects() {
+    tune();
+    const auto before = _bench->clock().now();
+    Clock::Duration keyUp{-1};
+    QObject::connect(&_bench->engine(), &WinKeyerUsb::tuneStateChanged, &*_window,
+                     [&] { keyUp = _bench->clock().now(); });
+    _delegate->applicationShouldTerminate();
+    QCOMPARE(keyUp, before);
+    QCOMPARE(_bench->written(), "0b 00 00 03");
+}
+
+void TuneSwitchTest::closingTheWindowLetsGo() {
+    tune();
+    _window->close();
+    QCOMPARE(_bench->written(), "0b 00");
+    QCOMPARE(_bench->engine().tuneState(), 0);
+}
+
+void TuneSwitchTest::sleepLetsGo() {
+    tune();
+    _bench->platform().notifications().post(NSWorkspaceWillSleepNotification, nullptr);
+    QCOMPARE(_bench->engine().tuneState(), 0);
+    _bench->platform().notifications().post(NSWorkspaceDidWakeNotification, nullptr);
+    QVERIFY(_bench->written().startsWith("0b 00"));
+    QVERIFY(!isTransmittingShown());
+}
+
+void TuneSwitchTest::onlyAKeyerCanBeTuned() {
+    QVERIFY(_button->isEnabled());
+    const auto reason = _button->toolTip();
+    QVERIFY(_bench->engine().disconnect(nullptr));
+    QVERIFY(!_button->isEnabled());
+    QVERIFY(_button->toolTip().contains(u"none is connected"));
+    QTest::keyClick(_window->windowHandle(), Qt::Key_T, Qt::ControlModifier);
+    QCOMPARE(_bench->engine().tuneState(), 0);
+    QVERIFY(_bench->connect());
+    QVERIFY(_button->isEnabled());
+    QCOMPARE(_button->toolTip(), reason);
+}
+
+void TuneSwitchTest::escapeWithoutATuneKeysNothing() {
+    QTest::keyClick(_window->windowHandle(), Qt::Key_Escape);
+    QCOMPARE(_bench->written(), "0a");
+}
+
+void TuneSwitchTest::aKeyUpThatTheLineRefusesGoesWithTheNextStop_data() {
+    QTest::addColumn<bool>("isByEscape");
+    QTest::newRow("let go by Escape") << true;
+    QTest::newRow("let go by the switch") << false;
+}
+
+/// What the line did not take is kept, and goes ahead of what is written next.
+void TuneSwitchTest::aKeyUpThatTheLineRefusesGoesWithTheNextStop() {
+    QFETCH(bool, isByEscape);
+    tune();
+    SystemCallFaults faults;
+    faults.fail(SystemCall::Write, EAGAIN);
+    if (isByEscape) {
+        QTest::keyClick(_window->windowHandle(), Qt::Key_Escape);
+    } else {
+        QTest::mouseClick(_button, Qt::LeftButton);
+    }
+    QVERIFY(faults.count(SystemCall::Write) > 0);
+    faults.mend();
+    QTest::keyClick(_window->windowHandle(), Qt::Key_Escape);
+    const auto written = _bench->written();
+    QVERIFY2(written == (isByEscape ? "0b 00 0a 0a" : "0b 00 0a"), written);
+}
+
+void TuneSwitchTest::aKeyUpThatTheLineTakesHalfOfGoesOnWithTheStop() {
+    tune();
+    SystemCallFaults faults;
+    faults.shortenNextWrite(1);
+    QTest::keyClick(_window->windowHandle(), Qt::Key_Escape);
+    QCOMPARE(_bench->written(), "0b 00 0a");
+}
+
+QTEST_MAIN(TuneSwitchTest)
+#include "TuneSwitchTest.moc"
