@@ -42,27 +42,31 @@ endfunction()
 # What the thread sanitizer's run builds.
 add_custom_target(thread-tests)
 
-# quorvel_test(NAME SOURCES file... LINK library... [WRAP call...] [LABELS label...])
-# One test program, run by ctest with an offscreen screen and a home of its own.
-# WRAP names system calls that the test replaces at link time by __wrap_CALL.
-# LABELS "threads" puts the test into the thread sanitizer's run.
-function(quorvel_test name)
-    cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;LINK;WRAP;LABELS")
-    add_executable(${name} ${arg_SOURCES})
-    # The sanitizers' presets build libraries from files joined together, which saves minutes. A test
-    # has but one file of weight, with names of its own.
-    set_target_properties(${name} PROPERTIES AUTOMOC ON UNITY_BUILD OFF
+# quorvel_tests(PROGRAM CLASSES class... LINK library... [SOURCES file...] [WRAP symbol...]
+#               [LABELS label...] [THREADS class...])
+# One program of test classes, each in the file of its name and a test of its own for ctest, with an
+# offscreen screen. SOURCES are further files. WRAP names calls that the tests replace at link time
+# by __wrap_CALL. THREADS names the classes that belong into the thread sanitizer's run.
+function(quorvel_tests program)
+    cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "CLASSES;LINK;SOURCES;WRAP;THREADS")
+    list(TRANSFORM arg_CLASSES APPEND .cpp OUTPUT_VARIABLE sources)
+    add_executable(${program} ${sources} ${arg_SOURCES})
+    # The sanitizers' presets build libraries from files joined together, which saves minutes. Test
+    # classes have names that are their own only within their file.
+    set_target_properties(${program} PROPERTIES AUTOMOC ON UNITY_BUILD OFF
         RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests)
-    target_link_libraries(${name} PRIVATE ${arg_LINK} Qt6::Test quorvel-flags)
-    target_precompile_headers(${name} REUSE_FROM precompiled-${QUORVEL_PRECOMPILED}-test)
-    foreach(call IN LISTS arg_WRAP)
-        target_link_options(${name} PRIVATE -Wl,--wrap=${call})
+    target_link_libraries(${program} PRIVATE ${arg_LINK} tests-main-${QUORVEL_PRECOMPILED}
+        Qt6::Test quorvel-flags)
+    target_precompile_headers(${program} REUSE_FROM precompiled-${QUORVEL_PRECOMPILED}-test)
+    list(TRANSFORM arg_WRAP PREPEND -Wl,--wrap= OUTPUT_VARIABLE wrapped)
+    target_link_options(${program} PRIVATE ${wrapped})
+    foreach(class IN LISTS arg_CLASSES)
+        add_test(NAME ${class} COMMAND ${program} ${class})
+        set_tests_properties(${class} PROPERTIES
+            ENVIRONMENT "QT_QPA_PLATFORM=offscreen;QT_FORCE_STDERR_LOGGING=1")
     endforeach()
-    if("threads" IN_LIST arg_LABELS)
-        add_dependencies(thread-tests ${name})
+    if(arg_THREADS)
+        set_tests_properties(${arg_THREADS} PROPERTIES LABELS threads)
+        add_dependencies(thread-tests ${program})
     endif()
-    add_test(NAME ${name} COMMAND ${name})
-    set_tests_properties(${name} PROPERTIES
-        LABELS "${arg_LABELS}"
-        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;QT_FORCE_STDERR_LOGGING=1")
 endfunction()

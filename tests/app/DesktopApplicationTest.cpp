@@ -1,6 +1,7 @@
 #include "app/DesktopApplication.h"
 
 #include "serial/ORSSerialPortManager.h"
+#include "tests/support/RegisteredTest.h"
 #include "tests/support/TestPlatform.h"
 
 #include <QApplication>
@@ -143,5 +144,5 @@ void DesktopApplicationTest::devicesThatComeMeanwhileAreAnnouncedAfterwards() {
     QCOMPARE(manager.objectInAvailablePortsAtIndex(0)->name(), u"b"_s);
 }
 
-QTEST_MAIN(DesktopApplicationTest)
+static const RegisteredTest<DesktopApplicationTest> registered;
 #include "DesktopApplicationTest.moc"

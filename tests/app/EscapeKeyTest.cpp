@@ -3,6 +3,7 @@
 #include "app/DesktopApplication.h"
 #include "app/window/MainWindow.h"
 #include "tests/keyer/EngineBench.h"
+#include "tests/support/RegisteredTest.h"
 
 #include <QComboBox>
 #include <QMenu>
@@ -173,5 +174,5 @@ void EscapeKeyTest::otherKeysStopNothing() {
     QCOMPARE(_bench->written(), "");
 }
 
-QTEST_MAIN(EscapeKeyTest)
+static const RegisteredTest<EscapeKeyTest> registered;
 #include "EscapeKeyTest.moc"

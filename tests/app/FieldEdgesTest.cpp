@@ -1,5 +1,7 @@
 #include "app/FieldEdges.h"
 
+#include "tests/support/RegisteredTest.h"
+
 #include <QApplication>
 #include <QLineEdit>
 #include <QPlainTextEdit>
@@ -98,5 +100,5 @@ void FieldEdgesTest::hintsAreSeen() {
              palette.color(QPalette::Text).lightness());
 }
 
-QTEST_MAIN(FieldEdgesTest)
+static const RegisteredTest<FieldEdgesTest> registered;
 #include "FieldEdgesTest.moc"

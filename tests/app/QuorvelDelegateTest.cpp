@@ -4,6 +4,7 @@
 #include "keyer/WinKeyerUsb.h"
 #include "serial/ORSSerialPortManager.h"
 #include "tests/keyer/EngineBench.h"
+#include "tests/support/RegisteredTest.h"
 #include "tests/support/SystemCallFaults.h"
 
 #include <QSignalSpy>
@@ -361,5 +362,5 @@ void QuorvelDelegateTest::theDelegateIsTheApplications() {
     QVERIFY(_bench->platform().application().delegate() == nullptr);
 }
 
-QTEST_GUILESS_MAIN(QuorvelDelegateTest)
+static const RegisteredTest<QuorvelDelegateTest> registered;
 #include "QuorvelDelegateTest.moc"

@@ -2,6 +2,7 @@
 
 #include "platform/SettingsStore.h"
 #include "tests/support/OrdinaryUser.h"
+#include "tests/support/RegisteredTest.h"
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -95,5 +96,5 @@ void SettingsFileAlertTest::saysThatAFileMayNotBeRead() {
     QVERIFY(alert->informativeText.contains(path() + u".new"_s));
 }
 
-QTEST_GUILESS_MAIN(SettingsFileAlertTest)
+static const RegisteredTest<SettingsFileAlertTest> registered;
 #include "SettingsFileAlertTest.moc"

@@ -1,5 +1,7 @@
 #include "app/TerminationSignals.h"
 
+#include "tests/support/RegisteredTest.h"
+
 #include <QSignalSpy>
 #include <QTest>
 
@@ -40,5 +42,5 @@ void TerminationSignalsTest::signalsHaveTheirDefaultEffectAfterwards() {
     }
 }
 
-QTEST_GUILESS_MAIN(TerminationSignalsTest)
+static const RegisteredTest<TerminationSignalsTest> registered;
 #include "TerminationSignalsTest.moc"

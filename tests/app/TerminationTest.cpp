@@ -2,6 +2,7 @@
 
 #include "app/QuorvelDelegate.h"
 #include "tests/keyer/EngineBench.h"
+#include "tests/support/RegisteredTest.h"
 #include "tests/support/SystemCallFaults.h"
 
 #include <QApplication>
@@ -180,5 +181,5 @@ void TerminationTest::aWindowThatIsNotTheLastDoesNotQuit() {
     QCOMPARE(disconnections(), 1);
 }
 
-QTEST_MAIN(TerminationTest)
+static const RegisteredTest<TerminationTest> registered;
 #include "TerminationTest.moc"

@@ -2,6 +2,7 @@
 
 #include "app/QuorvelDelegate.h"
 #include "tests/keyer/EngineBench.h"
+#include "tests/support/RegisteredTest.h"
 
 #include <QLocale>
 #include <QSet>
@@ -63,5 +64,5 @@ void TranslationsTest::alertsAndErrorsAreTranslated() {
         u"QuorvelDelegate: The WinKeyer using serial port %1 has been unplugged."_s));
 }
 
-QTEST_MAIN(TranslationsTest)
+static const RegisteredTest<TranslationsTest> registered;
 #include "TranslationsTest.moc"

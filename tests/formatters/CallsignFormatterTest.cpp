@@ -1,5 +1,7 @@
 #include "formatters/CallsignFormatter.h"
 
+#include "tests/support/RegisteredTest.h"
+
 #include <QAccessible>
 #include <QClipboard>
 #include <QGuiApplication>
@@ -153,5 +155,5 @@ void CallsignFormatterTest::textPutInByTheProgramIsReplaced() {
     QCOMPARE(field.text(), u"K1A/P"_s);
 }
 
-QTEST_MAIN(CallsignFormatterTest)
+static const RegisteredTest<CallsignFormatterTest> registered;
 #include "CallsignFormatterTest.moc"

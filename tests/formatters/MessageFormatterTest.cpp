@@ -1,5 +1,7 @@
 #include "formatters/MessageFormatter.h"
 
+#include "tests/support/RegisteredTest.h"
+
 #include <QAccessible>
 #include <QClipboard>
 #include <QGuiApplication>
@@ -141,5 +143,5 @@ void MessageFormatterTest::textFromAnAssistiveTechnologyIsReplaced() {
     QCOMPARE(field.text(), u"QRZ `TEST"_s);
 }
 
-QTEST_MAIN(MessageFormatterTest)
+static const RegisteredTest<MessageFormatterTest> registered;
 #include "MessageFormatterTest.moc"

@@ -2,6 +2,7 @@
 #include "keyer/KeyerSettings.h"
 #include "keyer/StoredSettings.h"
 #include "tests/integration/Station.h"
+#include "tests/support/RegisteredTest.h"
 
 #include <QTest>
 
@@ -103,5 +104,5 @@ void KeyedWaveWireTest::theKeyerKeysWhatThePictureShows() {
     QVERIFY(std::ranges::equal(keyed, pictured, areSame));
 }
 
-QTEST_GUILESS_MAIN(KeyedWaveWireTest)
+static const RegisteredTest<KeyedWaveWireTest> registered;
 #include "KeyedWaveWireTest.moc"

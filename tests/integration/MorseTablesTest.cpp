@@ -1,4 +1,5 @@
 #include "keyer/MorseTable.h"
+#include "tests/support/RegisteredTest.h"
 #include "virtualkeyer/core/MorseTable.h"
 
 #include <QTest>
@@ -27,5 +28,5 @@ void MorseTablesTest::everyCharacterHasTheSameElements() {
     }
 }
 
-QTEST_APPLESS_MAIN(MorseTablesTest)
+static const RegisteredTest<MorseTablesTest> registered;
 #include "MorseTablesTest.moc"

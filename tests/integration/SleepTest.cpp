@@ -4,6 +4,7 @@
 #include "tests/platform/linux/PrivateBus.h"
 #include "tests/support/PseudoTerminalPair.h"
 #include "tests/support/RecordingDelegate.h"
+#include "tests/support/RegisteredTest.h"
 #include "tests/support/TestPlatform.h"
 
 #include <QTest>
@@ -51,5 +52,5 @@ class SleepTest : public QObject {
     }
 };
 
-QTEST_GUILESS_MAIN(SleepTest)
+static const RegisteredTest<SleepTest> registered;
 #include "SleepTest.moc"

@@ -1,4 +1,5 @@
 #include "tests/integration/Station.h"
+#include "tests/support/RegisteredTest.h"
 
 #include <QTest>
 
@@ -116,5 +117,5 @@ void WireConnectionTest::aClosedKeyerIsOpenedAgain() {
     QCOMPARE(_station->keyed(), u"TEST"_s);
 }
 
-QTEST_GUILESS_MAIN(WireConnectionTest)
+static const RegisteredTest<WireConnectionTest> registered;
 #include "WireConnectionTest.moc"

@@ -1,5 +1,6 @@
 #include "keyer/MessageSettings.h"
 #include "tests/integration/Station.h"
+#include "tests/support/RegisteredTest.h"
 
 #include <QTest>
 
@@ -107,5 +108,5 @@ void WireHourTest::flowControlLosesNothing() {
     QCOMPARE(_station->pendingTimers(), 0);
 }
 
-QTEST_GUILESS_MAIN(WireHourTest)
+static const RegisteredTest<WireHourTest> registered;
 #include "WireHourTest.moc"

@@ -1,6 +1,7 @@
 #include "keyer/KeyerMemory.h"
 #include "keyer/KeyerSettings.h"
 #include "tests/integration/Station.h"
+#include "tests/support/RegisteredTest.h"
 
 #include <QTest>
 
@@ -120,5 +121,5 @@ void WireMemoryTest::textIsSentAsBeforeAfterLoading() {
     QCOMPARE(_station->keyed(), u"PARIS"_s);
 }
 
-QTEST_GUILESS_MAIN(WireMemoryTest)
+static const RegisteredTest<WireMemoryTest> registered;
 #include "WireMemoryTest.moc"

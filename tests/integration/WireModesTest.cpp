@@ -1,5 +1,6 @@
 #include "keyer/MessageSettings.h"
 #include "tests/integration/Station.h"
+#include "tests/support/RegisteredTest.h"
 
 #include <QTest>
 
@@ -134,5 +135,5 @@ void WireModesTest::theBeaconEndsWithThePaddle() {
     QCOMPARE(_station->written(), QByteArray());
 }
 
-QTEST_GUILESS_MAIN(WireModesTest)
+static const RegisteredTest<WireModesTest> registered;
 #include "WireModesTest.moc"

@@ -2,6 +2,7 @@
 #include "preferences/PreferencesWinKeyerViewController.h"
 #include "tests/integration/Station.h"
 #include "tests/preferences/PaneOperator.h"
+#include "tests/support/RegisteredTest.h"
 
 #include <QComboBox>
 #include <QDoubleSpinBox>
@@ -239,5 +240,5 @@ void WirePaneTest::savedSettingsAndMessagesAreTheKeyersOwn() {
     QCOMPARE(_station->registers().value(Register::Weighting), std::uint8_t{55});
 }
 
-QTEST_MAIN(WirePaneTest)
+static const RegisteredTest<WirePaneTest> registered;
 #include "WirePaneTest.moc"

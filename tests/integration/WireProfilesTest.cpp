@@ -1,4 +1,5 @@
 #include "tests/integration/Station.h"
+#include "tests/support/RegisteredTest.h"
 #include "virtualkeyer/NamedProfiles.h"
 
 #include <QTest>
@@ -178,5 +179,5 @@ void WireProfilesTest::aKeyerThatIsDeafWhenItStartsIsReachedByConnectingOnceMore
     QCOMPARE(station.keyed(), u"K"_s);
 }
 
-QTEST_GUILESS_MAIN(WireProfilesTest)
+static const RegisteredTest<WireProfilesTest> registered;
 #include "WireProfilesTest.moc"

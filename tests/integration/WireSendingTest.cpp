@@ -1,5 +1,6 @@
 #include "keyer/GeneralSettings.h"
 #include "tests/integration/Station.h"
+#include "tests/support/RegisteredTest.h"
 
 #include <QTest>
 
@@ -227,5 +228,5 @@ void WireSendingTest::aFullKeyerPausesUntilTheOperatorGoesOn() {
     QCOMPARE(_station->written(), QByteArray("06 00"));
 }
 
-QTEST_GUILESS_MAIN(WireSendingTest)
+static const RegisteredTest<WireSendingTest> registered;
 #include "WireSendingTest.moc"

@@ -3,6 +3,7 @@
 #include "keyer/KeyerSettings.h"
 #include "keyer/StoredSettings.h"
 #include "platform/SettingsStore.h"
+#include "tests/support/RegisteredTest.h"
 #include "tests/support/TestPlatform.h"
 
 #include <QTest>
@@ -193,5 +194,5 @@ void KeyedWaveTest::roundSteps() {
     QVERIFY(isNear(roundStep(Milliseconds(span), parts), expected));
 }
 
-QTEST_GUILESS_MAIN(KeyedWaveTest)
+static const RegisteredTest<KeyedWaveTest> registered;
 #include "KeyedWaveTest.moc"

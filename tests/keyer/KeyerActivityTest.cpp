@@ -1,5 +1,6 @@
 #include "keyer/KeyerActivity.h"
 #include "tests/keyer/EngineBench.h"
+#include "tests/support/RegisteredTest.h"
 
 #include <QSignalSpy>
 #include <QTest>
@@ -107,5 +108,5 @@ void KeyerActivityTest::changesAreAnnouncedOnce() {
     QCOMPARE(announcements.count(), 4);
 }
 
-QTEST_GUILESS_MAIN(KeyerActivityTest)
+static const RegisteredTest<KeyerActivityTest> registered;
 #include "KeyerActivityTest.moc"

@@ -1,5 +1,6 @@
 #include "keyer/KeyerCommand.h"
 #include "keyer/DefaultSettings.h"
+#include "tests/support/RegisteredTest.h"
 
 #include <QTest>
 
@@ -61,5 +62,5 @@ void KeyerCommandTest::bytesOfEachCommand() {
     QCOMPARE(command.toHex(' '), hex);
 }
 
-QTEST_APPLESS_MAIN(KeyerCommandTest)
+static const RegisteredTest<KeyerCommandTest> registered;
 #include "KeyerCommandTest.moc"

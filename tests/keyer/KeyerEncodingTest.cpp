@@ -1,6 +1,7 @@
 #include "keyer/KeyerEncoding.h"
 #include "keyer/DefaultSettings.h"
 #include "keyer/StoredSettings.h"
+#include "tests/support/RegisteredTest.h"
 #include "tests/support/TestPlatform.h"
 
 #include <QTest>
@@ -189,5 +190,5 @@ void KeyerEncodingTest::values() {
     QCOMPARE(int{block[static_cast<std::size_t>(offset)]}, byte);
 }
 
-QTEST_GUILESS_MAIN(KeyerEncodingTest)
+static const RegisteredTest<KeyerEncodingTest> registered;
 #include "KeyerEncodingTest.moc"

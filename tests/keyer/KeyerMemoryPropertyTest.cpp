@@ -4,6 +4,7 @@
 
 #include "keyer/KeyerMemory.h"
 #include "keyer/WinKeyerUsb.h"
+#include "tests/support/RegisteredTest.h"
 
 #include <QTest>
 
@@ -141,5 +142,5 @@ class KeyerMemoryPropertyTest : public QObject {
     void messages() { QVERIFY(rc::check("messages can be read back", messagesCanBeReadBack)); }
 };
 
-QTEST_APPLESS_MAIN(KeyerMemoryPropertyTest)
+static const RegisteredTest<KeyerMemoryPropertyTest> registered;
 #include "KeyerMemoryPropertyTest.moc"

@@ -2,6 +2,7 @@
 #include "keyer/DefaultSettings.h"
 #include "keyer/MorseTable.h"
 #include "keyer/WinKeyerUsb.h"
+#include "tests/support/RegisteredTest.h"
 
 #include <QTest>
 
@@ -260,5 +261,5 @@ void KeyerMemoryTest::decodingEndsAtWhatIsNoCode() {
     QCOMPARE(WinKeyerUsb::decodeMessage(Image{}, 0x18), u""_s);
 }
 
-QTEST_APPLESS_MAIN(KeyerMemoryTest)
+static const RegisteredTest<KeyerMemoryTest> registered;
 #include "KeyerMemoryTest.moc"

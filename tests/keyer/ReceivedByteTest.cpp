@@ -1,5 +1,7 @@
 #include "keyer/ReceivedByte.h"
 
+#include "tests/support/RegisteredTest.h"
+
 #include <QTest>
 
 class ReceivedByteTest : public QObject {
@@ -24,5 +26,5 @@ void ReceivedByteTest::everyByteHasOneMeaning() {
     }
 }
 
-QTEST_APPLESS_MAIN(ReceivedByteTest)
+static const RegisteredTest<ReceivedByteTest> registered;
 #include "ReceivedByteTest.moc"

@@ -1,6 +1,7 @@
 #include "keyer/GeneralSettings.h"
 #include "keyer/KeyerSettings.h"
 #include "keyer/MessageSettings.h"
+#include "tests/support/RegisteredTest.h"
 
 #include <QTest>
 
@@ -92,5 +93,5 @@ void SettingTest::everyKeyIsRegisteredOnce() {
     QCOMPARE(defaultsOf(generalSettings).size(), 2);
 }
 
-QTEST_APPLESS_MAIN(SettingTest)
+static const RegisteredTest<SettingTest> registered;
 #include "SettingTest.moc"

@@ -1,6 +1,7 @@
 #include "keyer/GeneralSettings.h"
 #include "serial/ORSSerialPortManager.h"
 #include "tests/keyer/EngineBench.h"
+#include "tests/support/RegisteredTest.h"
 #include "tests/support/SystemCallFaults.h"
 
 #include <QTest>
@@ -385,5 +386,5 @@ void WinKeyerUsbConnectionTest::versionsFrom20To23AreAccepted() {
     }
 }
 
-QTEST_GUILESS_MAIN(WinKeyerUsbConnectionTest)
+static const RegisteredTest<WinKeyerUsbConnectionTest> registered;
 #include "WinKeyerUsbConnectionTest.moc"

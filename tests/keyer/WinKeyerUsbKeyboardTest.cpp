@@ -1,6 +1,7 @@
 #include "keyer/GeneralSettings.h"
 #include "keyer/WinKeyerUsb.h"
 #include "tests/keyer/EngineBench.h"
+#include "tests/support/RegisteredTest.h"
 
 #include <QTest>
 
@@ -150,5 +151,5 @@ void WinKeyerUsbKeyboardTest::changesOfTheTextAreAnnounced() {
     QCOMPARE(texts, (QStringList{u"A"_s, u"A B"_s, u""_s}));
 }
 
-QTEST_GUILESS_MAIN(WinKeyerUsbKeyboardTest)
+static const RegisteredTest<WinKeyerUsbKeyboardTest> registered;
 #include "WinKeyerUsbKeyboardTest.moc"

@@ -1,6 +1,7 @@
 #include "keyer/KeyerMemory.h"
 #include "keyer/KeyerSettings.h"
 #include "tests/keyer/EngineBench.h"
+#include "tests/support/RegisteredTest.h"
 #include "tests/support/SystemCallFaults.h"
 
 #include <QTest>
@@ -182,5 +183,5 @@ void WinKeyerUsbMemoryTest::standaloneMessagesAreSentByNumber() {
     QCOMPARE(_bench->written(), written);
 }
 
-QTEST_GUILESS_MAIN(WinKeyerUsbMemoryTest)
+static const RegisteredTest<WinKeyerUsbMemoryTest> registered;
 #include "WinKeyerUsbMemoryTest.moc"

@@ -1,5 +1,6 @@
 #include "keyer/KeyerSettings.h"
 #include "tests/keyer/EngineBench.h"
+#include "tests/support/RegisteredTest.h"
 
 #include <QTest>
 
@@ -204,5 +205,5 @@ void WinKeyerUsbModesTest::theBeaconDoesNotSubstituteAgain() {
     QCOMPARE(engine.keyboardBuffer(), u"TT1 TT1"_s);
 }
 
-QTEST_GUILESS_MAIN(WinKeyerUsbModesTest)
+static const RegisteredTest<WinKeyerUsbModesTest> registered;
 #include "WinKeyerUsbModesTest.moc"

@@ -1,4 +1,5 @@
 #include "tests/keyer/EngineBench.h"
+#include "tests/support/RegisteredTest.h"
 
 #include <QSignalSpy>
 #include <QTest>
@@ -96,5 +97,5 @@ void WinKeyerUsbProgressTest::deletingKeepsTheFlightWithinTheText() {
     QCOMPARE(flight(), Flight(0, 0));
 }
 
-QTEST_GUILESS_MAIN(WinKeyerUsbProgressTest)
+static const RegisteredTest<WinKeyerUsbProgressTest> registered;
 #include "WinKeyerUsbProgressTest.moc"

@@ -1,5 +1,6 @@
 #include "keyer/KeyerSettings.h"
 #include "tests/keyer/EngineBench.h"
+#include "tests/support/RegisteredTest.h"
 #include "tests/support/SystemCallFaults.h"
 
 #include <QRegularExpression>
@@ -285,5 +286,5 @@ void WinKeyerUsbReceiveTest::aRefusedWriteIsLoggedOnly() {
     QVERIFY(_bench->engine().isConnected());
 }
 
-QTEST_GUILESS_MAIN(WinKeyerUsbReceiveTest)
+static const RegisteredTest<WinKeyerUsbReceiveTest> registered;
 #include "WinKeyerUsbReceiveTest.moc"

@@ -8,6 +8,7 @@
 #include "tests/keyer/EngineBench.h"
 #include "tests/keyer/SendingModel.h"
 #include "tests/support/CapturedWrites.h"
+#include "tests/support/RegisteredTest.h"
 
 #include <QLoggingCategory>
 #include <QTest>
@@ -311,5 +312,5 @@ void WinKeyerUsbSendingPropertyTest::theEngineSendsWhatTheModelSays() {
     }));
 }
 
-QTEST_GUILESS_MAIN(WinKeyerUsbSendingPropertyTest)
+static const RegisteredTest<WinKeyerUsbSendingPropertyTest> registered;
 #include "WinKeyerUsbSendingPropertyTest.moc"

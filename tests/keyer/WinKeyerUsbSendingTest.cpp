@@ -3,6 +3,7 @@
 #include "keyer/MessageSettings.h"
 #include "tests/keyer/EngineBench.h"
 #include "tests/support/LogKeeper.h"
+#include "tests/support/RegisteredTest.h"
 #include "tests/support/SystemCallFaults.h"
 
 #include <QTest>
@@ -350,5 +351,5 @@ void WinKeyerUsbSendingTest::charactersThatAreNoTextNeverReachTheKeyer() {
     QCOMPARE(_bench->written(), "20 4b 31 45");
 }
 
-QTEST_GUILESS_MAIN(WinKeyerUsbSendingTest)
+static const RegisteredTest<WinKeyerUsbSendingTest> registered;
 #include "WinKeyerUsbSendingTest.moc"

@@ -1,5 +1,7 @@
 #include "platform/Error.h"
 
+#include "tests/support/RegisteredTest.h"
+
 #include <QTest>
 
 #include <cerrno>
@@ -43,5 +45,5 @@ void ErrorTest::anEmptyErrorSaysNothing() {
     QVERIFY(error.localizedDescription().isNull());
 }
 
-QTEST_GUILESS_MAIN(ErrorTest)
+static const RegisteredTest<ErrorTest> registered;
 #include "ErrorTest.moc"

@@ -1,5 +1,7 @@
 #include "platform/MainQueue.h"
 
+#include "tests/support/RegisteredTest.h"
+
 #include <QEventLoop>
 #include <QTest>
 #include <QThread>
@@ -182,5 +184,5 @@ class MainQueueTest : public QObject {
     }
 };
 
-QTEST_GUILESS_MAIN(MainQueueTest)
+static const RegisteredTest<MainQueueTest> registered;
 #include "MainQueueTest.moc"

@@ -1,5 +1,7 @@
 #include "platform/NotificationCenter.h"
 
+#include "tests/support/RegisteredTest.h"
+
 #include <QTest>
 
 #include <memory>
@@ -164,5 +166,5 @@ void NotificationCenterTest::anObserverMayAskTwice() {
     QCOMPARE(_heard.size(), 2);
 }
 
-QTEST_GUILESS_MAIN(NotificationCenterTest)
+static const RegisteredTest<NotificationCenterTest> registered;
 #include "NotificationCenterTest.moc"

@@ -1,6 +1,7 @@
 #include "platform/SettingsStore.h"
 
 #include "tests/support/OrdinaryUser.h"
+#include "tests/support/RegisteredTest.h"
 
 #include <QDir>
 #include <QRegularExpression>
@@ -472,5 +473,5 @@ void SettingsStoreTest::saysThatItCannotWrite() {
     QCOMPARE(store.integerForKey(u"k"_s), 1);
 }
 
-QTEST_GUILESS_MAIN(SettingsStoreTest)
+static const RegisteredTest<SettingsStoreTest> registered;
 #include "SettingsStoreTest.moc"

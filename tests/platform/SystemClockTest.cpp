@@ -1,5 +1,7 @@
 #include "platform/SystemClock.h"
 
+#include "tests/support/RegisteredTest.h"
+
 #include <QTest>
 
 #include <memory>
@@ -108,5 +110,5 @@ void SystemClockTest::aTimerMaySetTheNextOne() {
     QTRY_COMPARE(fired, 2);
 }
 
-QTEST_GUILESS_MAIN(SystemClockTest)
+static const RegisteredTest<SystemClockTest> registered;
 #include "SystemClockTest.moc"

@@ -1,6 +1,7 @@
 #include "preferences/MBPreferencesController.h"
 
 #include "tests/preferences/PreferencesWindowBench.h"
+#include "tests/support/RegisteredTest.h"
 
 #include <QTimer>
 
@@ -171,5 +172,5 @@ void ChangeOfModuleTest::quittingWhileTheWindowGrowsIsSafe() {
     QCOMPARE(remembered(), u"two"_s);
 }
 
-QTEST_MAIN(ChangeOfModuleTest)
+static const RegisteredTest<ChangeOfModuleTest> registered;
 #include "ChangeOfModuleTest.moc"

@@ -1,5 +1,7 @@
 #include "preferences/KeyedWavePicture.h"
 
+#include "tests/support/RegisteredTest.h"
+
 #include <QImage>
 #include <QTest>
 
@@ -107,5 +109,5 @@ void KeyedWavePictureTest::anyTextCanBePainted() {
     QCOMPARE(picture.grab().size(), size);
 }
 
-QTEST_MAIN(KeyedWavePictureTest)
+static const RegisteredTest<KeyedWavePictureTest> registered;
 #include "KeyedWavePictureTest.moc"

@@ -3,6 +3,7 @@
 #include "keyer/KeyerSettings.h"
 #include "preferences/KeyedWavePicture.h"
 #include "tests/keyer/EngineBench.h"
+#include "tests/support/RegisteredTest.h"
 
 #include <QLabel>
 #include <QSpinBox>
@@ -129,5 +130,5 @@ void KeyedWaveViewTest::aPotBeyondTheChoiceIsShownToo() {
     QCOMPARE(words(), u"Dit 10 ms, dah 30 ms, gap 10 ms, letter space 30 ms"_s);
 }
 
-QTEST_MAIN(KeyedWaveViewTest)
+static const RegisteredTest<KeyedWaveViewTest> registered;
 #include "KeyedWaveViewTest.moc"

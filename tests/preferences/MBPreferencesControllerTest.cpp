@@ -2,6 +2,7 @@
 
 #include "keyer/WinKeyerUsb.h"
 #include "tests/preferences/PreferencesWindowBench.h"
+#include "tests/support/RegisteredTest.h"
 
 #include <QAccessible>
 #include <QLineEdit>
@@ -347,5 +348,5 @@ void MBPreferencesControllerTest::theEndOfThePlatformEndsAll() {
     QVERIFY(!view.isNull());
 }
 
-QTEST_MAIN(MBPreferencesControllerTest)
+static const RegisteredTest<MBPreferencesControllerTest> registered;
 #include "MBPreferencesControllerTest.moc"

@@ -1,5 +1,7 @@
 #include "preferences/MemoryGauge.h"
 
+#include "tests/support/RegisteredTest.h"
+
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -75,5 +77,5 @@ void MemoryGaugeTest::neighboursDifferInColour() {
     QVERIFY(colour(119) != colour(120));
 }
 
-QTEST_MAIN(MemoryGaugeTest)
+static const RegisteredTest<MemoryGaugeTest> registered;
 #include "MemoryGaugeTest.moc"

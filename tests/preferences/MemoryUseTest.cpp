@@ -1,5 +1,7 @@
 #include "preferences/MemoryUse.h"
 
+#include "tests/support/RegisteredTest.h"
+
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -66,5 +68,5 @@ void MemoryUseTest::shares() {
     QCOMPARE(shares.usedBytes(), used);
 }
 
-QTEST_APPLESS_MAIN(MemoryUseTest)
+static const RegisteredTest<MemoryUseTest> registered;
 #include "MemoryUseTest.moc"

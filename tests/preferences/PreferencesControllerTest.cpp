@@ -4,6 +4,7 @@
 #include "preferences/PreferencesGeneral.h"
 #include "preferences/PreferencesMessagesViewController.h"
 #include "preferences/PreferencesWinKeyer.h"
+#include "tests/support/RegisteredTest.h"
 #include "tests/support/TestPlatform.h"
 
 #include <QComboBox>
@@ -116,5 +117,5 @@ void PreferencesControllerTest::portsBeforeThePanesAreNoMatter() {
     QCOMPARE(window().modules()->size(), 3);
 }
 
-QTEST_MAIN(PreferencesControllerTest)
+static const RegisteredTest<PreferencesControllerTest> registered;
 #include "PreferencesControllerTest.moc"

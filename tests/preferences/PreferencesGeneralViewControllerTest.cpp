@@ -3,6 +3,7 @@
 #include "keyer/GeneralSettings.h"
 #include "preferences/PreferencesGeneral.h"
 #include "tests/keyer/EngineBench.h"
+#include "tests/support/RegisteredTest.h"
 
 #include <QAbstractItemView>
 #include <QClipboard>
@@ -314,5 +315,5 @@ void PreferencesGeneralViewControllerTest::everyControlHasItsLabelsName() {
     QCOMPARE(count, 2);
 }
 
-QTEST_MAIN(PreferencesGeneralViewControllerTest)
+static const RegisteredTest<PreferencesGeneralViewControllerTest> registered;
 #include "PreferencesGeneralViewControllerTest.moc"

@@ -4,6 +4,7 @@
 #include "keyer/MessageSettings.h"
 #include "keyer/WinKeyerUsb.h"
 #include "preferences/PreferencesGeneral.h"
+#include "tests/support/RegisteredTest.h"
 #include "tests/support/TestPlatform.h"
 
 #include <QApplication>
@@ -207,5 +208,5 @@ void PreferencesMessagesViewControllerTest::everyControlHasItsLabelsName() {
     QCOMPARE(label(3).accessibleName(), u"Message 3 label"_s);
 }
 
-QTEST_MAIN(PreferencesMessagesViewControllerTest)
+static const RegisteredTest<PreferencesMessagesViewControllerTest> registered;
 #include "PreferencesMessagesViewControllerTest.moc"

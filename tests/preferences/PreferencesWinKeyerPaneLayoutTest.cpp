@@ -2,6 +2,7 @@
 #include "preferences/PreferencesWinKeyerViewController.h"
 #include "tests/keyer/EngineBench.h"
 #include "tests/preferences/PaneOperator.h"
+#include "tests/support/RegisteredTest.h"
 
 #include <QAccessible>
 #include <QApplication>
@@ -229,5 +230,5 @@ void PreferencesWinKeyerPaneLayoutTest::tabReachesEveryControl() {
     }
 }
 
-QTEST_MAIN(PreferencesWinKeyerPaneLayoutTest)
+static const RegisteredTest<PreferencesWinKeyerPaneLayoutTest> registered;
 #include "PreferencesWinKeyerPaneLayoutTest.moc"

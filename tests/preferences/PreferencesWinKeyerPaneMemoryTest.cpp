@@ -2,6 +2,7 @@
 #include "preferences/PreferencesWinKeyerViewController.h"
 #include "tests/keyer/EngineBench.h"
 #include "tests/preferences/PaneOperator.h"
+#include "tests/support/RegisteredTest.h"
 
 #include <QProgressBar>
 #include <QPushButton>
@@ -96,5 +97,5 @@ void PreferencesWinKeyerPaneMemoryTest::savingThatFailsShowsNone() {
     QCOMPARE(_bench->written(), "");
 }
 
-QTEST_MAIN(PreferencesWinKeyerPaneMemoryTest)
+static const RegisteredTest<PreferencesWinKeyerPaneMemoryTest> registered;
 #include "PreferencesWinKeyerPaneMemoryTest.moc"

@@ -2,6 +2,7 @@
 #include "preferences/PreferencesWinKeyerViewController.h"
 #include "tests/keyer/EngineBench.h"
 #include "tests/preferences/PaneOperator.h"
+#include "tests/support/RegisteredTest.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -489,5 +490,5 @@ void PreferencesWinKeyerPaneTest::allSettingsSurviveARestart() {
     }
 }
 
-QTEST_MAIN(PreferencesWinKeyerPaneTest)
+static const RegisteredTest<PreferencesWinKeyerPaneTest> registered;
 #include "PreferencesWinKeyerPaneTest.moc"

@@ -5,6 +5,7 @@
 #include "keyer/KeyerSettings.h"
 #include "keyer/StoredSettings.h"
 #include "tests/keyer/EngineBench.h"
+#include "tests/support/RegisteredTest.h"
 #include "tests/support/SystemCallFaults.h"
 
 #include <QTest>
@@ -343,5 +344,5 @@ void PreferencesWinKeyerViewControllerTest::theViewMayEndBeforeItsController() {
     QCOMPARE(sentBy(&Controller::changeWeight), "03 32");
 }
 
-QTEST_MAIN(PreferencesWinKeyerViewControllerTest)
+static const RegisteredTest<PreferencesWinKeyerViewControllerTest> registered;
 #include "PreferencesWinKeyerViewControllerTest.moc"

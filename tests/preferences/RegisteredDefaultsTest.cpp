@@ -1,6 +1,7 @@
 #include "preferences/PreferencesGeneral.h"
 #include "preferences/PreferencesMessagesViewController.h"
 #include "preferences/PreferencesWinKeyer.h"
+#include "tests/support/RegisteredTest.h"
 #include "tests/support/TestPlatform.h"
 
 #include <QFile>
@@ -45,5 +46,5 @@ void RegisteredDefaultsTest::theyLieUnderWhatTheOperatorHasStored() {
     QVERIFY(!stored.contains("WKPortName"));
 }
 
-QTEST_GUILESS_MAIN(RegisteredDefaultsTest)
+static const RegisteredTest<RegisteredDefaultsTest> registered;
 #include "RegisteredDefaultsTest.moc"

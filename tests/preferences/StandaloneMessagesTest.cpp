@@ -4,6 +4,7 @@
 #include "preferences/MemoryGauge.h"
 #include "preferences/TimedProgressBar.h"
 #include "tests/keyer/EngineBench.h"
+#include "tests/support/RegisteredTest.h"
 
 #include <QLabel>
 #include <QLineEdit>
@@ -253,5 +254,5 @@ void StandaloneMessagesTest::aKeyerThatGoesEndsTheProgress() {
     QVERIFY(saveButton().isEnabled());
 }
 
-QTEST_MAIN(StandaloneMessagesTest)
+static const RegisteredTest<StandaloneMessagesTest> registered;
 #include "StandaloneMessagesTest.moc"

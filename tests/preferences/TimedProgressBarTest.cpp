@@ -1,4 +1,5 @@
 #include "preferences/TimedProgressBar.h"
+#include "tests/support/RegisteredTest.h"
 #include "tests/support/TestPlatform.h"
 
 #include <QSignalSpy>
@@ -92,5 +93,5 @@ void TimedProgressBarTest::itMayBeDestroyedWhileRunning() {
     QVERIFY(platform.clock().pendingTimers().isEmpty());
 }
 
-QTEST_MAIN(TimedProgressBarTest)
+static const RegisteredTest<TimedProgressBarTest> registered;
 #include "TimedProgressBarTest.moc"

@@ -1,5 +1,7 @@
 #include "preferences/WindowFrame.h"
 
+#include "tests/support/RegisteredTest.h"
+
 #include <QTest>
 
 class WindowFrameTest : public QObject {
@@ -45,5 +47,5 @@ void WindowFrameTest::aFrameIsCentred() {
     QCOMPARE(WindowFrame::centred(frame, {1000, 30, 800, 600}), centred);
 }
 
-QTEST_GUILESS_MAIN(WindowFrameTest)
+static const RegisteredTest<WindowFrameTest> registered;
 #include "WindowFrameTest.moc"

@@ -1,6 +1,7 @@
 #include "serial/LineSettings.h"
 
 #include "tests/support/PseudoTerminalPair.h"
+#include "tests/support/RegisteredTest.h"
 
 #include <QTest>
 
@@ -145,5 +146,5 @@ class LineSettingsTest : public QObject {
     }
 };
 
-QTEST_GUILESS_MAIN(LineSettingsTest)
+static const RegisteredTest<LineSettingsTest> registered;
 #include "LineSettingsTest.moc"

@@ -2,6 +2,7 @@
 
 #include "tests/serial/PortBench.h"
 #include "tests/support/LogKeeper.h"
+#include "tests/support/RegisteredTest.h"
 
 #include <QDir>
 #include <QFile>
@@ -170,5 +171,5 @@ class LowLatencyTest : public QObject {
     }
 };
 
-QTEST_GUILESS_MAIN(LowLatencyTest)
+static const RegisteredTest<LowLatencyTest> registered;
 #include "LowLatencyTest.moc"

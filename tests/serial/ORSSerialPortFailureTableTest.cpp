@@ -3,6 +3,7 @@
 
 #include "tests/serial/PortBench.h"
 #include "tests/support/LogKeeper.h"
+#include "tests/support/RegisteredTest.h"
 
 #include <QElapsedTimer>
 
@@ -402,5 +403,5 @@ class ORSSerialPortFailureTableTest : public QObject {
     }
 };
 
-QTEST_GUILESS_MAIN(ORSSerialPortFailureTableTest)
+static const RegisteredTest<ORSSerialPortFailureTableTest> registered;
 #include "ORSSerialPortFailureTableTest.moc"

@@ -1,4 +1,5 @@
 #include "tests/serial/PortBench.h"
+#include "tests/support/RegisteredTest.h"
 
 #include <QDir>
 #include <QElapsedTimer>
@@ -231,5 +232,5 @@ class ORSSerialPortFaultsTest : public QObject {
     }
 };
 
-QTEST_GUILESS_MAIN(ORSSerialPortFaultsTest)
+static const RegisteredTest<ORSSerialPortFaultsTest> registered;
 #include "ORSSerialPortFaultsTest.moc"

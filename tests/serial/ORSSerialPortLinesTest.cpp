@@ -1,4 +1,5 @@
 #include "tests/serial/PortBench.h"
+#include "tests/support/RegisteredTest.h"
 
 #include <QElapsedTimer>
 #include <QEventLoop>
@@ -276,5 +277,5 @@ class ORSSerialPortLinesTest : public QObject {
     }
 };
 
-QTEST_GUILESS_MAIN(ORSSerialPortLinesTest)
+static const RegisteredTest<ORSSerialPortLinesTest> registered;
 #include "ORSSerialPortLinesTest.moc"

@@ -5,6 +5,7 @@
 #include "tests/support/LogKeeper.h"
 #include "tests/support/PseudoTerminalPair.h"
 #include "tests/support/RecordingDelegate.h"
+#include "tests/support/RegisteredTest.h"
 
 #include <QSignalSpy>
 
@@ -201,5 +202,5 @@ void ORSSerialPortManagerHotPlugTest::followsArrivalsWhenRemovalsCannotBeWatched
     QCOMPARE(available(), QStringList({u"a"_s, u"b"_s}));
 }
 
-QTEST_GUILESS_MAIN(ORSSerialPortManagerHotPlugTest)
+static const RegisteredTest<ORSSerialPortManagerHotPlugTest> registered;
 #include "ORSSerialPortManagerHotPlugTest.moc"

@@ -4,6 +4,7 @@
 #include "tests/serial/ManagerObserver.h"
 #include "tests/support/PseudoTerminalPair.h"
 #include "tests/support/RecordingDelegate.h"
+#include "tests/support/RegisteredTest.h"
 #include "tests/support/SystemCallFaults.h"
 
 #include <QSignalSpy>
@@ -143,5 +144,5 @@ void ORSSerialPortManagerPowerTest::sleepsWithoutAList() {
     QVERIFY(!manager().availablePorts().has_value());
 }
 
-QTEST_GUILESS_MAIN(ORSSerialPortManagerPowerTest)
+static const RegisteredTest<ORSSerialPortManagerPowerTest> registered;
 #include "ORSSerialPortManagerPowerTest.moc"

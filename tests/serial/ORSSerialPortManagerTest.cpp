@@ -1,6 +1,7 @@
 #include "serial/ORSSerialPortManager.h"
 
 #include "tests/serial/ManagerBench.h"
+#include "tests/support/RegisteredTest.h"
 
 #include <QSignalSpy>
 
@@ -172,5 +173,5 @@ void ORSSerialPortManagerTest::theListCanBeReplaced() {
     QCOMPARE(replaced.size(), 1);
 }
 
-QTEST_GUILESS_MAIN(ORSSerialPortManagerTest)
+static const RegisteredTest<ORSSerialPortManagerTest> registered;
 #include "ORSSerialPortManagerTest.moc"

@@ -1,4 +1,5 @@
 #include "tests/serial/PortBench.h"
+#include "tests/support/RegisteredTest.h"
 
 #include <QDir>
 #include <QSignalSpy>
@@ -412,5 +413,5 @@ class ORSSerialPortOpeningTest : public QObject {
     }
 };
 
-QTEST_GUILESS_MAIN(ORSSerialPortOpeningTest)
+static const RegisteredTest<ORSSerialPortOpeningTest> registered;
 #include "ORSSerialPortOpeningTest.moc"

@@ -3,6 +3,7 @@
 #include "serial/InternalInconsistency.h"
 #include "serial/LivePorts.h"
 #include "tests/serial/PortBench.h"
+#include "tests/support/RegisteredTest.h"
 
 #include <QSignalSpy>
 
@@ -256,5 +257,5 @@ class ORSSerialPortTest : public QObject {
     }
 };
 
-QTEST_GUILESS_MAIN(ORSSerialPortTest)
+static const RegisteredTest<ORSSerialPortTest> registered;
 #include "ORSSerialPortTest.moc"

@@ -1,4 +1,5 @@
 #include "tests/serial/PortBench.h"
+#include "tests/support/RegisteredTest.h"
 
 #include <QElapsedTimer>
 
@@ -243,5 +244,5 @@ class ORSSerialPortTransferTest : public QObject {
     }
 };
 
-QTEST_GUILESS_MAIN(ORSSerialPortTransferTest)
+static const RegisteredTest<ORSSerialPortTransferTest> registered;
 #include "ORSSerialPortTransferTest.moc"

@@ -1,5 +1,6 @@
 #include "serial/WorkerThread.h"
 #include "tests/serial/PortBench.h"
+#include "tests/support/RegisteredTest.h"
 
 #include <QTest>
 
@@ -55,5 +56,5 @@ class ORSSerialPortWorkersTest : public QObject {
     }
 };
 
-QTEST_GUILESS_MAIN(ORSSerialPortWorkersTest)
+static const RegisteredTest<ORSSerialPortWorkersTest> registered;
 #include "ORSSerialPortWorkersTest.moc"

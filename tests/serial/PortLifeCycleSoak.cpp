@@ -6,6 +6,7 @@
 #include "serial/ORSSerialPortManager.h"
 #include "tests/support/PseudoTerminalPair.h"
 #include "tests/support/RecordingDelegate.h"
+#include "tests/support/RegisteredTest.h"
 #include "tests/support/TestPlatform.h"
 
 #include <QDir>
@@ -171,5 +172,5 @@ void PortLifeCycleSoak::nothingIsLeftOfThePortsThatCameAndWent() {
     QVERIFY(after.heap <= early->heap + heapSlack + heapSlackOfEach * lives);
 }
 
-QTEST_GUILESS_MAIN(PortLifeCycleSoak)
+static const RegisteredTest<PortLifeCycleSoak> registered;
 #include "PortLifeCycleSoak.moc"

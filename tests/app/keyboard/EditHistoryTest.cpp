@@ -1,5 +1,7 @@
 #include "app/keyboard/EditHistory.h"
 
+#include "tests/support/RegisteredTest.h"
+
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -199,5 +201,5 @@ void EditHistoryTest::clearingForgetsAll() {
     QVERIFY(!edited.history.canRedo());
 }
 
-QTEST_APPLESS_MAIN(EditHistoryTest)
+static const RegisteredTest<EditHistoryTest> registered;
 #include "EditHistoryTest.moc"

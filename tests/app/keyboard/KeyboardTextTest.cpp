@@ -1,5 +1,7 @@
 #include "app/keyboard/KeyboardText.h"
 
+#include "tests/support/RegisteredTest.h"
+
 #include <QPlainTextDocumentLayout>
 #include <QRandomGenerator>
 #include <QTest>
@@ -147,5 +149,5 @@ void KeyboardTextTest::anySequenceOfChangesKeepsTheText() {
     }
 }
 
-QTEST_MAIN(KeyboardTextTest)
+static const RegisteredTest<KeyboardTextTest> registered;
 #include "KeyboardTextTest.moc"

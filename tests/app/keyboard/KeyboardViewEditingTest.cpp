@@ -1,4 +1,5 @@
 #include "tests/app/keyboard/KeyboardStation.h"
+#include "tests/support/RegisteredTest.h"
 
 #include <QAction>
 #include <QApplication>
@@ -293,5 +294,5 @@ void KeyboardViewEditingTest::noTextIsKeyedTwiceWhateverIsTakenBack() {
     QVERIFY(keyed.size() > 500);
 }
 
-QTEST_MAIN(KeyboardViewEditingTest)
+static const RegisteredTest<KeyboardViewEditingTest> registered;
 #include "KeyboardViewEditingTest.moc"

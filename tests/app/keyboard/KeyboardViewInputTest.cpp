@@ -1,4 +1,5 @@
 #include "tests/app/keyboard/KeyboardStation.h"
+#include "tests/support/RegisteredTest.h"
 
 #include <QAccessible>
 #include <QClipboard>
@@ -334,5 +335,5 @@ void KeyboardViewInputTest::assistiveProgramsLearnHowMuchWaits() {
     QCOMPARE(description(), u"Nothing waits to be sent"_s);
 }
 
-QTEST_MAIN(KeyboardViewInputTest)
+static const RegisteredTest<KeyboardViewInputTest> registered;
 #include "KeyboardViewInputTest.moc"

@@ -1,4 +1,5 @@
 #include "tests/app/keyboard/KeyboardStation.h"
+#include "tests/support/RegisteredTest.h"
 
 #include <QApplication>
 #include <QImage>
@@ -184,5 +185,5 @@ void KeyboardViewMarksTest::anEchoRepaintsTheView() {
     QTRY_VERIFY(counter.count > 0);
 }
 
-QTEST_MAIN(KeyboardViewMarksTest)
+static const RegisteredTest<KeyboardViewMarksTest> registered;
 #include "KeyboardViewMarksTest.moc"

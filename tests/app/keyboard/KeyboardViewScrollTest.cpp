@@ -1,4 +1,5 @@
 #include "tests/app/keyboard/KeyboardStation.h"
+#include "tests/support/RegisteredTest.h"
 
 #include <QInputMethodEvent>
 #include <QScrollBar>
@@ -219,5 +220,5 @@ void KeyboardViewScrollTest::theCaretInTheMiddleStaysWhenAParagraphBreaks() {
     QCOMPARE(_station->view.text(), _station->engine().keyboardBuffer());
 }
 
-QTEST_MAIN(KeyboardViewScrollTest)
+static const RegisteredTest<KeyboardViewScrollTest> registered;
 #include "KeyboardViewScrollTest.moc"

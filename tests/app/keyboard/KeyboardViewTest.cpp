@@ -2,6 +2,7 @@
 
 #include "keyer/GeneralSettings.h"
 #include "tests/keyer/EngineBench.h"
+#include "tests/support/RegisteredTest.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
@@ -137,5 +138,5 @@ void KeyboardViewTest::nothingIsSentAgainByUndo() {
     QCOMPARE(_bench->written(), "");
 }
 
-QTEST_MAIN(KeyboardViewTest)
+static const RegisteredTest<KeyboardViewTest> registered;
 #include "KeyboardViewTest.moc"

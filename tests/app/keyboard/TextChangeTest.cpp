@@ -1,5 +1,7 @@
 #include "app/keyboard/TextChange.h"
 
+#include "tests/support/RegisteredTest.h"
+
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -64,5 +66,5 @@ void TextChangeTest::placesMoveWithTheTextAroundThem() {
     QTEST(change.movedEnd(place), "end");
 }
 
-QTEST_APPLESS_MAIN(TextChangeTest)
+static const RegisteredTest<TextChangeTest> registered;
 #include "TextChangeTest.moc"

@@ -1,6 +1,7 @@
 #include "app/window/KeyerStatusLine.h"
 
 #include "tests/keyer/EngineBench.h"
+#include "tests/support/RegisteredTest.h"
 
 #include <QTest>
 
@@ -86,5 +87,5 @@ void KeyerStatusLineTest::saysThatTuneIsOn() {
     QCOMPARE(_line->text(), u"Connected to usbserial-WK1: sending"_s);
 }
 
-QTEST_MAIN(KeyerStatusLineTest)
+static const RegisteredTest<KeyerStatusLineTest> registered;
 #include "KeyerStatusLineTest.moc"

@@ -1,6 +1,7 @@
 #include "app/window/MainWindow.h"
 
 #include "tests/keyer/EngineBench.h"
+#include "tests/support/RegisteredTest.h"
 
 #include <QAbstractButton>
 #include <QLabel>
@@ -179,5 +180,5 @@ void MainWindowLayoutTest::aFontThatChangesIsFollowed() {
     QCOMPARE(_window->findChild<QPushButton*>(u"stopButton"_s)->font().pointSizeF(), 20.0);
 }
 
-QTEST_MAIN(MainWindowLayoutTest)
+static const RegisteredTest<MainWindowLayoutTest> registered;
 #include "MainWindowLayoutTest.moc"

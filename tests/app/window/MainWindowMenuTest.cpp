@@ -2,6 +2,7 @@
 #include "app/window/AboutBox.h"
 #include "app/window/GuideWindow.h"
 #include "tests/app/window/MainWindowFixture.h"
+#include "tests/support/RegisteredTest.h"
 
 #include <QAction>
 #include <QApplication>
@@ -202,5 +203,5 @@ void MainWindowMenuTest::theGuideAndTheAboutBoxOpen() {
     QTRY_VERIFY(_window->findChild<AboutBox*>() == nullptr);
 }
 
-QTEST_MAIN(MainWindowMenuTest)
+static const RegisteredTest<MainWindowMenuTest> registered;
 #include "MainWindowMenuTest.moc"

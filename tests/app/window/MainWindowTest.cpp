@@ -2,6 +2,7 @@
 #include "app/keyboard/KeyboardView.h"
 #include "keyer/GeneralSettings.h"
 #include "tests/app/window/MainWindowFixture.h"
+#include "tests/support/RegisteredTest.h"
 
 #include <QAccessible>
 #include <QAction>
@@ -310,5 +311,5 @@ void MainWindowTest::theControlsComeBeforeTheMenusForAScreenReader() {
     }
 }
 
-QTEST_MAIN(MainWindowTest)
+static const RegisteredTest<MainWindowTest> registered;
 #include "MainWindowTest.moc"

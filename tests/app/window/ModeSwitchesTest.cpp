@@ -2,6 +2,7 @@
 
 #include "keyer/KeyerSettings.h"
 #include "tests/keyer/EngineBench.h"
+#include "tests/support/RegisteredTest.h"
 
 #include <QPushButton>
 #include <QTest>
@@ -137,5 +138,5 @@ void ModeSwitchesTest::theSwitchesStartAsTheEngineIs() {
     QVERIFY(_beacon.isChecked());
 }
 
-QTEST_MAIN(ModeSwitchesTest)
+static const RegisteredTest<ModeSwitchesTest> registered;
 #include "ModeSwitchesTest.moc"

@@ -4,6 +4,7 @@
 #include "app/window/MainWindow.h"
 #include "keyer/GeneralSettings.h"
 #include "tests/keyer/EngineBench.h"
+#include "tests/support/RegisteredTest.h"
 #include "tests/support/SystemCallFaults.h"
 
 #include <QAccessible>
@@ -241,5 +242,5 @@ void TuneSwitchTest::aKeyUpThatTheLineTakesHalfOfGoesOnWithTheStop() {
     QCOMPARE(_bench->written(), "0b 00 0a");
 }
 
-QTEST_MAIN(TuneSwitchTest)
+static const RegisteredTest<TuneSwitchTest> registered;
 #include "TuneSwitchTest.moc"

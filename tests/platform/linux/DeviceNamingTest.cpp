@@ -1,5 +1,7 @@
 #include "platform/linux/DeviceNaming.h"
 
+#include "tests/support/RegisteredTest.h"
+
 #include <QTest>
 
 #include <algorithm>
@@ -67,5 +69,5 @@ void DeviceNamingTest::suffix() {
     QTEST(DeviceNaming::freeSuffix(device, QSet<QString>(taken.begin(), taken.end())), "expected");
 }
 
-QTEST_GUILESS_MAIN(DeviceNamingTest)
+static const RegisteredTest<DeviceNamingTest> registered;
 #include "DeviceNamingTest.moc"

@@ -1,5 +1,7 @@
 #include "platform/linux/LinuxDeviceRegistry.h"
 
+#include "tests/support/RegisteredTest.h"
+
 #include <QTest>
 
 #include <functional>
@@ -398,5 +400,5 @@ void LinuxDeviceRegistryTest::anEventLoopInAHandlerDoesNotOvertakeIt() {
     QCOMPARE(heardInHandler, QStringList{u"+a"_s});
 }
 
-QTEST_GUILESS_MAIN(LinuxDeviceRegistryTest)
+static const RegisteredTest<LinuxDeviceRegistryTest> registered;
 #include "LinuxDeviceRegistryTest.moc"

@@ -2,6 +2,7 @@
 
 #include "tests/platform/linux/FakeLogind.h"
 #include "tests/platform/linux/PrivateBus.h"
+#include "tests/support/RegisteredTest.h"
 #include "tests/support/TestPlatform.h"
 
 #include <QDBusMessage>
@@ -255,5 +256,5 @@ class LogindPowerTest : public QObject {
     std::unique_ptr<LogindPower> _power;
 };
 
-QTEST_GUILESS_MAIN(LogindPowerTest)
+static const RegisteredTest<LogindPowerTest> registered;
 #include "LogindPowerTest.moc"

@@ -2,6 +2,7 @@
 
 #include "platform/linux/LinuxDeviceRegistry.h"
 #include "tests/support/PseudoTerminalPair.h"
+#include "tests/support/RegisteredTest.h"
 
 #include <QDir>
 #include <QSignalSpy>
@@ -360,5 +361,5 @@ void PortsDirectorySourceTest::joinsTheRegistry() {
     QTRY_COMPARE(present(), QStringList());
 }
 
-QTEST_GUILESS_MAIN(PortsDirectorySourceTest)
+static const RegisteredTest<PortsDirectorySourceTest> registered;
 #include "PortsDirectorySourceTest.moc"

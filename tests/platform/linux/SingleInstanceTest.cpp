@@ -1,6 +1,7 @@
 #include "platform/linux/SingleInstance.h"
 
 #include "tests/platform/linux/PrivateBus.h"
+#include "tests/support/RegisteredTest.h"
 
 #include <QDBusConnectionInterface>
 #include <QDBusMessage>
@@ -220,5 +221,5 @@ void SingleInstanceTest::withoutABusItIsTheFirst() {
     QCOMPARE(instance.begin({}), SingleInstance::Role::First);
 }
 
-QTEST_GUILESS_MAIN(SingleInstanceTest)
+static const RegisteredTest<SingleInstanceTest> registered;
 #include "SingleInstanceTest.moc"

@@ -1,6 +1,7 @@
 #include "platform/linux/TerminalNode.h"
 
 #include "tests/support/PseudoTerminalPair.h"
+#include "tests/support/RegisteredTest.h"
 
 #include <QTemporaryDir>
 #include <QTest>
@@ -47,5 +48,5 @@ void TerminalNodeTest::isNoTerminal() {
     QVERIFY(!TerminalNode::isTerminal(path));
 }
 
-QTEST_GUILESS_MAIN(TerminalNodeTest)
+static const RegisteredTest<TerminalNodeTest> registered;
 #include "TerminalNodeTest.moc"

@@ -1,5 +1,7 @@
 #include "platform/linux/TtyDevice.h"
 
+#include "tests/support/RegisteredTest.h"
+
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -127,5 +129,5 @@ void TtyDeviceTest::onlyUsbIsUsb() {
     QVERIFY(!own(u"rfcomm0"_s, true).serialDevice().value().isUsb);
 }
 
-QTEST_GUILESS_MAIN(TtyDeviceTest)
+static const RegisteredTest<TtyDeviceTest> registered;
 #include "TtyDeviceTest.moc"

@@ -2,6 +2,7 @@
 
 #include "platform/linux/LinuxDeviceRegistry.h"
 #include "tests/platform/linux/UdevTestbed.h"
+#include "tests/support/RegisteredTest.h"
 
 #include <QTest>
 
@@ -229,5 +230,5 @@ void UdevSourceTest::aBurstIsOneSet() {
     QTRY_COMPARE(_heard, QStringList{u"+usbserial-A1@/dev/ttyUSB0 usbserial-A2@/dev/ttyUSB1"_s});
 }
 
-QTEST_GUILESS_MAIN(UdevSourceTest)
+static const RegisteredTest<UdevSourceTest> registered;
 #include "UdevSourceTest.moc"

@@ -1,6 +1,7 @@
 #include "preferences/binding/BoundControl.h"
 
 #include "tests/preferences/binding/BinderBench.h"
+#include "tests/support/RegisteredTest.h"
 
 #include <QAbstractItemView>
 #include <QTest>
@@ -375,5 +376,5 @@ void BoundControlTest::aTypedNumberActsWhenSettlingIsAskedFor() {
     QCOMPARE(calls(), QStringList{u"Speed=45"_s});
 }
 
-QTEST_MAIN(BoundControlTest)
+static const RegisteredTest<BoundControlTest> registered;
 #include "BoundControlTest.moc"

@@ -1,5 +1,7 @@
 #include "preferences/binding/ScaledSpinBox.h"
 
+#include "tests/support/RegisteredTest.h"
+
 #include <QSignalSpy>
 #include <QTest>
 
@@ -78,5 +80,5 @@ void ScaledSpinBoxTest::aNewScaleShowsAtOnce() {
     QCOMPARE(_box.value(), 15);
 }
 
-QTEST_MAIN(ScaledSpinBoxTest)
+static const RegisteredTest<ScaledSpinBoxTest> registered;
 #include "ScaledSpinBoxTest.moc"

@@ -1,6 +1,7 @@
 #include "preferences/binding/SettingBinder.h"
 
 #include "tests/preferences/binding/BinderBench.h"
+#include "tests/support/RegisteredTest.h"
 
 #include <QTest>
 #include <QTextDocument>
@@ -315,5 +316,5 @@ void SettingBinderTest::mistakesInAViewAreThrown() {
     QVERIFY_THROWS_EXCEPTION(std::logic_error, bind());
 }
 
-QTEST_MAIN(SettingBinderTest)
+static const RegisteredTest<SettingBinderTest> registered;
 #include "SettingBinderTest.moc"

@@ -1,4 +1,5 @@
 #include "virtualkeyer/core/KeyLineDecoder.h"
+#include "tests/support/RegisteredTest.h"
 #include "tests/virtualkeyer/core/KeyerBench.h"
 
 #include <QtTest>
@@ -171,5 +172,5 @@ void KeyLineDecoderTest::onlyOneSpaceIsDelivered() {
     QCOMPARE(decoder.takeText(), std::string("E "));
 }
 
-QTEST_APPLESS_MAIN(KeyLineDecoderTest)
+static const RegisteredTest<KeyLineDecoderTest> registered;
 #include "KeyLineDecoderTest.moc"

@@ -1,3 +1,4 @@
+#include "tests/support/RegisteredTest.h"
 #include "tests/virtualkeyer/core/KeyerBench.h"
 
 #include <QtTest>
@@ -233,5 +234,5 @@ void KeyerBufferTest::pointersRewriteQueuedText() {
     QTEST(bench.bytes(), "sent");
 }
 
-QTEST_APPLESS_MAIN(KeyerBufferTest)
+static const RegisteredTest<KeyerBufferTest> registered;
 #include "KeyerBufferTest.moc"

@@ -1,3 +1,4 @@
+#include "tests/support/RegisteredTest.h"
 #include "tests/virtualkeyer/core/KeyerBench.h"
 
 #include <QtTest>
@@ -351,5 +352,5 @@ void KeyerCommandsTest::softwarePaddleKeys() {
     QTEST(keying, "keying");
 }
 
-QTEST_APPLESS_MAIN(KeyerCommandsTest)
+static const RegisteredTest<KeyerCommandsTest> registered;
 #include "KeyerCommandsTest.moc"

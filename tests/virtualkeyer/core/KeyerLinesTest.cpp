@@ -1,3 +1,4 @@
+#include "tests/support/RegisteredTest.h"
 #include "tests/virtualkeyer/core/KeyerBench.h"
 
 #include <QtTest>
@@ -240,5 +241,5 @@ void KeyerLinesTest::textAfterTheTuneLimitGoesOn() {
     QCOMPARE(bench.keying(), u"1000 9.167 60"_s);
 }
 
-QTEST_APPLESS_MAIN(KeyerLinesTest)
+static const RegisteredTest<KeyerLinesTest> registered;
 #include "KeyerLinesTest.moc"

@@ -1,3 +1,4 @@
+#include "tests/support/RegisteredTest.h"
 #include "tests/virtualkeyer/core/KeyerBench.h"
 
 #include <QtTest>
@@ -379,5 +380,5 @@ void KeyerPaddleTest::swapTakesEffectAtOnce() {
     QCOMPARE(bench.keying(), u"60 60 180"_s);
 }
 
-QTEST_APPLESS_MAIN(KeyerPaddleTest)
+static const RegisteredTest<KeyerPaddleTest> registered;
 #include "KeyerPaddleTest.moc"

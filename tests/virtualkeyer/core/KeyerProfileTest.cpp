@@ -1,3 +1,4 @@
+#include "tests/support/RegisteredTest.h"
 #include "tests/virtualkeyer/core/KeyerBench.h"
 
 #include <QtTest>
@@ -260,5 +261,5 @@ void KeyerProfileTest::resumeMayRepeatTheLetter() {
     QCOMPARE(bench.host(), u"0 C4, 120 45, 1120 45, 1480 54, 1600 C0"_s);
 }
 
-QTEST_APPLESS_MAIN(KeyerProfileTest)
+static const RegisteredTest<KeyerProfileTest> registered;
 #include "KeyerProfileTest.moc"

@@ -1,3 +1,4 @@
+#include "tests/support/RegisteredTest.h"
 #include "tests/virtualkeyer/core/KeyerBench.h"
 
 #include <QtTest>
@@ -182,5 +183,5 @@ void KeyerRobustnessTest::randomInputNeverHangs() {
     QVERIFY(events.size() > 100);
 }
 
-QTEST_APPLESS_MAIN(KeyerRobustnessTest)
+static const RegisteredTest<KeyerRobustnessTest> registered;
 #include "KeyerRobustnessTest.moc"

@@ -1,3 +1,4 @@
+#include "tests/support/RegisteredTest.h"
 #include "tests/virtualkeyer/core/KeyerBench.h"
 
 #include <QtTest>
@@ -285,5 +286,5 @@ void KeyerSendingTest::aCommandWithoutItsParameterIsDropped() {
     QCOMPARE(bench.keying(), u"60 189.167 60"_s);
 }
 
-QTEST_APPLESS_MAIN(KeyerSendingTest)
+static const RegisteredTest<KeyerSendingTest> registered;
 #include "KeyerSendingTest.moc"

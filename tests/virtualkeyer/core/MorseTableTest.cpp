@@ -1,5 +1,7 @@
 #include "virtualkeyer/core/MorseTable.h"
 
+#include "tests/support/RegisteredTest.h"
+
 #include <QtTest>
 
 #include <map>
@@ -118,5 +120,5 @@ void MorseTableTest::unknownPatternsMakeNoCharacter() {
     QVERIFY(!characterOf("----"));
 }
 
-QTEST_APPLESS_MAIN(MorseTableTest)
+static const RegisteredTest<MorseTableTest> registered;
 #include "MorseTableTest.moc"

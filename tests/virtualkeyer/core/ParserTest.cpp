@@ -1,5 +1,7 @@
 #include "virtualkeyer/core/Parser.h"
 
+#include "tests/support/RegisteredTest.h"
+
 #include <QtTest>
 
 using namespace Qt::StringLiterals;
@@ -118,5 +120,5 @@ void ParserTest::resetForgetsACommandThatHasBegun() {
     QCOMPARE(parser.take('A', true)->kind, CommandKind::Text);
 }
 
-QTEST_APPLESS_MAIN(ParserTest)
+static const RegisteredTest<ParserTest> registered;
 #include "ParserTest.moc"

@@ -1,5 +1,7 @@
 #include "virtualkeyer/core/Registers.h"
 
+#include "tests/support/RegisteredTest.h"
+
 #include <QtTest>
 
 using namespace virtualkeyer;
@@ -190,5 +192,5 @@ void RegistersTest::restoringTheFactoryValuesKeepsThePot() {
     QCOMPARE(registers.block(), Registers().block());
 }
 
-QTEST_APPLESS_MAIN(RegistersTest)
+static const RegisteredTest<RegistersTest> registered;
 #include "RegistersTest.moc"

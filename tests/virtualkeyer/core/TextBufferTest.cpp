@@ -1,5 +1,7 @@
 #include "virtualkeyer/core/TextBuffer.h"
 
+#include "tests/support/RegisteredTest.h"
+
 #include <QtTest>
 
 #include <string>
@@ -110,5 +112,5 @@ void TextBufferTest::nullsAreLimitedByTheCapacity() {
     QCOMPARE(takeAll(buffer), "A" + std::string(127, '\0'));
 }
 
-QTEST_APPLESS_MAIN(TextBufferTest)
+static const RegisteredTest<TextBufferTest> registered;
 #include "TextBufferTest.moc"

@@ -1,4 +1,5 @@
 #include "virtualkeyer/core/Timing.h"
+#include "tests/support/RegisteredTest.h"
 #include "virtualkeyer/core/Registers.h"
 
 #include <QtTest>
@@ -98,5 +99,5 @@ void TimingTest::lengthsFollowTheRegisters() {
     QCOMPARE(lengths.value(length).count(), static_cast<qint64>(milliseconds * 1e6));
 }
 
-QTEST_APPLESS_MAIN(TimingTest)
+static const RegisteredTest<TimingTest> registered;
 #include "TimingTest.moc"

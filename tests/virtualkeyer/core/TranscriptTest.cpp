@@ -1,5 +1,7 @@
 #include "virtualkeyer/core/Transcript.h"
 
+#include "tests/support/RegisteredTest.h"
+
 #include <QtTest>
 
 using namespace virtualkeyer;
@@ -25,5 +27,5 @@ void TranscriptTest::lines() {
     QCOMPARE(transcriptLine({24h, LineSpeed{9600}}), std::string("86400000.000 line 9600 baud"));
 }
 
-QTEST_APPLESS_MAIN(TranscriptTest)
+static const RegisteredTest<TranscriptTest> registered;
 #include "TranscriptTest.moc"

@@ -1,5 +1,7 @@
 #include "virtualkeyer/NamedProfiles.h"
 
+#include "tests/support/RegisteredTest.h"
+
 #include <QTest>
 
 #include <set>
@@ -76,5 +78,5 @@ void NamedProfilesTest::namesAreFoundExactly() {
     QVERIFY(!profileNamed("Default"));
 }
 
-QTEST_GUILESS_MAIN(NamedProfilesTest)
+static const RegisteredTest<NamedProfilesTest> registered;
 #include "NamedProfilesTest.moc"

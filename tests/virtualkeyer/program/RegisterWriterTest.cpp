@@ -1,4 +1,5 @@
 #include "virtualkeyer/RegisterWriter.h"
+#include "tests/support/RegisteredTest.h"
 #include "virtualkeyer/core/Keyer.h"
 #include "virtualkeyer/pty/SerialKeyer.h"
 
@@ -159,5 +160,5 @@ void RegisterWriterTest::aFileThatCannotBeWrittenIsAnError() {
     QVERIFY_THROWS_EXCEPTION(std::system_error, RegisterWriter("/nowhere/at/all"));
 }
 
-QTEST_GUILESS_MAIN(RegisterWriterTest)
+static const RegisteredTest<RegisterWriterTest> registered;
 #include "RegisterWriterTest.moc"

@@ -1,5 +1,7 @@
 #include "virtualkeyer/TextPrinter.h"
 
+#include "tests/support/RegisteredTest.h"
+
 #include <QTest>
 
 using namespace std::chrono_literals;
@@ -23,5 +25,5 @@ void TextPrinterTest::itAsksToBeWokenForTheEndOfALetter() {
     QVERIFY(printer.nextWish().value() < 240ms);
 }
 
-QTEST_GUILESS_MAIN(TextPrinterTest)
+static const RegisteredTest<TextPrinterTest> registered;
 #include "TextPrinterTest.moc"

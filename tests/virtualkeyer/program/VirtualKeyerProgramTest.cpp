@@ -1,3 +1,4 @@
+#include "tests/support/RegisteredTest.h"
 #include "tests/virtualkeyer/program/KeyerProcess.h"
 #include "tests/virtualkeyer/program/Port.h"
 
@@ -431,5 +432,5 @@ void VirtualKeyerProgramTest::versionIsTheProjects() {
     QCOMPARE(keyer.output(), u"quorvel-virtual-keyer " KEYER_VERSION "\n"_s);
 }
 
-QTEST_GUILESS_MAIN(VirtualKeyerProgramTest)
+static const RegisteredTest<VirtualKeyerProgramTest> registered;
 #include "VirtualKeyerProgramTest.moc"

@@ -1,5 +1,7 @@
 #include "virtualkeyer/pty/KeyerLoop.h"
 
+#include "tests/support/RegisteredTest.h"
+
 #include <QElapsedTimer>
 #include <QTest>
 
@@ -151,5 +153,5 @@ void KeyerLoopTest::aStopRequestBeforeTheStartEndsItAtOnce() {
     QCOMPARE(::read(stop.number(), &value, sizeof value), 8);
 }
 
-QTEST_GUILESS_MAIN(KeyerLoopTest)
+static const RegisteredTest<KeyerLoopTest> registered;
 #include "KeyerLoopTest.moc"

@@ -1,5 +1,7 @@
 #include "virtualkeyer/pty/PacedLine.h"
 
+#include "tests/support/RegisteredTest.h"
+
 #include <QTest>
 
 #include <array>
@@ -161,5 +163,5 @@ void PacedLineTest::anIdleLineHasNothingDue() {
     QVERIFY(!line.nextCompletion());
 }
 
-QTEST_GUILESS_MAIN(PacedLineTest)
+static const RegisteredTest<PacedLineTest> registered;
 #include "PacedLineTest.moc"

@@ -1,4 +1,5 @@
 #include "virtualkeyer/pty/PortLink.h"
+#include "tests/support/RegisteredTest.h"
 #include "virtualkeyer/pty/PseudoTerminal.h"
 
 #include <QDir>
@@ -263,5 +264,5 @@ void PortLinkTest::namesThatCanBeAPort() {
     QTEST(PortLink::isValidName(name), "isValid");
 }
 
-QTEST_GUILESS_MAIN(PortLinkTest)
+static const RegisteredTest<PortLinkTest> registered;
 #include "PortLinkTest.moc"

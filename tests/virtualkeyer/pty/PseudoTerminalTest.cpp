@@ -1,5 +1,7 @@
 #include "virtualkeyer/pty/PseudoTerminal.h"
 
+#include "tests/support/RegisteredTest.h"
+
 #include <QTest>
 
 #include <array>
@@ -225,5 +227,5 @@ void PseudoTerminalTest::theApplicationSeesAHangUpWhenTheKeyerGoes() {
     QVERIFY((stateOf(port.number()) & POLLHUP) != 0);
 }
 
-QTEST_GUILESS_MAIN(PseudoTerminalTest)
+static const RegisteredTest<PseudoTerminalTest> registered;
 #include "PseudoTerminalTest.moc"

@@ -1,5 +1,7 @@
 #include "virtualkeyer/pty/SerialKeyer.h"
 
+#include "tests/support/RegisteredTest.h"
+
 #include <QTest>
 
 #include <initializer_list>
@@ -206,5 +208,5 @@ void SerialKeyerTest::aBootLoaderIsToldOfTheOpening() {
     QCOMPARE(keyer.takeArrived(), std::vector<std::uint8_t>{'B'});
 }
 
-QTEST_GUILESS_MAIN(SerialKeyerTest)
+static const RegisteredTest<SerialKeyerTest> registered;
 #include "SerialKeyerTest.moc"
