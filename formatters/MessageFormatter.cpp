@@ -1,6 +1,6 @@
 #include "formatters/MessageFormatter.h"
 
-#include "keyer/WinKeyerUsb.h"
+#include "keyer/MorseKeyboardCharacterSet.h"
 
 #include <algorithm>
 
@@ -10,7 +10,7 @@ bool MessageFormatter::isPartialStringValid(QString* partialString,
     *partialString = partialString->toUpper();
     const auto forbidden =
         std::find_if_not(partialString->cbegin(), partialString->cend(), [](QChar each) {
-            return WinKeyerUsb::morseKeyboardCharacterSet().characterIsMember(each);
+            return morseKeyboardCharacters.characterIsMember(each);
         });
     if (forbidden != partialString->cend()) {
         partialString->remove(forbidden - partialString->cbegin(), 1);

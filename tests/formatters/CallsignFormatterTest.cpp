@@ -7,6 +7,7 @@
 #include <QGuiApplication>
 #include <QInputMethodEvent>
 #include <QLineEdit>
+#include <QSignalSpy>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -26,7 +27,25 @@ class CallsignFormatterTest : public QObject {
     void aCommitOfAnInputMethodIsReplaced();
     void textFromAnAssistiveTechnologyIsReplaced();
     void textPutInByTheProgramIsReplaced();
+    void returnIsNoEdit();
+    void leavingTheFieldIsNoEdit();
+    void anEditThatLeavesTheTextAsItWasIsOne();
+    void aRefusedCharacterChangesNothing();
+    void aRefusedCharacterOverASelectionChangesNothing();
+    void aRefusedCommitOverASelectionChangesNothing();
+    void refusedTextPastedOverASelectionChangesNothing();
+    void anAcceptedCharacterReplacesTheSelection();
+    void whatIsTakenBackBringsNoRefusedCharacterBack();
 };
+
+namespace {
+
+void paste(QLineEdit& field, const QString& text) {
+    QGuiApplication::clipboard()->setText(text);
+    QTest::keyClick(&field, Qt::Key_V, Qt::ControlModifier);
+}
+
+} // namespace
 
 void CallsignFormatterTest::replacesText_data() {
     QTest::addColumn<QString>("typed");
@@ -153,6 +172,122 @@ void CallsignFormatterTest::textPutInByTheProgramIsReplaced() {
     QCOMPARE(field.text(), u"K1A"_s);
     field.insert(u"/p"_s);
     QCOMPARE(field.text(), u"K1A/P"_s);
+}
+
+void CallsignFormatterTest::returnIsNoEdit() {
+    QLineEdit field;
+    field.setValidator(new CallsignFormatter(&field));
+    paste(field, u"W9----X"_s);
+    QCOMPARE(field.text(), u"W9--X"_s);
+    QTest::keyClick(&field, Qt::Key_Return);
+    QCOMPARE(field.text(), u"W9--X"_s);
+    field.setCursorPosition(3);
+    QTest::keyClick(&field, Qt::Key_Backspace);
+    QCOMPARE(field.text(), u"W9X"_s);
+}
+
+void CallsignFormatterTest::leavingTheFieldIsNoEdit() {
+    QWidget window;
+    QLineEdit field(&window);
+    QLineEdit other(&window);
+    field.setValidator(new CallsignFormatter(&field));
+    window.show();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    field.setFocus();
+    paste(field, u"W9----X"_s);
+    QTest::keyClick(&field, Qt::Key_Tab);
+    QVERIFY(other.hasFocus());
+    QTest::keyClick(&other, Qt::Key_Backtab);
+    QVERIFY(field.hasFocus());
+    QCOMPARE(field.text(), u"W9--X"_s);
+    QTest::keyClick(&field, Qt::Key_End);
+    QTest::keyClick(&field, Qt::Key_Left);
+    QTest::keyClick(&field, Qt::Key_Backspace);
+    QCOMPARE(field.text(), u"W9X"_s);
+}
+
+void CallsignFormatterTest::anEditThatLeavesTheTextAsItWasIsOne() {
+    QLineEdit field;
+    field.setValidator(new CallsignFormatter(&field));
+    paste(field, u"W9----X"_s);
+    QTest::keyClick(&field, Qt::Key_Left, Qt::ShiftModifier);
+    QCOMPARE(field.selectedText(), u"X"_s);
+    QTest::keyClick(&field, Qt::Key_X);
+    QCOMPARE(field.text(), u"W9-X"_s);
+    QCOMPARE(field.cursorPosition(), 4);
+}
+
+void CallsignFormatterTest::aRefusedCharacterChangesNothing() {
+    QLineEdit field;
+    field.setValidator(new CallsignFormatter(&field));
+    QTest::keyClicks(&field, u"w9x"_s);
+    QTest::keyClick(&field, Qt::Key_Left);
+    QTest::keyClick(&field, Qt::Key_Minus);
+    QCOMPARE(field.text(), u"W9X"_s);
+    QCOMPARE(field.cursorPosition(), 2);
+    QTest::keyClick(&field, Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(field.text(), u""_s);
+}
+
+void CallsignFormatterTest::aRefusedCharacterOverASelectionChangesNothing() {
+    QLineEdit field;
+    field.setValidator(new CallsignFormatter(&field));
+    QTest::keyClicks(&field, u"w9xyz"_s);
+    QTest::keyClick(&field, Qt::Key_A, Qt::ControlModifier);
+    const QSignalSpy changes(&field, &QLineEdit::textChanged);
+    QTest::keyClick(&field, Qt::Key_Minus);
+    QCOMPARE(field.text(), u"W9XYZ"_s);
+    QCOMPARE(field.selectedText(), u"W9XYZ"_s);
+    QCOMPARE(changes.size(), 0);
+    QTest::keyClick(&field, Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(field.text(), u""_s);
+}
+
+void CallsignFormatterTest::aRefusedCommitOverASelectionChangesNothing() {
+    QLineEdit field;
+    field.setValidator(new CallsignFormatter(&field));
+    QTest::keyClicks(&field, u"w9xyz"_s);
+    QTest::keyClick(&field, Qt::Key_A, Qt::ControlModifier);
+    QInputMethodEvent commit;
+    commit.setCommitString(u"\u00E9"_s);
+    QCoreApplication::sendEvent(&field, &commit);
+    QCOMPARE(field.text(), u"W9XYZ"_s);
+    QVERIFY(field.isUndoAvailable());
+}
+
+void CallsignFormatterTest::refusedTextPastedOverASelectionChangesNothing() {
+    QLineEdit field;
+    field.setValidator(new CallsignFormatter(&field));
+    QTest::keyClicks(&field, u"w9xyz"_s);
+    QTest::keyClick(&field, Qt::Key_A, Qt::ControlModifier);
+    paste(field, u"-"_s);
+    QCOMPARE(field.text(), u"W9XYZ"_s);
+    QVERIFY(field.isUndoAvailable());
+}
+
+void CallsignFormatterTest::anAcceptedCharacterReplacesTheSelection() {
+    QLineEdit field;
+    field.setValidator(new CallsignFormatter(&field));
+    QTest::keyClicks(&field, u"w9xyz"_s);
+    QTest::keyClick(&field, Qt::Key_A, Qt::ControlModifier);
+    paste(field, u"k-"_s);
+    QCOMPARE(field.text(), u"K"_s);
+    QTest::keyClick(&field, Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClick(&field, Qt::Key_K);
+    QCOMPARE(field.text(), u"K"_s);
+    QCOMPARE(field.selectedText(), u""_s);
+}
+
+void CallsignFormatterTest::whatIsTakenBackBringsNoRefusedCharacterBack() {
+    QLineEdit field;
+    field.setValidator(new CallsignFormatter(&field));
+    paste(field, u"a--c"_s);
+    QCOMPARE(field.text(), u"A-C"_s);
+    field.setCursorPosition(1);
+    QTest::keyClick(&field, Qt::Key_Delete);
+    QCOMPARE(field.text(), u"AC"_s);
+    QTest::keyClick(&field, Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(field.text(), u"AC"_s);
 }
 
 static const RegisteredTest<CallsignFormatterTest> registered;

@@ -25,6 +25,10 @@ class MessageFormatterTest : public QObject {
     void typingCanBeTakenBack();
     void aCommitOfAnInputMethodIsReplaced();
     void textFromAnAssistiveTechnologyIsReplaced();
+    void returnIsNoEdit();
+    void aRefusedCharacterOverASelectionChangesNothing();
+    void aRefusedCharacterMakesAPassOverWhatIsLeft();
+    void aMessageMayBeOfAnyLength();
 };
 
 void MessageFormatterTest::replacesText_data() {
@@ -141,6 +145,56 @@ void MessageFormatterTest::textFromAnAssistiveTechnologyIsReplaced() {
     QCOMPARE(field.text(), u"CQ `TEST"_s);
     text->replaceText(0, 2, u"qrz!"_s);
     QCOMPARE(field.text(), u"QRZ `TEST"_s);
+}
+
+void MessageFormatterTest::returnIsNoEdit() {
+    QLineEdit field;
+    field.setValidator(new MessageFormatter(&field));
+    QGuiApplication::clipboard()->setText(u"a&b&c*"_s);
+    field.paste();
+    QCOMPARE(field.text(), u"AB&C*"_s);
+    QTest::keyClick(&field, Qt::Key_Return);
+    QTest::keyClick(&field, Qt::Key_Home);
+    QTest::keyClick(&field, Qt::Key_Right);
+    QTest::keyClick(&field, Qt::Key_Right);
+    QTest::keyClick(&field, Qt::Key_Delete); // which leaves what Return would have made of it
+    QCOMPARE(field.text(), u"ABC"_s);
+}
+
+void MessageFormatterTest::aRefusedCharacterOverASelectionChangesNothing() {
+    QLineEdit field;
+    field.setValidator(new MessageFormatter(&field));
+    QTest::keyClicks(&field, u"cq test"_s);
+    QTest::keyClick(&field, Qt::Key_Left, Qt::ControlModifier | Qt::ShiftModifier);
+    QCOMPARE(field.selectedText(), u"TEST"_s);
+    QTest::keyClick(&field, Qt::Key_Ampersand);
+    QCOMPARE(field.text(), u"CQ TEST"_s);
+    QCOMPARE(field.selectedText(), u"TEST"_s);
+    QTest::keyClick(&field, Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(field.text(), u""_s);
+}
+
+void MessageFormatterTest::aRefusedCharacterMakesAPassOverWhatIsLeft() {
+    QLineEdit field;
+    field.setValidator(new MessageFormatter(&field));
+    QGuiApplication::clipboard()->setText(u"a&b*c"_s);
+    field.paste();
+    QCOMPARE(field.text(), u"AB*C"_s);
+    QTest::keyClick(&field, Qt::Key_Ampersand);
+    QCOMPARE(field.text(), u"ABC&"_s); // only the first goes
+    QTest::keyClick(&field, Qt::Key_Return);
+    QTest::keyClick(&field, Qt::Key_Exclam);
+    QCOMPARE(field.text(), u"ABC!"_s);
+}
+
+void MessageFormatterTest::aMessageMayBeOfAnyLength() {
+    QLineEdit field;
+    field.setValidator(new MessageFormatter(&field));
+    QGuiApplication::clipboard()->setText(QString(40'000, u'E'));
+    field.paste();
+    QCOMPARE(field.text().size(), 40'000);
+    QTest::keyClick(&field, Qt::Key_T);
+    QCOMPARE(field.text().size(), 40'001);
 }
 
 static const RegisteredTest<MessageFormatterTest> registered;
