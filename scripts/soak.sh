@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Ten thousand lives of serial ports, plain and under each sanitizer; a number asks for another count
+# Ten thousand lives of serial ports and key guards, plain and under each sanitizer; a number asks for another count
 set -euo pipefail
 source scripts/lib/packages.sh
 cycles=${1:-10000}
@@ -23,6 +23,7 @@ for preset in dev asan-ubsan tsan; do
     # gcc's thread sanitizer cannot map its shadow where the kernel randomises addresses widely.
     [[ $preset != tsan ]] || ! setarch -R true 2>/dev/null || runner=(setarch -R)
     echo "== $preset"
-    build_preset "$preset" --target PortLifeCycleSoak
+    build_preset "$preset" --target PortLifeCycleSoak --target KeyGuardProcessTest
     "${runner[@]}" "build/$preset/tests/PortLifeCycleSoak" </dev/null
+    "${runner[@]}" "build/$preset/tests/KeyGuardProcessTest" nothingIsLeftOfManyLinks </dev/null
 done
