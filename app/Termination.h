@@ -10,7 +10,7 @@ class QuorvelDelegate;
 /// Hears the last window close, the desktop's request to quit, and the end of the session and of
 /// the machine. An X11 desktop that goes without a word, as when the screen's server fails, has the
 /// toolkit call exit(), and the keyer is left by way of that. A Wayland desktop that goes may have
-/// it call _exit() or abort(), which nothing hears: there the keyer stays as it was.
+/// it call _exit() or abort(), which nothing hears but the key guard.
 ///
 /// One at a time; main thread only.
 class Termination final : public QObject {

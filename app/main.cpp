@@ -1,6 +1,7 @@
 #include "app/DesktopApplication.h"
 #include "app/EscapeKey.h"
 #include "app/FieldEdges.h"
+#include "app/KeyGuard.h"
 #include "app/QuorvelDelegate.h"
 #include "app/SettingsFileAlert.h"
 #include "app/Termination.h"
@@ -12,6 +13,7 @@
 #include "platform/Log.h"
 #include "platform/Platform.h"
 #include "platform/SystemClock.h"
+#include "platform/linux/KeyGuardProcess.h"
 #include "platform/linux/LinuxDeviceRegistry.h"
 #include "platform/linux/LogindPower.h"
 #include "platform/linux/SingleInstance.h"
@@ -58,6 +60,9 @@ int run(SingleInstance& instance) {
     PreferencesGeneral::initialize();
 
     QuorvelDelegate delegate;
+    const KeyGuard guard(WinKeyerUsb::sharedInstance(), KeyGuardProcess::standardProgram());
+    QObject::connect(&guard, &KeyGuard::hasLetGo, &delegate,
+                     [&] { delegate.changeSerialPort(nullptr); });
     // Ahead of the port manager, which is made at launch: before the machine sleeps, the window has
     // to let go of the transmitter while the port is still open.
     MainWindow window(WinKeyerUsb::sharedInstance());

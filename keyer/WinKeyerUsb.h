@@ -58,6 +58,10 @@ class WinKeyerUsb final : public QObject, public ORSSerialPortDelegate {
     [[nodiscard]] KeyerActivity activity() const;
     /// The name of the port that the keyer is on; null while not connected.
     [[nodiscard]] QString serialPortName() const;
+    /// The port that the keyer is on; empty while not connected.
+    [[nodiscard]] const std::shared_ptr<ORSSerialPort>& winKeyerSerialPort() const {
+        return _winKeyerSerialPort;
+    }
     /// Takes the link down, blocking for two seconds while the port is open. Whatever it returns,
     /// the port is closed and forgotten.
     bool disconnect(Error* error);

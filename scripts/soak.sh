@@ -23,7 +23,8 @@ for preset in dev asan-ubsan tsan; do
     # gcc's thread sanitizer cannot map its shadow where the kernel randomises addresses widely.
     [[ $preset != tsan ]] || ! setarch -R true 2>/dev/null || runner=(setarch -R)
     echo "== $preset"
-    build_preset "$preset" --target PortLifeCycleSoak --target KeyGuardProcessTest
-    "${runner[@]}" "build/$preset/tests/PortLifeCycleSoak" </dev/null
-    "${runner[@]}" "build/$preset/tests/KeyGuardProcessTest" nothingIsLeftOfManyLinks </dev/null
+    build_preset "$preset" --target serial-soak --target key-guard-tests
+    "${runner[@]}" "build/$preset/tests/serial-soak" PortLifeCycleSoak </dev/null
+    "${runner[@]}" "build/$preset/tests/key-guard-tests" KeyGuardProcessTest \
+        nothingIsLeftOfManyLinks </dev/null
 done

@@ -160,6 +160,8 @@ class ORSSerialPort final : public QObject, public std::enable_shared_from_this<
 
   Q_SIGNALS:
     void isOpenChanged();
+    /// The port is about to be closed: the last moment at which its descriptor can be used.
+    void willClose();
     void baudRateChanged();
     void numberOfStopBitsChanged();
     void shouldEchoReceivedDataChanged();

@@ -68,9 +68,11 @@ bool ORSSerialPort::close() {
         return true;
     }
     const auto self = shared_from_this();
+    Q_EMIT willClose();
     _writeBuffer.clear();
     if (!_opening->close()) {
         static_cast<void>(_opening->startWorkers(self, _mainQueue));
+        Q_EMIT isOpenChanged();
         return false;
     }
     _fileDescriptor = 0;

@@ -55,6 +55,12 @@ class Keyer(Process):
         lines = self._registers.read_text().splitlines()
         return {name: value for name, _, value in (line.partition(" ") for line in lines)}
 
+    def is_left(self):
+        """Whether no host has it in host mode: then it goes by what its memory holds, and the
+        SETTINGS are others."""
+        registers = self.registers()
+        return registers["pot-minimum"] == registers["memory-pot-minimum"]
+
     def is_key_down(self):
         """What the transcript last says of the key line."""
         changes = [word for _, word in self.events("key")]

@@ -68,6 +68,28 @@ class SessionTest(ProgramTest):
         self.assertFalse(keyer.is_key_down())
         self.expect_closed(keyer)
 
+    def test_a_program_that_is_killed_in_tune_leaves_the_key_up(self):
+        keyer, quorvel, window = self.start_connected()
+        window.find("Tune").press()
+        keyer.wait_for("the key", keyer.is_key_down)
+        self.assertEqual(quorvel.end(signal.SIGKILL), -signal.SIGKILL)
+        keyer.wait_for("the key to rise", lambda: not keyer.is_key_down())
+        keyer.wait_for("the end of host mode", keyer.is_left)
+        self.expect_closed(keyer)
+
+    def test_a_program_that_hangs_in_tune_loses_the_key_and_goes_on(self):
+        keyer, quorvel, window = self.start_connected()
+        window.find("Tune").press()
+        keyer.wait_for("the key", keyer.is_key_down)
+        quorvel.send(signal.SIGSTOP)
+        keyer.wait_for("the key to rise", lambda: not keyer.is_key_down())
+        quorvel.send(signal.SIGCONT)
+        quorvel.wait_for("Tune to be off", lambda: not window.find("Tune").is_in_state("checked"))
+        self.wait_for_speed(quorvel, window)
+        self.desktop.type("k")
+        keyer.wait_for("the letter", lambda: keyer.keyed().endswith("K"))
+        self.terminate(keyer, quorvel)
+
     def test_a_damaged_settings_file_is_put_aside_and_reported(self):
         self.write_settings("this is no setting")
         quorvel = self.start_quorvel()

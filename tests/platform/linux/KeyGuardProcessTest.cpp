@@ -1,6 +1,7 @@
 #include "platform/linux/KeyGuardProcess.h"
 
 #include "tests/support/PseudoTerminalPair.h"
+#include "tests/support/RegisteredTest.h"
 
 #include <QDir>
 #include <QElapsedTimer>
@@ -351,5 +352,5 @@ void KeyGuardProcessTest::nothingIsLeftOfManyLinks() {
     QCOMPARE(_line->readAvailable(), QByteArray());
 }
 
-QTEST_GUILESS_MAIN(KeyGuardProcessTest)
+static const RegisteredTest<KeyGuardProcessTest> registered;
 #include "KeyGuardProcessTest.moc"
