@@ -179,7 +179,9 @@ GuardEnd watch(int port, int channel) {
 int main(int argc, char* argv[]) {
     const int port = argc == 3 ? std::atoi(argv[1]) : -1;
     const int channel = argc == 3 ? std::atoi(argv[2]) : -1;
-    if (port < 0 || channel < 0 || port == channel || ::isatty(port) == 0) {
+    // A terminal that has gone meanwhile says something else than that it is none.
+    const bool isTerminal = ::isatty(port) != 0 || (errno != ENOTTY && errno != EBADF);
+    if (port < 0 || channel < 0 || port == channel || !isTerminal) {
         return static_cast<int>(GuardEnd::CannotStart);
     }
     stepAside(port, channel);

@@ -81,6 +81,10 @@ bool isRunning(pid_t process) {
     return file.open(QIODevice::ReadOnly) && !file.readAll().contains(") Z ");
 }
 
+std::optional<GuardEnd> endOf(const QSignalSpy& ends) {
+    return ends.first().first().value<std::optional<GuardEnd>>();
+}
+
 } // namespace
 
 class KeyGuardProcessTest : public QObject {
@@ -198,7 +202,7 @@ void KeyGuardProcessTest::itLetsGoWhenTheApplicationIsSilentInTune() {
     QCOMPARE(written(), lastWords);
     QVERIFY(std::chrono::milliseconds(time.elapsed()) >= silenceLimit);
     QTRY_COMPARE(ends.size(), 1);
-    QCOMPARE(ends.first().first().value<std::optional<GuardEnd>>(), GuardEnd::AfterSilence);
+    QVERIFY(endOf(ends) == GuardEnd::AfterSilence);
     QCOMPARE(guard.processIdentifier(), 0);
     guard.tell(GuardMessage::Tuning);
 }
@@ -264,7 +268,7 @@ void KeyGuardProcessTest::aPulledAdapterEndsIt() {
     guard.tell(GuardMessage::Tuning);
     _line->hangUp();
     QTRY_COMPARE(ends.size(), 1);
-    QCOMPARE(ends.first().first().value<std::optional<GuardEnd>>(), GuardEnd::PortLost);
+    QVERIFY(endOf(ends) == GuardEnd::PortLost);
 }
 
 void KeyGuardProcessTest::aPulledAdapterEndsItWhenTheApplicationHangs() {
@@ -280,7 +284,7 @@ void KeyGuardProcessTest::itsViolentEndIsReported() {
     QSignalSpy ends(&guard, &KeyGuardProcess::ended);
     ::kill(guard.processIdentifier(), SIGKILL);
     QTRY_COMPARE(ends.size(), 1);
-    QVERIFY(!ends.first().first().value<std::optional<GuardEnd>>());
+    QVERIFY(!endOf(ends));
     QCOMPARE(_line->readAvailable(), QByteArray());
 }
 
@@ -313,7 +317,7 @@ void KeyGuardProcessTest::itRefusesWhatIsNoTerminal() {
     KeyGuardProcess guard(program, file.handle());
     QSignalSpy ends(&guard, &KeyGuardProcess::ended);
     QTRY_COMPARE(ends.size(), 1);
-    QCOMPARE(ends.first().first().value<std::optional<GuardEnd>>(), GuardEnd::CannotStart);
+    QVERIFY(endOf(ends) == GuardEnd::CannotStart);
 }
 
 void KeyGuardProcessTest::itNeedsLittle() {
