@@ -116,6 +116,7 @@ class WinKeyerUsb final : public QObject, public ORSSerialPortDelegate {
     /// Empties the keyer's buffer and forgets all text.
     void stopMessageSending(const QObject* sender);
     /// The text with "`" replaced by the operator's call sign and "#" by the cut serial number.
+    /// Where that would lengthen it beyond all use, both are left out, and the log says so.
     [[nodiscard]] QString substituteTokens(const QString& text) const;
     [[nodiscard]] QString myCall() const;
     /// The serial number, three digits at least, with T for 0.

@@ -28,6 +28,27 @@ struct ButtonBit {
 
 constexpr auto buttonBits = std::to_array<ButtonBit>({{0x01, 0}, {0x02, 1}, {0x04, 2}, {0x10, 3}});
 
+constexpr auto callToken = u'`';
+constexpr auto numberToken = u'#';
+
+/// A call sign with the token of itself in it, which only the settings file can hold, is
+/// substituted anew at every change of the text: that may double each time. Such a text ends here,
+/// at well over an hour of keying, while the keyboard view is still quick with it.
+constexpr qsizetype longestTextThatFeedsItself = 10'000;
+/// What tokens may add to any other text, whose substitutions are not substituted again. Nobody
+/// sends that much; a pasted text and a call sign as long as a book could ask for it.
+constexpr qsizetype mostThatTokensAdd = 1'000'000;
+
+/// Whether substitution would make more of the text than the two bounds allow.
+bool growsBeyondBounds(const QString& text, const QString& call, const QString& number) {
+    const auto calls = text.count(callToken);
+    const auto numbers = text.count(numberToken) + calls * call.count(numberToken);
+    const auto added = calls * (call.size() - 1) + numbers * (number.size() - 1);
+    const auto most =
+        call.contains(callToken) ? longestTextThatFeedsItself - text.size() : mostThatTokensAdd;
+    return added > 0 && added > most;
+}
+
 } // namespace
 
 void WinKeyerUsb::sendMessage(const QObject* sender) {
@@ -187,9 +208,17 @@ void WinKeyerUsb::stopMessageSending(const QObject*) {
 }
 
 QString WinKeyerUsb::substituteTokens(const QString& text) const {
+    const auto call = myCall();
+    const auto number = cutifiedSerialNumber();
     auto substituted = text;
-    substituted.replace(u'`', myCall());
-    substituted.replace(u'#', cutifiedSerialNumber());
+    if (growsBeyondBounds(text, call, number)) {
+        // Cut off, it would be sent with half a call sign at its end.
+        logLine(u"Text too long with the call sign and serial number in it: they are left out"_s);
+        substituted.removeIf([](QChar each) { return each == callToken || each == numberToken; });
+        return substituted;
+    }
+    substituted.replace(callToken, call);
+    substituted.replace(numberToken, number);
     return substituted;
 }
 

@@ -156,7 +156,14 @@ QString SendingModel::substituted(const QString& message) const {
         digits.prepend(u"0"_s);
     }
     const QString withCall = message.split(u"`"_s).join(myCall);
-    return withCall.split(u"#"_s).join(digits.split(u"0"_s).join(u"T"_s));
+    const QString withBoth = withCall.split(u"#"_s).join(digits.split(u"0"_s).join(u"T"_s));
+    // The call sign that it holds makes it longer at each edit.
+    if (myCall.contains(u"`"_s) && withBoth.length() > 10'000 &&
+        withBoth.length() > message.length()) {
+        static const QRegularExpression tokens(u"[`#]"_s);
+        return QString(message).remove(tokens);
+    }
+    return withBoth;
 }
 
 void SendingModel::send() {

@@ -294,6 +294,8 @@ class WinKeyerUsbSendingPropertyTest : public QObject {
   private Q_SLOTS:
     void initTestCase();
     void theEngineSendsWhatTheModelSays();
+    void aCallSignThatHoldsItsOwnTokenEndsInBothAlike_data();
+    void aCallSignThatHoldsItsOwnTokenEndsInBothAlike();
 };
 
 void WinKeyerUsbSendingPropertyTest::initTestCase() {
@@ -310,6 +312,22 @@ void WinKeyerUsbSendingPropertyTest::theEngineSendsWhatTheModelSays() {
         run(subject,
             *rc::gen::container<std::vector<Happening>>(someHappening()).as("course of events"));
     }));
+}
+
+void WinKeyerUsbSendingPropertyTest::aCallSignThatHoldsItsOwnTokenEndsInBothAlike_data() {
+    QTest::addColumn<QString>("call");
+    for (const auto& call : {u"``"_s, u"A`"_s, u"`#"_s, u"#`A`#"_s}) {
+        QTest::addRow("%s", qPrintable(call)) << call;
+    }
+}
+
+void WinKeyerUsbSendingPropertyTest::aCallSignThatHoldsItsOwnTokenEndsInBothAlike() {
+    QFETCH(QString, call);
+    Subject subject;
+    std::vector<Happening> course{{OwnCall{call}}};
+    course.insert(course.end(), 60, Happening{Edit{99, 0, u"`#"_s}});
+    run(subject, course);
+    QVERIFY(subject.bench.engine().keyboardBuffer().size() <= 10'000);
 }
 
 static const RegisteredTest<WinKeyerUsbSendingPropertyTest> registered;

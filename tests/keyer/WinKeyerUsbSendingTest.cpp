@@ -37,6 +37,9 @@ class WinKeyerUsbSendingTest : public QObject {
     void serialNumbersStepAndStayPositive();
     void tokensAreSubstituted_data();
     void tokensAreSubstituted();
+    void whatTokensMakeOfATextIsBounded_data();
+    void whatTokensMakeOfATextIsBounded();
+    void aCallSignWithItsOwnTokenDoesNotRunAway();
     void messagesAreSeparatedByASpace();
     void aMessageIsSentWhileACharacterIsUnderWay();
     void controlSigns_data();
@@ -143,6 +146,55 @@ void WinKeyerUsbSendingTest::tokensAreSubstituted() {
     QFETCH(QString, substituted);
     QCOMPARE(_bench->engine().substituteTokens(text), substituted);
     QCOMPARE(_bench->engine().serialNumber(), 1);
+}
+
+void WinKeyerUsbSendingTest::whatTokensMakeOfATextIsBounded_data() {
+    QTest::addColumn<QString>("call");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("substituted");
+    QTest::addColumn<bool>("isTold");
+    const auto doubled = u"``"_s;
+    const QString many(5000, u'`');
+    const QString less(2500, u'`');
+    const QString plain(20'000, u'A');
+    const auto call = u"N0CALL"_s;
+    QTest::newRow("the longest that feeds itself") << doubled << many << many + many << false;
+    QTest::newRow("one more") << doubled << many + u"`A"_s << u"A"_s << true;
+    QTest::newRow("the longest, by way of the number")
+        << u"`#"_s << less << u"`TT1"_s.repeated(2500) << false;
+    QTest::newRow("one more number") << u"`#"_s << less + u"#A"_s << u"A"_s << true;
+    QTest::newRow("its own token alone adds nothing")
+        << u"`"_s << many.repeated(4) << many.repeated(4) << false;
+    QTest::newRow("a long text without tokens") << doubled << plain << plain << false;
+    QTest::newRow("a long text with one") << doubled << plain + u'`' << plain << true;
+    QTest::newRow("of another call, as much as anybody may ask for")
+        << call << many.repeated(40) << call.repeated(200'000) << false;
+    QTest::newRow("more than that") << call << many.repeated(40) + u"`A"_s << u"A"_s << true;
+    QTest::newRow("another call in a long text")
+        << call << plain.repeated(100) + u'`' << plain.repeated(100) + call << false;
+    QTest::newRow("no call in a long text") << u""_s << many.repeated(400) << u""_s << false;
+}
+
+void WinKeyerUsbSendingTest::whatTokensMakeOfATextIsBounded() {
+    QFETCH(QString, call);
+    QFETCH(QString, text);
+    QFETCH(QString, substituted);
+    QFETCH(bool, isTold);
+    _bench->settings().setObject(call, MyCall);
+    const LogKeeper log;
+    QVERIFY(_bench->engine().substituteTokens(text) == substituted);
+    const auto line =
+        u"Text too long with the call sign and serial number in it: they are left out"_s;
+    QCOMPARE(log.lines(), isTold ? QStringList{line} : QStringList());
+}
+
+void WinKeyerUsbSendingTest::aCallSignWithItsOwnTokenDoesNotRunAway() {
+    _bench->settings().setObject(u"A``"_s, MyCall);
+    auto& engine = _bench->engine();
+    for (int change = 0; change < 100; ++change) {
+        _bench->type(engine.keyboardBuffer() + u'`');
+        QVERIFY(engine.keyboardBuffer().size() <= 10'000);
+    }
 }
 
 void WinKeyerUsbSendingTest::messagesAreSeparatedByASpace() {
