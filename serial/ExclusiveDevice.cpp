@@ -41,8 +41,9 @@ FileDescriptor open(const QString& path) {
     return descriptor;
 }
 
-void release(const FileDescriptor& descriptor) {
-    static_cast<void>(::ioctl(descriptor.get(), TIOCNXCL));
+// A line that has hung up keeps nobody out: whoever opens the device gets a new one.
+bool release(const FileDescriptor& descriptor) {
+    return ::ioctl(descriptor.get(), TIOCNXCL) == 0 || errno == EIO;
 }
 
 } // namespace ExclusiveDevice

@@ -12,7 +12,8 @@ namespace ExclusiveDevice {
 /// device cannot be opened, is no terminal, or is held by somebody else.
 [[nodiscard]] FileDescriptor open(const QString& path);
 
-/// Lets others in again. A pseudo-terminal would else stay locked after it is closed.
-void release(const FileDescriptor& descriptor);
+/// Lets others in again. False when that is refused: an adapter then stays locked until its last
+/// descriptor is closed, a pseudo-terminal until its far end goes, for all but root.
+[[nodiscard]] bool release(const FileDescriptor& descriptor);
 
 } // namespace ExclusiveDevice

@@ -178,6 +178,7 @@ class ORSSerialPort final : public QObject, public std::enable_shared_from_this<
   private:
     ORSSerialPort(DeviceHandle device, const QString& path);
 
+    [[nodiscard]] bool closeOpening();
     void queueErrorReport();
     void setFlowControl(bool& setting, bool uses, void (ORSSerialPort::*changed)());
     void setOutputLine(int& line, int value, int bit, void (ORSSerialPort::*changed)());

@@ -48,7 +48,7 @@ void ORSSerialPort::open() {
     });
     *hasWorkers = _opening->startWorkers(self, _mainQueue);
     if (!*hasWorkers) {
-        static_cast<void>(_opening->close());
+        static_cast<void>(closeOpening());
         _fileDescriptor = 0;
         _opening.reset();
         queueErrorReport();
@@ -70,7 +70,7 @@ bool ORSSerialPort::close() {
     const auto self = shared_from_this();
     Q_EMIT willClose();
     _writeBuffer.clear();
-    if (!_opening->close()) {
+    if (!closeOpening()) {
         static_cast<void>(_opening->startWorkers(self, _mainQueue));
         Q_EMIT isOpenChanged();
         return false;
@@ -82,6 +82,16 @@ bool ORSSerialPort::close() {
         told->serialPortWasClosed(*this);
     }
     return true;
+}
+
+// A device that is not let go of is closed all the same: held open, it would stay locked too, with
+// its lines raised. The log says why the next one to open it finds it busy.
+bool ORSSerialPort::closeOpening() {
+    const bool isClosed = _opening->close();
+    if (_opening->staysLocked()) {
+        logLine(u"Unable to leave exclusive mode on %1"_s.arg(description()));
+    }
+    return isClosed;
 }
 
 void ORSSerialPort::cleanup() {

@@ -27,6 +27,6 @@ bool PortOpening::close() {
     _reader.reset();
     _pinPoller.reset();
     _savedSettings.restore(_descriptor.get());
-    ExclusiveDevice::release(_descriptor);
+    _staysLocked = !ExclusiveDevice::release(_descriptor);
     return _descriptor.close();
 }

@@ -25,6 +25,8 @@ class PortOpening {
     /// Ends the workers, puts the old line settings back, and closes the descriptor. When that
     /// last step is refused it returns false, and the descriptor is still held, without workers.
     [[nodiscard]] bool close();
+    /// Whether close() was refused to let others in again.
+    [[nodiscard]] bool staysLocked() const { return _staysLocked; }
 
   private:
     FileDescriptor _descriptor;
@@ -32,4 +34,5 @@ class PortOpening {
     SavedLineSettings _savedSettings;
     std::optional<PortReader> _reader;
     std::optional<PinPoller> _pinPoller;
+    bool _staysLocked = false;
 };

@@ -11,7 +11,9 @@
 #include <array>
 #include <cerrno>
 #include <cstring>
+#include <fcntl.h>
 #include <sys/ioctl.h>
+#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 
@@ -68,6 +70,24 @@ void addRows(const Call& call, const Errors& errors, const QList<int>& numbers) 
                 << call.call << call.request << error << number;
         }
     }
+}
+
+/// What the kernel says of a terminal's exclusive mode.
+struct Lock {
+    bool isOn;
+    /// Root passes it.
+    bool keepsThisUserOut;
+};
+
+Lock lockOn(const QString& path) {
+    const int descriptor = ::open(path.toLocal8Bit().constData(), O_RDWR | O_NOCTTY | O_CLOEXEC);
+    if (descriptor < 0) {
+        return {.isOn = errno == EBUSY, .keepsThisUserOut = true};
+    }
+    int isOn = 0;
+    ::ioctl(descriptor, TIOCGEXCL, &isOn);
+    ::close(descriptor);
+    return {.isOn = isOn != 0, .keepsThisUserOut = false};
 }
 
 } // namespace
@@ -328,6 +348,7 @@ class ORSSerialPortFailureTableTest : public QObject {
         QFETCH(int, error);
         QFETCH(int, number);
         PortBench bench;
+        const LogKeeper log;
         QVERIFY(bench.open());
         const auto restored = [&bench] {
             const auto all = bench.faults.setAttributes();
@@ -341,8 +362,21 @@ class ORSSerialPortFailureTableTest : public QObject {
         const bool isRestoreRefused =
             call == SystemCall::TcSetAttr && number == 2 && error != EINTR;
         QCOMPARE(restored(), isRestoreRefused ? 0 : 1);
+        const bool isReleaseRefused = call == SystemCall::Ioctl && request == TIOCNXCL;
+        // Of a line that has hung up, which that error tells of, there is nothing to leave.
+        QCOMPARE(log.lines(), isReleaseRefused && error != EIO
+                                  ? QStringList{u"Unable to leave exclusive mode on line"_s}
+                                  : QStringList());
+        const auto lock = lockOn(bench.line.path());
+        QCOMPARE(lock.isOn, isReleaseRefused);
         bench.port->open();
-        verifyTransfer(bench);
+        if (lock.keepsThisUserOut) {
+            QVERIFY(!bench.port->isOpen());
+            QTRY_COMPARE(bench.delegate.count(u"error"_s), 1);
+            verifyReport(bench);
+        } else {
+            verifyTransfer(bench);
+        }
     }
 
     void aCloseThatIsRefused_data() {
