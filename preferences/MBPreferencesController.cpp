@@ -1,6 +1,7 @@
 #include "preferences/MBPreferencesController.h"
 
 #include "keyer/WinKeyerUsb.h"
+#include "platform/Log.h"
 #include "platform/Platform.h"
 #include "preferences/WindowFrame.h"
 
@@ -143,7 +144,12 @@ MBPreferencesController::toolbarItemForItemIdentifier(const QString& identifier)
     item->setObjectName(identifier);
     if (const auto module = moduleForIdentifier(identifier)) {
         item->setText(module->title());
-        item->setIcon(module->image());
+        const auto image = module->image();
+        if (image.pixmap(_toolbar->iconSize()).isNull()) {
+            // Qt says nothing when a plugin that it draws pictures with is not installed.
+            logLine(u"Unable to load the picture of the pane %1"_s.arg(module->title()));
+        }
+        item->setIcon(image);
         item->setCheckable(true);
         connect(item.get(), &QAction::triggered, this,
                 [this, sender = item.get()] { selectModule(sender); });

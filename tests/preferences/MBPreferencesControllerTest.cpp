@@ -2,6 +2,7 @@
 
 #include "keyer/WinKeyerUsb.h"
 #include "tests/preferences/PreferencesWindowBench.h"
+#include "tests/support/LogKeeper.h"
 #include "tests/support/RegisteredTest.h"
 
 #include <QAccessible>
@@ -31,6 +32,7 @@ class MBPreferencesControllerTest : public QObject, private PreferencesWindowBen
     void theToolbarIsAsItShouldBe();
     void itemsAreTheModules();
     void anUnknownItemIsBare();
+    void aPictureThatCannotBeLoadedIsToldOf();
     void theLaterOfTwoLikeModulesIsFound();
     void theFirstModuleIsShownAtFirst();
     void theModuleShownLastIsShownAgain();
@@ -122,6 +124,17 @@ void MBPreferencesControllerTest::anUnknownItemIsBare() {
     item->trigger();
     QCOMPARE(_one->timesDisplayed(), 1);
     QCOMPARE(controller().currentModule().get(), _one.get());
+}
+
+void MBPreferencesControllerTest::aPictureThatCannotBeLoadedIsToldOf() {
+    const LogKeeper log;
+    controller().setModules(list({_one, _two}));
+    QCOMPARE(log.lines(), QStringList());
+
+    _two->spoilImage();
+    const auto item = controller().toolbarItemForItemIdentifier(u"two"_s);
+    QCOMPARE(item->text(), u"The two"_s);
+    QCOMPARE(log.lines(), QStringList{u"Unable to load the picture of the pane The two"_s});
 }
 
 void MBPreferencesControllerTest::theLaterOfTwoLikeModulesIsFound() {

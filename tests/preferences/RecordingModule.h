@@ -12,21 +12,22 @@ class RecordingModule final : public MBPreferencesModule {
   public:
     RecordingModule(const QString& name, QSize size)
         : _name(name), _view(std::make_unique<QWidget>()) {
+        QPixmap picture(32, 32);
+        picture.fill(Qt::red);
+        _image = picture;
         _view->resize(size);
     }
 
     /// Leaves the module without a view.
     void dropView() { _view.reset(); }
+    /// Leaves the module with an image that cannot be loaded.
+    void spoilImage() { _image = QIcon(QStringLiteral(":/no-such-picture")); }
     void setWhenDisplayed(std::function<void()> action) { _whenDisplayed = std::move(action); }
     [[nodiscard]] int timesDisplayed() const { return _timesDisplayed; }
 
     [[nodiscard]] QString title() const override { return QStringLiteral("The ") + _name; }
     [[nodiscard]] QString identifier() const override { return _name; }
-    [[nodiscard]] QIcon image() const override {
-        QPixmap picture(32, 32);
-        picture.fill(Qt::red);
-        return picture;
-    }
+    [[nodiscard]] QIcon image() const override { return _image; }
     [[nodiscard]] QWidget* view() const override { return _view.get(); }
 
     void willBeDisplayed() override {
@@ -38,6 +39,7 @@ class RecordingModule final : public MBPreferencesModule {
 
   private:
     QString _name;
+    QIcon _image;
     std::unique_ptr<QWidget> _view;
     std::function<void()> _whenDisplayed;
     int _timesDisplayed = 0;
