@@ -1,30 +1,19 @@
 #include "app/DesktopApplication.h"
 
+#include "app/AlertBox.h"
 #include "platform/Platform.h"
 
 #include <QApplication>
-#include <QMessageBox>
-#include <QPushButton>
 #include <QScopeGuard>
 
 AlertAnswer DesktopApplication::runModal(const Alert& alert) {
-    QMessageBox box(windowInUse());
-    box.setIcon(alert.alternateButton.isNull() ? QMessageBox::Warning : QMessageBox::Question);
-    box.setTextFormat(Qt::PlainText);
-    box.setText(alert.messageText);
-    box.setInformativeText(alert.informativeText);
-    const auto* defaultButton = alert.defaultButton.isNull()
-                                    ? box.addButton(QMessageBox::Ok)
-                                    : box.addButton(alert.defaultButton, QMessageBox::AcceptRole);
-    if (!alert.alternateButton.isNull()) {
-        box.addButton(alert.alternateButton, QMessageBox::RejectRole);
-    }
+    AlertBox box(alert, windowInUse());
     // Devices that come and go meanwhile wait, so that no alert ever stands on another.
     auto& devices = Platform::current().devices();
     devices.holdAnnouncements();
     const auto resume = qScopeGuard([&devices] { devices.resumeAnnouncements(); });
     box.exec();
-    return box.clickedButton() == defaultButton ? AlertAnswer::Default : AlertAnswer::Alternate;
+    return box.answer();
 }
 
 /// The window that the operator works in has the keyboard again afterwards, which matters: what is

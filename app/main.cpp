@@ -2,11 +2,13 @@
 #include "app/EscapeKey.h"
 #include "app/FieldEdges.h"
 #include "app/KeyGuard.h"
+#include "app/MenuShield.h"
 #include "app/QuorvelDelegate.h"
 #include "app/SettingsFileAlert.h"
 #include "app/Termination.h"
 #include "app/TerminationSignals.h"
 #include "app/Translations.h"
+#include "app/TypingWatch.h"
 #include "app/window/MainWindow.h"
 #include "keyer/WinKeyerUsb.h"
 #include "platform/BundleIdentifier.h"
@@ -77,6 +79,8 @@ int run(SingleInstance& instance) {
     QObject::connect(&delegate, &QuorvelDelegate::serialPortNameArrayChanged, &preferences,
                      [&] { preferences.setSerialPortNames(delegate.serialPortNameArray()); });
 
+    const MenuShield menuShield;
+    const TypingWatch typingWatch;
     const EscapeKey escape;
     QObject::connect(&escape, &EscapeKey::pressed, &window, &MainWindow::stop);
     QObject::connect(&instance, &SingleInstance::activated, &window, &MainWindow::comeToFront);

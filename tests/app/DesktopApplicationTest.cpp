@@ -1,5 +1,6 @@
 #include "app/DesktopApplication.h"
 
+#include "app/KeyShield.h"
 #include "serial/ORSSerialPortManager.h"
 #include "tests/support/RegisteredTest.h"
 #include "tests/support/TestPlatform.h"
@@ -11,6 +12,7 @@
 #include <QTimer>
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
 class DesktopApplicationTest : public QObject {
     Q_OBJECT
@@ -18,6 +20,7 @@ class DesktopApplicationTest : public QObject {
   private Q_SLOTS:
     void aQuestionIsAnsweredByItsButtons_data();
     void aQuestionIsAnsweredByItsButtons();
+    void anAlertTakesNoKeyAtFirst();
     void aStatementHasOneButton();
     void anErrorShowsItsMessageAndSuggestion();
     void textIsShownAsItStands();
@@ -25,20 +28,24 @@ class DesktopApplicationTest : public QObject {
     void devicesThatComeMeanwhileAreAnnouncedAfterwards();
 
   private:
-    /// Runs `action` on the alert once it is up.
-    void whileShown(std::function<void(QMessageBox&)> action);
+    /// Runs `action` on the alert once it has been up for so long; by then it takes keys.
+    void whileShown(std::function<void(QMessageBox&)> action,
+                    std::chrono::seconds age = KeyShield::stillness);
 
     TestPlatform _platform;
     DesktopApplication _application;
     bool _wasShown = false;
 };
 
-void DesktopApplicationTest::whileShown(std::function<void(QMessageBox&)> action) {
+void DesktopApplicationTest::whileShown(std::function<void(QMessageBox&)> action,
+                                        std::chrono::seconds age) {
     _wasShown = false;
-    QTimer::singleShot(0, this, [this, action = std::move(action)] {
+    QTimer::singleShot(0, this, [this, age, action = std::move(action)] {
         auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
         QVERIFY(box != nullptr);
         _wasShown = true;
+        QTRY_VERIFY(box->isActiveWindow());
+        _platform.clock().advance(age);
         action(*box);
     });
 }
@@ -55,7 +62,7 @@ void DesktopApplicationTest::aQuestionIsAnsweredByItsButtons() {
     QFETCH(bool, isDefault);
     whileShown([key](QMessageBox& box) {
         QCOMPARE(box.buttons().size(), 2);
-        QTest::keyClick(&box, key);
+        QTest::keyClick(box.windowHandle(), key);
     });
     const auto answer = _application.runModal({.messageText = u"Ready?"_s,
                                                .informativeText = {},
@@ -65,10 +72,23 @@ void DesktopApplicationTest::aQuestionIsAnsweredByItsButtons() {
     QCOMPARE(answer == AlertAnswer::Default, isDefault);
 }
 
+void DesktopApplicationTest::anAlertTakesNoKeyAtFirst() {
+    whileShown(
+        [this](QMessageBox& box) {
+            QTest::keyClick(box.windowHandle(), Qt::Key_Space);
+            QTest::keyClick(box.windowHandle(), Qt::Key_Return);
+            QVERIFY(box.isVisible());
+            box.accept();
+        },
+        0s);
+    _application.runModal({.messageText = u"Done."_s, .informativeText = {}});
+    QVERIFY(_wasShown);
+}
+
 void DesktopApplicationTest::aStatementHasOneButton() {
     whileShown([](QMessageBox& box) {
         QCOMPARE(box.buttons().size(), 1);
-        QTest::keyClick(&box, Qt::Key_Escape);
+        QTest::keyClick(box.windowHandle(), Qt::Key_Escape);
     });
     _application.runModal({.messageText = u"Done."_s, .informativeText = {}});
     QVERIFY(_wasShown);

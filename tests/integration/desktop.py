@@ -52,8 +52,9 @@ class Desktop:
     def press(self, keys):
         assert self.xdotool("key", keys) is not None
 
-    def type(self, text):
-        assert self.xdotool("type", "--delay", 20, text) is not None
+    def type(self, text, delay=20):
+        """`delay` in milliseconds, between two characters."""
+        assert self.xdotool("type", "--delay", delay, text) is not None
 
     def click(self, element):
         x, y = element.centre()

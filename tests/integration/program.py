@@ -15,6 +15,8 @@ PORT = "usbserial-virtual"
 QUORVEL, VIRTUAL_KEYER = sys.argv[1:3]
 
 LONG_TEXT = "PARIS" * 200
+# What an alert says while it takes no keys.
+SHIELDED = "Takes keys when you have stopped typing for a second"
 # Fast, so that a long text takes little time. A pot byte has room for 32 speeds.
 SPEED = 90
 SETTINGS = f"""[General]
@@ -137,8 +139,10 @@ class ProgramTest(unittest.TestCase):
         return [each for each in children if each.role() == "alert"]
 
     def answer_alert(self, quorvel, text, key="Return"):
-        """Waits for the one alert, which must say this, and presses a key in it."""
-        self.wait_for_alert(quorvel, text)
+        """Waits for the one alert, which must say this, and presses a key in it as soon as it takes
+        keys."""
+        alert = self.wait_for_alert(quorvel, text)
+        quorvel.wait_for("the alert to take keys", lambda: not self.is_shielded(alert))
         self.desktop.press(key)
         self.wait_until_gone(quorvel, text)
 
@@ -152,6 +156,11 @@ class ProgramTest(unittest.TestCase):
         self.assertEqual(len(alerts), 1)
         self.assertIsNotNone(alerts[0].find(text), alerts[0].describe())
         return alerts[0]
+
+    def is_shielded(self, alert):
+        """Whether the alert says that it takes no keys yet."""
+        hint = alert.find(SHIELDED)
+        return hint is not None and hint.is_in_state("showing")
 
     def wait_until_gone(self, quorvel, text):
         quorvel.wait_for("the alert to go", lambda: all(

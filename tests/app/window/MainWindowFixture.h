@@ -33,6 +33,19 @@ class MainWindowFixture {
         QTest::keyClick(_window->windowHandle(), key, modifiers);
     }
 
+    /// Types on the native window, so that the text goes where the focus is.
+    void type(const QString& text) {
+        for (const auto character : text) {
+            QTest::keyClick(_window->windowHandle(), character.toLatin1());
+        }
+    }
+
+    /// Clicks on the native window.
+    void click(const QWidget& widget) {
+        QTest::mouseClick(_window->windowHandle(), Qt::LeftButton, {},
+                          widget.mapTo(&*_window, widget.rect().center()));
+    }
+
     template <typename Object>
     [[nodiscard]] Object* find(const QString& name) {
         return _window->findChild<Object*>(name);

@@ -43,6 +43,8 @@ class MainWindowTest : public QObject, private MainWindowFixture {
     void theWindowComesBackWhereItWas();
     void aPlaceOnAScreenThatIsGoneIsNotTaken();
     void theWindowComesToTheFront();
+    void aClickOnAButtonLeavesTheFocusWhereItWas();
+    void whatIsTypedAfterAClickIsText();
     void everyControlHasAnAccessibleName();
     void everyControlHasAPlaceInTheTabOrder();
     void theControlsComeBeforeTheMenusForAScreenReader();
@@ -158,6 +160,31 @@ void MainWindowTest::pauseFollowsTheEngineBothWays() {
     _bench->receive({0xC0});
     QVERIFY(!pause->isChecked());
     QCOMPARE(_bench->written(), "06 01 06 00");
+}
+
+void MainWindowTest::aClickOnAButtonLeavesTheFocusWhereItWas() {
+    int count = 0;
+    for (const auto* field : {"keyboardView", "hisCallsignTextField", "serialNumberBox"}) {
+        for (auto* button : find<QWidget>(u"console"_s)->findChildren<QAbstractButton*>()) {
+            find<QWidget>(QString::fromLatin1(field))->setFocus();
+            const auto* before = QApplication::focusWidget();
+            click(*button);
+            QVERIFY2(QApplication::focusWidget() == before, qPrintable(button->objectName()));
+            _bench->engine().setTuneState(0);
+            ++count;
+        }
+    }
+    QCOMPARE(count, 3 * 15);
+}
+
+/// The spaces of it work nothing.
+void MainWindowTest::whatIsTypedAfterAClickIsText() {
+    click(*find<QAbstractButton>(u"tuneButton"_s));
+    click(*find<QAbstractButton>(u"tuneButton"_s));
+    QCOMPARE(_bench->written(), "0b 01 0b 00");
+    type(u"cq cq"_s);
+    QCOMPARE(_bench->engine().keyboardBuffer(), u"CQ CQ"_s);
+    QCOMPARE(_bench->written(), "43");
 }
 
 void MainWindowTest::everyControlHasAnAccessibleName() {
