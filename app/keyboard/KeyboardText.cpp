@@ -54,26 +54,63 @@ QList<qsizetype> breaksIn(const QString& text) {
     return breaks;
 }
 
+/// What a document takes for a line end, and the tab.
+bool isLineEnd(QChar character) {
+    constexpr auto lineEnds = std::to_array<char16_t>(
+        {u'\t', u'\n', u'\r', u'\v', u'\f', u'\u0085', u'\u2028', u'\u2029', u'\ufdd0', u'\ufdd1'});
+    return std::ranges::find(lineEnds, character.unicode()) != lineEnds.end();
+}
+
+/// Where the white space that begins at `start` ends.
+qsizetype endOfGap(const QString& text, qsizetype start) {
+    while (start < text.size() && (text.at(start) == u' ' || isLineEnd(text.at(start)))) {
+        ++start;
+    }
+    return start;
+}
+
+bool endsLine(const QString& text, qsizetype start, qsizetype end) {
+    return std::any_of(text.begin() + start, text.begin() + end, isLineEnd);
+}
+
 } // namespace
 
 QString KeyboardText::text() const {
     return withSpaces(_document.toRawText());
 }
 
+QChar KeyboardText::characterAt(int position) const {
+    // Behind the text the document has an end of a paragraph yet.
+    if (position < 0 || position >= _document.characterCount() - 1) {
+        return {};
+    }
+    const auto character = _document.characterAt(position);
+    return character == QChar::ParagraphSeparator ? QChar(u' ') : character;
+}
+
 QString KeyboardText::withSpaces(QString text) {
     return text.replace(QChar::ParagraphSeparator, u' ');
 }
 
-QString KeyboardText::withoutLineEnds(QString text) {
-    constexpr auto lineEnds = std::to_array<char16_t>(
-        {u'\n', u'\r', u'\v', u'\f', u'\u0085', u'\u2028', u'\u2029', u'\ufdd0', u'\ufdd1'});
-    text.replace(QStringLiteral("\r\n"), QStringLiteral("\t"));
-    for (auto& character : text) {
-        if (std::ranges::find(lineEnds, character.unicode()) != lineEnds.end()) {
-            character = u'\t';
+QString KeyboardText::inOneLine(const QString& text, QChar before, QChar after) {
+    QString line;
+    line.reserve(text.size());
+    for (qsizetype start = 0; start < text.size();) {
+        const auto end = endOfGap(text, start);
+        if (!endsLine(text, start, end)) {
+            const auto next = std::max(end, start + 1);
+            line += QStringView(text).mid(start, next - start);
+            start = next;
+            continue;
         }
+        const auto left = line.isEmpty() ? before : line.back();
+        const auto right = end < text.size() ? text.at(end) : after;
+        if (!left.isNull() && left != u' ' && right != u' ') {
+            line += u' ';
+        }
+        start = end;
     }
-    return text;
+    return line;
 }
 
 void KeyboardText::apply(const TextChange& change) {

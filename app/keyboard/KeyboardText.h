@@ -22,6 +22,9 @@ class KeyboardText {
     /// The text that the document shows.
     [[nodiscard]] QString text() const;
 
+    /// The character at `position`; a null one where there is none.
+    [[nodiscard]] QChar characterAt(int position) const;
+
     /// Changes the document. Cursors stay with the text around them; the caret behind what is
     /// replaced gets behind what replaces it.
     void apply(const TextChange& change);
@@ -29,9 +32,10 @@ class KeyboardText {
     /// Breaks what has grown too long since the last time.
     void breakParagraphs();
 
-    /// Text from elsewhere, with nothing left in it that a document takes for a line end. A tab
-    /// stands for each: no more of a Morse character than a line end is.
-    [[nodiscard]] static QString withoutLineEnds(QString text);
+    /// Text from elsewhere, in one line. White space that a line end or a tab is part of becomes
+    /// a single space, or nothing where no words are on both sides of it. `before` and `after`
+    /// are the characters that the text will stand between; null ones for none.
+    [[nodiscard]] static QString inOneLine(const QString& text, QChar before, QChar after);
 
     /// Part of a document's text, with its paragraph ends as the spaces that they are.
     [[nodiscard]] static QString withSpaces(QString text);

@@ -20,6 +20,31 @@
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+constexpr auto commandKeys = Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
+
+bool isText(const QKeyEvent& event) {
+    return (event.modifiers() & Qt::ControlModifier) == 0 && !event.text().isEmpty() &&
+           event.text().front().isPrint();
+}
+
+bool isLineEnd(const QKeyEvent& event) {
+    return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
+}
+
+bool isModifier(const QKeyEvent& event) {
+    return event.key() >= Qt::Key_Shift && event.key() <= Qt::Key_ScrollLock;
+}
+
+QInputMethodEvent::Attribute underlined(qsizetype length) {
+    QTextCharFormat format;
+    format.setFontUnderline(true);
+    return {QInputMethodEvent::TextFormat, 0, static_cast<int>(length), format};
+}
+
+} // namespace
+
 KeyboardView::KeyboardView(QWidget* parent)
     : QPlainTextEdit(parent), _text(*document()), _scrollRest(this) {
     // The document knows nothing of what has been sent, and its own undo would key text twice.
@@ -27,6 +52,9 @@ KeyboardView::KeyboardView(QWidget* parent)
     setTabChangesFocus(true);
     KeyboardViewAccessible::install();
     QObject::connect(this, &QPlainTextEdit::textChanged, this, &KeyboardView::takeOperatorsText);
+    QObject::connect(this, &QPlainTextEdit::cursorPositionChanged, this,
+                     &KeyboardView::followCaret);
+    QObject::connect(this, &QPlainTextEdit::selectionChanged, this, &KeyboardView::followCaret);
     // The wheel moves the scroll bar, too.
     QObject::connect(verticalScrollBar(), &QScrollBar::actionTriggered, &_scrollRest,
                      &ScrollRest::noteUse);
@@ -38,6 +66,7 @@ void KeyboardView::setEngine(WinKeyerUsb& engine) {
     QObject::connect(_engine, &WinKeyerUsb::keyboardBufferChanged, this,
                      &KeyboardView::showEnginesText);
     QObject::connect(_engine, &WinKeyerUsb::sendingProgressed, this, &KeyboardView::takeProgress);
+    QObject::connect(_engine, &WinKeyerUsb::messageSendingStopped, this, &KeyboardView::dropMerge);
     showChange(TextChange::between(text(), _engine->keyboardBuffer()));
     showProgress();
 }
@@ -58,7 +87,11 @@ void KeyboardView::takeOperatorsText() {
     breakParagraphs();
     const auto change = TextChange::between(before, _engine->keyboardBuffer());
     if (!change.isEmpty()) {
-        const auto isTyped = change.removed.size() + change.inserted.size() == 1;
+        const auto isTyped =
+            change.removed.size() + change.inserted.size() == 1 || isBeginOfWord(change);
+        if (!change.removed.isEmpty() && change.position <= _messageEnd) {
+            _messageEnd = -1; // who takes out the space wants none
+        }
         _history.record(change, handedOver,
                         isTyped ? EditHistory::Kind::Typed : EditHistory::Kind::Whole);
     }
@@ -71,14 +104,68 @@ void KeyboardView::giveToEngine(const QString& text) {
     _engine->textDidChange();
 }
 
+/// The space that was put behind a message, and the first character of the word.
+bool KeyboardView::isBeginOfWord(const TextChange& change) const {
+    return change.removed.isEmpty() && change.position == _messageEnd &&
+           change.inserted.size() == 2;
+}
+
 void KeyboardView::replaceText(qsizetype begin, qsizetype end, const QString& text) {
+    dropMerge();
     QTextCursor cursor(document());
     cursor.setPosition(static_cast<int>(begin));
     cursor.setPosition(static_cast<int>(end), QTextCursor::KeepAnchor);
-    cursor.insertText(KeyboardText::withoutLineEnds(text));
+    cursor.insertText(readied(text, cursor));
+    if (_merge.isBegun()) {
+        setTextCursor(cursor);
+        enter({});
+    }
+}
+
+/// Text that goes where the caret is, as if it had been composed there.
+void KeyboardView::enter(const QString& text) {
+    QInputMethodEvent event;
+    event.setCommitString(text);
+    inputMethodEvent(&event);
+}
+
+/// What is to go into the text at `place`, instead of its selection, of what was typed there.
+QString KeyboardView::readied(const QString& typed, const QTextCursor& place) {
+    const auto before = _text.characterAt(place.selectionStart() - 1);
+    const auto after = _text.characterAt(place.selectionEnd());
+    const auto complete = _merge.take(KeyboardText::inOneLine(typed, before, after));
+    const bool isBehindMessage = place.selectionStart() == _messageEnd && after.isNull();
+    if (isBehindMessage && before != u' ' && !complete.isEmpty() && !complete.startsWith(u' ')) {
+        return u' ' + complete;
+    }
+    return complete;
+}
+
+bool KeyboardView::takeKeyOfMerge(const QKeyEvent& event) {
+    if (!_merge.isBegun() || isModifier(event)) {
+        return false;
+    }
+    if (event.key() == Qt::Key_Backspace) {
+        _merge.eraseLast();
+        enter({});
+        return true;
+    }
+    dropMerge();
+    return false;
+}
+
+void KeyboardView::dropMerge() {
+    if (_merge.isBegun()) {
+        _merge.clear();
+        enter({});
+    }
 }
 
 void KeyboardView::undoTyping() {
+    if (_merge.isBegun()) {
+        dropMerge();
+        return;
+    }
     travel(_history.undo());
 }
 
@@ -124,8 +211,18 @@ void KeyboardView::showEnginesText() {
     }
     if (!_isEngineTakingText) {
         _history.record(change, _engine->outputBufferIndex(), EditHistory::Kind::Whole);
+        noteMessage(change);
     }
     showChange(change);
+    if (text().isEmpty() && !_isEngineTakingText) {
+        dropMerge(); // broken in on, as the text was
+    }
+}
+
+void KeyboardView::noteMessage(const TextChange& change) {
+    const auto end = change.position + change.inserted.size();
+    const bool isAdded = change.removed.isEmpty() && end == _engine->keyboardBuffer().size();
+    _messageEnd = isAdded ? end : -1;
 }
 
 void KeyboardView::showChange(const TextChange& change) {
@@ -187,7 +284,22 @@ void KeyboardView::showProgress() {
         _shownState = sendingState();
         viewport()->update();
     }
+    followCaret();
     followSending();
+    Q_EMIT waitingCountChanged();
+}
+
+/// The caret is a block where typing has the keyer send again what it has been given.
+void KeyboardView::followCaret() {
+    const bool isInSentText =
+        _engine != nullptr && textCursor().selectionStart() < _engine->outputBufferIndex();
+    if (_isCaretInSentText == isInSentText) {
+        return;
+    }
+    _isCaretInSentText = isInSentText;
+    const auto line = style()->pixelMetric(QStyle::PM_TextCursorWidth, nullptr, this);
+    setCursorWidth(isInSentText ? std::max(2 * line, fontMetrics().averageCharWidth()) : line);
+    Q_EMIT caretInSentTextChanged();
 }
 
 bool KeyboardView::isInUse() const {
@@ -252,22 +364,52 @@ void KeyboardView::keyPressEvent(QKeyEvent* event) {
         undoTyping();
     } else if (event->matches(QKeySequence::Redo)) {
         redoTyping();
-    } else if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter) {
+    } else if (isText(*event) || isLineEnd(*event)) {
+        enterKey(*event);
+    } else if (takeKeyOfMerge(*event)) {
+        return;
+    } else if (isCaretInSentText() && event->key() == Qt::Key_End && !event->modifiers()) {
+        moveCursor(QTextCursor::End);
+    } else {
         QPlainTextEdit::keyPressEvent(event);
     }
 }
 
+/// A letter with Alt is a command, if one that nobody knows, and Return over a selection a slip.
+void KeyboardView::enterKey(const QKeyEvent& event) {
+    if ((event.modifiers() & commandKeys) != 0) {
+        return;
+    }
+    if (!isLineEnd(event)) {
+        enter(event.text());
+    } else if (!textCursor().hasSelection()) {
+        enter(u"\n"_s);
+    }
+}
+
+/// What is kept back of a merge stands in front of what an input method composes.
 void KeyboardView::inputMethodEvent(QInputMethodEvent* event) {
     _scrollRest.noteUse();
-    QInputMethodEvent filtered(event->preeditString(), event->attributes());
-    filtered.setCommitString(KeyboardText::withoutLineEnds(event->commitString()),
-                             event->replacementStart(), event->replacementLength());
-    QPlainTextEdit::inputMethodEvent(&filtered);
-    event->setAccepted(filtered.isAccepted());
+    const auto complete = readied(event->commitString(), textCursor());
+    const auto kept = _merge.kept();
+    QList<QInputMethodEvent::Attribute> attributes;
+    if (!kept.isEmpty()) {
+        attributes.append(underlined(kept.size()));
+    }
+    for (auto attribute : event->attributes()) {
+        const bool isOfText = attribute.type == QInputMethodEvent::Selection;
+        attribute.start += isOfText ? 0 : static_cast<int>(kept.size());
+        attributes.append(attribute);
+    }
+    QInputMethodEvent composed(kept + event->preeditString(), attributes);
+    composed.setCommitString(complete, event->replacementStart(), event->replacementLength());
+    QPlainTextEdit::inputMethodEvent(&composed);
+    event->setAccepted(composed.isAccepted());
 }
 
 void KeyboardView::mousePressEvent(QMouseEvent* event) {
     _scrollRest.noteUse();
+    dropMerge();
     QPlainTextEdit::mousePressEvent(event);
 }
 
@@ -302,10 +444,7 @@ void KeyboardView::insertFromMimeData(const QMimeData* source) {
     if (!source->hasText()) {
         return; // a pasted picture leaves even the selection alone
     }
-    auto caret = textCursor();
-    caret.insertText(KeyboardText::withoutLineEnds(source->text()));
-    setTextCursor(caret);
-    ensureCursorVisible();
+    enter(source->text());
 }
 
 void KeyboardView::focusInEvent(QFocusEvent* event) {

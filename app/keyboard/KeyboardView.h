@@ -2,6 +2,7 @@
 
 #include "app/keyboard/EditHistory.h"
 #include "app/keyboard/KeyboardText.h"
+#include "app/keyboard/MergeEntry.h"
 #include "app/keyboard/ScrollRest.h"
 #include "app/keyboard/SendingMarks.h"
 
@@ -16,8 +17,9 @@ class WinKeyerUsb;
 /// Bound both ways to the keyer engine's text: whatever way the operator's text takes, the engine
 /// filters it, and what the engine makes of it, or adds, shows here. Its changes leave caret,
 /// selection and a composition of an input method with their text. The view follows the sending
-/// while it is not in use. A position in the document is the index into the engine's text, but
-/// some spaces are ends of paragraphs there; see KeyboardText.
+/// while it is not in use. What is typed right behind an added message is a word of its own, and
+/// "{" is kept back until its two letters have been typed. A position in the document is the index
+/// into the engine's text, but some spaces are ends of paragraphs there; see KeyboardText.
 class KeyboardView final : public QPlainTextEdit {
     Q_OBJECT
   public:
@@ -35,6 +37,9 @@ class KeyboardView final : public QPlainTextEdit {
     /// How many characters are on their way or wait.
     [[nodiscard]] qsizetype waitingCount() const;
 
+    /// Whether what is typed at the caret would make the keyer send again what it has been given.
+    [[nodiscard]] bool isCaretInSentText() const { return _isCaretInSentText; }
+
     [[nodiscard]] bool canUndoTyping() const { return _history.canUndo(); }
     [[nodiscard]] bool canRedoTyping() const { return _history.canRedo(); }
 
@@ -48,6 +53,10 @@ class KeyboardView final : public QPlainTextEdit {
   Q_SIGNALS:
     void canUndoTypingChanged(bool canUndo);
     void canRedoTypingChanged(bool canRedo);
+    /// isCaretInSentText() is another one now.
+    void caretInSentTextChanged();
+    /// waitingCount() may be another one now.
+    void waitingCountChanged();
 
   protected:
     void keyPressEvent(QKeyEvent* event) override;
@@ -64,6 +73,12 @@ class KeyboardView final : public QPlainTextEdit {
   private:
     void takeOperatorsText();
     void giveToEngine(const QString& text);
+    void enterKey(const QKeyEvent& event);
+    void enter(const QString& text);
+    [[nodiscard]] QString readied(const QString& typed, const QTextCursor& place);
+    [[nodiscard]] bool isBeginOfWord(const TextChange& change) const;
+    [[nodiscard]] bool takeKeyOfMerge(const QKeyEvent& event);
+    void dropMerge();
     void travel(const std::optional<TextChange>& change);
     void announceHistory();
 
@@ -72,6 +87,8 @@ class KeyboardView final : public QPlainTextEdit {
     void breakParagraphs();
     void keepSelection(int begin, int end, bool isReversed);
 
+    void noteMessage(const TextChange& change);
+    void followCaret();
     void takeProgress();
     void showProgress();
     void followSending();
@@ -83,10 +100,14 @@ class KeyboardView final : public QPlainTextEdit {
     WinKeyerUsb* _engine = nullptr;
     KeyboardText _text;
     EditHistory _history;
+    MergeEntry _merge;
+    /// Where the message that was added last ends, -1 without one.
+    qsizetype _messageEnd = -1;
     SendingMarks::State _shownState;
     ScrollRest _scrollRest;
     bool _isChangingDocument = false;
     bool _isEngineTakingText = false;
     bool _couldUndo = false;
     bool _couldRedo = false;
+    bool _isCaretInSentText = false;
 };

@@ -26,7 +26,8 @@ class KeyboardTextTest : public QObject {
     void aParagraphEndCanBeDeletedLikeASpace();
     void theCaretStaysWithTheTextAroundAChange_data();
     void theCaretStaysWithTheTextAroundAChange();
-    void lineEndsFromElsewhereBecomeTabs();
+    void lineEndsFromElsewhereBecomeSpaces_data();
+    void lineEndsFromElsewhereBecomeSpaces();
     void anySequenceOfChangesKeepsTheText();
 
   private:
@@ -122,10 +123,37 @@ void KeyboardTextTest::theCaretStaysWithTheTextAroundAChange() {
     QTEST(cursor.position(), "moved");
 }
 
-void KeyboardTextTest::lineEndsFromElsewhereBecomeTabs() {
-    QCOMPARE(KeyboardText::withoutLineEnds(u"a\r\nb\nc\rd\u2028e\u2029f\vg\fh\u0085i j"_s),
-             u"a\tb\tc\td\te\tf\tg\th\ti j"_s);
-    QTextCursor(&*_document).insertText(KeyboardText::withoutLineEnds(u"a\r\nb\u2029c\ufdd0d"_s));
+void KeyboardTextTest::lineEndsFromElsewhereBecomeSpaces_data() {
+    QTest::addColumn<QString>("given");
+    QTest::addColumn<QChar>("before");
+    QTest::addColumn<QChar>("after");
+    QTest::addColumn<QString>("line");
+    const QChar none;
+    QTest::addRow("each kind of line end") << u"a\r\nb\nc\rd\u2028e\u2029f\vg\fh\u0085i\ufdd0j"_s
+                                           << none << none << u"a b c d e f g h i j"_s;
+    QTest::addRow("a tab") << u"a\tb"_s << none << none << u"a b"_s;
+    QTest::addRow("with spaces and empty lines around")
+        << u"a \n\n\t b"_s << none << none << u"a b"_s;
+    QTest::addRow("spaces alone stay") << u" a  b "_s << none << none << u" a  b "_s;
+    QTest::addRow("at the very start") << u"\n a"_s << none << none << u"a"_s;
+    QTest::addRow("behind a word") << u"\na"_s << QChar(u'x') << none << u" a"_s;
+    QTest::addRow("behind a space") << u"\na"_s << QChar(u' ') << none << u"a"_s;
+    QTest::addRow("at the end") << u"a\n"_s << none << none << u"a "_s;
+    QTest::addRow("in front of a word") << u"a\n"_s << none << QChar(u'x') << u"a "_s;
+    QTest::addRow("in front of a space") << u"a\n"_s << none << QChar(u' ') << u"a"_s;
+    QTest::addRow("alone behind a word") << u"\n"_s << QChar(u'x') << none << u" "_s;
+    QTest::addRow("alone behind a space") << u"\n"_s << QChar(u' ') << none << u""_s;
+    QTest::addRow("alone in an empty text") << u"\n"_s << none << none << u""_s;
+    QTest::addRow("nothing") << u""_s << none << none << u""_s;
+}
+
+void KeyboardTextTest::lineEndsFromElsewhereBecomeSpaces() {
+    QFETCH(const QString, given);
+    QFETCH(const QChar, before);
+    QFETCH(const QChar, after);
+    const auto line = KeyboardText::inOneLine(given, before, after);
+    QTEST(line, "line");
+    QTextCursor(&*_document).insertText(line);
     QCOMPARE(_document->blockCount(), 1);
 }
 

@@ -35,7 +35,14 @@ class KeyboardViewInputTest : public QObject {
     void whatIsNoTextChangesNothing();
     void movingTextIsOneEdit();
     void copiedTextHasSpacesForParagraphEnds();
-    void returnChangesNothing();
+    void returnBetweenWordsIsASpace();
+    void returnDeletesNothing();
+    void aWordBehindAMessageIsOneOfItsOwn_data();
+    void aWordBehindAMessageIsOneOfItsOwn();
+    void theSpaceBehindAMessageCanBeTakenOut();
+    void aWordBehindAMessageIsUndoneAndTypedAnew();
+    void textInsideAMessageStaysAsTyped();
+    void aKeyWithAltTypesNothing();
     void tabLeavesTheView();
     void assistiveProgramsReadTheTextWithItsSpaces();
     void assistiveProgramsWorkTheCaretAndTheSelection();
@@ -88,8 +95,8 @@ void KeyboardViewInputTest::whatIsBeingComposedIsNoText() {
 void KeyboardViewInputTest::composedTextIsFiltered() {
     compose(u"ka"_s);
     compose(u""_s, u"k\u304b`\na"_s);
-    QCOMPARE(text(), u"KN0CALLA"_s);
-    QCOMPARE(_station->view.text(), u"KN0CALLA"_s);
+    QCOMPARE(text(), u"KN0CALL A"_s);
+    QCOMPARE(_station->view.text(), u"KN0CALL A"_s);
     QCOMPARE(_station->bench.written(), "4b");
     QCOMPARE(compositions(), QStringList());
 }
@@ -98,7 +105,7 @@ void KeyboardViewInputTest::aCompositionSurvivesWhatTheEngineAdds_data() {
     QTest::addColumn<int>("caret");
     QTest::addColumn<QString>("composition");
     QTest::addColumn<QString>("result");
-    QTest::addRow("at the end, with which it goes") << 2 << u"ka at 7"_s << u"AB TESTC"_s;
+    QTest::addRow("at the end, with which it goes") << 2 << u"ka at 7"_s << u"AB TEST C"_s;
     QTest::addRow("inside the text") << 1 << u"ka at 1"_s << u"ACB TEST"_s;
 }
 
@@ -156,8 +163,8 @@ void KeyboardViewInputTest::textFromElsewhereIsFiltered_data() {
                 << way << given << taken;
         };
         row(u"lower case"_s, u"cq"_s, u"CQ"_s);
-        row(u"line ends"_s, u"a\nb\r\nc\u2029d\u2028e"_s, u"ABCDE"_s);
-        row(u"a tab"_s, u"a\tb"_s, u"AB"_s);
+        row(u"line ends"_s, u"a\nb\r\nc\u2029d\u2028e"_s, u"A B C D E"_s);
+        row(u"a tab"_s, u"a\tb"_s, u"A B"_s);
         row(u"other letters"_s, u"a\u00e9b\u0416c"_s, u"ABC"_s);
         row(u"own call"_s, u"de `"_s, u"DE N0CALL"_s);
         row(u"two forbidden characters in a row, of which the second stays"_s, u"a!!b"_s, u"A!B"_s);
@@ -194,7 +201,7 @@ void KeyboardViewInputTest::richTextBecomesPlain() {
     mimeData->setText(u"cq\nde"_s);
     QGuiApplication::clipboard()->setMimeData(mimeData.release());
     _station->view.paste();
-    QCOMPARE(text(), u"CQDE"_s);
+    QCOMPARE(text(), u"CQ DE"_s);
     QCOMPARE(_station->view.textCursor().charFormat().fontWeight(), int(QFont::Normal));
 }
 
@@ -240,7 +247,21 @@ void KeyboardViewInputTest::copiedTextHasSpacesForParagraphEnds() {
     QVERIFY(!copied->hasHtml());
 }
 
-void KeyboardViewInputTest::returnChangesNothing() {
+void KeyboardViewInputTest::returnBetweenWordsIsASpace() {
+    _station->pause();
+    _station->key(Qt::Key_Return);
+    QCOMPARE(text(), u""_s);
+    _station->keys(u"cq"_s);
+    _station->key(Qt::Key_Return);
+    _station->key(Qt::Key_Return);
+    _station->keys(u"de "_s);
+    _station->key(Qt::Key_Enter, Qt::KeypadModifier);
+    _station->keys(u"k"_s);
+    QCOMPARE(text(), u"CQ DE K"_s);
+    QCOMPARE(_station->view.text(), u"CQ DE K"_s);
+}
+
+void KeyboardViewInputTest::returnDeletesNothing() {
     _station->pause();
     _station->keys(u"abc"_s);
     _station->key(Qt::Key_Left, Qt::ShiftModifier);
@@ -251,6 +272,66 @@ void KeyboardViewInputTest::returnChangesNothing() {
     QCOMPARE(text(), u"ABC"_s);
     QCOMPARE(_station->view.text(), u"ABC"_s);
     QCOMPARE(_station->view.textCursor().selectedText(), u"C"_s);
+}
+
+void KeyboardViewInputTest::aWordBehindAMessageIsOneOfItsOwn_data() {
+    QTest::addColumn<QString>("message");
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<QString>("result");
+    QTest::addRow("typed at once") << u"ur 5nn tt1"_s << u"tu 73"_s << u"UR 5NN TT1 TU 73"_s;
+    QTest::addRow("with a space of the operator's") << u"tt1"_s << u" tu"_s << u"TT1 TU"_s;
+    QTest::addRow("behind a message that ends in a space") << u"tt1 "_s << u"tu"_s << u"TT1 TU"_s;
+    QTest::addRow("two letters in one") << u"tt1"_s << u"{sn"_s << u"TT1 {SN"_s;
+}
+
+void KeyboardViewInputTest::aWordBehindAMessageIsOneOfItsOwn() {
+    QFETCH(const QString, message);
+    QFETCH(const QString, typed);
+    _station->pause();
+    _station->engine().appendMessage(message);
+    _station->keys(typed);
+    QTEST(text(), "result");
+    QCOMPARE(_station->view.text(), text());
+}
+
+void KeyboardViewInputTest::theSpaceBehindAMessageCanBeTakenOut() {
+    _station->pause();
+    _station->engine().appendMessage(u"n0call"_s);
+    _station->keys(u"x"_s);
+    _station->key(Qt::Key_Backspace);
+    QCOMPARE(text(), u"N0CALL "_s);
+    _station->key(Qt::Key_Backspace);
+    _station->keys(u"/p"_s);
+    QCOMPARE(text(), u"N0CALL/P"_s);
+}
+
+void KeyboardViewInputTest::aWordBehindAMessageIsUndoneAndTypedAnew() {
+    _station->pause();
+    _station->engine().appendMessage(u"tt1"_s);
+    _station->keys(u"tu"_s);
+    _station->keys(QKeySequence::Undo);
+    QCOMPARE(text(), u"TT1"_s);
+    _station->keys(u"k"_s);
+    QCOMPARE(text(), u"TT1 K"_s);
+}
+
+void KeyboardViewInputTest::textInsideAMessageStaysAsTyped() {
+    _station->pause();
+    _station->engine().appendMessage(u"tt1"_s);
+    _station->key(Qt::Key_Left);
+    _station->keys(u"x"_s);
+    QCOMPARE(text(), u"TTX1"_s);
+    // Behind text of the operator's own, too, nothing is put.
+    _station->key(Qt::Key_End);
+    _station->keys(u"ab"_s);
+    QCOMPARE(text(), u"TTX1AB"_s);
+}
+
+void KeyboardViewInputTest::aKeyWithAltTypesNothing() {
+    _station->key(Qt::Key_X, Qt::AltModifier);
+    _station->key(Qt::Key_X, Qt::MetaModifier);
+    QCOMPARE(text(), u""_s);
+    QCOMPARE(_station->bench.written(), "");
 }
 
 void KeyboardViewInputTest::tabLeavesTheView() {

@@ -1,0 +1,223 @@
+#include "tests/app/keyboard/KeyboardStation.h"
+#include "tests/support/RegisteredTest.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QInputMethodEvent>
+#include <QTextBlock>
+
+#include <optional>
+
+using namespace Qt::StringLiterals;
+
+/// "{" and the two letters that it joins, typed into the keyboard view.
+class KeyboardViewMergeTest : public QObject {
+    Q_OBJECT
+
+  private Q_SLOTS:
+    void init();
+    void cleanup() { _station.reset(); }
+
+    void theThreeAreHandedOverTogether();
+    void whatIsKeptBackIsShownUnderlined();
+    void sendingGoesOnMeanwhile();
+    void backspaceTakesBackOneByOne();
+    void undoTakesItBack();
+    void whatEndsTheEntryDropsIt_data();
+    void whatEndsTheEntryDropsIt();
+    void onlyLettersCount();
+    void shiftAndTheFocusLeaveItAlone();
+    void aMessageMeanwhileGoesAhead();
+    void itGoesInsideTheText();
+    void aPastedOneIsCompletedByTyping();
+    void anInputMethodComposesBehindIt();
+
+  private:
+    [[nodiscard]] QString text() { return _station->engine().keyboardBuffer(); }
+    [[nodiscard]] QByteArray written() { return _station->bench.written(); }
+    [[nodiscard]] QString kept();
+
+    std::optional<KeyboardStation> _station;
+};
+
+void KeyboardViewMergeTest::init() {
+    _station.emplace();
+    QVERIFY(_station->isReady);
+}
+
+/// What the view shows without having handed it over.
+QString KeyboardViewMergeTest::kept() {
+    QString found;
+    const auto* document = _station->view.document();
+    for (auto block = document->firstBlock(); block.isValid(); block = block.next()) {
+        found += block.layout()->preeditAreaText();
+    }
+    return found;
+}
+
+void KeyboardViewMergeTest::theThreeAreHandedOverTogether() {
+    _station->keys(u"{"_s);
+    _station->keys(u"s"_s);
+    QCOMPARE(text(), u""_s);
+    QCOMPARE(written(), "");
+    _station->keys(u"n"_s);
+    QCOMPARE(text(), u"{SN"_s);
+    QCOMPARE(_station->view.text(), u"{SN"_s);
+    QCOMPARE(written(), "1b 53 4e");
+    QCOMPARE(kept(), u""_s);
+    // The sending goes on, which it would not had "{" come to the engine by itself.
+    _station->echo(2);
+    _station->keys(u"k"_s);
+    QCOMPARE(written(), "4b");
+    _station->echo();
+    _station->keys(u"{ark"_s);
+    QCOMPARE(written(), "1b 41 52 4b");
+}
+
+void KeyboardViewMergeTest::whatIsKeptBackIsShownUnderlined() {
+    _station->pause();
+    _station->keys(u"e{s"_s);
+    QCOMPARE(kept(), u"{S"_s);
+    QCOMPARE(_station->view.text(), u"E"_s);
+    const auto formats = _station->view.document()->firstBlock().layout()->formats();
+    QCOMPARE(formats.size(), 1);
+    QCOMPARE(formats.constFirst().start, 1);
+    QCOMPARE(formats.constFirst().length, 2);
+    QVERIFY(formats.constFirst().format.fontUnderline());
+}
+
+void KeyboardViewMergeTest::sendingGoesOnMeanwhile() {
+    _station->keys(u"cq{a"_s);
+    QCOMPARE(written(), "43");
+    _station->echo();
+    QCOMPARE(written(), "51");
+    _station->echo();
+    QCOMPARE(kept(), u"{A"_s);
+    _station->keys(u"r"_s);
+    QCOMPARE(written(), "1b 41 52");
+}
+
+void KeyboardViewMergeTest::backspaceTakesBackOneByOne() {
+    _station->pause();
+    _station->keys(u"e{s"_s);
+    _station->key(Qt::Key_Backspace);
+    QCOMPARE(kept(), u"{"_s);
+    _station->keys(u"a"_s);
+    QCOMPARE(kept(), u"{A"_s);
+    _station->key(Qt::Key_Backspace);
+    _station->key(Qt::Key_Backspace);
+    QCOMPARE(kept(), u""_s);
+    QCOMPARE(text(), u"E"_s);
+    _station->key(Qt::Key_Backspace);
+    QCOMPARE(text(), u""_s);
+}
+
+void KeyboardViewMergeTest::undoTakesItBack() {
+    _station->pause();
+    _station->keys(u"e{s"_s);
+    _station->keys(QKeySequence::Undo);
+    QCOMPARE(kept(), u""_s);
+    QCOMPARE(text(), u"E"_s);
+    _station->keys(u"{sn"_s);
+    _station->keys(QKeySequence::Undo);
+    QCOMPARE(text(), u"E"_s);
+}
+
+void KeyboardViewMergeTest::whatEndsTheEntryDropsIt_data() {
+    QTest::addColumn<QString>("way");
+    QTest::addColumn<QString>("result");
+    QTest::addRow("an arrow") << u"an arrow"_s << u"NE"_s;
+    QTest::addRow("a click") << u"a click"_s << u"EN"_s;
+    QTest::addRow("Escape") << u"Escape"_s << u"EN"_s;
+    QTest::addRow("a stop") << u"a stop"_s << u"N"_s;
+    QTest::addRow("break-in") << u"break-in"_s << u"N"_s;
+}
+
+void KeyboardViewMergeTest::whatEndsTheEntryDropsIt() {
+    QFETCH(const QString, way);
+    _station->keys(u"e{s"_s);
+    if (way == u"an arrow") {
+        _station->key(Qt::Key_Left);
+    } else if (way == u"a click") {
+        QTest::mouseClick(_station->view.viewport(), Qt::LeftButton);
+    } else if (way == u"Escape") {
+        _station->key(Qt::Key_Escape);
+    } else if (way == u"a stop") {
+        _station->engine().stopMessageSending(nullptr);
+    } else {
+        _station->bench.receive({0xC6});
+    }
+    QCOMPARE(kept(), u""_s);
+    _station->keys(u"n"_s);
+    QTEST(text(), "result");
+    QCOMPARE(_station->view.text(), text());
+}
+
+void KeyboardViewMergeTest::onlyLettersCount() {
+    _station->keys(u"{{ !~`#|s"_s);
+    QCOMPARE(kept(), u"{S"_s);
+    _station->key(Qt::Key_Return);
+    QCOMPARE(kept(), u"{S"_s);
+    _station->keys(u"?"_s);
+    QCOMPARE(text(), u"{S?"_s);
+}
+
+void KeyboardViewMergeTest::shiftAndTheFocusLeaveItAlone() {
+    QWidget other;
+    _station->keys(u"{s"_s);
+    _station->key(Qt::Key_Shift, Qt::ShiftModifier);
+    other.show();
+    other.activateWindow();
+    QTRY_VERIFY(!_station->view.hasFocus());
+    _station->view.activateWindow();
+    QTRY_VERIFY(_station->view.hasFocus());
+    QCOMPARE(kept(), u"{S"_s);
+    _station->keys(u"n"_s);
+    QCOMPARE(text(), u"{SN"_s);
+}
+
+void KeyboardViewMergeTest::aMessageMeanwhileGoesAhead() {
+    _station->pause();
+    _station->keys(u"{s"_s);
+    _station->engine().appendMessage(u"test"_s);
+    QCOMPARE(kept(), u"{S"_s);
+    _station->keys(u"n"_s);
+    QCOMPARE(text(), u"TEST {SN"_s);
+}
+
+void KeyboardViewMergeTest::itGoesInsideTheText() {
+    _station->pause();
+    _station->keys(u"abcd"_s);
+    _station->key(Qt::Key_Left);
+    _station->key(Qt::Key_Left);
+    _station->keys(u"{sn"_s);
+    QCOMPARE(text(), u"AB{SNCD"_s);
+    QCOMPARE(_station->view.text(), text());
+    QCOMPARE(_station->view.textCursor().position(), 5);
+}
+
+void KeyboardViewMergeTest::aPastedOneIsCompletedByTyping() {
+    _station->pause();
+    QGuiApplication::clipboard()->setText(u"cq {sn de {a"_s);
+    _station->keys(QKeySequence::Paste);
+    QCOMPARE(text(), u"CQ {SN DE "_s);
+    QCOMPARE(kept(), u"{A"_s);
+    _station->keys(u"r"_s);
+    QCOMPARE(text(), u"CQ {SN DE {AR"_s);
+}
+
+void KeyboardViewMergeTest::anInputMethodComposesBehindIt() {
+    _station->keys(u"{"_s);
+    QInputMethodEvent composing(u"k"_s, {});
+    QApplication::sendEvent(&_station->view, &composing);
+    QCOMPARE(kept(), u"{k"_s);
+    QInputMethodEvent done;
+    done.setCommitString(u"s"_s);
+    QApplication::sendEvent(&_station->view, &done);
+    QCOMPARE(kept(), u"{S"_s);
+    _station->keys(u"n"_s);
+    QCOMPARE(text(), u"{SN"_s);
+}
+
+static const RegisteredTest<KeyboardViewMergeTest> registered;
+#include "KeyboardViewMergeTest.moc"
