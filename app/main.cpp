@@ -29,6 +29,7 @@
 #include <QMessageBox>
 #include <QTimer>
 
+#include <csignal>
 #include <cstdlib>
 #include <memory>
 
@@ -107,6 +108,8 @@ int run(SingleInstance& instance) {
 } // namespace
 
 int main(int argc, char* argv[]) {
+    // Whoever reads the log may end before the program does, which is no reason to die keying.
+    static_cast<void>(std::signal(SIGPIPE, SIG_IGN));
     QApplication::setApplicationName(u"quorvel"_s);
     QApplication::setApplicationDisplayName(u"Quorvel"_s);
     QApplication::setApplicationVersion(QStringLiteral(QUORVEL_VERSION));

@@ -69,7 +69,8 @@ class WinKeyerUsb final : public QObject, public ORSSerialPortDelegate {
     [[nodiscard]] bool determinePortName(QString* name, Error* error);
     /// Takes the first port whose name equals `name`.
     [[nodiscard]] bool determineSerialPortForName(const QString& name, Error* error);
-    /// 1200 baud, no parity, 2 stop bits, no flow control. Cannot fail.
+    /// 1200 baud, no parity, 2 stop bits, no flow control; what comes in is handed over byte by
+    /// byte. Cannot fail.
     bool configureSerialPort(Error* error);
     [[nodiscard]] bool openSerialPort(Error* error);
     /// Sends four null commands, so that the keyer's parser begins anew.

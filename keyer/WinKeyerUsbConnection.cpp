@@ -120,6 +120,8 @@ bool WinKeyerUsb::configureSerialPort(Error*) {
     _winKeyerSerialPort->setUsesDTRDSRFlowControl(false);
     _winKeyerSerialPort->setUsesRTSCTSFlowControl(false);
     _winKeyerSerialPort->setUsesDCDOutputFlowControl(false);
+    // A block counts as repetitions of its first byte; one byte is always what it is.
+    _winKeyerSerialPort->setMaximumBlockSize(1);
     return true;
 }
 

@@ -5,7 +5,12 @@
 #include "serial/LivePorts.h"
 #include "serial/PortOpening.h"
 
+#include <algorithm>
 #include <cerrno>
+
+namespace {
+constexpr int longestBlock = 1024;
+}
 
 std::shared_ptr<ORSSerialPort> ORSSerialPort::serialPortWithPath(const QString& path) {
     const auto device = deviceFromBSDPath(path);
@@ -93,7 +98,8 @@ ORSSerialPort::ORSSerialPort(DeviceHandle device, const QString& path)
       _mainQueue(Platform::current().mainQueue()),
       _ioKitDevice(device),
       _path(path),
-      _name(modemNameFromDevice(device)) {
+      _name(modemNameFromDevice(device)),
+      _maximumBlockSize(longestBlock) {
     Platform::current().devices().retain(device);
 }
 
@@ -134,6 +140,17 @@ QString ORSSerialPort::name() const {
 
 DeviceHandle ORSSerialPort::IOKitDevice() const {
     return _ioKitDevice;
+}
+
+int ORSSerialPort::maximumBlockSize() const {
+    return _maximumBlockSize;
+}
+
+void ORSSerialPort::setMaximumBlockSize(int size) {
+    const int reduced = std::clamp(size, 1, longestBlock);
+    if (_maximumBlockSize.exchange(reduced) != reduced) {
+        Q_EMIT maximumBlockSizeChanged();
+    }
 }
 
 void ORSSerialPort::receiveData(const QByteArray& data) {

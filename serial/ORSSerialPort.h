@@ -30,6 +30,8 @@ class ORSSerialPort final : public QObject, public std::enable_shared_from_this<
     Q_PROPERTY(unsigned long baudRate READ baudRate WRITE setBaudRate NOTIFY baudRateChanged)
     Q_PROPERTY(unsigned numberOfStopBits READ numberOfStopBits WRITE setNumberOfStopBits NOTIFY
                    numberOfStopBitsChanged)
+    Q_PROPERTY(int maximumBlockSize READ maximumBlockSize WRITE setMaximumBlockSize NOTIFY
+                   maximumBlockSizeChanged)
     Q_PROPERTY(bool shouldEchoReceivedData READ shouldEchoReceivedData WRITE
                    setShouldEchoReceivedData NOTIFY shouldEchoReceivedDataChanged)
     Q_PROPERTY(unsigned parity READ parity WRITE setParity NOTIFY parityChanged)
@@ -97,10 +99,12 @@ class ORSSerialPort final : public QObject, public std::enable_shared_from_this<
     [[nodiscard]] DeviceHandle IOKitDevice() const;
 
     /// Opens the device for this program alone; isOpen() says whether it worked. Failure is
-    /// reported to the delegate later. Nothing happens to an open port.
+    /// reported to the delegate later. What came in before is thrown away. Nothing happens to an
+    /// open port.
     void open();
-    /// Puts the device's old settings back and closes it, once what was written has gone out.
-    /// True when the port is closed afterwards.
+    /// Puts the device's old settings back and closes it, once what was written has gone out. Bytes
+    /// received and not yet handed to the delegate are dropped. True when the port is closed
+    /// afterwards.
     bool close();
     /// The device has gone: closes the port and tells the delegate so.
     void cleanup();
@@ -111,6 +115,11 @@ class ORSSerialPort final : public QObject, public std::enable_shared_from_this<
     void receiveData(const QByteArray& data);
     /// Reports the calling thread's errno to the delegate, at once.
     void notifyDelegateOfPosixError();
+
+    /// Received bytes are handed over in blocks of at most so many: 1 to 1024, 1024 at first. Holds
+    /// at once. Readable from any thread.
+    [[nodiscard]] int maximumBlockSize() const;
+    void setMaximumBlockSize(int size);
 
     /// Applies all line settings to the open device; a refusal is only logged. The setters of
     /// those settings call it.
@@ -164,6 +173,7 @@ class ORSSerialPort final : public QObject, public std::enable_shared_from_this<
     void willClose();
     void baudRateChanged();
     void numberOfStopBitsChanged();
+    void maximumBlockSizeChanged();
     void shouldEchoReceivedDataChanged();
     void parityChanged();
     void usesRTSCTSFlowControlChanged();
@@ -209,6 +219,7 @@ class ORSSerialPort final : public QObject, public std::enable_shared_from_this<
     std::atomic<bool> _dsr = false;
     std::atomic<bool> _dcd = false;
 
+    std::atomic<int> _maximumBlockSize;
     std::atomic<int> _fileDescriptor = 0;
     std::unique_ptr<PortOpening> _opening;
 };

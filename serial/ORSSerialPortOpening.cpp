@@ -5,6 +5,7 @@
 #include "serial/PortOpening.h"
 
 #include <sys/eventfd.h>
+#include <termios.h>
 #include <unistd.h>
 #include <utility>
 
@@ -34,6 +35,8 @@ void ORSSerialPort::open() {
     _fileDescriptor = _opening->descriptor();
     requestLowLatency();
     setPortOptions();
+    // What somebody said to whoever had the device before is not meant for us.
+    static_cast<void>(::tcflush(_fileDescriptor, TCIFLUSH));
     synchronizeOutputLines();
     if (!isOpen()) {
         // An observer of the lines closed the port.

@@ -12,7 +12,7 @@ PortOpening::PortOpening(FileDescriptor descriptor, FileDescriptor wakeUp)
 bool PortOpening::startWorkers(const std::shared_ptr<ORSSerialPort>& port,
                                const std::shared_ptr<MainQueue>& mainQueue) {
     try {
-        _reader.emplace(_descriptor.get(), _wakeUp.get(), port, mainQueue);
+        _reader.emplace(_descriptor.get(), _wakeUp.get(), _lifetime, port, mainQueue);
         _pinPoller.emplace(_descriptor.get(), port, mainQueue);
         return true;
     } catch (const std::system_error&) {

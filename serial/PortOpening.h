@@ -32,6 +32,8 @@ class PortOpening {
     FileDescriptor _descriptor;
     FileDescriptor _wakeUp;
     SavedLineSettings _savedSettings;
+    /// Expires with the opening.
+    std::shared_ptr<const void> _lifetime = std::make_shared<int>();
     std::optional<PortReader> _reader;
     std::optional<PinPoller> _pinPoller;
     bool _staysLocked = false;

@@ -16,13 +16,13 @@ using namespace std::chrono_literals;
 namespace {
 
 constexpr auto passTime = 100ms;
-constexpr int blockSize = 1024;
 
 } // namespace
 
-PortReader::PortReader(int descriptor, int wakeUp, std::shared_ptr<ORSSerialPort> port,
-                       std::shared_ptr<MainQueue> mainQueue)
+PortReader::PortReader(int descriptor, int wakeUp, std::weak_ptr<const void> opening,
+                       std::shared_ptr<ORSSerialPort> port, std::shared_ptr<MainQueue> mainQueue)
     : _descriptor(descriptor),
+      _opening(std::move(opening)),
       _port(std::move(port)),
       _mainQueue(std::move(mainQueue)),
       _wakeUp(wakeUp),
@@ -66,13 +66,17 @@ bool PortReader::readOnce() {
     if (::ioctl(_descriptor, FIONREAD, &available) != 0 || available <= 0) {
         return false;
     }
-    QByteArray data(std::min(available, blockSize), Qt::Uninitialized);
+    QByteArray data(std::min(available, _port->maximumBlockSize()), Qt::Uninitialized);
     const auto count = ::read(_descriptor, data.data(), static_cast<size_t>(data.size()));
     if (count <= 0) {
         return false;
     }
     data.truncate(count);
-    _mainQueue->async([port = _port, data = std::move(data)] { port->receiveData(data); });
+    _mainQueue->async([port = _port, opening = _opening, data = std::move(data)] {
+        if (!opening.expired()) {
+            port->receiveData(data);
+        }
+    });
     return true;
 }
 

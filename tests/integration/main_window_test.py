@@ -147,14 +147,6 @@ class MainWindowTest(ProgramTest):
         self.assertEqual(keyer.answers(), [])
         self.assertEqual(keyer.end(), 0)
 
-    def press_switch(self, quorvel, window, name, to=True):
-        window.find(name).press()
-        self.expect_switch(quorvel, window, name, to)
-
-    def expect_switch(self, quorvel, window, name, is_on):
-        quorvel.wait_for(f"{name} {'on' if is_on else 'off'}",
-                         lambda: window.find(name).is_in_state("checked") == is_on)
-
     def tab_to(self, quorvel, window, name):
         """Presses Tab until the control has the keyboard."""
         for _ in range(40):

@@ -100,8 +100,8 @@ class ProgramTest(unittest.TestCase):
         self.settings.parent.mkdir(parents=True)
         self.settings.write_text(text)
 
-    def start_quorvel(self):
-        quorvel = Process([QUORVEL], self.environment, self.home)
+    def start_quorvel(self, command=(QUORVEL,)):
+        quorvel = Process(command, self.environment, self.home)
         self.addCleanup(self.tell, quorvel)
         self.addCleanup(quorvel.end, signal.SIGKILL)
         return quorvel
@@ -165,6 +165,14 @@ class ProgramTest(unittest.TestCase):
     def wait_until_gone(self, quorvel, text):
         quorvel.wait_for("the alert to go", lambda: all(
             each.find(text) is None for each in self.alerts(quorvel)))
+
+    def press_switch(self, quorvel, window, name, to=True):
+        window.find(name).press()
+        self.expect_switch(quorvel, window, name, to)
+
+    def expect_switch(self, quorvel, window, name, is_on):
+        quorvel.wait_for(f"{name} {'on' if is_on else 'off'}",
+                         lambda: window.find(name).is_in_state("checked") == is_on)
 
     def close_window(self, keyer, quorvel):
         self.desktop.press("alt+F4")

@@ -6,7 +6,7 @@ Usage: session_test.py QUORVEL VIRTUAL_KEYER [TEST...]
 import os
 import signal
 
-from program import PORT, SETTINGS, ProgramTest, run_tests
+from program import PORT, QUORVEL, SETTINGS, ProgramTest, run_tests
 
 
 class SessionTest(ProgramTest):
@@ -43,6 +43,19 @@ class SessionTest(ProgramTest):
         window = self.active_window(second)
         self.wait_for_speed(second, window)
         self.terminate(keyer, second)
+
+    def test_it_outlives_the_reader_of_its_log(self):
+        keyer = self.start_keyer()
+        self.write_settings(SETTINGS)
+        quorvel = self.start_quorvel(["bash", "-c", 'exec "$0" 2> >(exec true)', QUORVEL])
+        window = self.active_window(quorvel)
+        self.wait_for_speed(quorvel, window)
+        self.desktop.press("ctrl+t")
+        keyer.wait_for("the key", keyer.is_key_down)
+        self.press_switch(quorvel, window, "High-speed CW")  # which is logged
+        self.desktop.press("Escape")
+        quorvel.wait_for("the key to rise", lambda: not keyer.is_key_down())
+        self.terminate(keyer, quorvel)
 
     def test_without_a_bus_it_runs(self):
         keyer = self.start_keyer()

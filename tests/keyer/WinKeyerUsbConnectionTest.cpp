@@ -9,6 +9,7 @@
 #include <cerrno>
 #include <optional>
 #include <sys/ioctl.h>
+#include <thread>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -42,6 +43,9 @@ class WinKeyerUsbConnectionTest : public QObject {
     void failuresNeedNoErrorSlot();
     void connectingWhileConnectedSendsEverythingAgain();
     void whatTheKeyerSendsMeanwhileIsHandledAfterwards();
+    void bytesThatCameAtOnceAreHandledEachAsItIs();
+    void whatOneKeyerSaidDoesNothingOnTheNextOne();
+    void whatTheKeyerSaidBeforeDoesNothing();
 
     void disconnectingTellsTheKeyerBetweenTwoPauses();
     void theKeyerHasASecondBeforeAndAfterItLeavesHostMode();
@@ -94,6 +98,7 @@ void WinKeyerUsbConnectionTest::connectingSetsTheLine() {
     QVERIFY(!port.usesRTSCTSFlowControl());
     QVERIFY(!port.usesDTRDSRFlowControl());
     QVERIFY(!port.usesDCDOutputFlowControl());
+    QCOMPARE(port.maximumBlockSize(), 1);
     QCOMPARE(port.DTR(), 0);
     QCOMPARE(port.RTS(), 0);
 }
@@ -239,6 +244,46 @@ void WinKeyerUsbConnectionTest::whatTheKeyerSendsMeanwhileIsHandledAfterwards() 
     QVERIFY(isSent && isRead);
     QVERIFY(_bench->engine().speedString().isNull());
     QTRY_COMPARE(_bench->engine().speedString(), u"25 WPM"_s);
+}
+
+void WinKeyerUsbConnectionTest::bytesThatCameAtOnceAreHandledEachAsItIs() {
+    QVERIFY(_bench->connect());
+    _bench->type(u"CQ"_s);
+    QVERIFY(_bench->line().write("C\xC6"));
+    QTRY_COMPARE(_bench->engine().activity(), KeyerActivity::BreakIn);
+    QCOMPARE(_bench->engine().keyboardBuffer(), u""_s);
+
+    _bench->settings().setObject(u"E"_s, u"Message1"_s);
+    QVERIFY(_bench->line().write("\xC9\xC8\xC0"));
+    QTRY_COMPARE(_bench->engine().activity(), KeyerActivity::Idle);
+    QCOMPARE(_bench->engine().keyboardBuffer(), u"E"_s);
+}
+
+void WinKeyerUsbConnectionTest::whatOneKeyerSaidDoesNothingOnTheNextOne() {
+    const PseudoTerminalPair otherLine;
+    _bench->platform().devices().plug(u"usbserial-WK2"_s, otherLine.path());
+    QVERIFY(_bench->connect());
+    const SystemCallFaults watched;
+    // A button, a full buffer and the pot, of which the main thread knows nothing yet.
+    QVERIFY(_bench->line().write("\xC9\xC1\x85"));
+    while (watched.count(SystemCall::Read) < 3) {
+        std::this_thread::sleep_for(1ms);
+    }
+    QVERIFY(_bench->engine().disconnect(nullptr));
+    _bench->settings().setObject(u"usbserial-WK2"_s, WKPortName);
+    QVERIFY(_bench->engine().connect(nullptr));
+    QVERIFY(otherLine.write("\x8C"));
+    QTRY_COMPARE(_bench->engine().speedString(), u"25 WPM"_s);
+    QVERIFY(_bench->engine().keyboardBuffer().isEmpty());
+    QCOMPARE(_bench->engine().pauseState(), 0);
+}
+
+void WinKeyerUsbConnectionTest::whatTheKeyerSaidBeforeDoesNothing() {
+    QVERIFY(_bench->line().write("\xC9"));
+    QVERIFY(_bench->connect());
+    QVERIFY(_bench->line().write("\x8C"));
+    QTRY_COMPARE(_bench->engine().speedString(), u"25 WPM"_s);
+    QVERIFY(_bench->engine().keyboardBuffer().isEmpty());
 }
 
 void WinKeyerUsbConnectionTest::disconnectingTellsTheKeyerBetweenTwoPauses() {

@@ -2,6 +2,7 @@
 #include "tests/support/RegisteredTest.h"
 
 #include <QElapsedTimer>
+#include <QSignalSpy>
 
 #include <array>
 #include <cerrno>
@@ -146,6 +147,56 @@ class ORSSerialPortTransferTest : public QObject {
         for (const auto size : bench.delegate.blockSizes()) {
             QVERIFY(size >= 1 && size <= 1024);
         }
+    }
+
+    void aSmallerBlockHoldsFewerBytes() {
+        PortBench bench;
+        bench.port->setMaximumBlockSize(2);
+        QVERIFY(bench.open());
+        QVERIFY(bench.line.write("abcdefg"));
+        QTRY_COMPARE(bench.delegate.received(), "abcdefg"_ba);
+        for (const auto size : bench.delegate.blockSizes()) {
+            QVERIFY(size <= 2);
+        }
+        bench.port->setMaximumBlockSize(1);
+        QVERIFY(bench.line.write("hij"));
+        QTRY_COMPARE(bench.delegate.received(), "abcdefghij"_ba);
+        QCOMPARE(bench.delegate.blockSizes().last(3), (QList<qsizetype>{1, 1, 1}));
+    }
+
+    void theSizeOfABlockHasLimits() {
+        const PortBench bench;
+        const QSignalSpy changes(bench.port.get(), &ORSSerialPort::maximumBlockSizeChanged);
+        QCOMPARE(bench.port->maximumBlockSize(), 1024);
+        bench.port->setMaximumBlockSize(4096);
+        QCOMPARE(bench.port->maximumBlockSize(), 1024);
+        bench.port->setMaximumBlockSize(0);
+        QCOMPARE(bench.port->maximumBlockSize(), 1);
+        QCOMPARE(changes.size(), 1);
+    }
+
+    void whatWaitedBeforeTheOpenIsThrownAway() {
+        PortBench bench;
+        QVERIFY(bench.line.write("early"));
+        QVERIFY(bench.open());
+        QVERIFY(bench.line.write("x"));
+        QTRY_VERIFY(bench.delegate.received().contains('x'));
+        QCOMPARE(bench.delegate.received(), "x"_ba);
+    }
+
+    void whatAnOpeningReadEndsWithIt() {
+        PortBench bench;
+        QVERIFY(bench.open());
+        QVERIFY(bench.line.write("old"));
+        // The reader has it, and the main thread has not come to it yet.
+        while (bench.faults.count(SystemCall::Read) == 0) {
+            std::this_thread::sleep_for(1ms);
+        }
+        QVERIFY(bench.port->close());
+        bench.port->open();
+        QVERIFY(bench.line.write("new"));
+        QTRY_VERIFY(bench.delegate.received().endsWith("new"));
+        QCOMPARE(bench.delegate.received(), "new"_ba);
     }
 
     void aPortWithoutDelegateReadsAndDropsBytes() {
