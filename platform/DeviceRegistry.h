@@ -1,7 +1,10 @@
 #pragma once
 
+#include <QHash>
 #include <QList>
 #include <QObject>
+#include <QPointer>
+#include <QSet>
 #include <QString>
 
 #include <optional>
@@ -36,8 +39,8 @@ struct DeviceNotification {
 
 /// Which serial devices the machine has, and which come and go. Main thread only.
 ///
-/// A device's properties stay readable after it has gone, for as long as somebody retains it, and
-/// in any case until the removal has been announced to everyone.
+/// A device's properties stay readable after it has gone until the removal has been announced to
+/// everyone, and for good once somebody has retained it.
 class DeviceRegistry : public QObject {
     Q_OBJECT
   public:
@@ -45,33 +48,74 @@ class DeviceRegistry : public QObject {
     ~DeviceRegistry() override;
 
     /// The serial devices present now, in the order in which they are listed; nothing on failure.
-    [[nodiscard]] virtual std::optional<QList<DeviceHandle>> matchingDevices() = 0;
+    [[nodiscard]] virtual std::optional<QList<DeviceHandle>> matchingDevices() { return _present; }
 
     /// Has `callback` called with `context` for each set of devices that arrives or goes from now
-    /// on. Nothing on failure.
+    /// on, while `context` lives. Nothing on failure.
     [[nodiscard]] virtual std::optional<DeviceNotification>
-    addMatchingNotification(DeviceEvent event, DeviceCallback callback, QObject* context) = 0;
+    addMatchingNotification(DeviceEvent event, DeviceCallback callback, QObject* context);
 
     /// Ends a registration. Unknown iterators are ignored.
-    virtual void removeNotification(quint32 iterator) = 0;
+    void removeNotification(quint32 iterator);
 
     /// A property by its DeviceKey; null for what the device does not have.
-    [[nodiscard]] virtual QString stringProperty(DeviceHandle device, const QString& key) const = 0;
+    [[nodiscard]] QString stringProperty(DeviceHandle device, const QString& key) const;
 
-    /// Keeps the properties of a device readable until as many release() have followed.
-    virtual void retain(DeviceHandle device) = 0;
-    virtual void release(DeviceHandle device) = 0;
+    /// Keeps the properties of a device readable for good.
+    virtual void retain(DeviceHandle device);
 
     /// Has arrivals and removals wait, as they must while an alert is up, until as many
     /// resumeAnnouncements() have followed. They are then announced in order, from the event loop.
     void holdAnnouncements();
     void resumeAnnouncements();
-    [[nodiscard]] bool areAnnouncementsHeld() const { return _holds > 0; }
 
-  Q_SIGNALS:
-    /// Nobody holds the announcements any more.
-    void announcementsResumed();
+  protected:
+    /// What a device has, by its DeviceKey.
+    using Properties = QHash<QString, QString>;
+
+    /// Puts a device at the end of the list. Whoever does so announces it.
+    DeviceHandle add(const Properties& properties);
+    /// Strikes devices off the list. Whoever does so announces it.
+    void strike(const QList<DeviceHandle>& devices);
+    /// The list changes to another order of the same devices.
+    void reorder(const QList<DeviceHandle>& devices);
+    [[nodiscard]] const QList<DeviceHandle>& present() const { return _present; }
+
+    /// Notes that devices came or went at one moment, for the registrations that there are now.
+    void enqueue(DeviceEvent event, const QList<DeviceHandle>& devices);
+    /// Tells of everything that waits, in order, and never of one set while another one is being
+    /// handled, even if its handler runs an event loop. Does nothing while announcements are held.
+    void announce();
+
+    [[nodiscard]] qsizetype registrationCount(DeviceEvent event) const;
 
   private:
+    struct Registration {
+        quint32 iterator;
+        DeviceEvent event;
+        DeviceCallback callback;
+        QPointer<QObject> context;
+    };
+    struct Announcement {
+        DeviceEvent event;
+        QList<DeviceHandle> devices;
+        quint32 lastIterator;
+    };
+
+    void announceNext();
+    [[nodiscard]] bool isRegistered(quint32 iterator) const;
+    [[nodiscard]] bool isAwaited(DeviceHandle device) const;
+    void forgetUnlessNeeded(DeviceHandle device);
+
+    /// The devices present, in the order in which they are listed.
+    QList<DeviceHandle> _present;
+    /// Of every device that is present, waits to be announced or is retained.
+    QHash<DeviceHandle, Properties> _properties;
+    QSet<DeviceHandle> _retained;
+    QList<Registration> _registrations;
+    QList<Announcement> _announcements;
+    DeviceHandle _lastDevice = noDevice;
+    quint32 _lastIterator = 0;
     int _holds = 0;
+    bool _isAnnouncing = false;
 };

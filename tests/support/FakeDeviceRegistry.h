@@ -10,9 +10,8 @@
 class FakeDeviceRegistry final : public DeviceRegistry {
     Q_OBJECT
   public:
-    using Properties = QHash<QString, QString>;
-
-    FakeDeviceRegistry();
+    using DeviceRegistry::Properties;
+    using DeviceRegistry::registrationCount;
 
     /// The properties of an ordinary device: its name, its node, and a second path if it has one.
     [[nodiscard]] static Properties device(const QString& name, const QString& calloutPath,
@@ -33,48 +32,19 @@ class FakeDeviceRegistry final : public DeviceRegistry {
     /// From now on nobody can register for such events.
     void failNotifications(DeviceEvent event, bool fails = true);
 
-    /// How many retains of a device no release has answered; it may be negative.
+    /// How often a device was retained.
     [[nodiscard]] int retainCount(DeviceHandle device) const;
-    [[nodiscard]] qsizetype registrationCount(DeviceEvent event) const;
+    /// Counts from 0 again, for a soak that plugs more devices than any session does.
+    void forgetRetains(DeviceHandle device) { _retains.remove(device); }
 
     [[nodiscard]] std::optional<QList<DeviceHandle>> matchingDevices() override;
     [[nodiscard]] std::optional<DeviceNotification>
     addMatchingNotification(DeviceEvent event, DeviceCallback callback, QObject* context) override;
-    void removeNotification(quint32 iterator) override;
-    [[nodiscard]] QString stringProperty(DeviceHandle device, const QString& key) const override;
+    /// Only counts: a machine that kept every device would hide what else stays behind.
     void retain(DeviceHandle device) override;
-    void release(DeviceHandle device) override;
 
   private:
-    struct Registration {
-        quint32 iterator;
-        DeviceEvent event;
-        DeviceCallback callback;
-        QObject* context;
-    };
-
-    /// Devices that came or went at one moment, for the registrations that there were then.
-    struct Announcement {
-        DeviceEvent event;
-        QList<DeviceHandle> devices;
-        quint32 lastIterator;
-    };
-
-    void enqueue(DeviceEvent event, const QList<DeviceHandle>& devices);
-    void announceWaiting();
-    void announce(const Announcement& announcement);
-    [[nodiscard]] bool isRegistered(quint32 iterator) const;
-    [[nodiscard]] bool isAwaited(DeviceHandle device) const;
-    void forgetUnlessNeeded(DeviceHandle device);
-
-    QList<DeviceHandle> _present;
-    QHash<DeviceHandle, Properties> _properties;
     QHash<DeviceHandle, int> _retains;
-    QList<Registration> _registrations;
-    QList<Announcement> _announcements;
-    bool _isAnnouncing = false;
     QList<DeviceEvent> _failingEvents;
     bool _matchingFails = false;
-    DeviceHandle _lastHandle = noDevice;
-    quint32 _lastIterator = 0;
 };
