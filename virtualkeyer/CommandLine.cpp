@@ -22,8 +22,9 @@ QString qt(std::string_view text) {
 
 QString profileList() {
     QString list = u"The kind of keyer, one of:"_s;
-    for (const NamedProfile& profile : namedProfiles())
+    for (const NamedProfile& profile : namedProfiles()) {
         list += u"\n%1: %2"_s.arg(qt(profile.name), qt(profile.description));
+    }
     return list;
 }
 
@@ -57,24 +58,29 @@ struct Options {
 QString readValues(const QCommandLineParser& parser, const Options& options, CommandLine& result) {
     const QString profileName = parser.value(options.profile);
     const auto profile = profileNamed(profileName.toStdString());
-    if (!profile)
+    if (!profile) {
         return u"Unknown profile '%1'; --help lists them."_s.arg(profileName);
+    }
     bool isNumber = false;
     const int speed = parser.value(options.speed).toInt(&isNumber);
-    if (!isNumber || speed < slowestPot || speed > fastestPot)
+    if (!isNumber || speed < slowestPot || speed > fastestPot) {
         return u"The speed is %1 to %2 words per minute, not '%3'."_s.arg(slowestPot)
             .arg(fastestPot)
             .arg(parser.value(options.speed));
+    }
     result.linkName = parser.value(options.link);
-    if (!PortLink::isValidName(QFile::encodeName(result.linkName).toStdString()))
+    if (!PortLink::isValidName(QFile::encodeName(result.linkName).toStdString())) {
         return u"'%1' cannot name a serial port: a name has 1 to 200 characters, no slash, and "
                "does not begin with a dot."_s.arg(result.linkName);
+    }
     result.transcriptPath = parser.value(options.transcript);
-    if (parser.isSet(options.transcript) && result.transcriptPath.isEmpty())
+    if (parser.isSet(options.transcript) && result.transcriptPath.isEmpty()) {
         return u"The transcript needs a file name."_s;
+    }
     result.registersPath = parser.value(options.registers);
-    if (parser.isSet(options.registers) && result.registersPath.isEmpty())
+    if (parser.isSet(options.registers) && result.registersPath.isEmpty()) {
         return u"The registers need a file name."_s;
+    }
     result.profile = *profile;
     result.profile.potWpm = speed;
     return {};
@@ -94,17 +100,18 @@ CommandLine CommandLine::parse(const QStringList& arguments) {
                        options.speed, options.profile, options.link});
 
     CommandLine result;
-    if (!parser.parse(arguments))
+    if (!parser.parse(arguments)) {
         result.error = parser.errorText();
-    else if (parser.isSet(help))
+    } else if (parser.isSet(help)) {
         result.answer = parser.helpText();
-    else if (parser.isSet(version))
+    } else if (parser.isSet(version)) {
         result.answer = u"%1 %2\n"_s.arg(QCoreApplication::applicationName(),
                                          QCoreApplication::applicationVersion());
-    else if (!parser.positionalArguments().isEmpty())
+    } else if (!parser.positionalArguments().isEmpty()) {
         result.error = u"Unexpected argument '%1'."_s.arg(parser.positionalArguments().first());
-    else
+    } else {
         result.error = readValues(parser, options, result);
+    }
     return result;
 }
 

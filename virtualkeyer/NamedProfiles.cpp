@@ -52,8 +52,9 @@ std::span<const NamedProfile> namedProfiles() {
 
 std::optional<Profile> profileNamed(std::string_view name) {
     const auto found = std::ranges::find(profiles, name, &NamedProfile::name);
-    if (found == profiles.end())
+    if (found == profiles.end()) {
         return std::nullopt;
+    }
     Profile profile;
     found->differFromDefault(profile);
     return profile;

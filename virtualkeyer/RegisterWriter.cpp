@@ -30,8 +30,9 @@ std::string line(std::string_view name, int value) {
 
 std::string textOf(const std::vector<std::string>& letters) {
     std::string text;
-    for (const std::string& letter : letters)
+    for (const std::string& letter : letters) {
         text += letter == " " ? ' ' : characterOf(letter).value_or(KeyLineDecoder::unknown);
+    }
     return text;
 }
 
@@ -43,13 +44,15 @@ struct Closing {
 
 std::string registerText(const Registers& registers, const Memory& memory) {
     std::string text;
-    for (std::size_t i = 0; i < names.size(); ++i)
+    for (std::size_t i = 0; i < names.size(); ++i) {
         text += line(names[i], registers.value(static_cast<Register>(i)));
+    }
     text += line("wpm", registers.wpm());
 
     const Registers::Values settings = memory.settings();
-    for (std::size_t i = 0; i < names.size(); ++i)
+    for (std::size_t i = 0; i < names.size(); ++i) {
         text += "memory-" + line(names[i], settings[i]);
+    }
     text += line("memory-extra-flags", memory.image()[extraFlagsAt]);
     text += line("memory-command-speed", memory.image()[commandSpeedAt]);
     for (int number = 1; number <= messageCount; ++number) {
@@ -66,8 +69,9 @@ RegisterWriter::RegisterWriter(std::string path) : _path(std::move(path)) {
 
 void RegisterWriter::keyerHolds(const Registers& registers, const Memory& memory) {
     std::string text = registerText(registers, memory);
-    if (text == _text)
+    if (text == _text) {
         return;
+    }
     _text = std::move(text);
     write();
 }
@@ -78,8 +82,9 @@ void RegisterWriter::write() const {
     const bool isWritten = file && std::fputs(_text.c_str(), file.get()) >= 0 &&
                            std::fclose(file.release()) == 0 &&
                            std::rename(newPath.c_str(), _path.c_str()) == 0;
-    if (!isWritten)
+    if (!isWritten) {
         throwSystemFailure("cannot write the registers " + _path);
+    }
 }
 
 } // namespace virtualkeyer

@@ -9,8 +9,9 @@ namespace virtualkeyer {
 
 void TextPrinter::keyerDid(const Event& event, const Registers& registers) {
     const auto* line = std::get_if<KeyLine>(&event.what);
-    if (line == nullptr)
+    if (line == nullptr) {
         return;
+    }
     _decoder.setTiming(timingOf(registers));
     _decoder.key(line->isDown, event.at);
     print();
@@ -27,10 +28,13 @@ std::optional<Time> TextPrinter::nextWish() const {
 
 void TextPrinter::print() {
     const std::string text = _decoder.takeText();
-    if (text.empty())
+    if (text.empty()) {
         return;
-    if (std::fwrite(text.data(), 1, text.size(), stdout) != text.size() || std::fflush(stdout) != 0)
+    }
+    if (std::fwrite(text.data(), 1, text.size(), stdout) != text.size() ||
+        std::fflush(stdout) != 0) {
         throwSystemFailure("cannot print the keyed text");
+    }
 }
 
 } // namespace virtualkeyer

@@ -30,8 +30,9 @@ int complain(const char* what, int status) {
 template <typename Writer>
 void writeTo(const QString& path, std::optional<Writer>& writer,
              std::vector<KeyerListener*>& listeners) {
-    if (!path.isEmpty())
+    if (!path.isEmpty()) {
         listeners.push_back(&writer.emplace(QFile::encodeName(path).toStdString()));
+    }
 }
 
 void run(const CommandLine& commandLine, std::vector<KeyerListener*> listeners) {
@@ -55,10 +56,12 @@ int main(int argc, char* argv[]) {
     std::signal(SIGPIPE, SIG_IGN);
 
     const CommandLine commandLine = CommandLine::parse(QCoreApplication::arguments());
-    if (!commandLine.error.isEmpty())
+    if (!commandLine.error.isEmpty()) {
         return complain(commandLine.error.toLocal8Bit().constData(), badOptions);
-    if (!commandLine.answer.isEmpty())
+    }
+    if (!commandLine.answer.isEmpty()) {
         return std::fputs(commandLine.answer.toLocal8Bit().constData(), stdout) < 0;
+    }
 
     TextPrinter printer;
     std::optional<TranscriptWriter> transcript;

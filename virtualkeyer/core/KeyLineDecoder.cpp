@@ -14,8 +14,9 @@ void KeyLineDecoder::setTiming(const Timing& timing) {
 }
 
 void KeyLineDecoder::key(bool isDown, Time at) {
-    if (isDown == _isDown)
+    if (isDown == _isDown) {
         return;
+    }
     if (isDown) {
         advance(at);
         _awaitsWord = false;
@@ -28,8 +29,9 @@ void KeyLineDecoder::key(bool isDown, Time at) {
 }
 
 void KeyLineDecoder::advance(Time now) {
-    if (_isDown)
+    if (_isDown) {
         return;
+    }
     if (!_pattern.empty() && now >= _lastEdge + letterLimit()) {
         _text += characterOf(_pattern).value_or(unknown);
         _pattern.clear();
@@ -42,12 +44,15 @@ void KeyLineDecoder::advance(Time now) {
 }
 
 std::optional<Time> KeyLineDecoder::nextEvent() const {
-    if (_isDown)
+    if (_isDown) {
         return std::nullopt;
-    if (!_pattern.empty())
+    }
+    if (!_pattern.empty()) {
         return _lastEdge + letterLimit();
-    if (_awaitsWord)
+    }
+    if (_awaitsWord) {
         return _lastEdge + wordLimit();
+    }
     return std::nullopt;
 }
 

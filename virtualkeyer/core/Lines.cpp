@@ -28,8 +28,9 @@ void Lines::refresh(Time at) {
     for (int output = 1; output <= 2; ++output) {
         bool& isDown = _isDown[static_cast<std::size_t>(output - 1)];
         const bool wanted = _sources != 0 && _registers.keysOutput(output);
-        if (wanted == isDown)
+        if (wanted == isDown) {
             continue;
+        }
         isDown = wanted;
         _outbox.post(at, KeyLine{isDown, output});
     }

@@ -11,8 +11,9 @@ Keyer::Machine::Machine(const Profile& profile) : _board(profile) {
 
 void Keyer::Machine::portOpened(Time at) {
     advance(at);
-    if (_board.profile.bootLoaderTime == Time{0})
+    if (_board.profile.bootLoaderTime == Time{0}) {
         return;
+    }
     coldStart();
     _startup.restart(_now + _board.profile.bootLoaderTime, _now);
 }
@@ -23,10 +24,12 @@ void Keyer::Machine::receive(std::uint8_t byte, Time at) {
 }
 
 void Keyer::Machine::accept(std::uint8_t byte) {
-    if (!_startup.admits(byte, _now))
+    if (!_startup.admits(byte, _now)) {
         return;
-    if (const auto command = _parser.take(byte, _board.outbox.isOpen()))
+    }
+    if (const auto command = _parser.take(byte, _board.outbox.isOpen())) {
         obey(*command);
+    }
     settle();
 }
 
@@ -43,8 +46,9 @@ void Keyer::Machine::touchPaddle() {
     const bool swaps = _board.registers.swapsPaddle();
     const bool wasBreakingIn = _paddle.isBreakingIn();
     _paddle.setContacts(swaps ? dah : dit, swaps ? dit : dah, _now);
-    if (!wasBreakingIn && _paddle.isBreakingIn())
+    if (!wasBreakingIn && _paddle.isBreakingIn()) {
         _sender.yield(_now);
+    }
     settle();
 }
 
@@ -52,8 +56,9 @@ void Keyer::Machine::setPot(int wpm, Time at) {
     advance(at);
     const std::uint8_t before = _board.registers.potByte();
     _board.registers.setPot(wpm);
-    if (const std::uint8_t after = _board.registers.potByte(); after != before)
+    if (const std::uint8_t after = _board.registers.potByte(); after != before) {
         _board.outbox.tell(after, _now);
+    }
 }
 
 void Keyer::Machine::setPushButtons(std::uint8_t mask, Time at) {
@@ -74,8 +79,9 @@ std::optional<Time> Keyer::Machine::nextEvent() const {
     std::optional<Time> next;
     for (const auto& due :
          {_startup.due(), _sender.due(), _paddle.due(), _tune.due(), _board.ptt.due()}) {
-        if (due && (!next || *due < *next))
+        if (due && (!next || *due < *next)) {
             next = due;
+        }
     }
     return next;
 }
@@ -84,8 +90,9 @@ void Keyer::Machine::runNext(Time now) {
     const auto isDue = [now](const auto& part) { return part.due() && *part.due() <= now; };
     // The transmitter goes last: whoever keys at the same instant keeps it.
     if (isDue(_startup)) {
-        for (const std::uint8_t byte : _startup.takeHeld(now))
+        for (const std::uint8_t byte : _startup.takeHeld(now)) {
             accept(byte);
+        }
     } else if (isDue(_sender)) {
         _sender.run(now);
     } else if (isDue(_paddle)) {
@@ -98,13 +105,16 @@ void Keyer::Machine::runNext(Time now) {
 }
 
 void Keyer::Machine::settle() {
-    if (_paddle.awaitsKey() && !_sender.isHandingOver())
+    if (_paddle.awaitsKey() && !_sender.isHandingOver()) {
         _paddle.takeKey(_now);
-    if (_paddle.isReported())
+    }
+    if (_paddle.isReported()) {
         _sender.echoCutLetter(_now);
+    }
     _sender.setBlocked(_tune.isOn(), _now);
-    if (!_tune.isOn())
+    if (!_tune.isOn()) {
         _tune.reportEnd(_now);
+    }
 }
 
 void Keyer::Machine::obey(const Command& command) {
@@ -120,8 +130,9 @@ void Keyer::Machine::obey(const Command& command) {
 }
 
 void Keyer::Machine::enqueue(const Command& command) {
-    if (_paddle.isBreakingIn())
+    if (_paddle.isBreakingIn()) {
         return;
+    }
     std::vector<std::uint8_t> bytes{command.code};
     bytes.insert(bytes.end(), command.parameters.begin(), command.parameters.end());
     _sender.append(bytes, _now);

@@ -22,22 +22,25 @@ void Keyer::Machine::obeyAdmin(const Command& command) {
     case 9:
         return outbox.answer(0, _now);
     case 7:
-        for (const std::uint8_t value : _board.registers.block())
+        for (const std::uint8_t value : _board.registers.block()) {
             outbox.answer(value, _now);
+        }
         return;
     case 10:
         return _board.status.selectVersion1();
     case 11:
         return _board.status.selectVersion2(_now);
     case 12:
-        for (const std::uint8_t byte : _memory.image())
+        for (const std::uint8_t byte : _memory.image()) {
             outbox.answer(byte, _now);
+        }
         return;
     case 13:
         return loadMemory(command.parameters);
     case 14:
-        if (!_paddle.isBreakingIn())
+        if (!_paddle.isBreakingIn()) {
             _sender.play(_memory.message(command.parameters[0]), _now);
+        }
         return;
     case 17:
         return setBaud(9600);
@@ -96,8 +99,9 @@ void Keyer::Machine::obeyImmediate(const Command& command) {
     case 0x15:
         return _board.status.report(_now);
     case 0x16:
-        if (!_paddle.isBreakingIn())
+        if (!_paddle.isBreakingIn()) {
             _sender.movePointer(parameters, _now);
+        }
         return;
     case 0x17:
         return set(Register::Ratio, parameters[0]);
@@ -118,8 +122,9 @@ void Keyer::Machine::open() {
     _board.outbox.setOpen(true);
     _board.status.selectVersion1();
     _board.outbox.answer(_board.profile.firmware, _now);
-    if (_board.profile.reportsStatusAfterOpen)
+    if (_board.profile.reportsStatusAfterOpen) {
         _board.status.report(_now);
+    }
 }
 
 void Keyer::Machine::close() {
@@ -142,18 +147,21 @@ void Keyer::Machine::standAlone() {
 }
 
 void Keyer::Machine::setBaud(int baud) {
-    if (baud == _baud)
+    if (baud == _baud) {
         return;
+    }
     _baud = baud;
     _board.outbox.post(_now, LineSpeed{baud});
 }
 
 void Keyer::Machine::loadMemory(const std::vector<std::uint8_t>& bytes) {
-    if (_board.profile.memoryLoad == MemoryLoad::ThrownAway)
+    if (_board.profile.memoryLoad == MemoryLoad::ThrownAway) {
         return;
+    }
     _memory.load(std::span(bytes).first<Memory::size>());
-    if (!_board.outbox.isOpen())
+    if (!_board.outbox.isOpen()) {
         standAlone();
+    }
 }
 
 void Keyer::Machine::set(Register which, std::uint8_t value) {
@@ -169,10 +177,11 @@ void Keyer::Machine::registersChanged() {
 }
 
 void Keyer::Machine::keyImmediate(bool isDown) {
-    if (isDown)
+    if (isDown) {
         _tune.start(_now);
-    else
+    } else {
         _tune.release(_now);
+    }
 }
 
 void Keyer::Machine::clear() {

@@ -22,8 +22,9 @@ constexpr std::uint8_t wordSpace = 0x1C;
 std::string elements(std::uint8_t byte) {
     std::string result;
     const int length = std::bit_width(byte) - 1;
-    for (int bit = 0; bit < length; ++bit)
+    for (int bit = 0; bit < length; ++bit) {
         result += ((byte >> bit) & 1) != 0 ? '-' : '.';
+    }
     return result;
 }
 
@@ -42,28 +43,33 @@ void Memory::load(std::span<const std::uint8_t, size> image) {
 }
 
 Registers::Values Memory::settings() const {
-    if (_image[0] != mark)
+    if (_image[0] != mark) {
         return Registers::factoryValues;
+    }
     Registers::Values values{};
     std::copy_n(_image.begin() + settingsAt, values.size(), values.begin());
     return values;
 }
 
 std::vector<std::string> Memory::message(int number) const {
-    if (number < 1 || number > messageCount)
+    if (number < 1 || number > messageCount) {
         return {};
+    }
     std::size_t at = _image[addressesAt + static_cast<std::size_t>(number) - 1];
     const std::size_t end = _image[freePointerAt];
-    if (at < messagesAt)
+    if (at < messagesAt) {
         return {};
+    }
     std::vector<std::string> letters;
     for (; at < end; ++at) {
         const auto letter = static_cast<std::uint8_t>(_image[at] & ~lastByte);
         const std::string keyed = letter == wordSpace ? " " : elements(letter);
-        if (!keyed.empty())
+        if (!keyed.empty()) {
             letters.push_back(keyed);
-        if ((_image[at] & lastByte) != 0)
+        }
+        if ((_image[at] & lastByte) != 0) {
             break;
+        }
     }
     return letters;
 }

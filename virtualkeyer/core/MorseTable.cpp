@@ -43,8 +43,9 @@ std::string_view elementsOf(char character) {
 
 std::optional<char> characterOf(std::string_view elements) {
     const auto* found = std::ranges::find(table, elements, &Entry::elements);
-    if (found == table.end())
+    if (found == table.end()) {
         return std::nullopt;
+    }
     return found->character;
 }
 

@@ -18,8 +18,9 @@ class Outbox {
     void answer(std::uint8_t byte, Time at) { post(at, HostByte{byte}); }
     /// A byte that nobody asked for: echo, status, pot.
     void tell(std::uint8_t byte, Time at) {
-        if (_isOpen)
+        if (_isOpen) {
             post(at, HostByte{byte});
+        }
     }
     void post(Time at, decltype(Event::what) what) { _events.push_back({at, what}); }
 

@@ -18,12 +18,14 @@ void Paddle::setContacts(bool dit, bool dah, Time now) {
     _logic.setContacts(dit, dah);
     switch (_phase) {
     case Phase::Idle:
-        if (_logic.asksForKey())
+        if (_logic.asksForKey()) {
             enter(Phase::AwaitsKey, std::nullopt);
+        }
         break;
     case Phase::HandKey:
-        if (!_logic.isHeld(Element::Dah))
+        if (!_logic.isHeld(Element::Dah)) {
             endElement(now);
+        }
         break;
     case Phase::Pause:
         touchInPause(now);
@@ -35,10 +37,11 @@ void Paddle::setContacts(bool dit, bool dah, Time now) {
 
 void Paddle::takeKey(Time now) {
     const Time ready = _board.ptt.raise(Ptt::PaddleText, now);
-    if (ready > now)
+    if (ready > now) {
         enter(Phase::LeadIn, ready);
-    else
+    } else {
         keyNext(now);
+    }
 }
 
 void Paddle::stop(Time now) {
@@ -55,8 +58,9 @@ void Paddle::stop(Time now) {
 std::optional<Time> Paddle::due() const {
     std::optional<Time> due = _until;
     for (const auto& other : {_lookAt, _keyAt}) {
-        if (other && (!due || *other < *due))
+        if (other && (!due || *other < *due)) {
             due = other;
+        }
     }
     return due;
 }
@@ -89,8 +93,9 @@ void Paddle::enter(Phase phase, std::optional<Time> until) {
 void Paddle::keyNext(Time now) {
     const Registers& registers = _board.registers;
     const auto element = _logic.next(registers.paddleMode(), registers.ultimaticPriority());
-    if (element)
+    if (element) {
         return startElement(*element, now);
+    }
     // A bug's dah that was let go before it could begin.
     reportBegin(now);
     _lastKeyUp = now;
@@ -101,25 +106,29 @@ void Paddle::keyNext(Time now) {
 void Paddle::startElement(Element element, Time now) {
     const Timing timing = timingOf(_board.registers);
     _board.ptt.raise(Ptt::PaddleText, now);
-    if (!_isReported)
+    if (!_isReported) {
         reportBegin(now);
+    }
     _logic.start(element);
     _pattern += element == Element::Dit ? '.' : '-';
     ++_elementsInRow;
     _keyAt.reset();
     _lookAt.reset();
-    if (timing.lookAgain > Time{0})
+    if (timing.lookAgain > Time{0}) {
         _lookAt = now + timing.lookAgain;
+    }
 
     Time length = element == Element::Dit ? timing.dit : timing.dah;
-    if (_board.ptt.takeFirstElement())
+    if (_board.ptt.takeFirstElement()) {
         length += timing.firstExtension;
+    }
     _board.lines.press(Lines::Paddle, now);
     const bool byHand = element == Element::Dah && _board.registers.paddleMode() == PaddleMode::Bug;
-    if (byHand)
+    if (byHand) {
         enter(Phase::HandKey, std::nullopt);
-    else
+    } else {
         enter(Phase::Element, now + length);
+    }
 }
 
 void Paddle::endElement(Time now) {
@@ -132,10 +141,12 @@ void Paddle::endElement(Time now) {
 
 void Paddle::endGap(Time now) {
     const Registers& registers = _board.registers;
-    if (registers.watchdog() && _elementsInRow >= watchdogLimit)
+    if (registers.watchdog() && _elementsInRow >= watchdogLimit) {
         _logic.lock();
-    if (const auto element = _logic.next(registers.paddleMode(), registers.ultimaticPriority()))
+    }
+    if (const auto element = _logic.next(registers.paddleMode(), registers.ultimaticPriority())) {
         return startElement(*element, now);
+    }
     startPause(now);
 }
 
@@ -148,21 +159,24 @@ void Paddle::startPause(Time now) {
 }
 
 void Paddle::touchInPause(Time now) {
-    if (!_logic.asksForKey() || _keyAt)
+    if (!_logic.asksForKey() || _keyAt) {
         return;
+    }
     const Timing timing = timingOf(_board.registers);
     const Time endOfLetterSpace = _lastKeyUp + timing.gap + timing.restOfLetter;
-    if (_board.registers.autospace() && now < endOfLetterSpace)
+    if (_board.registers.autospace() && now < endOfLetterSpace) {
         _keyAt = endOfLetterSpace;
-    else
+    } else {
         keyTouched(now);
+    }
 }
 
 void Paddle::keyTouched(Time now) {
     _keyAt.reset();
     const Registers& registers = _board.registers;
-    if (const auto element = _logic.next(registers.paddleMode(), registers.ultimaticPriority()))
+    if (const auto element = _logic.next(registers.paddleMode(), registers.ultimaticPriority())) {
         startElement(*element, now);
+    }
 }
 
 void Paddle::runPause(Time now) {
@@ -186,8 +200,9 @@ void Paddle::runPause(Time now) {
 }
 
 void Paddle::endLetter(Time now) {
-    if (const auto character = characterOf(std::exchange(_pattern, {})))
+    if (const auto character = characterOf(std::exchange(_pattern, {}))) {
         echo(*character, now);
+    }
 }
 
 Time Paddle::pauseStepEnd() const {
@@ -204,23 +219,26 @@ Time Paddle::pauseStepEnd() const {
 
 void Paddle::reportBegin(Time now) {
     _isReported = true;
-    if (_board.profile.breakInReport == BreakInReport::Single)
+    if (_board.profile.breakInReport == BreakInReport::Single) {
         _board.status.change(Status::BreakIn, Status::Sending | Status::Waiting, now);
+    }
     _board.status.change(Status::BreakIn | Status::PaddleKeyed, Status::Sending | Status::Waiting,
                          now);
 }
 
 void Paddle::end(Time now) {
-    if (_board.profile.breakInReport == BreakInReport::Level)
+    if (_board.profile.breakInReport == BreakInReport::Level) {
         _board.status.change(0, Status::BreakIn, now);
+    }
     _board.status.change(0, Status::BreakIn | Status::PaddleKeyed, now);
     _isReported = false;
     enter(Phase::Idle, std::nullopt);
 }
 
 void Paddle::echo(char character, Time now) {
-    if (_board.registers.paddleEcho())
+    if (_board.registers.paddleEcho()) {
         _board.outbox.tell(static_cast<std::uint8_t>(character), now);
+    }
 }
 
 } // namespace virtualkeyer

@@ -52,8 +52,9 @@ std::optional<Command> Parser::take(std::uint8_t byte, bool isOpen) {
         const bool movesPointer = _command->kind == CommandKind::Immediate &&
                                   _command->code == pointerCommand &&
                                   _command->parameters.size() == 1;
-        if (movesPointer && byte >= 1 && byte <= 3)
+        if (movesPointer && byte >= 1 && byte <= 3) {
             ++_missing;
+        }
     } else {
         return begin(byte, isOpen);
     }
@@ -69,10 +70,12 @@ std::optional<Command> Parser::begin(std::uint8_t byte, bool isOpen) {
         _awaitsAdminNumber = true;
         return std::nullopt;
     }
-    if (!isOpen || byte > lastText)
+    if (!isOpen || byte > lastText) {
         return std::nullopt;
-    if (byte >= firstText)
+    }
+    if (byte >= firstText) {
         return Command{CommandKind::Text, byte, {}};
+    }
     const auto kind = byte >= firstBuffered ? CommandKind::Buffered : CommandKind::Immediate;
     _command = Command{kind, byte, {}};
     _missing = parameterCount(byte);
@@ -80,8 +83,9 @@ std::optional<Command> Parser::begin(std::uint8_t byte, bool isOpen) {
 }
 
 std::optional<Command> Parser::completed() {
-    if (_missing != 0)
+    if (_missing != 0) {
         return std::nullopt;
+    }
     return std::exchange(_command, std::nullopt);
 }
 

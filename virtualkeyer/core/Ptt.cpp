@@ -45,8 +45,9 @@ void Ptt::run(Time now) {
 
 void Ptt::refresh(Time now) {
     const bool shown = _isOn && _registers.pttOn();
-    if (shown == _isShown)
+    if (shown == _isShown) {
         return;
+    }
     _isShown = shown;
     _outbox.post(now, PttLine{shown});
 }

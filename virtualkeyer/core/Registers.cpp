@@ -44,8 +44,9 @@ bool isAllowed(Register which, std::uint8_t value) {
 } // namespace
 
 void Registers::set(Register which, std::uint8_t value) {
-    if (!isAllowed(which, value))
+    if (!isAllowed(which, value)) {
         return;
+    }
     _values[static_cast<std::size_t>(which)] = value;
     if (which == Register::Speed) {
         _highSpeed = 0;
@@ -58,8 +59,9 @@ void Registers::restoreFactory() {
 }
 
 void Registers::load(std::span<const std::uint8_t, count> values) {
-    for (std::size_t i = 0; i < count; ++i)
+    for (std::size_t i = 0; i < count; ++i) {
         set(static_cast<Register>(i), values[i]);
+    }
 }
 
 std::uint8_t Registers::value(Register which) const {
@@ -82,8 +84,9 @@ std::uint8_t Registers::potByte() const {
 }
 
 void Registers::setTemporarySpeed(int wpm) {
-    if (wpm >= 5 && wpm <= 99)
+    if (wpm >= 5 && wpm <= 99) {
         _temporarySpeed = wpm;
+    }
 }
 
 void Registers::cancelTemporarySpeed() {
@@ -91,22 +94,26 @@ void Registers::cancelTemporarySpeed() {
 }
 
 void Registers::setHighSpeed(int hundreds) {
-    if (hundreds == 0)
+    if (hundreds == 0) {
         return;
+    }
     _highSpeed = hundreds * wpmOfHundredLetters;
     _temporarySpeed = 0;
 }
 
 void Registers::setTemporaryHighSpeed(int hundreds) {
-    if (hundreds != 0)
+    if (hundreds != 0) {
         _temporarySpeed = hundreds * wpmOfHundredLetters;
+    }
 }
 
 int Registers::wpm() const {
-    if (_temporarySpeed != 0)
+    if (_temporarySpeed != 0) {
         return _temporarySpeed;
-    if (_highSpeed != 0)
+    }
+    if (_highSpeed != 0) {
         return _highSpeed;
+    }
     const int speed = value(Register::Speed);
     return speed != 0 ? speed : potWpm();
 }

@@ -22,8 +22,9 @@ void Sender::append(std::span<const std::uint8_t> bytes, Time now) {
     const std::size_t before = _buffer.size();
     _buffer.put(bytes);
     updateXoff(now);
-    for (std::size_t size = before; repeats && size < _buffer.size(); ++size)
+    for (std::size_t size = before; repeats && size < _buffer.size(); ++size) {
         _board.status.report(now);
+    }
     wake(now);
 }
 
@@ -63,14 +64,16 @@ void Sender::setPaused(bool isPaused, Time now) {
     const bool isNew = isPaused && !_isPaused;
     _isPaused = isPaused;
     if (isNew && isKeyingLetter() &&
-        _board.profile.resumeAfterPause == ResumeAfterPause::RepeatsLetter)
+        _board.profile.resumeAfterPause == ResumeAfterPause::RepeatsLetter) {
         _repeated = _letter;
+    }
     wake(now);
 }
 
 void Sender::setBlocked(bool isBlocked, Time now) {
-    if (std::exchange(_isBlocked, isBlocked) != isBlocked)
+    if (std::exchange(_isBlocked, isBlocked) != isBlocked) {
         wake(now);
+    }
 }
 
 void Sender::clear(Time now) {
@@ -78,8 +81,9 @@ void Sender::clear(Time now) {
     _board.status.change(0, Status::BufferFull | Status::Sending | Status::Waiting, now);
     const bool drops = _board.profile.clearInLetter == ClearInLetter::DropsKey;
     const bool finishes = (isKeyingLetter() && !drops) || _phase == Phase::LetterSpace;
-    if (finishes)
+    if (finishes) {
         return;
+    }
     letGo(now);
     rest(Phase::Idle, now);
 }
@@ -102,15 +106,17 @@ void Sender::yield(Time now) {
         _handsOver = true;
         return;
     }
-    if (_phase == Phase::LetterSpace && _board.profile.echoTime == EchoTime::AfterLetterSpace)
+    if (_phase == Phase::LetterSpace && _board.profile.echoTime == EchoTime::AfterLetterSpace) {
         _cutEcho = _letter.echo;
+    }
     letGo(now);
     rest(Phase::Idle, now);
 }
 
 void Sender::echoCutLetter(Time now) {
-    if (const auto byte = std::exchange(_cutEcho, std::nullopt))
+    if (const auto byte = std::exchange(_cutEcho, std::nullopt)) {
         echo(*byte, now);
+    }
 }
 
 std::optional<Time> Sender::due() const {
@@ -152,8 +158,9 @@ bool Sender::isKeyingLetter() const {
 }
 
 void Sender::letGo(Time now) {
-    if (_phase == Phase::Element || _phase == Phase::TimedKey)
+    if (_phase == Phase::Element || _phase == Phase::TimedKey) {
         _lastKeyUp = now;
+    }
     _board.lines.release(Lines::Host, now);
 }
 
@@ -170,12 +177,14 @@ void Sender::rest(Phase phase, Time now) {
 }
 
 void Sender::wake(Time now) {
-    if (isHeld())
+    if (isHeld()) {
         return;
-    if (_phase == Phase::Held)
+    }
+    if (_phase == Phase::Held) {
         fetch(now);
-    else if (_phase == Phase::Idle && hasMore())
+    } else if (_phase == Phase::Idle && hasMore()) {
         enter(Phase::Starting, now + startDelay);
+    }
 }
 
 void Sender::startTimedKey(Time now) {
@@ -193,8 +202,9 @@ void Sender::startLetter(Time now) {
 void Sender::startElement(Time now) {
     const Timing timing = timingOf(_board.registers);
     Time length = _letter.elements[_element] == '-' ? timing.dah : timing.dit;
-    if (_board.ptt.takeFirstElement())
+    if (_board.ptt.takeFirstElement()) {
         length += timing.firstExtension;
+    }
     _board.lines.press(Lines::Host, now);
     enter(Phase::Element, now + length);
 }
@@ -203,8 +213,9 @@ void Sender::endElement(Time now) {
     const Time gap = timingOf(_board.registers).gap;
     const bool isLast = _element + 1 == _letter.elements.size();
     // Elements that compensation has stretched into each other sound as one.
-    if (isLast || gap > Time{0})
+    if (isLast || gap > Time{0}) {
         _board.lines.release(Lines::Host, now);
+    }
     _lastKeyUp = now;
     enter(Phase::Gap, now + gap);
 }
@@ -216,13 +227,15 @@ void Sender::endLetter(Time now) {
         return rest(Phase::Idle, now);
     }
     if (_merged) {
-        if (_letter.echo)
+        if (_letter.echo) {
             echo(*_letter.echo, now);
+        }
         _letter = *std::exchange(_merged, std::nullopt);
         return startLetter(now);
     }
-    if (_board.profile.echoTime == EchoTime::BeforeLetterSpace)
+    if (_board.profile.echoTime == EchoTime::BeforeLetterSpace) {
         echoLast(_letter.echo, _board.profile.idleTime == IdleTime::WithEcho, now);
+    }
     enter(Phase::LetterSpace, now + timingOf(_board.registers).restOfLetter);
 }
 
@@ -234,17 +247,21 @@ void Sender::endUnit(std::optional<std::uint8_t> echoed, Time now) {
 void Sender::echoLast(std::optional<std::uint8_t> echoed, bool mayIdle, Time now) {
     const bool idles = mayIdle && !hasMore() && !isHeld();
     const bool idlesFirst = _board.profile.endOrder == EndOrder::IdleThenEcho;
-    if (idles && idlesFirst)
+    if (idles && idlesFirst) {
         _board.status.change(0, Status::Sending, now);
-    if (echoed)
+    }
+    if (echoed) {
         echo(*echoed, now);
-    if (idles && !idlesFirst)
+    }
+    if (idles && !idlesFirst) {
         _board.status.change(0, Status::Sending, now);
+    }
 }
 
 void Sender::echo(std::uint8_t byte, Time now) {
-    if (_board.registers.serialEcho())
+    if (_board.registers.serialEcho()) {
         _board.outbox.tell(byte, now);
+    }
 }
 
 } // namespace virtualkeyer

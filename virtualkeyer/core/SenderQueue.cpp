@@ -20,34 +20,40 @@ void Sender::fetch(Time now) {
     const bool ends = !hasMore() && !isHeld();
     _board.status.change(0, Status::Waiting | (ends ? Status::Sending : 0U), now);
     while (!isHeld()) {
-        if (auto letter = std::exchange(_repeated, std::nullopt))
+        if (auto letter = std::exchange(_repeated, std::nullopt)) {
             return begin(*letter, now);
-        if (!_message.empty())
+        }
+        if (!_message.empty()) {
             return beginStored(now);
+        }
         const auto byte = takeByte(now);
         if (!byte) {
             _board.status.change(0, Status::Sending, now);
             return rest(Phase::Idle, now);
         }
-        if (*byte < firstText ? obey(*byte, now) : beginText(*byte, now))
+        if (*byte < firstText ? obey(*byte, now) : beginText(*byte, now)) {
             return;
+        }
     }
     rest(Phase::Held, now);
 }
 
 bool Sender::obey(std::uint8_t code, Time now) {
-    if (code == 0x1B)
+    if (code == 0x1B) {
         return beginMerged(now);
+    }
     if (code == 0x1E) {
         _board.registers.cancelTemporarySpeed();
         return false;
     }
-    if (code < 0x18 || code > 0x1D)
+    if (code < 0x18 || code > 0x1D) {
         return false;
+    }
     // Its parameter may have been dropped by a backspace.
     const auto parameter = takeByte(now);
-    if (!parameter)
+    if (!parameter) {
         return false;
+    }
     switch (code) {
     case 0x18:
         holdTransmitter(*parameter != 0, now);
@@ -66,10 +72,11 @@ bool Sender::obey(std::uint8_t code, Time now) {
 }
 
 void Sender::holdTransmitter(bool holds, Time now) {
-    if (holds)
+    if (holds) {
         _board.ptt.raise(Ptt::HostCommand, now);
-    else
+    } else {
         _board.ptt.releaseAt(Ptt::HostCommand, now);
+    }
 }
 
 void Sender::selectOutputOrSpeed(std::uint8_t parameter, Time now) {
@@ -93,22 +100,26 @@ bool Sender::beginText(std::uint8_t byte, Time now) {
         return true;
     }
     const auto letter = letterOf(byte);
-    if (letter)
+    if (letter) {
         begin(*letter, now);
+    }
     return letter.has_value();
 }
 
 bool Sender::beginMerged(Time now) {
     std::optional<Letter> letters[2];
     for (auto& letter : letters) {
-        if (const auto byte = takeByte(now))
+        if (const auto byte = takeByte(now)) {
             letter = letterOf(*byte);
+        }
     }
     auto& [first, second] = letters;
-    if (!first)
+    if (!first) {
         std::swap(first, second);
-    if (!first)
+    }
+    if (!first) {
         return false;
+    }
     _merged = second;
     begin(*first, now);
     return true;
@@ -117,15 +128,17 @@ bool Sender::beginMerged(Time now) {
 void Sender::beginStored(Time now) {
     const std::string elements = _message.front();
     _message.pop_front();
-    if (elements == " ")
+    if (elements == " ") {
         beginSpace(timingOf(_board.registers).restOfWord, std::nullopt, now);
-    else
+    } else {
         begin(Letter{elements, std::nullopt}, now);
+    }
 }
 
 bool Sender::beginWait(int seconds, Time now) {
-    if (seconds == 0)
+    if (seconds == 0) {
         return false;
+    }
     _board.status.change(Status::Sending | Status::Waiting, 0, now);
     rest(Phase::Wait, now);
     _until = now + std::chrono::seconds{seconds};
@@ -133,24 +146,27 @@ bool Sender::beginWait(int seconds, Time now) {
 }
 
 bool Sender::beginTimedKey(int seconds, Time now) {
-    if (seconds == 0)
+    if (seconds == 0) {
         return false;
+    }
     _timedKey = std::chrono::seconds{seconds};
     const Time ready = _board.ptt.raise(Ptt::Text, now);
-    if (ready > now)
+    if (ready > now) {
         enter(Phase::LeadIn, ready);
-    else
+    } else {
         startTimedKey(now);
+    }
     return true;
 }
 
 void Sender::begin(Letter letter, Time now) {
     _letter = std::move(letter);
     const Time ready = _board.ptt.raise(Ptt::Text, now);
-    if (ready > now)
+    if (ready > now) {
         enter(Phase::LeadIn, ready);
-    else
+    } else {
         startLetter(now);
+    }
 }
 
 void Sender::beginSpace(Time length, std::optional<std::uint8_t> echoed, Time now) {
@@ -161,10 +177,12 @@ void Sender::beginSpace(Time length, std::optional<std::uint8_t> echoed, Time no
 
 std::optional<Sender::Letter> Sender::letterOf(std::uint8_t byte) const {
     const auto elements = elementsOf(static_cast<char>(byte));
-    if (!elements.empty())
+    if (!elements.empty()) {
         return Letter{std::string(elements), byte};
-    if (_board.profile.unknownCharacter == UnknownCharacter::Skipped)
+    }
+    if (_board.profile.unknownCharacter == UnknownCharacter::Skipped) {
         return std::nullopt;
+    }
     return Letter{std::string(elementsOf(questionMark.front())), questionMark.front()};
 }
 
@@ -178,10 +196,11 @@ void Sender::updateXoff(Time now) {
     const bool isFull = _board.profile.xoffRule == XoffRule::TwentyOneRepeated
                             ? _buffer.size() >= repeatedXoffThreshold
                             : 3 * _buffer.size() > 2 * _buffer.capacity();
-    if (isFull)
+    if (isFull) {
         _board.status.change(Status::BufferFull, 0, now);
-    else
+    } else {
         _board.status.change(0, Status::BufferFull, now);
+    }
 }
 
 void Sender::forgetQueue(Time now) {

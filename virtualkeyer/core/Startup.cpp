@@ -13,15 +13,17 @@ void Startup::restart(Time deafUntil, Time now) {
 }
 
 bool Startup::admits(std::uint8_t byte, Time now) {
-    if (now < _deafUntil)
+    if (now < _deafUntil) {
         return false;
+    }
     if (!_hasBeeped && _board.profile.firstCommandBeep > Time{0}) {
         _hasBeeped = true;
         _beepEnd = now + _board.profile.firstCommandBeep;
         _board.lines.beep(true, now);
     }
-    if (!_beepEnd)
+    if (!_beepEnd) {
         return true;
+    }
     _held.push_back(byte);
     return false;
 }

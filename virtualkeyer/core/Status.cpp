@@ -18,8 +18,9 @@ constexpr std::uint8_t buttonBits = 0x17;
 void Status::change(unsigned added, unsigned dropped, Time at) {
     const std::uint8_t before = byte();
     _reasons = (_reasons & ~dropped) | added;
-    if (byte() != before)
+    if (byte() != before) {
         report(at);
+    }
 }
 
 void Status::report(Time at) {
@@ -33,25 +34,32 @@ void Status::selectVersion2(Time at) {
 
 void Status::setPushButtons(std::uint8_t mask, Time at) {
     const auto buttons = static_cast<std::uint8_t>(mask & buttonBits);
-    if (buttons == _buttons)
+    if (buttons == _buttons) {
         return;
+    }
     _buttons = buttons;
-    if (_isVersion2)
+    if (_isVersion2) {
         _outbox.tell(static_cast<std::uint8_t>(buttonByte | _buttons), at);
+    }
 }
 
 std::uint8_t Status::byte() const {
     unsigned bits = statusByte;
-    if (has(BufferFull))
+    if (has(BufferFull)) {
         bits |= xoffBit;
-    if (has(BreakIn))
+    }
+    if (has(BreakIn)) {
         bits |= breakInBit;
-    if (has(Sending) || has(TuneKeyed) || has(PaddleKeyed))
+    }
+    if (has(Sending) || has(TuneKeyed) || has(PaddleKeyed)) {
         bits |= busyBit;
-    if (has(Waiting) || has(Tuning))
+    }
+    if (has(Waiting) || has(Tuning)) {
         bits |= waitBit;
-    if (has(Tuning) && !_isVersion2)
+    }
+    if (has(Tuning) && !_isVersion2) {
         bits |= keyDownBit;
+    }
     return static_cast<std::uint8_t>(bits);
 }
 

@@ -7,36 +7,42 @@ namespace virtualkeyer {
 void TextBuffer::put(std::span<const std::uint8_t> bytes) {
     const std::size_t replaced = _overwrites ? _bytes.size() - _input : 0;
     // Half a command would take the next text for its parameters.
-    if (bytes.size() > _capacity - _bytes.size() + replaced)
+    if (bytes.size() > _capacity - _bytes.size() + replaced) {
         return;
-    for (const std::uint8_t byte : bytes)
+    }
+    for (const std::uint8_t byte : bytes) {
         put(byte);
+    }
 }
 
 void TextBuffer::put(std::uint8_t byte) {
-    if (_overwrites && _input < _bytes.size())
+    if (_overwrites && _input < _bytes.size()) {
         _bytes[_input] = byte;
-    else if (_bytes.size() < _capacity)
+    } else if (_bytes.size() < _capacity) {
         _bytes.insert(_bytes.begin() + static_cast<std::ptrdiff_t>(_input), byte);
-    else
+    } else {
         return;
+    }
     ++_input;
 }
 
 std::optional<std::uint8_t> TextBuffer::take() {
-    if (_bytes.empty())
+    if (_bytes.empty()) {
         return std::nullopt;
+    }
     const std::uint8_t byte = _bytes.front();
     _bytes.pop_front();
     ++_taken;
-    if (_input > 0)
+    if (_input > 0) {
         --_input;
+    }
     return byte;
 }
 
 void TextBuffer::backspace() {
-    if (_input == 0)
+    if (_input == 0) {
         return;
+    }
     --_input;
     _bytes.erase(_bytes.begin() + static_cast<std::ptrdiff_t>(_input));
 }
@@ -56,8 +62,9 @@ void TextBuffer::appendFrom(std::size_t position) {
 }
 
 void TextBuffer::insertNulls(std::size_t count) {
-    for (std::size_t i = 0; i < count; ++i)
+    for (std::size_t i = 0; i < count; ++i) {
         put(std::uint8_t{0});
+    }
 }
 
 void TextBuffer::moveTo(std::size_t position) {

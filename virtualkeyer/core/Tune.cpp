@@ -7,21 +7,24 @@
 namespace virtualkeyer {
 
 void Tune::start(Time now) {
-    if (_isOn)
+    if (_isOn) {
         return;
+    }
     _isOn = true;
     _board.status.change(Status::Tuning, 0, now);
     const Time ready = _board.ptt.raise(Ptt::Tuning, now);
-    if (ready > now)
+    if (ready > now) {
         _pressAt = ready;
-    else
+    } else {
         press(now);
+    }
 }
 
 void Tune::press(Time now) {
     _pressAt.reset();
-    if (_board.profile.tuneLimit)
+    if (_board.profile.tuneLimit) {
         _limitAt = now + *_board.profile.tuneLimit;
+    }
     _board.status.change(Status::TuneKeyed, 0, now);
     // The operator tunes to a steady carrier, so the first element after it is no first one.
     static_cast<void>(_board.ptt.takeFirstElement());
@@ -29,8 +32,9 @@ void Tune::press(Time now) {
 }
 
 void Tune::release(Time now) {
-    if (!_isOn)
+    if (!_isOn) {
         return;
+    }
     _isOn = false;
     _pressAt.reset();
     _limitAt.reset();
@@ -47,10 +51,11 @@ std::optional<Time> Tune::due() const {
 }
 
 void Tune::run(Time now) {
-    if (_pressAt)
+    if (_pressAt) {
         press(now);
-    else
+    } else {
         release(now);
+    }
 }
 
 } // namespace virtualkeyer

@@ -18,8 +18,9 @@ class FileDescriptor {
     FileDescriptor(const FileDescriptor&) = delete;
     FileDescriptor& operator=(const FileDescriptor&) = delete;
     ~FileDescriptor() {
-        if (_number >= 0)
+        if (_number >= 0) {
             ::close(_number);
+        }
     }
 
     [[nodiscard]] int number() const { return _number; }

@@ -38,29 +38,34 @@ bool KeyerLoop::waitForWork(int stopDescriptor) {
                                        {_keyer.hasRoom() ? _terminal.master() : -1, POLLIN, 0}}};
     timespec timeout{};
     const auto due = _keyer.nextEvent();
-    if (due)
+    if (due) {
         timeout = timeoutOf(*due - now());
+    }
     if (::ppoll(descriptors.data(), descriptors.size(), due ? &timeout : nullptr, nullptr) < 0 &&
-        errno != EINTR)
+        errno != EINTR) {
         throwSystemFailure("cannot wait for the host");
+    }
     return descriptors.front().revents == 0;
 }
 
 void KeyerLoop::noticeOpenings() {
-    for (int openings = _terminal.takeOpenings(); openings > 0; --openings)
+    for (int openings = _terminal.takeOpenings(); openings > 0; --openings) {
         _keyer.portOpened(now());
+    }
 }
 
 void KeyerLoop::receiveFromHost() {
     std::array<std::uint8_t, 1> byte{};
-    while (_keyer.hasRoom() && _terminal.read(byte) > 0)
+    while (_keyer.hasRoom() && _terminal.read(byte) > 0) {
         _keyer.send(byte.front(), now());
+    }
 }
 
 void KeyerLoop::advance() {
     _keyer.advance(now());
-    for (const std::uint8_t byte : _keyer.takeArrived())
+    for (const std::uint8_t byte : _keyer.takeArrived()) {
         _terminal.write(byte);
+    }
 }
 
 } // namespace virtualkeyer

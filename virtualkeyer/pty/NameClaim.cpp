@@ -22,8 +22,9 @@ Note readNote(int file) {
     const ssize_t size = ::pread(file, buffer.data(), buffer.size(), 0);
     const std::string content(buffer.data(), size > 0 ? static_cast<std::size_t>(size) : 0);
     const auto blank = content.find(' ');
-    if (blank == std::string::npos)
+    if (blank == std::string::npos) {
         return {};
+    }
     return {content.substr(0, blank), content.substr(blank + 1)};
 }
 
@@ -44,8 +45,9 @@ void NameClaim::setNote(const std::string& note) {
     const std::string content = std::to_string(::getpid()) + ' ' + note;
     checked(::ftruncate(_file.number(), 0), "cannot empty " + _fileName);
     if (::pwrite(_file.number(), content.data(), content.size(), 0) !=
-        static_cast<ssize_t>(content.size()))
+        static_cast<ssize_t>(content.size())) {
         throwSystemFailure("cannot write " + _fileName);
+    }
 }
 
 /// Locks the file; false when its last holder removed it in between, and it has to be made anew.
@@ -54,8 +56,9 @@ bool NameClaim::tryLock(const std::string& name) {
         ::openat(_directory, _fileName.c_str(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, 0600),
         "cannot open " + _fileName));
     if (::flock(_file.number(), LOCK_EX | LOCK_NB) < 0) {
-        if (errno != EWOULDBLOCK)
+        if (errno != EWOULDBLOCK) {
             throwSystemFailure("cannot lock " + _fileName);
+        }
         const std::string process = readNote(_file.number()).process;
         throw std::runtime_error("a running virtual keyer" +
                                  (process.empty() ? "" : " (process " + process + ")") +

@@ -12,15 +12,17 @@ namespace virtualkeyer {
 namespace {
 
 FileDescriptor openDirectory(int parent, const std::string& name) {
-    if (::mkdirat(parent, name.c_str(), 0700) < 0 && errno != EEXIST)
+    if (::mkdirat(parent, name.c_str(), 0700) < 0 && errno != EEXIST) {
         throwSystemFailure("cannot make the directory " + name);
+    }
     FileDescriptor directory(
         checked(::openat(parent, name.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC),
                 "cannot open the directory " + name));
     struct stat status {};
     checked(::fstat(directory.number(), &status), "cannot look at the directory " + name);
-    if (status.st_uid != ::geteuid())
+    if (status.st_uid != ::geteuid()) {
         throw std::runtime_error("the directory " + name + " belongs to another user");
+    }
     return directory;
 }
 
@@ -39,8 +41,9 @@ PortLink::PortLink(const std::string& runtimeDirectory, const std::string& name,
 }
 
 PortLink::~PortLink() {
-    if (identityOf(_ports.number(), _name) == _identity)
+    if (identityOf(_ports.number(), _name) == _identity) {
         ::unlinkat(_ports.number(), _name.c_str(), 0);
+    }
 }
 
 bool PortLink::isValidName(std::string_view name) {
@@ -55,8 +58,9 @@ bool PortLink::isValidName(std::string_view name) {
 std::string PortLink::identityOf(int directory, const std::string& name) {
     struct stat status {};
     if (::fstatat(directory, name.c_str(), &status, AT_SYMLINK_NOFOLLOW) < 0 ||
-        !S_ISLNK(status.st_mode))
+        !S_ISLNK(status.st_mode)) {
         return {};
+    }
     return std::to_string(status.st_dev) + ' ' + std::to_string(status.st_ino) + ' ' +
            std::to_string(status.st_mtim.tv_sec) + ' ' + std::to_string(status.st_mtim.tv_nsec);
 }
@@ -65,8 +69,9 @@ std::string PortLink::identityOf(int directory, const std::string& name) {
 void PortLink::makeWay() {
     struct stat status {};
     if (::fstatat(_ports.number(), _name.c_str(), &status, AT_SYMLINK_NOFOLLOW) < 0) {
-        if (errno != ENOENT)
+        if (errno != ENOENT) {
             throwSystemFailure("cannot look at " + _path);
+        }
         return;
     }
     const std::string present = identityOf(_ports.number(), _name);
@@ -74,8 +79,9 @@ void PortLink::makeWay() {
     const bool isFromCrashedKeyer = isLink && present == _claim.noteOfPredecessor();
     const bool pointsNowhere =
         isLink && ::fstatat(_ports.number(), _name.c_str(), &status, 0) < 0 && errno == ENOENT;
-    if (!isFromCrashedKeyer && !pointsNowhere)
+    if (!isFromCrashedKeyer && !pointsNowhere) {
         throw std::runtime_error(_path + " is in the way and no virtual keyer made it");
+    }
     checked(::unlinkat(_ports.number(), _name.c_str(), 0), "cannot remove " + _path);
 }
 

@@ -68,16 +68,19 @@ int PseudoTerminal::takeOpenings() {
 
 std::size_t PseudoTerminal::read(std::span<std::uint8_t> buffer) {
     const ssize_t size = ::read(_master.number(), buffer.data(), buffer.size());
-    if (size >= 0)
+    if (size >= 0) {
         return static_cast<std::size_t>(size);
-    if (errno != EAGAIN && errno != EINTR)
+    }
+    if (errno != EAGAIN && errno != EINTR) {
         throwSystemFailure("cannot read from the host");
+    }
     return 0;
 }
 
 void PseudoTerminal::write(std::uint8_t byte) {
-    if (::write(_master.number(), &byte, 1) < 0 && errno != EAGAIN)
+    if (::write(_master.number(), &byte, 1) < 0 && errno != EAGAIN) {
         throwSystemFailure("cannot write to the host");
+    }
 }
 
 /// Opens the application's side, which then has no last close, and watches it from there on.

@@ -7,8 +7,9 @@ namespace virtualkeyer {
 
 std::string runtimeDirectory() {
     const QByteArray directory = qgetenv("XDG_RUNTIME_DIR");
-    if (!directory.isEmpty())
+    if (!directory.isEmpty()) {
         return directory.toStdString();
+    }
     return QFile::encodeName(QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation))
         .toStdString();
 }

@@ -27,10 +27,12 @@ void SerialKeyer::advance(Time until) {
     }
     _keyer.advance(until);
     handOn();
-    while (const auto byte = _toHost.take(until))
+    while (const auto byte = _toHost.take(until)) {
         _arrived.push_back(byte->value);
-    for (KeyerListener* listener : _listeners)
+    }
+    for (KeyerListener* listener : _listeners) {
         listener->timePassed(until);
+    }
 }
 
 std::vector<std::uint8_t> SerialKeyer::takeArrived() {
@@ -40,31 +42,36 @@ std::vector<std::uint8_t> SerialKeyer::takeArrived() {
 std::optional<Time> SerialKeyer::nextEvent() const {
     std::optional<Time> next;
     const auto consider = [&next](std::optional<Time> due) {
-        if (due && (!next || *due < *next))
+        if (due && (!next || *due < *next)) {
             next = due;
+        }
     };
     consider(_keyer.nextEvent());
     consider(_fromHost.nextCompletion());
     consider(_toHost.nextCompletion());
-    for (const KeyerListener* listener : _listeners)
+    for (const KeyerListener* listener : _listeners) {
         consider(listener->nextWish());
+    }
     return next;
 }
 
 /// Gives the keyer's events and state to the listeners and its bytes to the line.
 void SerialKeyer::handOn() {
     for (const Event& event : _keyer.takeEvents()) {
-        if (const auto* byte = std::get_if<HostByte>(&event.what))
+        if (const auto* byte = std::get_if<HostByte>(&event.what)) {
             _toHost.put(byte->value, event.at);
+        }
         if (const auto* speed = std::get_if<LineSpeed>(&event.what)) {
             _fromHost.setBaud(speed->baud, event.at);
             _toHost.setBaud(speed->baud, event.at);
         }
-        for (KeyerListener* listener : _listeners)
+        for (KeyerListener* listener : _listeners) {
             listener->keyerDid(event, _keyer.registers());
+        }
     }
-    for (KeyerListener* listener : _listeners)
+    for (KeyerListener* listener : _listeners) {
         listener->keyerHolds(_keyer.registers(), _keyer.memory());
+    }
 }
 
 } // namespace virtualkeyer

@@ -10,8 +10,9 @@ namespace virtualkeyer {
 StopSignals::StopSignals() {
     sigset_t signals;
     ::sigemptyset(&signals);
-    for (const int number : {SIGINT, SIGTERM, SIGHUP})
+    for (const int number : {SIGINT, SIGTERM, SIGHUP}) {
         ::sigaddset(&signals, number);
+    }
     checked(::sigprocmask(SIG_BLOCK, &signals, nullptr), "cannot block the stop signals");
     _signals = FileDescriptor(
         checked(::signalfd(-1, &signals, SFD_CLOEXEC | SFD_NONBLOCK), "cannot await signals"));

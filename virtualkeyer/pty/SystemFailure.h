@@ -13,8 +13,9 @@ namespace virtualkeyer {
 
 /// Passes a system call's `result` on, or throws std::system_error when it is negative.
 inline int checked(int result, const std::string& what) {
-    if (result < 0)
+    if (result < 0) {
         throwSystemFailure(what);
+    }
     return result;
 }
 

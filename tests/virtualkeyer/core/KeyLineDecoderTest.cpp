@@ -19,8 +19,9 @@ std::string randomText(std::mt19937& random, std::size_t words) {
     std::string text;
     for (std::size_t word = 0; word < words; ++word) {
         const std::size_t length = 1 + random() % 6;
-        for (std::size_t i = 0; i < length; ++i)
+        for (std::size_t i = 0; i < length; ++i) {
             text += alphabet[random() % alphabet.size()];
+        }
         text += ' ';
     }
     return text;
@@ -32,13 +33,15 @@ std::string readBack(const QByteArray& settings, const std::string& text) {
     bench.open();
     bench.text(settings.toStdString());
     bench.text(text);
-    if (!bench.finish())
+    if (!bench.finish()) {
         return "does not end";
+    }
     KeyLineDecoder decoder;
     decoder.setTiming(timingOf(bench.keyer.registers()));
     for (const Event& event : bench.events()) {
-        if (const auto* line = std::get_if<KeyLine>(&event.what))
+        if (const auto* line = std::get_if<KeyLine>(&event.what)) {
             decoder.key(line->isDown, event.at);
+        }
     }
     decoder.advance(bench.now + 1h);
     return decoder.takeText();
@@ -92,13 +95,15 @@ void KeyLineDecoderTest::randomTextsComeBack() {
 }
 
 void KeyLineDecoderTest::everySpeedComesBack() {
-    for (char wpm = 5; wpm <= 99; ++wpm)
+    for (char wpm = 5; wpm <= 99; ++wpm) {
         QCOMPARE(readBack(QByteArray("\x02") + wpm, "PARIS 73 "), std::string("PARIS 73 "));
+    }
 }
 
 void KeyLineDecoderTest::everyWeightingComesBack() {
-    for (char weighting = 10; weighting <= 90; ++weighting)
+    for (char weighting = 10; weighting <= 90; ++weighting) {
         QCOMPARE(readBack(QByteArray("\x03") + weighting, "CQ DE K "), std::string("CQ DE K "));
+    }
 }
 
 void KeyLineDecoderTest::aLetterIsDeliveredWhenItsSpaceIsCertain() {
@@ -167,8 +172,9 @@ void KeyLineDecoderTest::onlyOneSpaceIsDelivered() {
     KeyLineDecoder decoder;
     decoder.key(true, 0ms);
     decoder.key(false, 60ms);
-    for (int i = 0; i < 10; ++i)
+    for (int i = 0; i < 10; ++i) {
         decoder.advance(60ms + i * 1s);
+    }
     QCOMPARE(decoder.takeText(), std::string("E "));
 }
 

@@ -21,14 +21,16 @@ class KeyerBench {
     }
 
     void send(std::initializer_list<int> bytes) {
-        for (const int byte : bytes)
+        for (const int byte : bytes) {
             keyer.receive(static_cast<std::uint8_t>(byte), now);
+        }
         collect();
     }
 
     void text(std::string_view text) {
-        for (const char character : text)
+        for (const char character : text) {
             keyer.receive(static_cast<std::uint8_t>(character), now);
+        }
         collect();
     }
 
@@ -58,8 +60,9 @@ class KeyerBench {
     [[nodiscard]] bool finish() {
         const auto limit = now + std::chrono::minutes{30};
         for (auto next = keyer.nextEvent(); next; next = keyer.nextEvent()) {
-            if (*next > limit)
+            if (*next > limit) {
                 return false;
+            }
             now = *next;
             keyer.advance(now);
         }
@@ -79,9 +82,10 @@ class KeyerBench {
         for (const auto& event : _events) {
             const QString line = QString::fromStdString(virtualkeyer::transcriptLine(event));
             const QString what = line.section(QLatin1Char(' '), 1);
-            if (what.startsWith(prefix))
+            if (what.startsWith(prefix)) {
                 lines += milliseconds(event.at - origin().value_or(virtualkeyer::Time{0})) +
                          what.mid(prefix.size());
+            }
         }
         return lines.join(QStringLiteral(", "));
     }
@@ -92,8 +96,9 @@ class KeyerBench {
     [[nodiscard]] QString bytes() const {
         QStringList bytes;
         for (const auto& event : _events) {
-            if (const auto* byte = std::get_if<virtualkeyer::HostByte>(&event.what))
+            if (const auto* byte = std::get_if<virtualkeyer::HostByte>(&event.what)) {
                 bytes += QStringLiteral("%1").arg(byte->value, 2, 16, QLatin1Char('0')).toUpper();
+            }
         }
         return bytes.join(QLatin1Char(' '));
     }
@@ -103,10 +108,12 @@ class KeyerBench {
         QStringList lengths;
         std::optional<virtualkeyer::Time> last;
         for (const auto& event : _events) {
-            if (!std::holds_alternative<virtualkeyer::KeyLine>(event.what))
+            if (!std::holds_alternative<virtualkeyer::KeyLine>(event.what)) {
                 continue;
-            if (last)
+            }
+            if (last) {
                 lengths += milliseconds(event.at - *last);
+            }
             last = event.at;
         }
         return lengths.join(QLatin1Char(' '));
@@ -130,8 +137,9 @@ class KeyerBench {
     [[nodiscard]] std::optional<virtualkeyer::Time> origin() const {
         for (const auto& event : _events) {
             const auto* line = std::get_if<virtualkeyer::KeyLine>(&event.what);
-            if (line != nullptr && line->isDown)
+            if (line != nullptr && line->isDown) {
                 return event.at;
+            }
         }
         return std::nullopt;
     }
@@ -142,10 +150,12 @@ class KeyerBench {
 
     [[nodiscard]] static QString milliseconds(virtualkeyer::Time time) {
         QString text = QString::number(toMilliseconds(time), 'f', 3);
-        while (text.endsWith(QLatin1Char('0')))
+        while (text.endsWith(QLatin1Char('0'))) {
             text.chop(1);
-        if (text.endsWith(QLatin1Char('.')))
+        }
+        if (text.endsWith(QLatin1Char('.'))) {
             text.chop(1);
+        }
         return text == QStringLiteral("-0") ? QStringLiteral("0") : text;
     }
 

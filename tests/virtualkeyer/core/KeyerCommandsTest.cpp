@@ -11,8 +11,9 @@ using virtualkeyer::Register;
 namespace {
 
 void sendAll(KeyerBench& bench, const QByteArray& bytes) {
-    for (const char byte : bytes)
+    for (const char byte : bytes) {
         bench.send({static_cast<std::uint8_t>(byte)});
+    }
 }
 
 } // namespace
@@ -127,8 +128,9 @@ void KeyerCommandsTest::registersAreSet() {
 
 void KeyerCommandsTest::closedKeyerTakesAdminCommandsOnly() {
     KeyerBench bench;
-    for (int byte = 1; byte <= 0xFF; ++byte)
+    for (int byte = 1; byte <= 0xFF; ++byte) {
         bench.send({byte});
+    }
     QVERIFY(bench.finish());
     QCOMPARE(bench.log({}), QString());
     QCOMPARE(bench.keyer.registers().block(), virtualkeyer::Registers(20).block());
@@ -191,12 +193,14 @@ void KeyerCommandsTest::pushButtonsAreReportedInVersion2Mode() {
     bench.keyer.setPushButtons(0x01, bench.now);
     bench.send({0x00, 11});
     for (const std::uint8_t mask :
-         std::initializer_list<std::uint8_t>{0x00, 0x02, 0x06, 0x06, 0x14, 0x10, 0x00})
+         std::initializer_list<std::uint8_t>{0x00, 0x02, 0x06, 0x06, 0x14, 0x10, 0x00}) {
         bench.keyer.setPushButtons(mask, bench.now);
+    }
     bench.forget();
     for (const std::uint8_t mask :
-         std::initializer_list<std::uint8_t>{0x01, 0x02, 0x04, 0x10, 0x10, 0x07, 0x08, 0x00})
+         std::initializer_list<std::uint8_t>{0x01, 0x02, 0x04, 0x10, 0x10, 0x07, 0x08, 0x00}) {
         bench.keyer.setPushButtons(mask, bench.now);
+    }
     bench.send({});
     QCOMPARE(bench.bytes(), u"C9 CA CC D8 CF C8"_s);
 }
@@ -215,8 +219,9 @@ void KeyerCommandsTest::potStepsAreReported() {
     KeyerBench bench;
     bench.keyer.setPot(18, bench.now);
     bench.open();
-    for (const int wpm : {19, 20, 20, 24, 25, 40, 10, 3})
+    for (const int wpm : {19, 20, 20, 24, 25, 40, 10, 3}) {
         bench.keyer.setPot(wpm, bench.now);
+    }
     bench.send({0x07, 0x02, 30, 0x05, 12, 10, 0, 0x07});
     QCOMPARE(bench.bytes(), u"89 8A 8E 8F 80 80 80"_s);
 }
@@ -252,8 +257,9 @@ void KeyerCommandsTest::memoryImageComesBackAsLoaded() {
         u"A5 00 00 05 32 00 00 0A 0F 00 00 00 32 32 07 00 0F 18 18 18 18 18 18 18 00"_s));
     bench.forget();
     bench.send({0x00, 13});
-    for (int i = 0; i < 256; ++i)
+    for (int i = 0; i < 256; ++i) {
         bench.send({255 - i});
+    }
     QCOMPARE(bench.bytes(), QString());
     bench.send({0x00, 12});
     QVERIFY(bench.bytes().startsWith(u"FF FE FD"_s));
@@ -263,8 +269,9 @@ void KeyerCommandsTest::memoryImageComesBackAsLoaded() {
 void KeyerCommandsTest::memoryLoadTakesExactly256RawBytes() {
     KeyerBench bench;
     bench.send({0x00, 13});
-    for (int i = 0; i < 255; ++i)
+    for (int i = 0; i < 255; ++i) {
         bench.send({0x00});
+    }
     // The last byte of the load, and the dump of a memory that is not the factory's any more.
     bench.send({0x04, 0x00, 4, 0x55});
     QCOMPARE(bench.bytes(), u"55"_s);

@@ -214,8 +214,9 @@ void KeyerProfileTest::firstCommandMayWaitForABeep() {
 void KeyerProfileTest::memoryLoadMayBeThrownAway() {
     KeyerBench bench(with([](Profile& p) { p.memoryLoad = MemoryLoad::ThrownAway; }));
     bench.send({0x00, 13});
-    for (int i = 0; i < 256; ++i)
+    for (int i = 0; i < 256; ++i) {
         bench.send({0x55});
+    }
     bench.send({0x00, 12});
     QVERIFY(bench.bytes().startsWith(u"A5 00 00 05"_s));
     QCOMPARE(bench.events().size(), 256U);

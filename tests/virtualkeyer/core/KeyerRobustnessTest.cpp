@@ -25,8 +25,9 @@ Profile randomProfile(std::mt19937& random) {
     profile.memoryLoad = static_cast<MemoryLoad>(choice());
     profile.breakInReport = static_cast<BreakInReport>(choice());
     profile.resumeAfterPause = static_cast<ResumeAfterPause>(choice());
-    if (choice() != 0)
+    if (choice() != 0) {
         profile.tuneLimit = 10s;
+    }
     return profile;
 }
 
@@ -102,8 +103,9 @@ void KeyerRobustnessTest::inputsThatComeLateCountFromNow() {
 
 void KeyerRobustnessTest::randomInputNeverHangs_data() {
     QTest::addColumn<unsigned>("seed");
-    for (unsigned seed = 1; seed <= 60; ++seed)
+    for (unsigned seed = 1; seed <= 60; ++seed) {
         QTest::addRow("seed %u", seed) << seed;
+    }
 }
 
 void KeyerRobustnessTest::randomInputNeverHangs() {
@@ -122,8 +124,9 @@ void KeyerRobustnessTest::randomInputNeverHangs() {
         now += std::chrono::microseconds{random() % 100'000};
         for (int i = 0; i < 100'000; ++i) {
             const auto next = keyer.nextEvent();
-            if (!next || *next > now)
+            if (!next || *next > now) {
                 break;
+            }
             keyer.advance(*next);
             // Everything due has happened, so whatever is next lies ahead.
             QVERIFY(!keyer.nextEvent() || *keyer.nextEvent() > *next);
@@ -150,13 +153,16 @@ void KeyerRobustnessTest::randomInputNeverHangs() {
     }
     keyer.setPaddle(false, false, now);
     // Ends a memory load or any other command that is under way, then everything else.
-    for (int i = 0; i < 260; ++i)
+    for (int i = 0; i < 260; ++i) {
         keyer.receive(0x13, now);
-    for (const int byte : {0, 3})
+    }
+    for (const int byte : {0, 3}) {
         keyer.receive(static_cast<std::uint8_t>(byte), now);
+    }
     collect();
-    for (int i = 0; i < 1000 && keyer.nextEvent(); ++i)
+    for (int i = 0; i < 1000 && keyer.nextEvent(); ++i) {
         keyer.advance(*keyer.nextEvent());
+    }
     QVERIFY(!keyer.nextEvent());
     collect();
 

@@ -37,8 +37,9 @@ void KeyerSendingTest::parisTakesFiftyDits() {
     std::vector<virtualkeyer::Time> downs;
     for (const auto& event : bench.events()) {
         const auto* line = std::get_if<virtualkeyer::KeyLine>(&event.what);
-        if (line != nullptr && line->isDown)
+        if (line != nullptr && line->isDown) {
             downs.push_back(event.at);
+        }
     }
     QCOMPARE(downs.size(), 28U);
     QCOMPARE((downs[14] - downs[0]).count(), 3'000'000'000);

@@ -57,8 +57,9 @@ void MorseTableTest::prosignsAreTheirLettersRunTogether() {
     QFETCH(char, character);
     QFETCH(QByteArray, letters);
     std::string elements;
-    for (const char letter : letters)
+    for (const char letter : letters) {
         elements += elementsOf(letter);
+    }
     QCOMPARE(std::string(elementsOf(character)), elements);
 }
 
@@ -90,22 +91,26 @@ void MorseTableTest::knownLetters() {
     for (const auto& [length, letters] : tree) {
         for (std::size_t code = 0; code < letters.size(); ++code) {
             std::string elements;
-            for (std::size_t bit = length; bit-- > 0;)
+            for (std::size_t bit = length; bit-- > 0;) {
                 elements += ((code >> bit) & 1) != 0 ? '-' : '.';
-            if (letters[code] != ' ')
+            }
+            if (letters[code] != ' ') {
                 QCOMPARE(characterOf(elements), std::optional(letters[code]));
+            }
         }
     }
 }
 
 void MorseTableTest::lowerCaseIsAsUpperCase() {
-    for (char letter = 'a'; letter <= 'z'; ++letter)
+    for (char letter = 'a'; letter <= 'z'; ++letter) {
         QCOMPARE(elementsOf(letter), elementsOf(static_cast<char>(letter - 'a' + 'A')));
+    }
 }
 
 void MorseTableTest::otherCharactersHaveNoMorse() {
-    for (const char character : std::string(" !#%&*^_`{|}~\x7F\x1F\x80\xFF"))
+    for (const char character : std::string(" !#%&*^_`{|}~\x7F\x1F\x80\xFF")) {
         QVERIFY(elementsOf(character).empty());
+    }
 }
 
 void MorseTableTest::sharedPatternsReadAsTheFirst() {

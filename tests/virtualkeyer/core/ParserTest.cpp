@@ -57,8 +57,9 @@ void ParserTest::commandsTakeTheirParameters_data() {
 void ParserTest::commandsTakeTheirParameters() {
     QFETCH(QByteArray, bytes);
     Parser parser;
-    for (qsizetype i = 0; i + 1 < bytes.size(); ++i)
+    for (qsizetype i = 0; i + 1 < bytes.size(); ++i) {
         QVERIFY(!parser.take(static_cast<std::uint8_t>(bytes[i]), true));
+    }
     const auto command = parser.take(static_cast<std::uint8_t>(bytes.back()), true);
     QVERIFY(command);
     QTEST(static_cast<int>(command->kind), "kind");
@@ -97,15 +98,17 @@ void ParserTest::everyTextByteIsOneCharacter() {
 
 void ParserTest::bytesAbove7FAreDiscarded() {
     Parser parser;
-    for (int byte = 0x80; byte <= 0xFF; ++byte)
+    for (int byte = 0x80; byte <= 0xFF; ++byte) {
         QVERIFY(!parser.take(static_cast<std::uint8_t>(byte), true));
+    }
     QVERIFY(parser.take('A', true));
 }
 
 void ParserTest::closedKeyerSeesAdminCommandsOnly() {
     Parser parser;
-    for (int byte = 1; byte <= 0xFF; ++byte)
+    for (int byte = 1; byte <= 0xFF; ++byte) {
         QVERIFY(!parser.take(static_cast<std::uint8_t>(byte), false));
+    }
     QVERIFY(!parser.take(0, false));
     QCOMPARE(parser.take(2, false)->kind, CommandKind::Admin);
 }

@@ -21,8 +21,9 @@ void put(TextBuffer& buffer, std::string_view text) {
 
 std::string takeAll(TextBuffer& buffer) {
     std::string text;
-    while (const auto byte = buffer.take())
+    while (const auto byte = buffer.take()) {
         text += static_cast<char>(*byte);
+    }
     return text;
 }
 

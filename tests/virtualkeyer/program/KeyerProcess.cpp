@@ -18,14 +18,16 @@ KeyerProcess::KeyerProcess(const QTemporaryDir& runtime) : _runtime(runtime.path
 }
 
 KeyerProcess::~KeyerProcess() {
-    if (_process.state() != QProcess::NotRunning)
+    if (_process.state() != QProcess::NotRunning) {
         end(SIGKILL);
+    }
 }
 
 bool KeyerProcess::plugIn(const QStringList& arguments) {
     _process.start(QStringLiteral(KEYER_PROGRAM), arguments);
-    while (!errors().contains(u'\n') && _process.state() != QProcess::NotRunning)
+    while (!errors().contains(u'\n') && _process.state() != QProcess::NotRunning) {
         static_cast<void>(_process.waitForReadyRead(patience));
+    }
     return errors().startsWith(u"Plugged in as "_s);
 }
 

@@ -65,8 +65,9 @@ void NamedProfilesTest::everyOtherProfileDiffersInItsOwnWay() {
 
 void NamedProfilesTest::allDifferencesTogetherCoverEveryChoice() {
     unsigned covered = 0;
-    for (const NamedProfile& named : namedProfiles())
+    for (const NamedProfile& named : namedProfiles()) {
         covered |= differencesOf(profileNamed(named.name).value());
+    }
     QCOMPARE(covered, (1U << 13U) - 1U);
 }
 

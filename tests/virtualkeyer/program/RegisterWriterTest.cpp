@@ -123,8 +123,9 @@ void RegisterWriterTest::aCommandOfTheHostChangesTheFile() {
     const auto path = directory.filePath(u"registers"_s);
     RegisterWriter writer(path.toStdString());
     SerialKeyer keyer({}, {&writer});
-    for (const auto byte : std::to_array<std::uint8_t>({0x00, 0x02, 0x03, 60})) // open, weighting
+    for (const auto byte : std::to_array<std::uint8_t>({0x00, 0x02, 0x03, 60})) { // open, weighting
         keyer.send(byte, 0ms);
+    }
     keyer.advance(36ms);
     QVERIFY(allOf(path).contains(u"\nweighting 50\n"_s));
     keyer.advance(37ms);
@@ -137,10 +138,12 @@ void RegisterWriterTest::aLoadedMemoryChangesTheFile() {
     const auto path = directory.filePath(u"registers"_s);
     RegisterWriter writer(path.toStdString());
     SerialKeyer keyer({}, {&writer});
-    for (const auto byte : std::to_array<std::uint8_t>({0x00, 0x0D}))
+    for (const auto byte : std::to_array<std::uint8_t>({0x00, 0x0D})) {
         keyer.send(byte, 0ms);
-    for (const std::uint8_t byte : loadedImage())
+    }
+    for (const std::uint8_t byte : loadedImage()) {
         keyer.send(byte, 0ms);
+    }
     keyer.advance(3s);
     QVERIFY(allOf(path).contains(u"\nmemory-message1 CQ T\n"_s));
 }

@@ -27,16 +27,18 @@ const QByteArray fortyWpm("\x02\x28", 2);
 QByteArray echoesIn(const QByteArray& bytes) {
     QByteArray echoes;
     for (const char byte : bytes) {
-        if ((static_cast<unsigned char>(byte) & 0x80U) == 0)
+        if ((static_cast<unsigned char>(byte) & 0x80U) == 0) {
             echoes += byte;
+        }
     }
     return echoes;
 }
 
 QStringList linesOf(const QString& path) {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
+    if (!file.open(QIODevice::ReadOnly)) {
         return {};
+    }
     return QString::fromUtf8(file.readAll()).split(u'\n', Qt::SkipEmptyParts);
 }
 
@@ -45,8 +47,9 @@ QString effortOf(qint64 process) {
     const QString directory = u"/proc/%1/"_s.arg(process);
     QString effort;
     for (const QString& line : linesOf(directory + u"status"_s)) {
-        if (line.contains("ctxt_switches"_L1))
+        if (line.contains("ctxt_switches"_L1)) {
             effort += line + u' ';
+        }
     }
     const QStringList fields = linesOf(directory + u"stat"_s).value(0).split(u' ');
     return effort + fields.value(13) + u' ' + fields.value(14);
@@ -421,8 +424,9 @@ void VirtualKeyerProgramTest::helpListsOptionsAndProfiles() {
           u"default: a version 2 keyer"_s, u"late-echo:"_s, u"status-after-open:"_s,
           u"echo-then-idle:"_s, u"idle-then-echo:"_s, u"early-xoff:"_s, u"abrupt-clear:"_s,
           u"boot-loader:"_s, u"start-beep:"_s, u"no-memory-load:"_s, u"single-break-in:"_s,
-          u"repeat-after-pause:"_s})
+          u"repeat-after-pause:"_s}) {
         QVERIFY2(help.contains(word), qPrintable(word));
+    }
     QCOMPARE(keyer.errors(), QString());
 }
 

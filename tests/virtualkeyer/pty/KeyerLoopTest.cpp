@@ -32,8 +32,9 @@ class RunningKeyer {
           _loop(_keyer, _terminal),
           _end(std::async(std::launch::async, [this] { _loop.run(_stop.number()); })) {}
     ~RunningKeyer() {
-        if (_end.valid())
+        if (_end.valid()) {
             stop();
+        }
     }
 
     [[nodiscard]] FileDescriptor openPort() const {
@@ -42,8 +43,9 @@ class RunningKeyer {
     }
     void stop() {
         const std::uint64_t one = 1;
-        if (::write(_stop.number(), &one, sizeof one) < 0)
+        if (::write(_stop.number(), &one, sizeof one) < 0) {
             qFatal("cannot stop the keyer");
+        }
         _end.wait();
     }
     /// Rethrows what ended the loop.
@@ -63,8 +65,9 @@ class FailingListener : public KeyerListener {
 };
 
 void send(const FileDescriptor& port, const std::string& bytes) {
-    if (::write(port.number(), bytes.data(), bytes.size()) != static_cast<ssize_t>(bytes.size()))
+    if (::write(port.number(), bytes.data(), bytes.size()) != static_cast<ssize_t>(bytes.size())) {
         qFatal("the port takes no more");
+    }
 }
 
 /// The next `count` bytes; fewer when they do not come within 10 s.
@@ -73,8 +76,9 @@ std::string receive(const FileDescriptor& port, std::size_t count) {
     while (bytes.size() < count) {
         pollfd state{port.number(), POLLIN, 0};
         char byte = 0;
-        if (::poll(&state, 1, 10'000) != 1 || ::read(port.number(), &byte, 1) != 1)
+        if (::poll(&state, 1, 10'000) != 1 || ::read(port.number(), &byte, 1) != 1) {
             break;
+        }
         bytes += byte;
     }
     return bytes;

@@ -18,8 +18,9 @@ std::vector<std::int64_t> completionsOf(PacedLine& line) {
     std::vector<std::int64_t> times;
     while (const auto due = line.nextCompletion()) {
         const auto byte = line.take(*due);
-        if (!byte)
+        if (!byte) {
             return {};
+        }
         times.push_back(byte->completeAt.count());
     }
     return times;
@@ -66,8 +67,9 @@ void PacedLineTest::aByteIsNotTakenEarlyByANanosecond() {
 
 void PacedLineTest::aBurstOf256BytesTakes2Point35Seconds() {
     PacedLine line(1200);
-    for (int i = 0; i < 256; ++i)
+    for (int i = 0; i < 256; ++i) {
         line.put(static_cast<std::uint8_t>(i), 1s);
+    }
     const auto times = completionsOf(line);
     QCOMPARE(times.size(), 256U);
     QCOMPARE(times.back(), 1'000'000'000 + 2'346'666'667);
@@ -75,8 +77,9 @@ void PacedLineTest::aBurstOf256BytesTakes2Point35Seconds() {
 
 void PacedLineTest::roundingDoesNotAddUpOverARun() {
     PacedLine line(1200);
-    for (int i = 0; i < 6; ++i)
+    for (int i = 0; i < 6; ++i) {
         line.put(0, 0ns);
+    }
     const std::vector<std::int64_t> expected{9'166'667,  18'333'334, 27'500'000,
                                              36'666'667, 45'833'334, 55'000'000};
     QCOMPARE(completionsOf(line), expected);
@@ -108,11 +111,13 @@ void PacedLineTest::aByteHandedOverAsTheLastOneEndsFollowsWithoutAGap() {
 
 void PacedLineTest::bytesKeepTheirOrder() {
     PacedLine line(1200);
-    for (const std::uint8_t byte : std::array<std::uint8_t, 3>{3, 1, 2})
+    for (const std::uint8_t byte : std::array<std::uint8_t, 3>{3, 1, 2}) {
         line.put(byte, 0ns);
+    }
     std::vector<int> values;
-    while (const auto byte = line.take(1s))
+    while (const auto byte = line.take(1s)) {
         values.push_back(byte->value);
+    }
     QCOMPARE(values, (std::vector<int>{3, 1, 2}));
 }
 

@@ -28,14 +28,16 @@ class OtherKeyer {
   public:
     OtherKeyer(const std::string& runtimeDirectory, const std::string& target) {
         std::array<int, 2> ready{};
-        if (::pipe(ready.data()) < 0)
+        if (::pipe(ready.data()) < 0) {
             qFatal("no pipe");
+        }
         _process = ::fork();
         if (_process == 0) {
             const PortLink link(runtimeDirectory, "usbserial-virtual", target);
             [[maybe_unused]] const auto size = ::write(ready[1], "x", 1);
-            while (true)
+            while (true) {
                 ::pause();
+            }
         }
         char plugged = 0;
         ::close(ready[1]);
@@ -48,8 +50,9 @@ class OtherKeyer {
     [[nodiscard]] pid_t process() const { return _process; }
 
     void crash() {
-        if (_process <= 0)
+        if (_process <= 0) {
             return;
+        }
         ::kill(_process, SIGKILL);
         ::waitpid(_process, nullptr, 0);
         _process = 0;
@@ -203,12 +206,13 @@ void PortLinkTest::whatNoVirtualKeyerMadeIsRefusedAndLeftAlone() {
     QFETCH(QString, kind);
     const PseudoTerminal foreign;
     QVERIFY(QDir().mkpath(ports()));
-    if (kind == "link"_L1)
+    if (kind == "link"_L1) {
         QVERIFY(QFile::link(QString::fromStdString(foreign.slavePath()), linkPath()));
-    else if (kind == "file"_L1)
+    } else if (kind == "file"_L1) {
         QVERIFY(QFile(linkPath()).open(QIODevice::WriteOnly));
-    else
+    } else {
         QVERIFY(QDir().mkdir(linkPath()));
+    }
     QCOMPARE(refusal(), linkPath() + u" is in the way and no virtual keyer made it"_s);
     const QFileInfo info(linkPath());
     QCOMPARE(info.isSymLink(), kind == "link"_L1);

@@ -107,11 +107,13 @@ void PseudoTerminalTest::bytesGoBothWaysUnchanged() {
     QCOMPARE(::write(port.number(), special.data(), special.size()), 10);
     QVERIFY(waitFor(terminal.master()));
     QCOMPARE(readHost(terminal), special);
-    for (const char byte : special)
+    for (const char byte : special) {
         terminal.write(static_cast<std::uint8_t>(byte));
+    }
     std::string received;
-    while (received.size() < special.size() && waitFor(port.number()))
+    while (received.size() < special.size() && waitFor(port.number())) {
         received += readPort(port);
+    }
     QCOMPARE(received, special);
     QCOMPARE(readHost(terminal), std::string());
 }
@@ -135,8 +137,9 @@ void PseudoTerminalTest::openingAgainCountsAgain() {
         QCOMPARE(terminal.takeOpenings(), 1);
         QVERIFY(terminal.isOpenByApplication());
     }
-    for (int i = 0; i < 2; ++i)
+    for (int i = 0; i < 2; ++i) {
         const FileDescriptor port = openPort(terminal);
+    }
     QCOMPARE(terminal.takeOpenings(), 2);
     QVERIFY(!terminal.isOpenByApplication());
 }
@@ -214,8 +217,9 @@ void PseudoTerminalTest::aPortThatNobodyReadsLosesBytesAndDoesNotBlock() {
     PseudoTerminal terminal;
     const FileDescriptor port = openPort(terminal);
     QCOMPARE(terminal.takeOpenings(), 1);
-    for (int i = 0; i < 300'000; ++i)
+    for (int i = 0; i < 300'000; ++i) {
         terminal.write('x');
+    }
     QVERIFY(waitFor(port.number()));
     QVERIFY(!readPort(port).empty());
 }

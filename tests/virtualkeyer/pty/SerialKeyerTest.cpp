@@ -33,8 +33,9 @@ struct Arrival {
 };
 
 void sendTo(SerialKeyer& keyer, std::initializer_list<int> bytes, Time at) {
-    for (const int byte : bytes)
+    for (const int byte : bytes) {
         keyer.send(static_cast<std::uint8_t>(byte), at);
+    }
 }
 
 /// A keyer whose time passes from one due event to the next.
@@ -50,8 +51,9 @@ class Bench {
         std::vector<Arrival> arrivals;
         for (auto due = keyer.nextEvent(); due && *due <= end; due = keyer.nextEvent()) {
             keyer.advance(*due);
-            for (const std::uint8_t byte : keyer.takeArrived())
+            for (const std::uint8_t byte : keyer.takeArrived()) {
                 arrivals.push_back({byte, due->count()});
+            }
         }
         return arrivals;
     }
@@ -67,8 +69,9 @@ class Recorder : public KeyerListener {
     }
     void timePassed(Time now) override {
         lastTime = now;
-        if (wish && *wish <= now)
+        if (wish && *wish <= now) {
             wish.reset();
+        }
     }
     [[nodiscard]] std::optional<Time> nextWish() const override { return wish; }
 
@@ -150,8 +153,9 @@ void SerialKeyerTest::aLateCallGivesTheSameTimes() {
     for (Recorder* recorder : {&punctual, &late}) {
         Bench bench({recorder});
         bench.send({0x00, 0x02, 0x02, 40, 'C', 'Q', ' ', 'K'});
-        if (recorder == &punctual)
+        if (recorder == &punctual) {
             static_cast<void>(bench.runUntil(10s));
+        }
         bench.keyer.advance(10s);
     }
     QVERIFY(!punctual.events.empty());
