@@ -1,4 +1,5 @@
 #include "virtualkeyer/core/Machine.h"
+#include "virtualkeyer/core/Protocol.h"
 
 #include <algorithm>
 
@@ -8,43 +9,43 @@ namespace virtualkeyer {
 
 void Keyer::Machine::obeyAdmin(const Command& command) {
     Outbox& outbox = _board.outbox;
-    switch (command.code) {
-    case 1:
+    switch (static_cast<AdminCommand>(command.code)) {
+    case AdminCommand::Reset:
         return coldStart();
-    case 2:
+    case AdminCommand::Open:
         return open();
-    case 3:
+    case AdminCommand::Close:
         return close();
-    case 4:
+    case AdminCommand::Echo:
         return outbox.answer(command.parameters[0], _now);
-    case 5: // paddle A/D
-    case 6: // speed A/D
-    case 9:
+    case AdminCommand::ReadPaddle:
+    case AdminCommand::ReadSpeed:
+    case AdminCommand::ReadCalibration:
         return outbox.answer(0, _now);
-    case 7:
+    case AdminCommand::ReadValues:
         for (const std::uint8_t value : _board.registers.block()) {
             outbox.answer(value, _now);
         }
         return;
-    case 10:
+    case AdminCommand::Version1Status:
         return _board.status.selectVersion1();
-    case 11:
+    case AdminCommand::Version2Status:
         return _board.status.selectVersion2(_now);
-    case 12:
+    case AdminCommand::DumpMemory:
         for (const std::uint8_t byte : _memory.image()) {
             outbox.answer(byte, _now);
         }
         return;
-    case 13:
+    case AdminCommand::LoadMemory:
         return loadMemory(command.parameters);
-    case 14:
+    case AdminCommand::PlayMessage:
         if (!_paddle.isBreakingIn()) {
             _sender.play(_memory.message(command.parameters[0]), _now);
         }
         return;
-    case 17:
+    case AdminCommand::Baud9600:
         return setBaud(9600);
-    case 18:
+    case AdminCommand::Baud1200:
         return setBaud(1200);
     default:
         return;
@@ -53,57 +54,57 @@ void Keyer::Machine::obeyAdmin(const Command& command) {
 
 void Keyer::Machine::obeyImmediate(const Command& command) {
     const auto& parameters = command.parameters;
-    switch (command.code) {
-    case 0x01:
+    switch (static_cast<Opcode>(command.code)) {
+    case Opcode::Sidetone:
         return set(Register::Sidetone, parameters[0]);
-    case 0x02:
+    case Opcode::Speed:
         return set(Register::Speed, parameters[0]);
-    case 0x03:
+    case Opcode::Weighting:
         return set(Register::Weighting, parameters[0]);
-    case 0x04:
+    case Opcode::PttTimes:
         set(Register::LeadIn, parameters[0]);
         return set(Register::Tail, parameters[1]);
-    case 0x05:
+    case Opcode::PotSetup:
         set(Register::PotMinimum, parameters[0]);
         return set(Register::PotRange, parameters[1]);
-    case 0x06:
+    case Opcode::Pause:
         return _sender.setPaused(parameters[0] != 0, _now);
-    case 0x07:
+    case Opcode::ReadPot:
         return _board.outbox.answer(_board.registers.potByte(), _now);
-    case 0x08:
+    case Opcode::Backspace:
         return _sender.backspace(_now);
-    case 0x09:
+    case Opcode::PinConfiguration:
         return set(Register::PinConfiguration, parameters[0]);
-    case 0x0A:
+    case Opcode::ClearBuffer:
         return clear();
-    case 0x0B:
+    case Opcode::KeyImmediate:
         return keyImmediate(parameters[0] != 0);
-    case 0x0C:
+    case Opcode::HighSpeed:
         return _board.registers.setHighSpeed(parameters[0]);
-    case 0x0D:
+    case Opcode::Farnsworth:
         return set(Register::Farnsworth, parameters[0]);
-    case 0x0E:
+    case Opcode::Mode:
         return set(Register::Mode, parameters[0]);
-    case 0x0F:
+    case Opcode::LoadDefaults:
         _board.registers.load(std::span(parameters).first<Registers::count>());
         return registersChanged();
-    case 0x10:
+    case Opcode::FirstExtension:
         return set(Register::FirstExtension, parameters[0]);
-    case 0x11:
+    case Opcode::Compensation:
         return set(Register::Compensation, parameters[0]);
-    case 0x12:
+    case Opcode::Switchpoint:
         return set(Register::Switchpoint, parameters[0]);
-    case 0x14:
+    case Opcode::SoftwarePaddle:
         _softwarePaddle = parameters[0];
         return touchPaddle();
-    case 0x15:
+    case Opcode::ReadStatus:
         return _board.status.report(_now);
-    case 0x16:
+    case Opcode::MovePointer:
         if (!_paddle.isBreakingIn()) {
             _sender.movePointer(parameters, _now);
         }
         return;
-    case 0x17:
+    case Opcode::Ratio:
         return set(Register::Ratio, parameters[0]);
     default:
         return;

@@ -1,6 +1,7 @@
 #include "virtualkeyer/core/Parser.h"
 
 #include "virtualkeyer/core/Memory.h"
+#include "virtualkeyer/core/Protocol.h"
 
 #include <array>
 #include <utility>
@@ -8,11 +9,6 @@
 namespace virtualkeyer {
 
 namespace {
-
-constexpr std::uint8_t firstBuffered = 0x18;
-constexpr std::uint8_t firstText = 0x20;
-constexpr std::uint8_t lastText = 0x7F;
-constexpr std::uint8_t pointerCommand = 0x16;
 
 constexpr std::array<std::uint8_t, firstText> counts{
     0, 1, 1, 1, 2, 3, 1, 0,  // 00-07
@@ -22,17 +18,22 @@ constexpr std::array<std::uint8_t, firstText> counts{
 };
 
 std::size_t adminParameterCount(std::uint8_t number) {
-    switch (number) {
-    case 0:
-    case 4:
-    case 14:
-    case 15:
+    switch (static_cast<AdminCommand>(number)) {
+    case AdminCommand::Calibrate:
+    case AdminCommand::Echo:
+    case AdminCommand::PlayMessage:
+    case AdminCommand::LoadX1Mode:
         return 1;
-    case 13:
+    case AdminCommand::LoadMemory:
         return Memory::size;
     default:
         return 0;
     }
+}
+
+bool takesPosition(PointerMove move) {
+    return move == PointerMove::Overwrite || move == PointerMove::Append ||
+           move == PointerMove::InsertNulls;
 }
 
 } // namespace
@@ -50,9 +51,9 @@ std::optional<Command> Parser::take(std::uint8_t byte, bool isOpen) {
         _command->parameters.push_back(byte);
         --_missing;
         const bool movesPointer = _command->kind == CommandKind::Immediate &&
-                                  _command->code == pointerCommand &&
+                                  static_cast<Opcode>(_command->code) == Opcode::MovePointer &&
                                   _command->parameters.size() == 1;
-        if (movesPointer && byte >= 1 && byte <= 3) {
+        if (movesPointer && takesPosition(static_cast<PointerMove>(byte))) {
             ++_missing;
         }
     } else {
@@ -66,7 +67,7 @@ void Parser::reset() {
 }
 
 std::optional<Command> Parser::begin(std::uint8_t byte, bool isOpen) {
-    if (byte == 0) {
+    if (static_cast<Opcode>(byte) == Opcode::Admin) {
         _awaitsAdminNumber = true;
         return std::nullopt;
     }

@@ -35,17 +35,17 @@ void Sender::backspace(Time now) {
 
 void Sender::movePointer(std::span<const std::uint8_t> parameters, Time now) {
     const std::size_t value = parameters.size() > 1 ? parameters[1] : 0;
-    switch (parameters[0]) {
-    case 0:
+    switch (static_cast<PointerMove>(parameters[0])) {
+    case PointerMove::Reset:
         _buffer.reset();
         break;
-    case 1:
+    case PointerMove::Overwrite:
         _buffer.overwriteFrom(value);
         break;
-    case 2:
+    case PointerMove::Append:
         _buffer.appendFrom(value);
         break;
-    case 3:
+    case PointerMove::InsertNulls:
         _buffer.insertNulls(value);
         break;
     default:

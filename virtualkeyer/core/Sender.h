@@ -1,6 +1,7 @@
 #pragma once
 
 #include "virtualkeyer/core/Board.h"
+#include "virtualkeyer/core/Protocol.h"
 #include "virtualkeyer/core/TextBuffer.h"
 
 #include <deque>
@@ -74,7 +75,8 @@ class Sender {
     void rest(Phase phase, Time now);
     void wake(Time now);
     void fetch(Time now);
-    [[nodiscard]] bool obey(std::uint8_t code, Time now);
+    [[nodiscard]] bool obey(Opcode code, Time now);
+    [[nodiscard]] bool obey(Opcode code, std::uint8_t parameter, Time now);
     void holdTransmitter(bool holds, Time now);
     void selectOutputOrSpeed(std::uint8_t parameter, Time now);
     [[nodiscard]] bool beginText(std::uint8_t byte, Time now);

@@ -10,7 +10,6 @@ namespace virtualkeyer {
 
 namespace {
 
-constexpr std::uint8_t firstText = 0x20;
 constexpr std::size_t repeatedXoffThreshold = 21;
 constexpr std::string_view questionMark = "?";
 
@@ -31,42 +30,48 @@ void Sender::fetch(Time now) {
             _board.status.change(0, Status::Sending, now);
             return rest(Phase::Idle, now);
         }
-        if (*byte < firstText ? obey(*byte, now) : beginText(*byte, now)) {
+        if (*byte < firstText ? obey(static_cast<Opcode>(*byte), now) : beginText(*byte, now)) {
             return;
         }
     }
     rest(Phase::Held, now);
 }
 
-bool Sender::obey(std::uint8_t code, Time now) {
-    if (code == 0x1B) {
+bool Sender::obey(Opcode code, Time now) {
+    switch (code) {
+    case Opcode::Merge:
         return beginMerged(now);
-    }
-    if (code == 0x1E) {
+    case Opcode::EndTemporarySpeed:
         _board.registers.cancelTemporarySpeed();
         return false;
+    case Opcode::Ptt:
+    case Opcode::TimedKey:
+    case Opcode::Wait:
+    case Opcode::TemporarySpeed:
+    case Opcode::OutputOrHighSpeed: {
+        // A backspace may have dropped it.
+        const auto parameter = takeByte(now);
+        return parameter && obey(code, *parameter, now);
     }
-    if (code < 0x18 || code > 0x1D) {
+    default:
         return false;
     }
-    // Its parameter may have been dropped by a backspace.
-    const auto parameter = takeByte(now);
-    if (!parameter) {
-        return false;
-    }
+}
+
+bool Sender::obey(Opcode code, std::uint8_t parameter, Time now) {
     switch (code) {
-    case 0x18:
-        holdTransmitter(*parameter != 0, now);
+    case Opcode::Ptt:
+        holdTransmitter(parameter != 0, now);
         return false;
-    case 0x19:
-        return beginTimedKey(*parameter, now);
-    case 0x1A:
-        return beginWait(*parameter, now);
-    case 0x1C:
-        _board.registers.setTemporarySpeed(*parameter);
+    case Opcode::TimedKey:
+        return beginTimedKey(parameter, now);
+    case Opcode::Wait:
+        return beginWait(parameter, now);
+    case Opcode::TemporarySpeed:
+        _board.registers.setTemporarySpeed(parameter);
         return false;
     default:
-        selectOutputOrSpeed(*parameter, now);
+        selectOutputOrSpeed(parameter, now);
         return false;
     }
 }
