@@ -16,9 +16,9 @@ constexpr double plainHeight = 0.97;
 constexpr double tickLength = 4;
 
 QColor faint(const QPalette& palette, float alpha) {
-    auto colour = palette.color(QPalette::WindowText);
-    colour.setAlphaF(alpha);
-    return colour;
+    auto color = palette.color(QPalette::WindowText);
+    color.setAlphaF(alpha);
+    return color;
 }
 
 Milliseconds endOf(const std::vector<KeyDown>& wave) {
@@ -78,12 +78,12 @@ void KeyedWavePicture::paintGrid(QPainter& painter) const {
 }
 
 void KeyedWavePicture::paintWave(QPainter& painter, const std::vector<KeyDown>& wave, double height,
-                                 const QColor& colour) const {
+                                 const QColor& color) const {
     const auto area = waves();
     for (const auto& keyDown : wave) {
         const QRectF element(QPointF(xOf(keyDown.begin), area.bottom() - area.height() * height),
                              QPointF(xOf(keyDown.end), area.bottom()));
-        painter.fillRect(element, colour);
+        painter.fillRect(element, color);
     }
 }
 

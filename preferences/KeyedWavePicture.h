@@ -24,7 +24,7 @@ class KeyedWavePicture final : public QWidget {
     [[nodiscard]] double xOf(KeyedWave::Milliseconds time) const;
     void paintGrid(QPainter& painter) const;
     void paintWave(QPainter& painter, const std::vector<KeyedWave::KeyDown>& wave, double height,
-                   const QColor& colour) const;
+                   const QColor& color) const;
     void paintName(QPainter& painter, const std::vector<KeyedWave::KeyDown>& wave, double top,
                    double bottom, const QString& name, QPalette::ColorRole role) const;
     void paintScale(QPainter& painter) const;

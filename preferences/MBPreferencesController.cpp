@@ -191,7 +191,7 @@ MBPreferencesController::moduleForIdentifier(const QString& identifier) const {
 
 void MBPreferencesController::showWindow(const QObject*) {
     const auto frame =
-        WindowFrame::centred(_window.frameGeometry(), _window.screen()->availableGeometry());
+        WindowFrame::centered(_window.frameGeometry(), _window.screen()->availableGeometry());
     _window.move(frame.topLeft());
     _window.show();
     _window.raise();

@@ -10,9 +10,9 @@ namespace {
 constexpr int spacing = 3;
 
 /// Two neighbours of one colour would look like one message.
-QColor segmentColour(const QPalette& palette, bool isDarker) {
-    const auto colour = palette.color(QPalette::Highlight);
-    return isDarker ? colour.darker(130) : colour;
+QColor segmentColor(const QPalette& palette, bool isDarker) {
+    const auto color = palette.color(QPalette::Highlight);
+    return isDarker ? color.darker(130) : color;
 }
 
 } // namespace
@@ -81,7 +81,7 @@ void MemoryGauge::paintSegments(QPainter& painter) const {
         }
         const QRect place(left(begin), inside.top(), left(end) - left(begin), inside.height());
         const auto segment = QStyle::visualRect(layoutDirection(), inside, place);
-        painter.fillRect(segment, segmentColour(palette(), isDarker));
+        painter.fillRect(segment, segmentColor(palette(), isDarker));
         const auto number = locale().toString(static_cast<int>(i) + 1);
         if (segment.width() > fontMetrics().horizontalAdvance(number)) {
             painter.setPen(palette().color(QPalette::HighlightedText));

@@ -8,7 +8,7 @@ QRect forContent(const QRect& current, const QSize& content, const QSize& decora
     return {current.topLeft(), content + decoration};
 }
 
-QRect centred(const QRect& frame, const QRect& screen) {
+QRect centered(const QRect& frame, const QRect& screen) {
     return {screen.x() + std::max(0, (screen.width() - frame.width()) / 2),
             screen.y() + std::max(0, (screen.height() - frame.height()) / 2), frame.width(),
             frame.height()};

@@ -12,6 +12,6 @@ namespace WindowFrame {
 
 /// The frame, moved to the middle of `screen`; to the screen's top left corner in a direction in
 /// which it does not fit.
-[[nodiscard]] QRect centred(const QRect& frame, const QRect& screen);
+[[nodiscard]] QRect centered(const QRect& frame, const QRect& screen);
 
 } // namespace WindowFrame

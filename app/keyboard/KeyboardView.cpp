@@ -340,10 +340,10 @@ void KeyboardView::paintEvent(QPaintEvent* event) {
     if (_engine == nullptr) {
         return;
     }
-    auto colours = palette();
-    colours.setCurrentColorGroup(hasFocus() ? QPalette::Active : QPalette::Inactive);
+    auto colors = palette();
+    colors.setCurrentColorGroup(hasFocus() ? QPalette::Active : QPalette::Inactive);
     const auto cursor = textCursor();
-    const SendingMarks marks(_shownState, {cursor.selectionStart(), cursor.selectionEnd()}, colours,
+    const SendingMarks marks(_shownState, {cursor.selectionStart(), cursor.selectionEnd()}, colors,
                              event->rect());
     QPainter painter(viewport());
     painter.setClipRegion(event->region());

@@ -34,10 +34,10 @@ QRectF extent(const QTextLine& line, Range range) {
 }
 
 void underline(QPainter& painter, const QTextLine& line, const QRectF& extent,
-               const QColor& colour) {
+               const QColor& color) {
     const auto width = std::max(2.0, std::round(line.height() / 12));
     const auto y = extent.top() + line.ascent() + std::max(width, line.descent() / 2);
-    painter.setPen(QPen(colour, width, Qt::DotLine, Qt::FlatCap));
+    painter.setPen(QPen(color, width, Qt::DotLine, Qt::FlatCap));
     painter.drawLine(QPointF(extent.left(), y), QPointF(extent.right(), y));
 }
 

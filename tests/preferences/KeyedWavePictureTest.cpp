@@ -12,12 +12,12 @@ using namespace Qt::StringLiterals;
 namespace {
 
 /// How much of the pixel row at `height` (0 the scale, 1 the top of the waves) has the colour.
-double part(const QImage& image, double height, const QColor& colour) {
+double part(const QImage& image, double height, const QColor& color) {
     const int scale = QFontMetrics(QFont()).height() + 6;
     const int y = static_cast<int>((image.height() - scale) * (1 - height));
     int count = 0;
     for (int x = 0; x < image.width(); ++x) {
-        count += image.pixelColor(x, y) == colour ? 1 : 0;
+        count += image.pixelColor(x, y) == color ? 1 : 0;
     }
     return static_cast<double>(count) / image.width();
 }
@@ -38,7 +38,7 @@ class KeyedWavePictureTest : public QObject {
     void anyTextCanBePainted();
 
   private:
-    [[nodiscard]] static QColor colour() { return QPalette().color(QPalette::Highlight); }
+    [[nodiscard]] static QColor color() { return QPalette().color(QPalette::Highlight); }
 };
 
 void KeyedWavePictureTest::init() {
@@ -62,7 +62,7 @@ void KeyedWavePictureTest::theKeyedWaveIsAsWideAsItIsLong() {
     KeyedWavePicture picture;
     picture.resize(1300, 200);
     picture.setWord(u"AN"_s, {.weighting = weighting});
-    const auto painted = part(picture.grab().toImage(), 0.1, colour());
+    const auto painted = part(picture.grab().toImage(), 0.1, color());
     QVERIFY2(std::abs(painted - expected) < 0.03, qPrintable(QString::number(painted)));
 }
 
@@ -73,8 +73,8 @@ void KeyedWavePictureTest::timeRunsFromLeftToRightInEveryLanguage() {
     picture.setWord(u"B"_s, {}); // its dah comes first
     const auto image = picture.grab().toImage();
     const auto half = image.width() / 2;
-    QVERIFY(part(image.copy(0, 0, half, image.height()), 0.1, colour()) >
-            part(image.copy(half, 0, half, image.height()), 0.1, colour()));
+    QVERIFY(part(image.copy(0, 0, half, image.height()), 0.1, color()) >
+            part(image.copy(half, 0, half, image.height()), 0.1, color()));
 }
 
 void KeyedWavePictureTest::thePlainWaveStandsOutBehind() {
@@ -82,8 +82,8 @@ void KeyedWavePictureTest::thePlainWaveStandsOutBehind() {
     picture.resize(1300, 200);
     picture.setWord(u"AN"_s, {.weighting = 90});
     const auto image = picture.grab().toImage();
-    QVERIFY(part(image, 0.1, colour()) > 0.5);
-    QCOMPARE(part(image, 0.85, colour()), 0.0);
+    QVERIFY(part(image, 0.1, color()) > 0.5);
+    QCOMPARE(part(image, 0.85, color()), 0.0);
     const auto background = QPalette().color(QPalette::Base);
     // The plain wave fills 8 of 13 dits there, the grid's lines hardly anything.
     QVERIFY(part(image, 0.85, background) < 0.5);

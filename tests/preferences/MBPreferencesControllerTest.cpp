@@ -47,7 +47,7 @@ class MBPreferencesControllerTest : public QObject, private PreferencesWindowBen
     void aModuleIsSelectedByItsIdentifier();
     void noModuleLeavesTheWindowEmpty();
     void aModuleWithoutViewLeavesTheWindowEmpty();
-    void openingCentresTheWindow();
+    void openingCentersTheWindow();
     void closingAndOpeningShowsTheSame();
     void escapeStopsTheKeyer();
     void itemsAreReachedByKeyboard();
@@ -282,7 +282,7 @@ void MBPreferencesControllerTest::aModuleWithoutViewLeavesTheWindowEmpty() {
     QVERIFY(_one->view()->parent() != nullptr);
 }
 
-void MBPreferencesControllerTest::openingCentresTheWindow() {
+void MBPreferencesControllerTest::openingCentersTheWindow() {
     controller().setModules(list({_one}));
     show(0);
     auto& window = controller().window();

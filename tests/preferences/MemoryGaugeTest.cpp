@@ -22,7 +22,7 @@ class MemoryGaugeTest : public QObject {
     void itTellsWhichMessagesAreLeftOut();
     void theBarIsAsLongAsTheUse_data();
     void theBarIsAsLongAsTheUse();
-    void neighboursDifferInColour();
+    void neighborsDifferInColor();
 };
 
 void MemoryGaugeTest::itTellsTheUseInFigures() {
@@ -65,16 +65,16 @@ void MemoryGaugeTest::theBarIsAsLongAsTheUse() {
     QVERIFY(!isFull(231));
 }
 
-void MemoryGaugeTest::neighboursDifferInColour() {
+void MemoryGaugeTest::neighborsDifferInColor() {
     MemoryGauge gauge;
     gauge.resize(466, gauge.sizeHint().height());
     gauge.setShares(sharesOf({QString(40, u'E'), QString(), QString(40, u'E'), QString(40, u'E')}));
     const auto image = gauge.grab().toImage();
-    const auto colour = [&](int byte) { return image.pixelColor(1 + 2 * byte, 3); };
-    QCOMPARE(colour(0), colour(39));
-    QVERIFY(colour(39) != colour(40));
-    QVERIFY(colour(79) != colour(80));
-    QVERIFY(colour(119) != colour(120));
+    const auto color = [&](int byte) { return image.pixelColor(1 + 2 * byte, 3); };
+    QCOMPARE(color(0), color(39));
+    QVERIFY(color(39) != color(40));
+    QVERIFY(color(79) != color(80));
+    QVERIFY(color(119) != color(120));
 }
 
 static const RegisteredTest<MemoryGaugeTest> registered;

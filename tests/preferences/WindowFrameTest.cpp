@@ -10,8 +10,8 @@ class WindowFrameTest : public QObject {
   private Q_SLOTS:
     void aFrameFollowsItsContent_data();
     void aFrameFollowsItsContent();
-    void aFrameIsCentred_data();
-    void aFrameIsCentred();
+    void aFrameIsCentered_data();
+    void aFrameIsCentered();
 };
 
 void WindowFrameTest::aFrameFollowsItsContent_data() {
@@ -30,9 +30,9 @@ void WindowFrameTest::aFrameFollowsItsContent() {
     QCOMPARE(WindowFrame::forContent({40, 50, 306, 230}, content, {6, 30}), frame);
 }
 
-void WindowFrameTest::aFrameIsCentred_data() {
+void WindowFrameTest::aFrameIsCentered_data() {
     QTest::addColumn<QRect>("frame");
-    QTest::addColumn<QRect>("centred");
+    QTest::addColumn<QRect>("centered");
     QTest::newRow("on a screen beside the first")
         << QRect(0, 0, 300, 200) << QRect(1250, 230, 300, 200);
     QTest::newRow("too wide: its left is seen")
@@ -41,10 +41,10 @@ void WindowFrameTest::aFrameIsCentred_data() {
         << QRect(9, 9, 300, 900) << QRect(1250, 30, 300, 900);
 }
 
-void WindowFrameTest::aFrameIsCentred() {
+void WindowFrameTest::aFrameIsCentered() {
     QFETCH(QRect, frame);
-    QFETCH(QRect, centred);
-    QCOMPARE(WindowFrame::centred(frame, {1000, 30, 800, 600}), centred);
+    QFETCH(QRect, centered);
+    QCOMPARE(WindowFrame::centered(frame, {1000, 30, 800, 600}), centered);
 }
 
 static const RegisteredTest<WindowFrameTest> registered;

@@ -33,7 +33,7 @@ class KeyboardViewMarksTest : public QObject {
     };
 
     [[nodiscard]] Cell cellAt(int position, const QColor& background);
-    void setColours(const QColor& text, const QColor& background);
+    void setColors(const QColor& text, const QColor& background);
 
     std::optional<KeyboardStation> _station;
 };
@@ -47,7 +47,7 @@ void KeyboardViewMarksTest::init() {
     _station->view.setCursorWidth(0);
 }
 
-void KeyboardViewMarksTest::setColours(const QColor& text, const QColor& background) {
+void KeyboardViewMarksTest::setColors(const QColor& text, const QColor& background) {
     auto palette = _station->view.palette();
     palette.setColor(QPalette::Text, text);
     palette.setColor(QPalette::Base, background);
@@ -63,8 +63,8 @@ KeyboardViewMarksTest::Cell KeyboardViewMarksTest::cellAt(int position, const QC
     rect.setRight(view.cursorRect(cursor).left() - 1);
     const auto image = view.viewport()->grab(rect).toImage();
     const auto isInk = [&](int x, int y) {
-        const auto colour = image.pixelColor(x, y);
-        return std::abs(qGray(colour.rgb()) - qGray(background.rgb())) > 60;
+        const auto color = image.pixelColor(x, y);
+        return std::abs(qGray(color.rgb()) - qGray(background.rgb())) > 60;
     };
     Cell cell;
     const auto low = image.height() * 4 / 5;
@@ -90,7 +90,7 @@ void KeyboardViewMarksTest::shapesTellHowFarATextIsSent_data() {
 void KeyboardViewMarksTest::shapesTellHowFarATextIsSent() {
     QFETCH(const bool, isDark);
     QFETCH(const bool, isSelected);
-    isDark ? setColours(Qt::white, Qt::black) : setColours(Qt::black, Qt::white);
+    isDark ? setColors(Qt::white, Qt::black) : setColors(Qt::black, Qt::white);
     _station->engine().appendMessage(u"ttt"_s);
     _station->echo();
     if (isSelected) {
@@ -113,7 +113,7 @@ void KeyboardViewMarksTest::shapesTellHowFarATextIsSent() {
 }
 
 void KeyboardViewMarksTest::theMarksMoveOnWithEachEcho() {
-    setColours(Qt::black, Qt::white);
+    setColors(Qt::black, Qt::white);
     _station->engine().appendMessage(u"ttt"_s);
     for (int sent = 0; sent < 3; ++sent) {
         for (int i = 0; i < 3; ++i) {
@@ -137,7 +137,7 @@ void KeyboardViewMarksTest::sentTextIsPlain() {
 }
 
 void KeyboardViewMarksTest::whatIsBeingComposedBearsNoMark() {
-    setColours(Qt::black, Qt::white);
+    setColors(Qt::black, Qt::white);
     _station->pause();
     _station->keys(u"tt"_s);
     _station->key(Qt::Key_Left);

@@ -163,7 +163,7 @@ void LinuxDeviceRegistryTest::givesEachPropertyOfADevice() {
     QCOMPARE(_registry->stringProperty(usb, DeviceKey::ttyBaseName), u"usbserial-"_s);
     QCOMPARE(_registry->stringProperty(usb, DeviceKey::ttySuffix), u"A1"_s);
     QCOMPARE(_registry->stringProperty(usb, DeviceKey::clientType), u"IOSerialStream"_s);
-    QVERIFY(_registry->stringProperty(usb, u"IOColour"_s).isNull());
+    QVERIFY(_registry->stringProperty(usb, u"IOColor"_s).isNull());
     const auto link = named(u"keyer"_s);
     QCOMPARE(_registry->stringProperty(link, DeviceKey::dialinDevice), u"/dev/in/keyer"_s);
     QCOMPARE(_registry->stringProperty(link, DeviceKey::ttySuffix), u""_s);

@@ -24,8 +24,8 @@ class KeyerSendingTest : public QObject {
     void aWaitSetsItsBit();
     void aTimedKeyDownSetsTheWaitBit();
     void waitsAndTimedKeysOfNoSecondsAreNothing();
-    void bufferedSpeedHoldsUntilCancelled_data();
-    void bufferedSpeedHoldsUntilCancelled();
+    void bufferedSpeedHoldsUntilCanceled_data();
+    void bufferedSpeedHoldsUntilCanceled();
     void aCommandWithoutItsParameterIsDropped();
 };
 
@@ -255,7 +255,7 @@ void KeyerSendingTest::waitsAndTimedKeysOfNoSecondsAreNothing() {
     QCOMPARE(bench.host(), u"0 C4, 120 45, 240 C0"_s);
 }
 
-void KeyerSendingTest::bufferedSpeedHoldsUntilCancelled_data() {
+void KeyerSendingTest::bufferedSpeedHoldsUntilCanceled_data() {
     QTest::addColumn<QByteArray>("between");
     QTest::addColumn<QString>("keying");
     QTest::newRow("for later text too") << QByteArray("\x13") << u"120 489.167 120"_s;
@@ -264,7 +264,7 @@ void KeyerSendingTest::bufferedSpeedHoldsUntilCancelled_data() {
     QTest::newRow("not after its cancel") << QByteArray("\x1E") << u"120 489.167 60"_s;
 }
 
-void KeyerSendingTest::bufferedSpeedHoldsUntilCancelled() {
+void KeyerSendingTest::bufferedSpeedHoldsUntilCanceled() {
     QFETCH(QByteArray, between);
     KeyerBench bench;
     bench.open();
