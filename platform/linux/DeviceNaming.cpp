@@ -1,26 +1,8 @@
 #include "platform/linux/DeviceNaming.h"
 
+#include <QCollator>
+
 #include <algorithm>
-
-namespace {
-
-bool isDigit(QChar character) {
-    return character >= u'0' && character <= u'9';
-}
-
-/// Takes the digits at the start of `text` off it. Returns them without leading zeros.
-QStringView takeNumber(QStringView& text) {
-    const auto* const end = std::find_if_not(text.begin(), text.end(), isDigit);
-    const auto length = end - text.begin();
-    auto number = text.first(length);
-    text = text.sliced(length);
-    while (number.size() > 1 && number.front() == u'0') {
-        number = number.sliced(1);
-    }
-    return number;
-}
-
-} // namespace
 
 namespace DeviceNaming {
 
@@ -33,28 +15,16 @@ QString freeSuffix(const SerialDevice& device, const QSet<QString>& taken) {
 }
 
 bool comesNaturallyBefore(const QString& first, const QString& second) {
-    QStringView left = first;
-    QStringView right = second;
-    while (!left.isEmpty() && !right.isEmpty()) {
-        if (isDigit(left.front()) && isDigit(right.front())) {
-            const auto leftNumber = takeNumber(left);
-            const auto rightNumber = takeNumber(right);
-            if (leftNumber.size() != rightNumber.size()) {
-                return leftNumber.size() < rightNumber.size();
-            }
-            if (leftNumber != rightNumber) {
-                return leftNumber < rightNumber;
-            }
-        } else {
-            if (left.front() != right.front()) {
-                return left.front() < right.front();
-            }
-            left = left.sliced(1);
-            right = right.sliced(1);
-        }
-    }
+    // Of one language for everybody: the list has the same order on every desktop. The C locale
+    // would do, but knows no numbers.
+    static const auto collator = [] {
+        QCollator natural{QLocale(QLocale::English)};
+        natural.setNumericMode(true);
+        return natural;
+    }();
+    const auto order = collator.compare(first, second);
     // "a01" and "a1" are equal up to here; something must still tell them apart.
-    return left.isEmpty() && right.isEmpty() ? first < second : left.isEmpty();
+    return order != 0 ? order < 0 : first < second;
 }
 
 } // namespace DeviceNaming

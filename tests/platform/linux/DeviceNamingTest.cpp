@@ -2,6 +2,8 @@
 
 #include "tests/support/RegisteredTest.h"
 
+#include <QLocale>
+#include <QScopeGuard>
 #include <QTest>
 
 #include <algorithm>
@@ -14,6 +16,8 @@ class DeviceNamingTest : public QObject {
     void naturalOrder_data();
     void naturalOrder();
     void sortsManyNames();
+    void theOrderIsTheSameInEveryLanguage_data();
+    void theOrderIsTheSameInEveryLanguage();
     void suffix_data();
     void suffix();
 };
@@ -48,6 +52,23 @@ void DeviceNamingTest::sortsManyNames() {
     QStringList names{u"b"_s, u"a10"_s, u"a01"_s, u"a1"_s, u"a"_s, u"a2"_s};
     std::sort(names.begin(), names.end(), &DeviceNaming::comesNaturallyBefore);
     QCOMPARE(names, QStringList({u"a"_s, u"a01"_s, u"a1"_s, u"a2"_s, u"a10"_s, u"b"_s}));
+}
+
+void DeviceNamingTest::theOrderIsTheSameInEveryLanguage_data() {
+    QTest::addColumn<QLocale>("language");
+    QTest::newRow("none") << QLocale::c();
+    QTest::newRow("English") << QLocale(QLocale::English);
+    QTest::newRow("Estonian, whose z comes before t") << QLocale(QLocale::Estonian);
+    QTest::newRow("Swedish, whose ä comes after z") << QLocale(QLocale::Swedish);
+}
+
+void DeviceNamingTest::theOrderIsTheSameInEveryLanguage() {
+    QFETCH(QLocale, language);
+    const auto reset = qScopeGuard([before = QLocale()] { QLocale::setDefault(before); });
+    QLocale::setDefault(language);
+    QStringList names{u"z2"_s, u"ttyS10"_s, u"ttyS2"_s, u"ä1"_s, u"z10"_s};
+    std::sort(names.begin(), names.end(), &DeviceNaming::comesNaturallyBefore);
+    QCOMPARE(names, QStringList({u"ä1"_s, u"ttyS2"_s, u"ttyS10"_s, u"z2"_s, u"z10"_s}));
 }
 
 void DeviceNamingTest::suffix_data() {
