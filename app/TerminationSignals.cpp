@@ -1,6 +1,6 @@
 #include "app/TerminationSignals.h"
 
-#include <QSocketNotifier>
+#include "platform/Uninterrupted.h"
 
 #include <algorithm>
 #include <atomic>
@@ -8,7 +8,6 @@
 #include <csignal>
 #include <sys/eventfd.h>
 #include <system_error>
-#include <unistd.h>
 
 namespace {
 
@@ -24,6 +23,14 @@ void note(int) {
     errno = error;
 }
 
+FileDescriptor makeEvent() {
+    FileDescriptor event(::eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK));
+    if (!event.isValid()) {
+        throw std::system_error(errno, std::generic_category(), "eventfd");
+    }
+    return event;
+}
+
 [[nodiscard]] bool handle(void (*handler)(int)) {
     return std::ranges::all_of(handledSignals, [handler](int number) {
         struct sigaction action = {};
@@ -35,13 +42,10 @@ void note(int) {
 
 } // namespace
 
-TerminationSignals::TerminationSignals(QObject* parent) : QObject(parent) {
-    eventDescriptor = ::eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK);
-    if (eventDescriptor < 0) {
-        throw std::system_error(errno, std::generic_category(), "eventfd");
-    }
-    _notifier = new QSocketNotifier(eventDescriptor, QSocketNotifier::Read, this);
-    QObject::connect(_notifier, &QSocketNotifier::activated, this, &TerminationSignals::drain);
+TerminationSignals::TerminationSignals(QObject* parent)
+    : QObject(parent), _event(makeEvent()), _notifier(_event.get(), QSocketNotifier::Read) {
+    QObject::connect(&_notifier, &QSocketNotifier::activated, this, &TerminationSignals::drain);
+    eventDescriptor = _event.get();
     if (!handle(note)) {
         throw std::system_error(errno, std::generic_category(), "sigaction");
     }
@@ -49,13 +53,12 @@ TerminationSignals::TerminationSignals(QObject* parent) : QObject(parent) {
 
 TerminationSignals::~TerminationSignals() {
     static_cast<void>(handle(SIG_DFL));
-    delete _notifier;
-    ::close(eventDescriptor.exchange(-1));
+    eventDescriptor = -1;
 }
 
 void TerminationSignals::drain() {
     eventfd_t count = 0;
-    if (::eventfd_read(eventDescriptor, &count) == 0) {
+    if (uninterrupted([&] { return ::eventfd_read(_event.get(), &count); }) == 0) {
         Q_EMIT requested();
     }
 }

@@ -1,10 +1,9 @@
 #pragma once
 
+#include "platform/FileDescriptor.h"
+
 #include <QObject>
-
-#include <memory>
-
-class QSocketNotifier;
+#include <QSocketNotifier>
 
 /// Turns SIGTERM, SIGINT, SIGHUP and SIGQUIT into a signal of the event loop, so that a killed
 /// program leaves by the same way as one that is quit: with the key up and the keyer out of host
@@ -24,5 +23,6 @@ class TerminationSignals final : public QObject {
   private:
     void drain();
 
-    QSocketNotifier* _notifier;
+    FileDescriptor _event;
+    QSocketNotifier _notifier;
 };

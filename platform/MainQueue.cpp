@@ -1,11 +1,10 @@
 #include "platform/MainQueue.h"
 
-#include <QSocketNotifier>
+#include "platform/Uninterrupted.h"
 
 #include <cerrno>
 #include <sys/eventfd.h>
 #include <system_error>
-#include <unistd.h>
 
 struct MainQueue::Job {
     enum class State { Waiting, Running, Finished, Dropped };
@@ -14,22 +13,27 @@ struct MainQueue::Job {
     State state = State::Waiting;
 };
 
+namespace {
+
+FileDescriptor makeEvent() {
+    FileDescriptor event(::eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK | EFD_SEMAPHORE));
+    if (!event.isValid()) {
+        throw std::system_error(errno, std::generic_category(), "eventfd");
+    }
+    return event;
+}
+
+} // namespace
+
 // The queue and its wake-up are made of the C++ library's mutex and of a descriptor, not of Qt's
 // event posting: what one thread wrote before adding work is then visibly written before the main
 // thread reads it, to the reader of this code and to the thread sanitizer alike.
-MainQueue::MainQueue()
-    : _eventDescriptor(::eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK | EFD_SEMAPHORE)) {
-    if (_eventDescriptor < 0) {
-        throw std::system_error(errno, std::generic_category(), "eventfd");
-    }
-    _notifier = new QSocketNotifier(_eventDescriptor, QSocketNotifier::Read, this);
-    QObject::connect(_notifier, &QSocketNotifier::activated, this, &MainQueue::runOne);
+MainQueue::MainQueue() : _event(makeEvent()), _notifier(_event.get(), QSocketNotifier::Read) {
+    QObject::connect(&_notifier, &QSocketNotifier::activated, this, &MainQueue::runOne);
 }
 
 MainQueue::~MainQueue() {
     shutDown();
-    delete _notifier;
-    ::close(_eventDescriptor);
 }
 
 void MainQueue::async(Work work) {
@@ -74,7 +78,7 @@ bool MainQueue::add(const std::shared_ptr<Job>& job) {
     }
     // One count per job: the descriptor stays readable while jobs wait, so that an event loop
     // run by one job goes on with the next.
-    ::eventfd_write(_eventDescriptor, 1);
+    static_cast<void>(uninterrupted([this] { return ::eventfd_write(_event.get(), 1); }));
     return true;
 }
 
@@ -94,7 +98,7 @@ std::shared_ptr<MainQueue::Job> MainQueue::takeFirst() {
 
 void MainQueue::runOne() {
     eventfd_t count = 0;
-    if (::eventfd_read(_eventDescriptor, &count) != 0) {
+    if (uninterrupted([&] { return ::eventfd_read(_event.get(), &count); }) != 0) {
         return;
     }
     if (const auto job = takeFirst()) {

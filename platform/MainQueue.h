@@ -1,6 +1,9 @@
 #pragma once
 
+#include "platform/FileDescriptor.h"
+
 #include <QObject>
+#include <QSocketNotifier>
 
 #include <condition_variable>
 #include <deque>
@@ -8,8 +11,6 @@
 #include <memory>
 #include <mutex>
 #include <stop_token>
-
-class QSocketNotifier;
 
 /// The main thread's event loop as a queue of work that any thread may add to.
 ///
@@ -48,6 +49,6 @@ class MainQueue final : public QObject {
     std::condition_variable_any _changed;
     std::deque<std::shared_ptr<Job>> _jobs;
     bool _isShutDown = false;
-    int _eventDescriptor;
-    QSocketNotifier* _notifier;
+    FileDescriptor _event;
+    QSocketNotifier _notifier;
 };
