@@ -3,11 +3,12 @@
 #include "virtualkeyer/core/KeyLineDecoder.h"
 #include "virtualkeyer/core/Memory.h"
 #include "virtualkeyer/core/MorseTable.h"
-#include "virtualkeyer/pty/SystemFailure.h"
+
+#include <QFile>
+#include <QSaveFile>
 
 #include <array>
-#include <cstdio>
-#include <memory>
+#include <stdexcept>
 #include <string_view>
 #include <utility>
 
@@ -35,10 +36,6 @@ std::string textOf(const std::vector<std::string>& letters) {
     }
     return text;
 }
-
-struct Closing {
-    void operator()(std::FILE* file) const { std::fclose(file); }
-};
 
 } // namespace
 
@@ -77,13 +74,12 @@ void RegisterWriter::keyerHolds(const Registers& registers, const Memory& memory
 }
 
 void RegisterWriter::write() const {
-    const std::string newPath = _path + ".new";
-    std::unique_ptr<std::FILE, Closing> file(std::fopen(newPath.c_str(), "we"));
-    const bool isWritten = file && std::fputs(_text.c_str(), file.get()) >= 0 &&
-                           std::fclose(file.release()) == 0 &&
-                           std::rename(newPath.c_str(), _path.c_str()) == 0;
+    QSaveFile file(QFile::decodeName(_path.c_str()));
+    const bool isWritten =
+        file.open(QIODevice::WriteOnly) && file.write(_text.c_str()) >= 0 && file.commit();
     if (!isWritten) {
-        throwSystemFailure("cannot write the registers " + _path);
+        throw std::runtime_error("cannot write the registers " + _path + ": " +
+                                 file.errorString().toStdString());
     }
 }
 

@@ -12,7 +12,7 @@ namespace virtualkeyer {
 [[nodiscard]] std::string registerText(const Registers& registers, const Memory& memory);
 
 /// Keeps a file up to date with what the keyer holds. Each change replaces the file as a whole, so
-/// that who reads it never sees a half of it. Throws std::system_error when it cannot be written.
+/// that who reads it never sees a half of it. Throws std::runtime_error when it cannot be written.
 class RegisterWriter : public KeyerListener {
   public:
     /// Makes the file or empties it.

@@ -13,6 +13,7 @@
 #include <csignal>
 #include <cstdio>
 #include <optional>
+#include <stdexcept>
 
 using namespace virtualkeyer;
 
@@ -70,7 +71,7 @@ int main(int argc, char* argv[]) {
     try {
         writeTo(commandLine.transcriptPath, transcript, listeners);
         writeTo(commandLine.registersPath, registers, listeners);
-    } catch (const std::system_error& error) {
+    } catch (const std::runtime_error& error) {
         return complain(error.what(), badOptions);
     }
     try {
