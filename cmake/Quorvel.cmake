@@ -57,6 +57,10 @@ function(quorvel_tests program)
         RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests)
     target_link_libraries(${program} PRIVATE ${arg_LINK} tests-main-${QUORVEL_PRECOMPILED}
         Qt6::Test quorvel-flags)
+    # The toolkit's newer macros that wait count their milliseconds in an int.
+    if(Qt6_VERSION VERSION_GREATER_EQUAL 6.5)
+        target_compile_options(${program} PRIVATE -Wno-conversion)
+    endif()
     target_precompile_headers(${program} REUSE_FROM precompiled-${QUORVEL_PRECOMPILED}-test)
     list(TRANSFORM arg_WRAP PREPEND -Wl,--wrap= OUTPUT_VARIABLE wrapped)
     target_link_options(${program} PRIVATE ${wrapped})

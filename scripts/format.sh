@@ -4,6 +4,8 @@ set -euo pipefail
 source scripts/lib/packages.sh
 source scripts/lib/sources.sh
 require_packages format
+source scripts/lib/owner.sh
+hand_over_to_owner
 
 mapfile -t files < <(cpp_files)
 if [[ ${1:-} == --check ]]; then

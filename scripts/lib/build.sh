@@ -1,4 +1,8 @@
-# Configures and builds presets. To be sourced.
+# Configures and builds presets. To be sourced when the packages are there, by the script itself: in
+# somebody else's tree, root's script starts anew here as that user.
+
+source scripts/lib/owner.sh
+hand_over_to_owner
 
 # CMake takes the compiler cache from here when it configures a build directory for the first time.
 if command -v ccache >/dev/null; then
