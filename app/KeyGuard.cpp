@@ -15,6 +15,12 @@ namespace {
 /// Several signs fit into the silence that the guard puts up with.
 constexpr Clock::Duration signInterval = silenceLimit / 6;
 
+QString noGuard() {
+    return KeyGuard::tr(
+        "The key guard does not run: should Quorvel crash or hang while tune is on, "
+        "the key stays down. Install Quorvel again.");
+}
+
 } // namespace
 
 KeyGuard::KeyGuard(WinKeyerUsb& engine, const QString& program)
@@ -62,6 +68,7 @@ void KeyGuard::start() {
     } catch (const std::system_error& error) {
         logLine(u"The key guard %1 does not start: %2"_s.arg(
             _program, QString::fromStdString(error.code().message())));
+        Q_EMIT hasNoGuard(noGuard());
         return;
     }
     connect(_guard.get(), &KeyGuardProcess::ended, this, &KeyGuard::guardHasEnded);
@@ -110,11 +117,18 @@ void KeyGuard::guardHasEnded(std::optional<GuardEnd> how) {
     if (how == GuardEnd::AfterSilence) {
         logLine(u"The key guard let go of the key: there was no sign of life while tuning"_s);
         _engine.setTuneState(0);
-        Q_EMIT hasLetGo();
+        Q_EMIT hasLetGo(
+            tr("Quorvel did not react for %1 s while tune was on, and the key was let go of.")
+                .arg(std::chrono::ceil<std::chrono::seconds>(silenceLimit).count()));
         return;
     }
     logLine(u"The key guard has ended"_s);
-    if (!std::exchange(_isReplacement, true) && _port && _port->isOpen()) {
-        start();
+    if (!_port || !_port->isOpen()) {
+        return;
     }
+    if (std::exchange(_isReplacement, true)) {
+        Q_EMIT hasNoGuard(noGuard());
+        return;
+    }
+    start();
 }

@@ -30,8 +30,11 @@ class KeyGuard final : public QObject {
 
   Q_SIGNALS:
     /// The application was silent while it tuned, and the guard has let go of the key and ended
-    /// host mode: tune is off by now, and the link has to be set up again.
-    void hasLetGo();
+    /// host mode: tune is off by now, and the link has to be set up again. With what to tell the
+    /// operator.
+    void hasLetGo(const QString& notice);
+    /// The link has no guard; with what to tell the operator.
+    void hasNoGuard(const QString& notice);
 
   private:
     void followLink();

@@ -54,6 +54,7 @@ void Termination::terminate() {
     if (!std::exchange(_hasBegun, true)) {
         Q_EMIT begun();
         _delegate.applicationShouldTerminate();
+        Q_EMIT hasLeftKeyer();
         NotificationCenter::defaultCenter().post(NSApplicationWillTerminateNotification, nullptr);
     }
     QCoreApplication::exit();
@@ -67,6 +68,7 @@ void Termination::terminateWithoutDesktop() {
         engine.setTuneState(0);
         engine.tune(nullptr);
         static_cast<void>(engine.disconnect(nullptr));
+        Q_EMIT hasLeftKeyer();
     }
 }
 

@@ -31,6 +31,8 @@ class Termination final : public QObject {
   Q_SIGNALS:
     /// Once, before the link is taken down.
     void begun();
+    /// Once, when the link has been taken down.
+    void hasLeftKeyer();
 
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override;

@@ -2,6 +2,7 @@
 #include "app/EscapeKey.h"
 #include "app/FieldEdges.h"
 #include "app/KeyGuard.h"
+#include "app/KeyingRecord.h"
 #include "app/MenuShield.h"
 #include "app/QuorvelDelegate.h"
 #include "app/SettingsFileAlert.h"
@@ -64,8 +65,8 @@ int run(SingleInstance& instance) {
 
     QuorvelDelegate delegate;
     const KeyGuard guard(WinKeyerUsb::sharedInstance(), KeyGuardProcess::standardProgram());
-    QObject::connect(&guard, &KeyGuard::hasLetGo, &delegate,
-                     [&] { delegate.changeSerialPort(nullptr); });
+    // Ahead of whatever sends: a key that was left down is let go of first.
+    KeyingRecord keyingRecord(WinKeyerUsb::sharedInstance(), KeyingRecord::standardPath());
     // Ahead of the port manager, which is made at launch: before the machine sleeps, the window has
     // to let go of the transmitter while the port is still open.
     MainWindow window(WinKeyerUsb::sharedInstance());
@@ -80,6 +81,13 @@ int run(SingleInstance& instance) {
     QObject::connect(&delegate, &QuorvelDelegate::serialPortNameArrayChanged, &preferences,
                      [&] { preferences.setSerialPortNames(delegate.serialPortNameArray()); });
 
+    QObject::connect(&keyingRecord, &KeyingRecord::keyLetGo, &window, &MainWindow::say);
+    QObject::connect(&guard, &KeyGuard::hasNoGuard, &window, &MainWindow::say);
+    QObject::connect(&guard, &KeyGuard::hasLetGo, &window, [&](const QString& notice) {
+        window.say(notice);
+        delegate.changeSerialPort(nullptr);
+    });
+
     const MenuShield menuShield;
     const TypingWatch typingWatch;
     const EscapeKey escape;
@@ -88,6 +96,7 @@ int run(SingleInstance& instance) {
 
     Termination termination(delegate);
     QObject::connect(&window, &MainWindow::quitRequested, &termination, &Termination::terminate);
+    QObject::connect(&termination, &Termination::hasLeftKeyer, &keyingRecord, &KeyingRecord::close);
     // By the time the event loop comes round again, in an alert of the way out, the port is free.
     QObject::connect(&termination, &Termination::begun, &instance, &SingleInstance::leave,
                      Qt::QueuedConnection);

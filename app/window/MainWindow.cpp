@@ -48,6 +48,8 @@ MainWindow::MainWindow(WinKeyerUsb& engine)
     setUpMessages();
     _ui->keyboardView->setEngine(_engine);
     _ui->keyboardView->setFocus();
+    QObject::connect(_ui->noticeStrip, &NoticeStrip::hasGivenUpFocus, _ui->keyboardView,
+                     [this] { _ui->keyboardView->setFocus(); });
     setUpContact();
     setUpSwitches();
     setUpMenus();
@@ -151,6 +153,10 @@ void MainWindow::stop() {
 
 void MainWindow::letGoOfTune() {
     _tuneSwitch->letGo();
+}
+
+void MainWindow::say(const QString& notice) {
+    _ui->noticeStrip->say(notice);
 }
 
 void MainWindow::showGuide() {

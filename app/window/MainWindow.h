@@ -29,6 +29,8 @@ class MainWindow final : public QMainWindow {
     void letGoOfTune();
     /// Lets go of Tune, empties the keyer's buffer, and forgets the text.
     void stop();
+    /// Tells the operator in the window what has happened; see NoticeStrip.
+    void say(const QString& notice);
     /// Has the operator see the window, also when it is minimised or closed; with the token that
     /// the desktop gave for that, or an empty one.
     void comeToFront(const QString& activationToken);

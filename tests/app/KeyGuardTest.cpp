@@ -156,6 +156,7 @@ void KeyGuardTest::aMainThreadThatHangsInTuneLosesTheKey() {
     tune(true);
     QSignalSpy spy(&*_guard, &KeyGuard::hasLetGo);
     QVERIFY(spy.wait(10000));
+    QVERIFY(spy.first().first().toString().contains(u"3 s"));
     QCOMPARE(_bench->written(), lastWords.toHex(' '));
     QCOMPARE(_bench->engine().tuneState(), 0);
     QVERIFY(!hasGuard());
@@ -163,12 +164,13 @@ void KeyGuardTest::aMainThreadThatHangsInTuneLosesTheKey() {
 
 void KeyGuardTest::aGuardThatSomethingEndedIsReplacedOnce() {
     QVERIFY(_bench->connect());
+    QSignalSpy complaints(&*_guard, &KeyGuard::hasNoGuard);
     const auto first = _guard->processIdentifier();
     ::kill(first, SIGKILL);
     QTRY_VERIFY(hasGuard() && _guard->processIdentifier() != first);
+    QCOMPARE(complaints.size(), 0);
     ::kill(_guard->processIdentifier(), SIGKILL);
-    QTRY_VERIFY(!hasGuard());
-    QTest::qWait(50);
+    QTRY_COMPARE(complaints.size(), 1);
     QVERIFY(!hasGuard());
     QCOMPARE(_bench->written(), "");
     QVERIFY(_bench->engine().disconnect(nullptr));
@@ -178,9 +180,11 @@ void KeyGuardTest::aGuardThatSomethingEndedIsReplacedOnce() {
 
 void KeyGuardTest::withoutItsProgramTheLinkStands() {
     _guard.emplace(_bench->engine(), u"/nowhere/guard"_s);
+    QSignalSpy complaints(&*_guard, &KeyGuard::hasNoGuard);
     const LogKeeper log;
     QVERIFY(_bench->connect());
     QVERIFY(!hasGuard());
+    QCOMPARE(complaints.size(), 1);
     QCOMPARE(
         log.lines(),
         QStringList{u"The key guard /nowhere/guard does not start: No such file or directory"_s});

@@ -76,7 +76,9 @@ void TerminationTest::runLoop(const std::function<void()>& action) {
 }
 
 void TerminationTest::theLinkIsTakenDownAndEveryoneTold() {
+    const QSignalSpy partings(&*_termination, &Termination::hasLeftKeyer);
     runLoop([this] { _termination->terminate(); });
+    QCOMPARE(partings.size(), 1);
     QCOMPARE(_bench->written(), "00 03");
     QVERIFY(!_bench->engine().isConnected());
     QCOMPARE(_tellings, 1);
@@ -138,7 +140,9 @@ void TerminationTest::theSessionsEndTakesTheWayOut() {
 void TerminationTest::anExitWithoutTheDesktopLeavesTheKeyer() {
     _bench->engine().setTuneState(1);
     QSignalSpy changes(&_bench->engine(), &WinKeyerUsb::tuneStateChanged);
+    const QSignalSpy partings(&*_termination, &Termination::hasLeftKeyer);
     _termination->terminateWithoutDesktop();
+    QCOMPARE(partings.size(), 1);
     QCOMPARE(_bench->written(), "0b 00 00 03");
     QVERIFY(!_bench->engine().isConnected());
     QCOMPARE(changes.size(), 0);

@@ -93,7 +93,8 @@ class ProgramTest(unittest.TestCase):
         self.runtime = self.home / "runtime"
         self.runtime.mkdir(parents=True, mode=0o700)
         self.environment = dict(self.desktop.environment, XDG_RUNTIME_DIR=str(self.runtime),
-                                XDG_CONFIG_HOME=str(self.home / "config"))
+                                XDG_CONFIG_HOME=str(self.home / "config"),
+                                XDG_STATE_HOME=str(self.home / "state"))
         self.settings = self.home / "config/quorvel/quorvel.conf"
 
     def write_settings(self, text):

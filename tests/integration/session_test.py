@@ -5,8 +5,16 @@ Usage: session_test.py QUORVEL VIRTUAL_KEYER [TEST...]
 
 import os
 import signal
+import subprocess
 
 from program import PORT, QUORVEL, SETTINGS, ProgramTest, run_tests
+
+
+def guards_of(quorvel):
+    """The processes of its key guards."""
+    found = subprocess.run(["pgrep", "-P", str(quorvel.pid), "quorvel-key-gua"], text=True,
+                           stdout=subprocess.PIPE, check=False)
+    return [int(each) for each in found.stdout.split()]
 
 
 class SessionTest(ProgramTest):
@@ -90,6 +98,34 @@ class SessionTest(ProgramTest):
         keyer.wait_for("the end of host mode", keyer.is_left)
         self.expect_closed(keyer)
 
+    def test_the_next_start_lets_go_of_a_key_that_nobody_else_could(self):
+        """Whatever ended the program ended its guard as well."""
+        keyer, quorvel, window = self.start_connected()
+        window.find("Tune").press()
+        keyer.wait_for("the key", keyer.is_key_down)
+        for guard in guards_of(quorvel):
+            os.kill(guard, signal.SIGKILL)
+        # It replaces one that is killed, once.
+        quorvel.wait_for("another guard", lambda: guards_of(quorvel))
+        for process in guards_of(quorvel) + [quorvel.pid]:
+            os.kill(process, signal.SIGSTOP)
+        for process in guards_of(quorvel) + [quorvel.pid]:
+            os.kill(process, signal.SIGKILL)
+        quorvel.status()
+        self.assertTrue(keyer.is_key_down())
+
+        quorvel = self.start_quorvel()
+        window = self.active_window(quorvel)
+        keyer.wait_for("the key to rise", lambda: not keyer.is_key_down())
+        quorvel.wait_for("the notice", lambda: any(
+            "ended while tune was on" in each.name() for each in window.all()))
+        window.find("Close notice").press()
+        quorvel.wait_for("the notice to go", lambda: not any(
+            "ended while tune was on" in each.name() and each.is_in_state("showing")
+            for each in window.all()))
+        self.terminate(keyer, quorvel)
+        self.assertFalse((self.home / "state/quorvel/keying").exists())
+
     def test_a_program_that_hangs_in_tune_loses_the_key_and_goes_on(self):
         keyer, quorvel, window = self.start_connected()
         window.find("Tune").press()
@@ -97,6 +133,8 @@ class SessionTest(ProgramTest):
         quorvel.send(signal.SIGSTOP)
         keyer.wait_for("the key to rise", lambda: not keyer.is_key_down())
         quorvel.send(signal.SIGCONT)
+        quorvel.wait_for("the notice", lambda: any(
+            "did not react" in each.name() for each in window.all()))
         quorvel.wait_for("Tune to be off", lambda: not window.find("Tune").is_in_state("checked"))
         self.wait_for_speed(quorvel, window)
         self.desktop.type("k")

@@ -24,6 +24,9 @@ constexpr QSize smallScreen(790, 560);
 
 /// One of the longest texts that the window has to show.
 constexpr auto longPort = "usbserial-A10KMNOP-1-1.4.2"_L1;
+constexpr auto longNotice =
+    "Quorvel ended while tune was on. The key may have stayed down; it has been "
+    "let go of now."_L1;
 
 } // namespace
 
@@ -99,7 +102,10 @@ void MainWindowLayoutTest::nothingIsCutOff() {
     open();
     _bench->engine().setSerialNumber(123456);
     _bench->engine().setHisCallsign(u"W9XYZ/P"_s);
-    for (const int tuned : {0, 1}) {
+    for (const int tuned : {0, 1, 0}) {
+        if (_bench->engine().tuneState() != 0) {
+            _window->say(longNotice);
+        }
         _bench->engine().setTuneState(tuned);
         QCoreApplication::processEvents();
         const auto least = _window->minimumSizeHint();

@@ -37,6 +37,7 @@ class MainWindowTest : public QObject, private MainWindowFixture {
     void theirCallTakesOnlyCallSigns();
     void theSerialNumberIsSteppedAndTyped();
     void theSerialNumberIsSteppedByKeysFromAnywhere();
+    void aNoticeClosedByKeyGivesTheKeyboardToTheText();
     void pauseFollowsTheEngineBothWays();
     void aToolTipTellsWhatWouldBeSent();
     void aLongLabelDoesNotWidenTheWindow();
@@ -148,6 +149,16 @@ void MainWindowTest::theSerialNumberIsSteppedAndTyped() {
     QCOMPARE(box->value(), 1000000);
 }
 
+void MainWindowTest::aNoticeClosedByKeyGivesTheKeyboardToTheText() {
+    _window->say(u"The key was let go of."_s);
+    auto* close = find<QToolButton>(u"closeNoticeButton"_s);
+    close->setFocus();
+    QVERIFY(close->hasFocus());
+    QTest::keyClick(close, Qt::Key_Space);
+    QVERIFY(!close->isVisible());
+    QVERIFY(find<QWidget>(u"keyboardView"_s)->hasFocus());
+}
+
 void MainWindowTest::pauseFollowsTheEngineBothWays() {
     auto* pause = find<QPushButton>(u"pauseButton"_s);
     QTest::mouseClick(pause, Qt::LeftButton);
@@ -174,7 +185,7 @@ void MainWindowTest::aClickOnAButtonLeavesTheFocusWhereItWas() {
             ++count;
         }
     }
-    QCOMPARE(count, 3 * 15);
+    QCOMPARE(count, 3 * 16);
 }
 
 /// The spaces of it work nothing.
