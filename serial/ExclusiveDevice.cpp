@@ -11,34 +11,49 @@
 
 namespace {
 
-// Each lock keeps out openers that the other lets in: the first those who ask for it, the second
-// all but root. A file system that has no locks is no reason to do without the device; a node
-// that refuses exclusive mode is no live terminal.
+// A file system that has no locks is no reason to do without the device.
 bool lock(const FileDescriptor& descriptor) {
     const int result = uninterrupted([&] { return ::flock(descriptor.get(), LOCK_EX | LOCK_NB); });
-    if (result != 0 && errno == EWOULDBLOCK) {
+    return result == 0 || errno != EWOULDBLOCK;
+}
+
+// Not a duplicate: whether reads block belongs to what was opened, not to the descriptor.
+FileDescriptor openInput(const FileDescriptor& descriptor) {
+    const auto name = QByteArray("/proc/self/fd/") + QByteArray::number(descriptor.get());
+    return FileDescriptor(uninterrupted([&] {
+        return ::openat(AT_FDCWD, name.constData(), O_RDONLY | O_NOCTTY | O_NONBLOCK | O_CLOEXEC);
+    }));
+}
+
+// Each lock keeps out openers that the other lets in: flock those who ask for it, exclusive mode
+// all but root, which is why the input is opened before it is on. A node that refuses it is no
+// live terminal.
+bool complete(ExclusiveDevice::Device& device) {
+    // 0 marks a closed port, so it cannot be an open one.
+    if (device.descriptor.get() <= 0 || !lock(device.descriptor)) {
         return false;
     }
-    return ::ioctl(descriptor.get(), TIOCEXCL) == 0;
+    device.input = openInput(device.descriptor);
+    return device.input.isValid() && ::ioctl(device.descriptor.get(), TIOCEXCL) == 0;
 }
 
 } // namespace
 
 namespace ExclusiveDevice {
 
-FileDescriptor open(const QString& path) {
+Device open(const QString& path) {
     const auto name = QFile::encodeName(path);
-    FileDescriptor descriptor(uninterrupted(
+    Device device;
+    device.descriptor = FileDescriptor(uninterrupted(
         [&] { return ::open(name.constData(), O_RDWR | O_NOCTTY | O_NONBLOCK | O_CLOEXEC); }));
-    // 0 marks a closed port, so it cannot be an open one.
-    if (descriptor.get() <= 0 || !lock(descriptor)) {
+    if (!complete(device)) {
         const int number = errno;
-        descriptor = FileDescriptor();
+        device = {};
         errno = number;
-        return descriptor;
+        return device;
     }
-    static_cast<void>(::fcntl(descriptor.get(), F_SETFL, 0));
-    return descriptor;
+    static_cast<void>(::fcntl(device.descriptor.get(), F_SETFL, 0));
+    return device;
 }
 
 // A line that has hung up keeps nobody out: whoever opens the device gets a new one.

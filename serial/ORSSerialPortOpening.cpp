@@ -25,13 +25,13 @@ void ORSSerialPort::open() {
     }
     // The device comes last: given up here, a pseudo-terminal would stay locked.
     FileDescriptor wakeUp(::eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK));
-    auto descriptor = wakeUp.isValid() ? ExclusiveDevice::open(_path) : FileDescriptor();
-    if (!descriptor.isValid()) {
+    auto device = wakeUp.isValid() ? ExclusiveDevice::open(_path) : ExclusiveDevice::Device();
+    if (!device.isValid()) {
         queueErrorReport();
         return;
     }
     const auto self = shared_from_this();
-    _opening = std::make_unique<PortOpening>(std::move(descriptor), std::move(wakeUp));
+    _opening = std::make_unique<PortOpening>(std::move(device), std::move(wakeUp));
     _fileDescriptor = _opening->descriptor();
     requestLowLatency();
     setPortOptions();

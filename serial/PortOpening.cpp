@@ -1,19 +1,15 @@
 #include "serial/PortOpening.h"
 
-#include "serial/ExclusiveDevice.h"
-
 #include <system_error>
 
-PortOpening::PortOpening(FileDescriptor descriptor, FileDescriptor wakeUp)
-    : _descriptor(std::move(descriptor)),
-      _wakeUp(std::move(wakeUp)),
-      _savedSettings(_descriptor.get()) {}
+PortOpening::PortOpening(ExclusiveDevice::Device device, FileDescriptor wakeUp)
+    : _device(std::move(device)), _wakeUp(std::move(wakeUp)), _savedSettings(descriptor()) {}
 
 bool PortOpening::startWorkers(const std::shared_ptr<ORSSerialPort>& port,
                                const std::shared_ptr<MainQueue>& mainQueue) {
     try {
-        _reader.emplace(_descriptor.get(), _wakeUp.get(), _lifetime, port, mainQueue);
-        _pinPoller.emplace(_descriptor.get(), port, mainQueue);
+        _reader.emplace(_device.input.get(), _wakeUp.get(), _lifetime, port, mainQueue);
+        _pinPoller.emplace(descriptor(), port, mainQueue);
         return true;
     } catch (const std::system_error&) {
         _reader.reset();
@@ -21,12 +17,11 @@ bool PortOpening::startWorkers(const std::shared_ptr<ORSSerialPort>& port,
     }
 }
 
-// The workers end first: with the old settings back, which may make it a line of whole lines, a
-// read could wait for ever; and a closed descriptor's number may be somebody else's at once.
+// The workers end first, for a closed descriptor's number may be somebody else's at once.
 bool PortOpening::close() {
     _reader.reset();
     _pinPoller.reset();
-    _savedSettings.restore(_descriptor.get());
-    _staysLocked = !ExclusiveDevice::release(_descriptor);
-    return _descriptor.close();
+    _savedSettings.restore(descriptor());
+    _staysLocked = !ExclusiveDevice::release(_device.descriptor);
+    return _device.descriptor.close();
 }

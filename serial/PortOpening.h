@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/FileDescriptor.h"
+#include "serial/ExclusiveDevice.h"
 #include "serial/LineSettings.h"
 #include "serial/PinPoller.h"
 #include "serial/PortReader.h"
@@ -13,9 +14,9 @@
 class PortOpening {
   public:
     /// `wakeUp` is an event counter that does not block.
-    PortOpening(FileDescriptor descriptor, FileDescriptor wakeUp);
+    PortOpening(ExclusiveDevice::Device device, FileDescriptor wakeUp);
 
-    [[nodiscard]] int descriptor() const { return _descriptor.get(); }
+    [[nodiscard]] int descriptor() const { return _device.descriptor.get(); }
 
     /// From here to close() the workers keep the port alive.
     /// False, and no worker left, when the system has no thread to give.
@@ -29,7 +30,7 @@ class PortOpening {
     [[nodiscard]] bool staysLocked() const { return _staysLocked; }
 
   private:
-    FileDescriptor _descriptor;
+    ExclusiveDevice::Device _device;
     FileDescriptor _wakeUp;
     SavedLineSettings _savedSettings;
     /// Expires with the opening.

@@ -8,7 +8,6 @@
 #include <array>
 #include <poll.h>
 #include <sys/eventfd.h>
-#include <sys/ioctl.h>
 #include <unistd.h>
 
 using namespace std::chrono_literals;
@@ -16,6 +15,7 @@ using namespace std::chrono_literals;
 namespace {
 
 constexpr auto passTime = 100ms;
+constexpr int bufferSize = 1024;
 
 } // namespace
 
@@ -35,6 +35,7 @@ void PortReader::run(const std::stop_token& stop) {
     ::eventfd_read(_wakeUp, &left);
     const std::stop_callback wake(stop, [this] { ::eventfd_write(_wakeUp, 1); });
     while (!stop.stop_requested()) {
+        _backlog->awaitRoom(stop);
         const auto passEnd = std::chrono::steady_clock::now() + passTime;
         const auto result = waitForData();
         if (stop.stop_requested()) {
@@ -59,20 +60,19 @@ PortReader::Wait PortReader::waitForData() {
     return waited[0].revents != 0 ? Wait::Readable : Wait::TimedOut;
 }
 
-// Only as much is read as is known to be there: the descriptor blocks, and a reader that waited
-// for a byte which somebody else took could not be ended.
+// Somebody else may have taken by now what there was to be read; this descriptor does not wait
+// for more, so that the reader can be ended at any time.
 bool PortReader::readOnce() {
-    int available = 0;
-    if (::ioctl(_descriptor, FIONREAD, &available) != 0 || available <= 0) {
-        return false;
-    }
-    QByteArray data(std::min(available, _port->maximumBlockSize()), Qt::Uninitialized);
-    const auto count = ::read(_descriptor, data.data(), static_cast<size_t>(data.size()));
+    std::array<char, bufferSize> buffer{};
+    const auto most = std::min(_port->maximumBlockSize(), bufferSize);
+    const auto count = ::read(_descriptor, buffer.data(), static_cast<size_t>(most));
     if (count <= 0) {
         return false;
     }
-    data.truncate(count);
-    _mainQueue->async([port = _port, opening = _opening, data = std::move(data)] {
+    _backlog->add();
+    _mainQueue->async([port = _port, opening = _opening, backlog = _backlog,
+                       data = QByteArray(buffer.data(), count)] {
+        backlog->remove();
         if (!opening.expired()) {
             port->receiveData(data);
         }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "serial/ReadBacklog.h"
 #include "serial/StoppableWait.h"
 
 #include <memory>
@@ -14,10 +15,10 @@ class ORSSerialPort;
 /// lasts. Destroying it ends the thread at once.
 class PortReader {
   public:
-    /// Reads from `descriptor`, and is woken through `wakeUp`, an event counter; both must stay
-    /// open for as long as the reader lives. Bytes that the main queue comes to when `opening` has
-    /// expired, which it does on the main thread, are dropped. Throws std::system_error when the
-    /// system has no thread left.
+    /// Reads from `descriptor`, which does not block, and is woken through `wakeUp`, an event
+    /// counter; both must stay open for as long as the reader lives. Bytes that the main queue comes
+    /// to when `opening` has expired, which it does on the main thread, are dropped. Throws
+    /// std::system_error when the system has no thread left.
     PortReader(int descriptor, int wakeUp, std::weak_ptr<const void> opening,
                std::shared_ptr<ORSSerialPort> port, std::shared_ptr<MainQueue> mainQueue);
 
@@ -34,6 +35,7 @@ class PortReader {
     const std::shared_ptr<ORSSerialPort> _port;
     const std::shared_ptr<MainQueue> _mainQueue;
     const int _wakeUp;
+    const std::shared_ptr<ReadBacklog> _backlog = std::make_shared<ReadBacklog>();
     StoppableWait _pause;
     std::jthread _thread;
 };

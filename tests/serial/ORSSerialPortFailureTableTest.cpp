@@ -100,6 +100,7 @@ class ORSSerialPortFailureTableTest : public QObject {
         // The second call is that of a second opening, after one that worked.
         addRows({"open", SystemCall::Open}, openErrors, {1, 2});
         addRows({"flock", SystemCall::Flock}, {EWOULDBLOCK}, {1, 2});
+        addRows({"opening for input", SystemCall::OpenAt}, openErrors, {1, 2});
         addRows({"exclusive mode", SystemCall::Ioctl, TIOCEXCL}, ioctlErrors, {1, 2});
     }
 
@@ -128,6 +129,7 @@ class ORSSerialPortFailureTableTest : public QObject {
     void anOpeningThatGoesOn_data() {
         columns();
         addRows({"open", SystemCall::Open}, {EINTR}, {1, 2});
+        addRows({"opening for input", SystemCall::OpenAt}, {EINTR}, {1, 2});
         addRows({"flock", SystemCall::Flock}, flockErrors + Errors{EINTR}, {1, 2});
         addRows({"fcntl", SystemCall::Fcntl}, fcntlErrors, {1, 2});
         addRows({"saving the settings", SystemCall::TcGetAttr}, attributeErrors, {1});
@@ -260,28 +262,19 @@ class ORSSerialPortFailureTableTest : public QObject {
         for (const int number : {1, 3}) {
             addReaderRows({"poll", SystemCall::Poll}, pollErrors, number, true);
             addReaderRows({"read", SystemCall::Read}, readErrors, number, false);
-            addReaderRows({"counting", SystemCall::Ioctl, FIONREAD}, ioctlErrors, number, false);
         }
     }
 
     /// Neither ends for it, nor spins: each failed pass takes its 100 ms.
     void aReaderThatGoesOn() {
         QFETCH(SystemCall, call);
-        QFETCH(unsigned long, request);
         QFETCH(int, error);
         QFETCH(int, number);
         QFETCH(bool, isReported);
         constexpr int failures = 2;
         PortBench bench;
-        const auto count = [&] {
-            return call == SystemCall::Ioctl ? bench.faults.countIoctl(request)
-                                             : bench.faults.count(call);
-        };
-        if (call == SystemCall::Ioctl) {
-            bench.faults.failIoctl(request, error, number, number + failures - 1);
-        } else {
-            bench.faults.fail(call, error, number, number + failures - 1);
-        }
+        const auto count = [&] { return bench.faults.count(call); };
+        bench.faults.fail(call, error, number, number + failures - 1);
         QVERIFY(bench.open());
         QByteArray sent;
         const auto send = [&] {

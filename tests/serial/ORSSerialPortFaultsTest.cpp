@@ -181,15 +181,6 @@ class ORSSerialPortFaultsTest : public QObject {
         QCOMPARE(bench.delegate.count(u"error"_s), 0);
     }
 
-    void aCountOfBytesThatFailsIsNotReported() {
-        PortBench bench;
-        QVERIFY(bench.open());
-        bench.faults.failIoctl(FIONREAD, EIO, 1, 1);
-        QVERIFY(bench.line.write("x"));
-        QTRY_COMPARE(bench.delegate.received(), "x"_ba);
-        QCOMPARE(bench.delegate.count(u"error"_s), 0);
-    }
-
     void aCloseThatFailsLeavesThePortOpen() {
         PortBench bench;
         QVERIFY(bench.open());

@@ -205,6 +205,7 @@ QList<int> SystemCallFaults::modemWordsSet() const {
 extern "C" {
 
 int __real_open(const char* path, int flags, ...);
+int __real_openat(int directory, const char* path, int flags, ...);
 int __real_fcntl(int descriptor, int command, ...);
 int __real_tcgetattr(int descriptor, termios* record);
 int __real_tcsetattr(int descriptor, int actions, const termios* record);
@@ -227,6 +228,14 @@ int __wrap_open(const char* path, int flags, ...) {
         return *descriptor;
     }
     return __real_open(path, flags, mode);
+}
+
+int __wrap_openat(int directory, const char* path, int flags, ...) {
+    std::va_list arguments;
+    va_start(arguments, flags);
+    const auto mode = va_arg(arguments, mode_t);
+    va_end(arguments);
+    return fails(SystemCall::OpenAt, directory) ? -1 : __real_openat(directory, path, flags, mode);
 }
 
 int __wrap_fcntl(int descriptor, int command, ...) {

@@ -1,0 +1,91 @@
+// Another program on the same line, which takes what was meant for this one.
+
+#include "tests/serial/PortBench.h"
+
+#include <atomic>
+#include <fcntl.h>
+#include <termios.h>
+#include <thread>
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace {
+
+/// The line as another program has it that opened it first. It does not block.
+class Rival {
+  public:
+    explicit Rival(const PseudoTerminalPair& line)
+        : _descriptor(::open(line.path().toLocal8Bit().constData(),
+                             O_RDWR | O_NOCTTY | O_NONBLOCK | O_CLOEXEC)) {}
+    Rival(const Rival&) = delete;
+    Rival& operator=(const Rival&) = delete;
+    ~Rival() { ::close(_descriptor); }
+
+    /// Has everything that waits to be read vanish.
+    void takeAll() const { ::tcflush(_descriptor, TCIFLUSH); }
+
+  private:
+    int _descriptor;
+};
+
+/// Ends a wait for bytes that would last for ever, by sending some, and remembers that it had to.
+class Watchdog {
+  public:
+    explicit Watchdog(const PseudoTerminalPair& line)
+        : _thread([this, &line](const std::stop_token& stop) {
+              const auto limit = std::chrono::steady_clock::now() + 5s;
+              while (!stop.stop_requested()) {
+                  if (std::chrono::steady_clock::now() > limit) {
+                      _hasBitten = true;
+                      static_cast<void>(line.write("x"));
+                  }
+                  std::this_thread::sleep_for(10ms);
+              }
+          }) {}
+
+    [[nodiscard]] bool hasBitten() const { return _hasBitten; }
+
+  private:
+    std::atomic<bool> _hasBitten = false;
+    std::jthread _thread;
+};
+
+} // namespace
+
+class ORSSerialPortRivalTest : public QObject {
+    Q_OBJECT
+  private Q_SLOTS:
+    void closingDoesNotWaitForBytesThatSomebodyElseTook() {
+        PortBench bench;
+        const Rival rival(bench.line);
+        QVERIFY(bench.open());
+        bench.faults.beforeEach(SystemCall::Read, [&](int) { rival.takeAll(); });
+        QVERIFY(bench.line.write("stolen"));
+        QTRY_VERIFY(bench.faults.count(SystemCall::Read) > 0);
+        const Watchdog watchdog(bench.line);
+        QVERIFY(bench.port->close());
+        QVERIFY(!watchdog.hasBitten());
+        QCOMPARE(bench.delegate.received(), QByteArray());
+    }
+
+    void whatSomebodyElseLeavesIsReceived() {
+        PortBench bench;
+        const Rival rival(bench.line);
+        QVERIFY(bench.open());
+        std::atomic<bool> isStealing = true;
+        bench.faults.beforeEach(SystemCall::Read, [&](int) {
+            if (isStealing.exchange(false)) {
+                rival.takeAll();
+            }
+        });
+        QVERIFY(bench.line.write("stolen"));
+        QTRY_VERIFY(!isStealing);
+        QVERIFY(bench.line.write("left"));
+        QTRY_COMPARE(bench.delegate.received(), "left"_ba);
+    }
+};
+
+static const RegisteredTest<ORSSerialPortRivalTest> registered;
+#include "ORSSerialPortRivalTest.moc"
