@@ -6,6 +6,8 @@
 
 #include <QAction>
 #include <QContextMenuEvent>
+#include <QGuiApplication>
+#include <QInputMethod>
 #include <QInputMethodEvent>
 #include <QMenu>
 #include <QMimeData>
@@ -371,6 +373,9 @@ void KeyboardView::keyPressEvent(QKeyEvent* event) {
     } else if (isCaretInSentText() && event->key() == Qt::Key_End && !event->modifiers()) {
         moveCursor(QTextCursor::End);
     } else {
+        if (Composition::isDisturbedBy(*event) && Composition::isIn(*document())) {
+            endComposition();
+        }
         QPlainTextEdit::keyPressEvent(event);
     }
 }
@@ -402,9 +407,15 @@ void KeyboardView::inputMethodEvent(QInputMethodEvent* event) {
         attributes.append(attribute);
     }
     QInputMethodEvent composed(kept + event->preeditString(), attributes);
-    composed.setCommitString(complete, event->replacementStart(), event->replacementLength());
+    const auto replaced = Composition::replacementAt(textCursor(), *event);
+    composed.setCommitString(complete, replaced.start, replaced.length);
     QPlainTextEdit::inputMethodEvent(&composed);
     event->setAccepted(composed.isAccepted());
+}
+
+void KeyboardView::endComposition() {
+    QGuiApplication::inputMethod()->commit();
+    Composition::removeFrom(*document());
 }
 
 void KeyboardView::mousePressEvent(QMouseEvent* event) {
@@ -440,11 +451,33 @@ QMimeData* KeyboardView::createMimeDataFromSelection() const {
     return plain.release();
 }
 
+// The base class counts a composition as text when it looks for the place under the mouse, too.
+bool KeyboardView::canInsertFromMimeData(const QMimeData* source) const {
+    return source->hasText() && !Composition::isIn(*document());
+}
+
 void KeyboardView::insertFromMimeData(const QMimeData* source) {
     if (!source->hasText()) {
         return; // a pasted picture leaves even the selection alone
     }
-    enter(source->text());
+    if (!_isDropping) {
+        enter(source->text());
+        return;
+    }
+    auto caret = textCursor();
+    caret.insertText(readied(source->text(), caret));
+}
+
+// A drop is one edit of the document, whose lines are laid out anew only when it is over. Until
+// then no place may be looked for in them; the base class shows the caret afterwards.
+void KeyboardView::dropEvent(QDropEvent* event) {
+    {
+        const QScopedValueRollback guard(_isDropping, true);
+        QPlainTextEdit::dropEvent(event);
+    }
+    if (_merge.isBegun()) {
+        enter({});
+    }
 }
 
 void KeyboardView::focusInEvent(QFocusEvent* event) {

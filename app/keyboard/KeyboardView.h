@@ -64,10 +64,12 @@ class KeyboardView final : public QPlainTextEdit {
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
     [[nodiscard]] QMimeData* createMimeDataFromSelection() const override;
+    [[nodiscard]] bool canInsertFromMimeData(const QMimeData* source) const override;
     void insertFromMimeData(const QMimeData* source) override;
 
   private:
@@ -85,6 +87,7 @@ class KeyboardView final : public QPlainTextEdit {
     void showEnginesText();
     void showChange(const TextChange& change);
     void breakParagraphs();
+    void endComposition();
     void keepSelection(int begin, int end, bool isReversed);
 
     void noteMessage(const TextChange& change);
@@ -107,6 +110,7 @@ class KeyboardView final : public QPlainTextEdit {
     ScrollRest _scrollRest;
     bool _isChangingDocument = false;
     bool _isEngineTakingText = false;
+    bool _isDropping = false;
     bool _couldUndo = false;
     bool _couldRedo = false;
     bool _isCaretInSentText = false;

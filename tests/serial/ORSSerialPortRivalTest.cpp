@@ -1,6 +1,7 @@
 // Another program on the same line, which takes what was meant for this one.
 
 #include "tests/serial/PortBench.h"
+#include "tests/support/RegisteredTest.h"
 
 #include <atomic>
 #include <fcntl.h>
