@@ -157,10 +157,17 @@ bool KeyboardView::takeKeyOfMerge(const QKeyEvent& event) {
 }
 
 void KeyboardView::dropMerge() {
-    if (_merge.isBegun()) {
-        _merge.clear();
-        enter({});
+    if (!_merge.isBegun()) {
+        return;
     }
+    _merge.clear();
+    // What an input method enters takes the place of the selection, even when it is nothing.
+    const QTextCursor selection = textCursor();
+    auto caret = selection;
+    caret.clearSelection();
+    setTextCursor(caret);
+    enter({});
+    setTextCursor(selection);
 }
 
 void KeyboardView::undoTyping() {
