@@ -2,6 +2,7 @@
 
 #include "app/keyboard/Composition.h"
 #include "app/keyboard/KeyboardViewAccessible.h"
+#include "app/keyboard/TypedKey.h"
 #include "keyer/WinKeyerUsb.h"
 
 #include <QAction>
@@ -23,21 +24,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-
-constexpr auto commandKeys = Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
-
-bool isText(const QKeyEvent& event) {
-    return (event.modifiers() & Qt::ControlModifier) == 0 && !event.text().isEmpty() &&
-           event.text().front().isPrint();
-}
-
-bool isLineEnd(const QKeyEvent& event) {
-    return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
-}
-
-bool isModifier(const QKeyEvent& event) {
-    return event.key() >= Qt::Key_Shift && event.key() <= Qt::Key_ScrollLock;
-}
 
 QInputMethodEvent::Attribute underlined(qsizetype length) {
     QTextCharFormat format;
@@ -144,7 +130,7 @@ QString KeyboardView::readied(const QString& typed, const QTextCursor& place) {
 }
 
 bool KeyboardView::takeKeyOfMerge(const QKeyEvent& event) {
-    if (!_merge.isBegun() || isModifier(event)) {
+    if (!_merge.isBegun() || TypedKey::isModifier(event)) {
         return false;
     }
     if (event.key() == Qt::Key_Backspace) {
@@ -373,7 +359,7 @@ void KeyboardView::keyPressEvent(QKeyEvent* event) {
         undoTyping();
     } else if (event->matches(QKeySequence::Redo)) {
         redoTyping();
-    } else if (isText(*event) || isLineEnd(*event)) {
+    } else if (TypedKey::isText(*event) || TypedKey::isLineEnd(*event)) {
         enterKey(*event);
     } else if (takeKeyOfMerge(*event)) {
         return;
@@ -389,10 +375,10 @@ void KeyboardView::keyPressEvent(QKeyEvent* event) {
 
 /// A letter with Alt is a command, if one that nobody knows, and Return over a selection a slip.
 void KeyboardView::enterKey(const QKeyEvent& event) {
-    if ((event.modifiers() & commandKeys) != 0) {
+    if ((event.modifiers() & TypedKey::commandKeys) != 0) {
         return;
     }
-    if (!isLineEnd(event)) {
+    if (!TypedKey::isLineEnd(event)) {
         enter(event.text());
     } else if (!textCursor().hasSelection()) {
         enter(u"\n"_s);
