@@ -16,8 +16,8 @@ class ORSSerialPort;
 class PortReader {
   public:
     /// Reads from `descriptor`, which does not block, and is woken through `wakeUp`, an event
-    /// counter; both must stay open for as long as the reader lives. Bytes that the main queue comes
-    /// to when `opening` has expired, which it does on the main thread, are dropped. Throws
+    /// counter; both must stay open for as long as the reader lives. Bytes that the main queue
+    /// comes to when `opening` has expired, which it does on the main thread, are dropped. Throws
     /// std::system_error when the system has no thread left.
     PortReader(int descriptor, int wakeUp, std::weak_ptr<const void> opening,
                std::shared_ptr<ORSSerialPort> port, std::shared_ptr<MainQueue> mainQueue);

@@ -9,6 +9,8 @@
 #include <QSignalSpy>
 #include <QTest>
 
+#include <chrono>
+
 #include <cerrno>
 #include <csignal>
 #include <optional>
@@ -133,7 +135,8 @@ void KeyGuardTest::aTuneWithSignsOfLifeIsLeftAlone() {
     QVERIFY(_bench->connect());
     tune(true);
     QSignalSpy spy(&*_guard, &KeyGuard::hasLetGo);
-    for (auto passed = 0ms; passed < silenceLimit + 1s; passed += 100ms) {
+    for (auto passed = std::chrono::milliseconds::zero(); passed < silenceLimit + 1s;
+         passed += 100ms) {
         _bench->clock().advance(100ms);
         QVERIFY(!spy.wait(100));
     }

@@ -6,7 +6,19 @@
 #include <optional>
 #include <termios.h>
 
-enum class SystemCall { Open, OpenAt, Fcntl, TcGetAttr, TcSetAttr, Ioctl, Flock, Poll, Read, Write, Close };
+enum class SystemCall {
+    Open,
+    OpenAt,
+    Fcntl,
+    TcGetAttr,
+    TcSetAttr,
+    Ioctl,
+    Flock,
+    Poll,
+    Read,
+    Write,
+    Close
+};
 
 /// Makes system calls fail, and watches them, in test programs that wrap them at link time.
 /// Nothing outlives the object; there may be one at a time. Any thread.
