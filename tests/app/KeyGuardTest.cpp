@@ -9,9 +9,8 @@
 #include <QSignalSpy>
 #include <QTest>
 
-#include <chrono>
-
 #include <cerrno>
+#include <chrono>
 #include <csignal>
 #include <optional>
 
