@@ -67,13 +67,11 @@ int run(SingleInstance& instance) {
     const KeyGuard guard(WinKeyerUsb::sharedInstance(), KeyGuardProcess::standardProgram());
     // Ahead of whatever sends: a key that was left down is let go of first.
     KeyingRecord keyingRecord(WinKeyerUsb::sharedInstance(), KeyingRecord::standardPath());
-    // Ahead of the port manager, which is made at launch: before the machine sleeps, the window has
-    // to let go of the transmitter while the port is still open.
     MainWindow window(WinKeyerUsb::sharedInstance());
     delegate.awakeFromNib(window.hisCallsignTextField());
     alerts.setAlertParent(&window);
     QObject::connect(&delegate, &QuorvelDelegate::willDisconnect, &window,
-                     &MainWindow::letGoOfTune);
+                     &MainWindow::silenceKeyer);
     PreferencesController preferences;
     preferences.awakeFromNib();
     QObject::connect(&window, &MainWindow::preferencesRequested, &preferences,

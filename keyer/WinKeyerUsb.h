@@ -88,8 +88,15 @@ class WinKeyerUsb final : public QObject, public ORSSerialPortDelegate {
     [[nodiscard]] bool setWK2Mode(Error* error);
     /// Leaves host mode, if the keyer is in it. A failure keeps port and stored name.
     [[nodiscard]] bool closeHostMode(Error* error);
+    /// The port goes, or the machine sleeps: stops the keyer and all sending, and leaves host mode,
+    /// as far as the line still takes it.
+    void serialPortWillBeClosed(ORSSerialPort& port) override;
     /// The port has gone and is closed: lets go of it. Sends nothing.
     void serialPortWasRemovedFromSystem(ORSSerialPort& port) override;
+    /// After a sleep, greets the keyer anew.
+    void serialPortWasOpened(ORSSerialPort& port) override;
+    /// Sends the keyer, on the open port, all that connecting sends it. A refused write is logged.
+    void greetAgain();
 
     // Traffic.
 
@@ -116,6 +123,11 @@ class WinKeyerUsb final : public QObject, public ORSSerialPortDelegate {
     void clearSending();
     /// Empties the keyer's buffer and forgets all text.
     void stopMessageSending(const QObject* sender);
+    /// Keys up and empties the keyer's buffer at once, whatever it keys: tune, text, or a message of
+    /// its own. The text of the engine stays.
+    void silence();
+    /// Whether the keyer may be keying, by what it was given and what it has told since.
+    [[nodiscard]] bool mayBeKeying() const { return _mayBeKeying; }
     /// The text with "`" replaced by the operator's call sign and "#" by the cut serial number.
     /// Where that would lengthen it beyond all use, both are left out, and the log says so.
     [[nodiscard]] QString substituteTokens(const QString& text) const;
@@ -198,6 +210,10 @@ class WinKeyerUsb final : public QObject, public ORSSerialPortDelegate {
     void sendingProgressed();
     /// Sending was stopped by stopMessageSending(), which ends a tune in the keyer too.
     void messageSendingStopped();
+    /// The port is being closed by another, which stops what was being sent or waited to be.
+    void sendingCutShort();
+    /// silence() has keyed up, over a line that took it, and so ended a tune.
+    void silenced();
     void speedStringChanged();
     void versionStringChanged();
     void keyboardBufferChanged();
@@ -221,6 +237,8 @@ class WinKeyerUsb final : public QObject, public ORSSerialPortDelegate {
     void setSpeedString(const QString& speed);
     void appendSendableText(const QString& text);
     void announceActivity();
+    void beginHostMode();
+    void completeHostMode();
 
     void handleByte(std::uint8_t byte);
     void handleStatus(std::uint8_t status);
@@ -232,12 +250,15 @@ class WinKeyerUsb final : public QObject, public ORSSerialPortDelegate {
     [[nodiscard]] Step beginHSCW();
     [[nodiscard]] Step endHSCW();
     [[nodiscard]] Step mergeLetters();
+    void sendText(const QByteArray& bytes);
     [[nodiscard]] qint64 hscwSpeed() const;
 
     std::shared_ptr<ORSSerialPort> _winKeyerSerialPort;
     bool _isHostMode = false;
     std::uint8_t _wkStatus = 0;
     bool _hasHeardFromKeyer = false;
+    bool _mayBeKeying = false;
+    bool _isToBeGreetedAgain = false;
     std::optional<std::uint8_t> _lastStatus;
     KeyerActivity _announcedActivity = KeyerActivity::NotConnected;
     QString _announcedPortName;

@@ -161,15 +161,39 @@ bool WinKeyerUsb::echoTest(Error* error) {
 }
 
 bool WinKeyerUsb::openHostMode(Error* error) {
-    _isHostMode = false;
-    _hasHeardFromKeyer = false;
-    _lastStatus.reset();
+    beginHostMode();
     if (hostOpen(error) && setWK2Mode(error)) {
-        loadDefaults();
-        putToWinKeyer(KeyerCommand::getSpeedPot());
-        _isHostMode = true;
+        completeHostMode();
     }
     return _isHostMode;
+}
+
+void WinKeyerUsb::beginHostMode() {
+    _isHostMode = false;
+    _isToBeGreetedAgain = false;
+    _hasHeardFromKeyer = false;
+    _mayBeKeying = false;
+    _lastStatus.reset();
+}
+
+void WinKeyerUsb::completeHostMode() {
+    loadDefaults();
+    putToWinKeyer(KeyerCommand::getSpeedPot());
+    _isHostMode = true;
+}
+
+void WinKeyerUsb::greetAgain() {
+    using namespace KeyerCommand;
+    if (!isConnected() || !_winKeyerSerialPort->isOpen()) {
+        return;
+    }
+    beginHostMode();
+    for (const auto& command : {nullCommand(), nullCommand(), nullCommand(), nullCommand(),
+                                adminEchoTest(), adminHostOpen(), adminSetWK2Mode()}) {
+        putToWinKeyer(command);
+    }
+    completeHostMode();
+    announceActivity();
 }
 
 bool WinKeyerUsb::hostOpen(Error* error) {
@@ -218,6 +242,29 @@ bool WinKeyerUsb::closeHostMode(Error* error) {
              seeHeader()));
     logLine(u"closeHostMode failed"_s);
     return false;
+}
+
+// Nothing is waited for, and a line that has gone already refuses it all.
+void WinKeyerUsb::serialPortWillBeClosed(ORSSerialPort& port) {
+    if (&port != _winKeyerSerialPort.get() || !_isHostMode) {
+        return;
+    }
+    const bool hasText = _inFlightIndex < _keyboardBuffer.size();
+    if (_mayBeKeying || _beaconState != 0 || hasText) {
+        Q_EMIT sendingCutShort();
+    }
+    silence();
+    clearSending();
+    static_cast<void>(sendToPort(KeyerCommand::adminHostClose()));
+    _isHostMode = false;
+    _isToBeGreetedAgain = true;
+    announceActivity();
+}
+
+void WinKeyerUsb::serialPortWasOpened(ORSSerialPort& port) {
+    if (&port == _winKeyerSerialPort.get() && _isToBeGreetedAgain) {
+        greetAgain();
+    }
 }
 
 void WinKeyerUsb::serialPortWasRemovedFromSystem(ORSSerialPort& port) {

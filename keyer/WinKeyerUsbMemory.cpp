@@ -60,6 +60,7 @@ bool WinKeyerUsb::writeEeprom(Error*) {
 }
 
 void WinKeyerUsb::sendStandaloneMessage(int number) {
+    _mayBeKeying = true;
     static_cast<void>(
         sendToPort(KeyerCommand::adminSendStandaloneMessage(KeyerEncoding::lowByte(number))));
 }

@@ -10,7 +10,16 @@ using namespace Qt::StringLiterals;
 void WinKeyerUsb::tune(const QObject* sender) {
     using KeyerCommand::KeyLine;
     const auto isOn = Action::state(sender) == 1;
+    _mayBeKeying = _mayBeKeying || isOn;
     putToWinKeyer(KeyerCommand::keyImmediate(isOn ? KeyLine::Down : KeyLine::Up));
+}
+
+void WinKeyerUsb::silence() {
+    const bool isKeyUp = sendToPort(KeyerCommand::keyImmediate(KeyerCommand::KeyLine::Up));
+    static_cast<void>(sendToPort(KeyerCommand::clearBuffer()));
+    if (isKeyUp) {
+        Q_EMIT silenced();
+    }
 }
 
 void WinKeyerUsb::changeHSCWMode(const QObject* sender) {

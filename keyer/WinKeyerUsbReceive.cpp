@@ -71,6 +71,7 @@ void WinKeyerUsb::handleStatus(std::uint8_t status) {
         return;
     }
     _lastStatus = status;
+    _mayBeKeying = (status & KeyerStatus::anything) != 0;
     if ((status & KeyerStatus::anything) == 0) {
         handleIdle();
     }

@@ -128,7 +128,7 @@ WinKeyerUsb::Step WinKeyerUsb::sendNextOfHisCallsign() {
         return Step::GoOn;
     }
     const auto character = byteOf(_hisCallsign.at(_nextHisCallsignCharacterIndex++));
-    putToWinKeyer(QByteArray(1, character));
+    sendText(QByteArray(1, character));
     _sendingState = true;
     return Step::WaitForEcho;
 }
@@ -142,13 +142,13 @@ WinKeyerUsb::Step WinKeyerUsb::sendCharacter(char character) {
     case '{':
         return mergeLetters();
     case '|':
-        putToWinKeyer(QByteArray(1, character));
+        sendText(QByteArray(1, character));
         return Step::GoOn;
     case '~':
         _sendingHisCallsign = true;
         return Step::GoOn;
     default:
-        putToWinKeyer(QByteArray(1, character));
+        sendText(QByteArray(1, character));
         return Step::WaitForEcho;
     }
 }
@@ -179,9 +179,14 @@ WinKeyerUsb::Step WinKeyerUsb::mergeLetters() {
     }
     const auto first = byteOf(_keyboardBuffer.at(_outputBufferIndex));
     const auto second = byteOf(_keyboardBuffer.at(_outputBufferIndex + 1));
-    putToWinKeyer(KeyerCommand::mergeLetters(first, second));
+    sendText(KeyerCommand::mergeLetters(first, second));
     _outputBufferIndex += 2;
     return Step::GoOn;
+}
+
+void WinKeyerUsb::sendText(const QByteArray& bytes) {
+    _mayBeKeying = true;
+    putToWinKeyer(bytes);
 }
 
 qint64 WinKeyerUsb::hscwSpeed() const {

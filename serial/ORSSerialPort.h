@@ -106,7 +106,9 @@ class ORSSerialPort final : public QObject, public std::enable_shared_from_this<
     /// received and not yet handed to the delegate are dropped. True when the port is closed
     /// afterwards.
     bool close();
-    /// The device has gone: closes the port and tells the delegate so.
+    /// Closes an open port over its user's head: tells the delegate before. True as of close().
+    bool closeForeseen();
+    /// The device has gone: closes the port, telling the delegate before, and tells it so.
     void cleanup();
     /// False when the port is closed or the write failed; bytes that a short or failed write left
     /// behind go out ahead of the next ones. Blocks while the device takes no bytes.

@@ -4,6 +4,8 @@ void ORSSerialPortDelegate::serialPortDidReceiveData(ORSSerialPort&, const QByte
 
 void ORSSerialPortDelegate::serialPortWasOpened(ORSSerialPort&) {}
 
+void ORSSerialPortDelegate::serialPortWillBeClosed(ORSSerialPort&) {}
+
 void ORSSerialPortDelegate::serialPortWasClosed(ORSSerialPort&) {}
 
 void ORSSerialPortDelegate::serialPortWasRemovedFromSystem(ORSSerialPort&) {}

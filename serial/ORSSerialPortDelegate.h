@@ -23,6 +23,10 @@ class ORSSerialPortDelegate {
     /// The port was opened. From the main queue, before any data of that opening.
     virtual void serialPortWasOpened(ORSSerialPort& port);
 
+    /// The port is about to be closed by another than its user, because its device goes or the
+    /// machine sleeps: the last moment to write. On the thread that closes it.
+    virtual void serialPortWillBeClosed(ORSSerialPort& port);
+
     /// The port was closed. On the thread that closed it, before close() returns.
     virtual void serialPortWasClosed(ORSSerialPort& port);
 

@@ -140,7 +140,7 @@ void ORSSerialPortManager::setPortTerminatedNotificationIterator(quint32 iterato
 void ORSSerialPortManager::systemWillSleep(const Notification&) {
     const auto ports = _availablePorts.value_or(Ports());
     for (const auto& port : ports) {
-        if (port->isOpen() && port->close()) {
+        if (port->isOpen() && port->closeForeseen()) {
             _portsToReopenAfterSleep.append(port);
         }
     }

@@ -97,9 +97,17 @@ bool ORSSerialPort::closeOpening() {
     return isClosed;
 }
 
+bool ORSSerialPort::closeForeseen() {
+    const auto self = shared_from_this();
+    if (auto* const told = delegate(); isOpen() && told != nullptr) {
+        told->serialPortWillBeClosed(*this);
+    }
+    return close();
+}
+
 void ORSSerialPort::cleanup() {
     const auto self = shared_from_this();
-    close();
+    closeForeseen();
     if (auto* const told = delegate()) {
         told->serialPortWasRemovedFromSystem(*this);
     }

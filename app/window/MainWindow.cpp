@@ -5,6 +5,7 @@
 #include "app/window/GuideWindow.h"
 #include "app/window/MessageButtons.h"
 #include "app/window/ModeSwitches.h"
+#include "app/window/SleepNotice.h"
 #include "app/window/TuneSwitch.h"
 #include "app/window/WindowPlace.h"
 #include "keyer/WinKeyerUsb.h"
@@ -53,6 +54,7 @@ MainWindow::MainWindow(WinKeyerUsb& engine)
     setUpContact();
     setUpSwitches();
     setUpMenus();
+    new SleepNotice(_engine, *_ui->noticeStrip, this);
     new WindowPlace(*this, u"MainWindowPlace"_s, this);
 
     _ui->tuneWarning->setEngine(_engine);
@@ -147,12 +149,14 @@ QLineEdit& MainWindow::hisCallsignTextField() const {
 
 /// Key up first: it is what cannot wait.
 void MainWindow::stop() {
-    letGoOfTune();
+    _tuneSwitch->letGo();
     _engine.stopMessageSending(_ui->stopButton);
 }
 
-void MainWindow::letGoOfTune() {
-    _tuneSwitch->letGo();
+void MainWindow::silenceKeyer() {
+    if (_engine.mayBeKeying()) {
+        _engine.silence();
+    }
 }
 
 void MainWindow::say(const QString& notice) {
@@ -181,7 +185,7 @@ void MainWindow::comeToFront(const QString& activationToken) {
 
 /// Nobody sees the warning of a window that is closed.
 void MainWindow::closeEvent(QCloseEvent* event) {
-    letGoOfTune();
+    _tuneSwitch->letGo();
     QMainWindow::closeEvent(event);
 }
 

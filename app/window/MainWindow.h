@@ -25,8 +25,8 @@ class MainWindow final : public QMainWindow {
     /// The field for the other station's call sign.
     [[nodiscard]] QLineEdit& hisCallsignTextField() const;
 
-    /// Keys the transmitter up, if Tune has it down.
-    void letGoOfTune();
+    /// Ends whatever the keyer may be keying, ahead of the end of the link.
+    void silenceKeyer();
     /// Lets go of Tune, empties the keyer's buffer, and forgets the text.
     void stop();
     /// Tells the operator in the window what has happened; see NoticeStrip.

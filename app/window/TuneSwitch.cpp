@@ -1,7 +1,6 @@
 #include "app/window/TuneSwitch.h"
 
 #include "keyer/WinKeyerUsb.h"
-#include "platform/NotificationCenter.h"
 
 #include <QAbstractButton>
 
@@ -16,9 +15,8 @@ TuneSwitch::TuneSwitch(WinKeyerUsb& engine, QAbstractButton& button, QObject* pa
     QObject::connect(&_engine, &WinKeyerUsb::tuneStateChanged, this,
                      [this] { _button.setChecked(_engine.tuneState() != 0); });
     QObject::connect(&_engine, &WinKeyerUsb::messageSendingStopped, this, &TuneSwitch::letGo);
+    QObject::connect(&_engine, &WinKeyerUsb::silenced, this, [this] { _engine.setTuneState(0); });
     QObject::connect(&_engine, &WinKeyerUsb::activityChanged, this, &TuneSwitch::followLink);
-    NotificationCenter::defaultCenter().addObserver(this, NSWorkspaceWillSleepNotification,
-                                                    [this](const Notification&) { letGo(); });
     _button.setChecked(_engine.tuneState() != 0);
     followLink();
 }

@@ -8,7 +8,7 @@ class WinKeyerUsb;
 /// The switch that keys the transmitter steadily, and what lets go of it.
 ///
 /// A keyer holds the key until it is told otherwise, so the switch falls, and the keyer is told,
-/// on every way out: when sending is stopped, when the link goes, and before the machine sleeps.
+/// on every way out: when sending is stopped and when the link goes, be it for a sleep.
 /// It can be switched on only while there is a keyer.
 class TuneSwitch final : public QObject {
     Q_OBJECT

@@ -130,6 +130,14 @@ void Station::serialPortDidReceiveData(ORSSerialPort& port, const QByteArray& da
     engine().serialPortDidReceiveData(port, data);
 }
 
+void Station::serialPortWasOpened(ORSSerialPort& port) {
+    engine().serialPortWasOpened(port);
+}
+
+void Station::serialPortWillBeClosed(ORSSerialPort& port) {
+    engine().serialPortWillBeClosed(port);
+}
+
 void Station::serialPortWasRemovedFromSystem(ORSSerialPort& port) {
     engine().serialPortWasRemovedFromSystem(port);
 }

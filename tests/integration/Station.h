@@ -39,6 +39,7 @@ class Station final : public ORSSerialPortDelegate {
     [[nodiscard]] ORSSerialPort& port() { return _bench.port(); }
     [[nodiscard]] SettingsStore& settings() { return _bench.settings(); }
     [[nodiscard]] const virtualkeyer::Registers& registers() const { return _keyer.registers(); }
+    [[nodiscard]] TestPlatform& platform() { return _bench.platform(); }
     [[nodiscard]] Time now() const { return _now; }
     /// How many timers of the engine's are still to fire.
     [[nodiscard]] int pendingTimers() {
@@ -51,6 +52,9 @@ class Station final : public ORSSerialPortDelegate {
     [[nodiscard]] bool disconnect();
     /// Connects, lets the keyer answer, and forgets all of it.
     [[nodiscard]] bool setUp();
+
+    /// Takes the port away; the line works on.
+    void unplug() { platform().devices().unplug(_bench.device()); }
 
     /// The operator changes the text.
     void type(const QString& text) { _bench.type(text); }
@@ -81,6 +85,8 @@ class Station final : public ORSSerialPortDelegate {
     [[nodiscard]] const std::vector<Byte>& allReceived() const { return _received; }
 
     void serialPortDidReceiveData(ORSSerialPort& port, const QByteArray& data) override;
+    void serialPortWasOpened(ORSSerialPort& port) override;
+    void serialPortWillBeClosed(ORSSerialPort& port) override;
     void serialPortWasRemovedFromSystem(ORSSerialPort& port) override;
 
   private:

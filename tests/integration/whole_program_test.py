@@ -66,6 +66,15 @@ class WholeProgramTest(ProgramTest):
         keyer.has_keyed("TEST")
         self.terminate(keyer, quorvel)
 
+    def test_a_link_that_is_removed_lets_go_of_the_key(self):
+        keyer, quorvel, _ = self.start_connected()
+        self.desktop.press("ctrl+t")
+        keyer.wait_for("the key", keyer.is_key_down)
+        (self.runtime / "quorvel/ports" / PORT).unlink()
+        keyer.wait_for("the key to rise", lambda: not keyer.is_key_down())
+        self.answer_alert(quorvel, f"The WinKeyer using serial port {PORT} has been unplugged.")
+        self.assertEqual(quorvel.end(), 0)
+
 
 if __name__ == "__main__":
     run_tests()

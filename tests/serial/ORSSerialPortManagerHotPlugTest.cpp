@@ -106,8 +106,8 @@ void ORSSerialPortManagerHotPlugTest::closesARemovedPortBeforeItLeaves() {
     port->open();
     QTRY_COMPARE(story, QStringList{u"opened open 10"_s});
     devices().unplug(device);
-    QCOMPARE(story, QStringList({u"opened open 10"_s, u"closed shut 10"_s, u"removed shut 10"_s,
-                                 u"left 0"_s}));
+    QCOMPARE(story, QStringList({u"opened open 10"_s, u"closing open 10"_s, u"closed shut 10"_s,
+                                 u"removed shut 10"_s, u"left 0"_s}));
     QCOMPARE(observer.posted, QStringList{ORSSerialPortWasDisconnectedNotification});
     QCOMPARE(observer.ports.constFirst(), Ports{port});
     QVERIFY(observer.listed.constFirst().isEmpty());

@@ -21,6 +21,8 @@ class ORSSerialPortManagerPowerTest : public ManagerBench {
     void cleanup() { end(); }
 
     void closesTheOpenPortForSleep();
+    void whoUsesAPortMayWriteBeforeItIsClosed_data();
+    void whoUsesAPortMayWriteBeforeItIsClosed();
     void doesNotRememberAPortThatStaysOpen();
     void forgetsAPortThatDoesNotReopen();
     void hearsOfSleepFromAnySender();
@@ -49,6 +51,46 @@ void ORSSerialPortManagerPowerTest::closesTheOpenPortForSleep() {
     QVERIFY(!closed->isOpen());
     QVERIFY(manager().portsToReopenAfterSleep().isEmpty());
     open->close();
+}
+
+void ORSSerialPortManagerPowerTest::whoUsesAPortMayWriteBeforeItIsClosed_data() {
+    QTest::addColumn<QString>("notification");
+    QTest::newRow("for sleep") << QString(NSWorkspaceWillSleepNotification);
+    QTest::newRow("at the end") << QString(NSApplicationWillTerminateNotification);
+    QTest::newRow("as its device goes") << QString();
+}
+
+void ORSSerialPortManagerPowerTest::whoUsesAPortMayWriteBeforeItIsClosed() {
+    QFETCH(QString, notification);
+    const PseudoTerminalPair line;
+    const auto device = devices().plug(u"a"_s, line.path());
+    const auto closed = devices().plug(u"b"_s, u"/dev/b"_s);
+    const auto port = manager().objectInAvailablePortsAtIndex(0);
+    const auto closedPort = manager().objectInAvailablePortsAtIndex(1);
+    RecordingDelegate delegate;
+    RecordingDelegate closedDelegate;
+    port->setDelegate(&delegate);
+    closedPort->setDelegate(&closedDelegate);
+    delegate.setReaction([](ORSSerialPort& told, const QString& event) {
+        if (event == u"closing") {
+            static_cast<void>(told.sendData("up"));
+        }
+    });
+    port->open();
+    QTRY_COMPARE(delegate.count(u"opened"_s), 1);
+    const auto before = delegate.events().size();
+    if (notification.isNull()) {
+        devices().unplug(device);
+        devices().unplug(closed);
+    } else {
+        notifications().post(notification, this);
+    }
+    QVERIFY(!port->isOpen());
+    QCOMPARE(delegate.events().mid(before, 2), QStringList({u"closing"_s, u"closed"_s}));
+    QCOMPARE(closedDelegate.count(u"closing"_s), 0);
+    QCOMPARE(line.read(2), QByteArray("up"));
+    port->setDelegate(nullptr);
+    closedPort->setDelegate(nullptr);
 }
 
 void ORSSerialPortManagerPowerTest::doesNotRememberAPortThatStaysOpen() {

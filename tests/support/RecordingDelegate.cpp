@@ -15,6 +15,10 @@ void RecordingDelegate::serialPortWasOpened(ORSSerialPort& port) {
     record(port, u"opened"_s);
 }
 
+void RecordingDelegate::serialPortWillBeClosed(ORSSerialPort& port) {
+    record(port, u"closing"_s);
+}
+
 void RecordingDelegate::serialPortWasClosed(ORSSerialPort& port) {
     record(port, u"closed"_s);
 }

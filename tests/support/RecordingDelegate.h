@@ -12,7 +12,7 @@
 /// is written down as "thread".
 class RecordingDelegate final : public ORSSerialPortDelegate {
   public:
-    /// "opened", "closed", "removed", "data" and "error", in the order of the calls; several
+    /// "opened", "closing", "closed", "removed", "data" and "error", in the order of the calls; several
     /// "data" or "error" in a row count as one.
     [[nodiscard]] const QStringList& events() const { return _events; }
     [[nodiscard]] qsizetype count(const QString& event) const { return _all.count(event); }
@@ -27,6 +27,7 @@ class RecordingDelegate final : public ORSSerialPortDelegate {
 
     void serialPortDidReceiveData(ORSSerialPort& port, const QByteArray& data) override;
     void serialPortWasOpened(ORSSerialPort& port) override;
+    void serialPortWillBeClosed(ORSSerialPort& port) override;
     void serialPortWasClosed(ORSSerialPort& port) override;
     void serialPortWasRemovedFromSystem(ORSSerialPort& port) override;
     void serialPortDidEncounterError(ORSSerialPort& port, const Error& error) override;

@@ -57,7 +57,7 @@ void TuneSwitchTest::init() {
     _delegate.emplace();
     _window.emplace(_bench->engine());
     QObject::connect(&*_delegate, &QuorvelDelegate::willDisconnect, &*_window,
-                     &MainWindow::letGoOfTune);
+                     &MainWindow::silenceKeyer);
     QVERIFY(_bench->connect());
     _window->show();
     QVERIFY(QTest::qWaitForWindowActive(&*_window));
@@ -161,7 +161,7 @@ void TuneSwitchTest::anotherChoiceOfPortKeysUpBeforeItDisconnects() {
     _bench->settings().setObject(u"None"_s, WKPortName);
     _delegate->changeSerialPort(nullptr);
     QCOMPARE(keyUp, before);
-    QCOMPARE(_bench->written(), "0b 00 00 03");
+    QCOMPARE(_bench->written(), "0b 00 0a 00 03");
     QVERIFY(!isTransmittingShown());
 }
 
@@ -173,7 +173,7 @@ void TuneSwitchTest::quittingKeysUpBeforeItDisconnects() {
                      [&] { keyUp = _bench->clock().now(); });
     _delegate->applicationShouldTerminate();
     QCOMPARE(keyUp, before);
-    QCOMPARE(_bench->written(), "0b 00 00 03");
+    QCOMPARE(_bench->written(), "0b 00 0a 00 03");
 }
 
 void TuneSwitchTest::closingTheWindowLetsGo() {
@@ -188,7 +188,7 @@ void TuneSwitchTest::sleepLetsGo() {
     _bench->platform().notifications().post(NSWorkspaceWillSleepNotification, nullptr);
     QCOMPARE(_bench->engine().tuneState(), 0);
     _bench->platform().notifications().post(NSWorkspaceDidWakeNotification, nullptr);
-    QVERIFY(_bench->written().startsWith("0b 00"));
+    QVERIFY(_bench->written().startsWith("0b 00 0a 00 03"));
     QVERIFY(!isTransmittingShown());
 }
 
