@@ -71,9 +71,13 @@ void Sender::setPaused(bool isPaused, Time now) {
 }
 
 void Sender::setBlocked(bool isBlocked, Time now) {
-    if (std::exchange(_isBlocked, isBlocked) != isBlocked) {
-        wake(now);
+    if (std::exchange(_isBlocked, isBlocked) == isBlocked) {
+        return;
     }
+    if (!isBlocked) {
+        keepLetterSpace(now);
+    }
+    wake(now);
 }
 
 void Sender::clear(Time now) {
@@ -180,10 +184,23 @@ void Sender::wake(Time now) {
     if (isHeld()) {
         return;
     }
-    if (_phase == Phase::Held) {
+    if (_phase == Phase::Held && hasMore() && now < _nextLetterAt) {
+        _board.ptt.raise(Ptt::Text, now);
+        enter(Phase::Starting, _nextLetterAt);
+    } else if (_phase == Phase::Held) {
         fetch(now);
     } else if (_phase == Phase::Idle && hasMore()) {
         enter(Phase::Starting, now + startDelay);
+    }
+}
+
+/// The key has gone up after something that was no letter, and text that was cut there keeps its
+/// distance from it.
+void Sender::keepLetterSpace(Time now) {
+    const Timing timing = timingOf(_board.registers);
+    _nextLetterAt = now + timing.gap + timing.restOfLetter;
+    if (_phase == Phase::LetterSpace || _phase == Phase::Space) {
+        enter(_phase, std::max(*_until, _nextLetterAt));
     }
 }
 

@@ -74,6 +74,7 @@ class Sender {
     void enter(Phase phase, Time until);
     void rest(Phase phase, Time now);
     void wake(Time now);
+    void keepLetterSpace(Time now);
     void fetch(Time now);
     [[nodiscard]] bool obey(Opcode code, Time now);
     [[nodiscard]] bool obey(Opcode code, std::uint8_t parameter, Time now);
@@ -114,6 +115,7 @@ class Sender {
     std::optional<Time> _timedKey;
     std::optional<std::uint8_t> _cutEcho;
     std::optional<Time> _lastKeyUp;
+    Time _nextLetterAt{0};
     bool _isPaused = false;
     bool _isBlocked = false;
     bool _handsOver = false;

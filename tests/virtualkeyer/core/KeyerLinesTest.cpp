@@ -25,6 +25,9 @@ class KeyerLinesTest : public QObject {
     void tuneWaitsForTheLeadIn();
     void tuneHoldsBackText();
     void tuneDuringTextLetsTheLetterFinish();
+    void textAfterATuneKeepsItsLetterSpace_data();
+    void textAfterATuneKeepsItsLetterSpace();
+    void textAfterATuneKeepsItsLetterSpaceWhenAPauseEndsWithIt();
     void tuneHasNoLimitByDefault();
     void tuneLimitLetsGo();
     void textAfterTheTuneLimitGoesOn();
@@ -208,7 +211,48 @@ void KeyerLinesTest::tuneDuringTextLetsTheLetterFinish() {
     QCOMPARE(bench.log(u"ptt"_s), u"0 on"_s);
     bench.send({0x0B, 0});
     QVERIFY(bench.finish());
-    QCOMPARE(bench.host(), u"0 C4, 30 D4, 120 45, 5000 C4, 5240 54, 5360 C0"_s);
+    QCOMPARE(bench.host(), u"0 C4, 30 D4, 120 45, 5000 C4, 5420 54, 5540 C0"_s);
+    QCOMPARE(bench.keying(), u"5000 180 180"_s);
+    QCOMPARE(bench.log(u"ptt"_s), u"0 on, 5540 off"_s);
+}
+
+void KeyerLinesTest::textAfterATuneKeepsItsLetterSpace_data() {
+    QTest::addColumn<double>("from");
+    QTest::addColumn<double>("to");
+    QTest::addColumn<QString>("keying");
+
+    QTest::newRow("that outlasted the letter") << 30.0 << 900.0 << u"900 180 60"_s;
+    QTest::newRow("within the letter") << 20.0 << 40.0 << u"60 180 60"_s;
+    QTest::newRow("that ended in the letter space") << 30.0 << 200.0 << u"200 180 60"_s;
+    QTest::newRow("that lay in the letter space") << 150.0 << 200.0 << u"60 90 50 180 60"_s;
+}
+
+void KeyerLinesTest::textAfterATuneKeepsItsLetterSpace() {
+    QFETCH(double, from);
+    QFETCH(double, to);
+    KeyerBench bench;
+    bench.open();
+    bench.text("EE");
+    bench.waitUntil(from);
+    bench.send({0x0B, 1});
+    bench.waitUntil(to);
+    bench.send({0x0B, 0});
+    QVERIFY(bench.finish());
+    QTEST(bench.keying(), "keying");
+}
+
+void KeyerLinesTest::textAfterATuneKeepsItsLetterSpaceWhenAPauseEndsWithIt() {
+    KeyerBench bench;
+    bench.open();
+    bench.text("EE");
+    bench.waitUntil(30);
+    bench.send({0x06, 1, 0x0B, 1});
+    bench.waitUntil(900);
+    bench.send({0x0B, 0});
+    bench.waitUntil(1000);
+    bench.send({0x06, 0});
+    QVERIFY(bench.finish());
+    QCOMPARE(bench.keying(), u"900 180 60"_s);
 }
 
 void KeyerLinesTest::tuneHasNoLimitByDefault() {
