@@ -8,9 +8,8 @@
 
 #include <functional>
 
-EditActions::EditActions(QWidget& window, KeyboardView& view, const Actions& actions,
-                         QObject* parent)
-    : QObject(parent), _window(window), _view(view) {
+EditActions::EditActions(QWidget& window, KeyboardView& view, const Actions& actions)
+    : _window(window), _view(view) {
     followHistory(actions);
     connectAction(actions.undo, std::mem_fn(&KeyboardView::undoTyping),
                   std::mem_fn(&QLineEdit::undo));

@@ -11,7 +11,7 @@ class QWidget;
 
 /// The items of the Edit menu: they act on the field of the window that has the keyboard. Undo and
 /// redo can be chosen only while the keyboard view, if it is that field, has something to take
-/// back.
+/// back. To be gone before the widgets of the window are: these give the focus away as they go.
 class EditActions final : public QObject {
     Q_OBJECT
   public:
@@ -25,7 +25,7 @@ class EditActions final : public QObject {
     };
 
     /// `window`, whose keyboard view `view` is, must outlive the actions.
-    EditActions(QWidget& window, KeyboardView& view, const Actions& actions, QObject* parent);
+    EditActions(QWidget& window, KeyboardView& view, const Actions& actions);
 
   private:
     using InView = std::function<void(KeyboardView&)>;

@@ -130,14 +130,14 @@ void MainWindow::setUpMenus() {
                      _ui->incrementSerialNumberButton, &QToolButton::click);
     QObject::connect(_ui->decrementSerialNumberAction, &QAction::triggered,
                      _ui->decrementSerialNumberButton, &QToolButton::click);
-    new EditActions(*this, *_ui->keyboardView,
-                    {.undo = _ui->undoAction,
-                     .redo = _ui->redoAction,
-                     .cut = _ui->cutAction,
-                     .copy = _ui->copyAction,
-                     .paste = _ui->pasteAction,
-                     .selectAll = _ui->selectAllAction},
-                    this);
+    _editActions =
+        std::make_unique<EditActions>(*this, *_ui->keyboardView,
+                                      EditActions::Actions{.undo = _ui->undoAction,
+                                                           .redo = _ui->redoAction,
+                                                           .cut = _ui->cutAction,
+                                                           .copy = _ui->copyAction,
+                                                           .paste = _ui->pasteAction,
+                                                           .selectAll = _ui->selectAllAction});
     QObject::connect(_ui->guideAction, &QAction::triggered, this, &MainWindow::showGuide);
     QObject::connect(_ui->aboutAction, &QAction::triggered, this,
                      [this] { (new AboutBox(this))->show(); });

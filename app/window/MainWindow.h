@@ -4,6 +4,7 @@
 
 #include <memory>
 
+class EditActions;
 class GuideWindow;
 class QLineEdit;
 class TuneSwitch;
@@ -55,6 +56,7 @@ class MainWindow final : public QMainWindow {
 
     WinKeyerUsb& _engine;
     std::unique_ptr<Ui::MainWindow> _ui;
+    std::unique_ptr<EditActions> _editActions;
     TuneSwitch* _tuneSwitch = nullptr;
     GuideWindow* _guide = nullptr;
 };

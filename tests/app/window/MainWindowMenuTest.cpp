@@ -8,6 +8,7 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QLineEdit>
+#include <QMenuBar>
 #include <QPushButton>
 #include <QShortcut>
 #include <QSignalSpy>
@@ -32,6 +33,7 @@ class MainWindowMenuTest : public QObject, private MainWindowFixture {
     void theEditMenuActsOnTheFocusedField();
     void preferencesAndQuitAreAskedFor();
     void theGuideAndTheAboutBoxOpen();
+    void theWindowMayGoWithTheFocusInItsMenuBar();
 
   private:
     void trigger(const QString& action) { find<QAction>(action)->trigger(); }
@@ -201,6 +203,14 @@ void MainWindowMenuTest::theGuideAndTheAboutBoxOpen() {
     QVERIFY(about->text().startsWith(u"Quorvel"));
     about->close();
     QTRY_VERIFY(_window->findChild<AboutBox*>() == nullptr);
+}
+
+/// The menu bar gives the focus away when the keyboard view is no more.
+void MainWindowMenuTest::theWindowMayGoWithTheFocusInItsMenuBar() {
+    _window->menuBar()->setFocus();
+    QVERIFY(_window->menuBar()->hasFocus());
+    _window.reset();
+    QVERIFY(QApplication::focusWidget() == nullptr);
 }
 
 static const RegisteredTest<MainWindowMenuTest> registered;
