@@ -1,17 +1,28 @@
 #include "app/DesktopApplication.h"
 
 #include "app/AlertBox.h"
+#include "platform/Log.h"
 #include "platform/Platform.h"
 
 #include <QApplication>
 #include <QScopeGuard>
+#include <QTimer>
+
+using namespace std::chrono_literals;
 
 AlertAnswer DesktopApplication::runModal(const Alert& alert) {
+    if (_limit && *_limit == 0ms) {
+        logLine(alert.messageText);
+        return alert.alternateButton.isNull() ? AlertAnswer::Default : AlertAnswer::Alternate;
+    }
     AlertBox box(alert, windowInUse());
     // Devices that come and go meanwhile wait, so that no alert ever stands on another.
     auto& devices = Platform::current().devices();
     devices.holdAnnouncements();
     const auto resume = qScopeGuard([&devices] { devices.resumeAnnouncements(); });
+    if (_limit) {
+        QTimer::singleShot(*_limit, &box, &QDialog::reject);
+    }
     box.exec();
     return box.answer();
 }

@@ -5,6 +5,9 @@
 #include <QPointer>
 #include <QWidget>
 
+#include <chrono>
+#include <optional>
+
 /// The application on the desktop: shows alerts as modal windows.
 class DesktopApplication final : public Application {
   public:
@@ -14,8 +17,13 @@ class DesktopApplication final : public Application {
     /// none.
     void setAlertParent(QWidget* window) { _alertParent = window; }
 
+    /// From now on nothing is asked: an alert closes by itself after that time, which counts as
+    /// its alternate answer, and with no time at all it is only logged.
+    void limitAlerts(std::chrono::milliseconds limit) { _limit = limit; }
+
   private:
     [[nodiscard]] QWidget* windowInUse() const;
 
     QPointer<QWidget> _alertParent;
+    std::optional<std::chrono::milliseconds> _limit;
 };

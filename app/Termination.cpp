@@ -34,14 +34,16 @@ Termination::Termination(QuorvelDelegate& delegate) : _delegate(delegate) {
     qGuiApp->installEventFilter(this);
     QObject::connect(qGuiApp, &QGuiApplication::lastWindowClosed, this, [this] {
         if (_delegate.applicationShouldTerminateAfterLastWindowClosed()) {
-            terminate();
+            terminate(Cause::Operator);
         }
     });
     // What is not done when this returns may never be.
-    QObject::connect(qGuiApp, &QGuiApplication::commitDataRequest, this, &Termination::terminate,
-                     Qt::DirectConnection);
-    NotificationCenter::defaultCenter().addObserver(this, NSWorkspaceWillPowerOffNotification,
-                                                    [this](const Notification&) { terminate(); });
+    QObject::connect(
+        qGuiApp, &QGuiApplication::commitDataRequest, this, [this] { terminate(Cause::System); },
+        Qt::DirectConnection);
+    NotificationCenter::defaultCenter().addObserver(
+        this, NSWorkspaceWillPowerOffNotification,
+        [this](const Notification&) { terminate(Cause::System); });
     current = this;
     hearExit();
 }
@@ -50,9 +52,9 @@ Termination::~Termination() {
     current = nullptr;
 }
 
-void Termination::terminate() {
+void Termination::terminate(Cause cause) {
     if (!std::exchange(_hasBegun, true)) {
-        Q_EMIT begun();
+        Q_EMIT begun(cause);
         _delegate.applicationShouldTerminate();
         Q_EMIT hasLeftKeyer();
         NotificationCenter::defaultCenter().post(NSApplicationWillTerminateNotification, nullptr);
@@ -74,7 +76,7 @@ void Termination::terminateWithoutDesktop() {
 
 bool Termination::eventFilter(QObject* watched, QEvent* event) {
     if (watched == qGuiApp && event->type() == QEvent::Quit) {
-        terminate();
+        terminate(Cause::Operator);
         return true;
     }
     return QObject::eventFilter(watched, event);

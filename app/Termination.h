@@ -20,9 +20,16 @@ class Termination final : public QObject {
     explicit Termination(QuorvelDelegate& delegate);
     ~Termination() override;
 
+    enum class Cause {
+        /// Quit, or the last window closed: the operator is there.
+        Operator,
+        /// A signal, the end of the session or of the machine: nobody may be there.
+        System
+    };
+
     /// Asked again while an alert of the way out waits, it ends that alert; the link is taken down
     /// only once.
-    void terminate();
+    void terminate(Cause cause);
 
     /// Takes the link down, if nothing has yet, where the process exits with no desktop and no
     /// event loop: nothing is shown, and nobody is told.
@@ -30,7 +37,7 @@ class Termination final : public QObject {
 
   Q_SIGNALS:
     /// Once, before the link is taken down.
-    void begun();
+    void begun(Termination::Cause cause);
     /// Once, when the link has been taken down.
     void hasLeftKeyer();
 

@@ -35,8 +35,12 @@
 #include <memory>
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
 namespace {
+
+/// How long an alert of the way out waits for an operator who has asked to quit.
+constexpr auto lastWord = 10s;
 
 /// What the desktop gave this start, so that a window may come to the front.
 QString activationToken() {
@@ -93,14 +97,18 @@ int run(SingleInstance& instance) {
     QObject::connect(&instance, &SingleInstance::activated, &window, &MainWindow::comeToFront);
 
     Termination termination(delegate);
-    QObject::connect(&window, &MainWindow::quitRequested, &termination, &Termination::terminate);
+    QObject::connect(&window, &MainWindow::quitRequested, &termination,
+                     [&] { termination.terminate(Termination::Cause::Operator); });
+    QObject::connect(&termination, &Termination::begun, &window, [&](Termination::Cause cause) {
+        alerts.limitAlerts(cause == Termination::Cause::Operator ? lastWord : 0ms);
+    });
     QObject::connect(&termination, &Termination::hasLeftKeyer, &keyingRecord, &KeyingRecord::close);
     // By the time the event loop comes round again, in an alert of the way out, the port is free.
     QObject::connect(&termination, &Termination::begun, &instance, &SingleInstance::leave,
                      Qt::QueuedConnection);
     const TerminationSignals terminationSignals;
     QObject::connect(&terminationSignals, &TerminationSignals::requested, &termination,
-                     &Termination::terminate);
+                     [&] { termination.terminate(Termination::Cause::System); });
 
     window.show();
     QTimer::singleShot(0, &delegate, [&] {

@@ -77,7 +77,7 @@ void TerminationTest::runLoop(const std::function<void()>& action) {
 
 void TerminationTest::theLinkIsTakenDownAndEveryoneTold() {
     const QSignalSpy partings(&*_termination, &Termination::hasLeftKeyer);
-    runLoop([this] { _termination->terminate(); });
+    runLoop([this] { _termination->terminate(Termination::Cause::Operator); });
     QCOMPARE(partings.size(), 1);
     QCOMPARE(_bench->written(), "00 03");
     QVERIFY(!_bench->engine().isConnected());
@@ -86,8 +86,8 @@ void TerminationTest::theLinkIsTakenDownAndEveryoneTold() {
 
 void TerminationTest::askedTwiceItDisconnectsOnce() {
     runLoop([this] {
-        _termination->terminate();
-        _termination->terminate();
+        _termination->terminate(Termination::Cause::Operator);
+        _termination->terminate(Termination::Cause::Operator);
     });
     QCOMPARE(disconnections(), 1);
     QCOMPARE(_tellings, 1);
@@ -103,10 +103,11 @@ void TerminationTest::askedAgainItEndsAnAlertOfTheWayOut() {
         QCOMPARE(beginnings.size(), 1);
         QVERIFY(!_bench->port().isOpen());
         QEventLoop alert;
-        QTimer::singleShot(0, &*_termination, [this] { _termination->terminate(); });
+        QTimer::singleShot(0, &*_termination,
+                           [this] { _termination->terminate(Termination::Cause::Operator); });
         alert.exec();
     });
-    runLoop([this] { _termination->terminate(); });
+    runLoop([this] { _termination->terminate(Termination::Cause::Operator); });
     QCOMPARE(alerts, 1);
     QCOMPARE(beginnings.size(), 1);
     QCOMPARE(disconnections(), 1);
@@ -133,8 +134,8 @@ void TerminationTest::theMachinesEndTakesTheWayOut() {
 /// Only the toolkit can make the session's manager that it hands over, so the connection is all
 /// that can be seen here.
 void TerminationTest::theSessionsEndTakesTheWayOut() {
-    QVERIFY(QObject::disconnect(qGuiApp, &QGuiApplication::commitDataRequest, &*_termination,
-                                &Termination::terminate));
+    QVERIFY(
+        QObject::disconnect(qGuiApp, &QGuiApplication::commitDataRequest, &*_termination, nullptr));
 }
 
 void TerminationTest::anExitWithoutTheDesktopLeavesTheKeyer() {
@@ -151,7 +152,7 @@ void TerminationTest::anExitWithoutTheDesktopLeavesTheKeyer() {
 }
 
 void TerminationTest::anExitAfterTheWayOutDoesNothing() {
-    runLoop([this] { _termination->terminate(); });
+    runLoop([this] { _termination->terminate(Termination::Cause::Operator); });
     _bench->engine().setTuneState(1);
     _termination->terminateWithoutDesktop();
     QCOMPARE(_bench->engine().tuneState(), 1);
