@@ -1,13 +1,25 @@
 #pragma once
 
+#include "platform/SettingsFile.h"
+
+#include <QFileSystemWatcher>
 #include <QHash>
 #include <QObject>
-#include <QSettings>
 #include <QString>
+#include <QTimer>
 #include <QVariant>
+
+#include <chrono>
+#include <memory>
+
+class MainQueue;
+class SettingsWriter;
 
 /// The operator's settings: a per-user store of values by key, in an INI file that people may read
 /// and edit, under which registered defaults lie that are never written. Main thread only.
+///
+/// The file is read when the store is made, and then again whenever it changes; what another
+/// program writes there holds at once. The main thread never waits for it afterwards.
 class SettingsStore final : public QObject {
     Q_OBJECT
   public:
@@ -17,10 +29,13 @@ class SettingsStore final : public QObject {
     /// Where the settings of the user live: quorvel/quorvel.conf in the configuration home.
     [[nodiscard]] static QString standardPath();
 
-    /// A file that is there and cannot be parsed is moved aside before anything is written, so
-    /// that nothing in it is lost; corruptFile() then names it. A file that cannot be moved or
-    /// cannot be read stays as it is, and a file beside it, its name ending in .new, is used.
-    explicit SettingsStore(const QString& path);
+    /// A file that is there and damaged is moved aside before anything is written, so that nothing
+    /// in it is lost; corruptFile() then names it. A file that cannot be moved or cannot be read
+    /// stays as it is, and a file beside it, its name ending in .new, is used. What cannot be
+    /// stored is tried again after `retryTime`.
+    explicit SettingsStore(const QString& path,
+                           std::chrono::milliseconds retryTime = std::chrono::seconds(5));
+    ~SettingsStore() override;
 
     /// Adds values that hold for keys with no stored value. A later registration wins.
     void registerDefaults(const QHash<QString, QVariant>& defaults);
@@ -41,29 +56,62 @@ class SettingsStore final : public QObject {
     /// A text, or a number as text; null when there is none.
     [[nodiscard]] QString stringForKey(const QString& key) const;
 
-    /// Stores a value and announces it; an invalid one removes what was stored. It is in the file
-    /// when the event loop has come round.
+    /// Stores a value and announces it; an invalid one removes what was stored. It is on its way
+    /// into the file when the event loop has come round.
     void setObject(const QVariant& value, const QString& key);
 
-    /// Writes what is not yet in the file. False when the file could not be written.
+    /// Writes what is not yet in the file, and waits for it. False when it could not be written.
     [[nodiscard]] bool synchronize();
 
-    /// Where a file that could not be parsed is now: aside, or still at path(). Null when the file
-    /// was sound, or could not be read at all.
+    /// What was wrong with the file when the store was made.
+    [[nodiscard]] SettingsFile::Damage damage() const { return _damage; }
+    /// Where a damaged file is now: aside, or still at path(). Null when the file was sound, or
+    /// could not be read at all.
     [[nodiscard]] QString corruptFile() const { return _corruptFile; }
+
+    /// Why the file could not be written the last time, in the system's words; null when it could.
+    [[nodiscard]] QString problem() const { return _problem; }
+    /// The keys whose values are not in the file yet, sorted.
+    [[nodiscard]] QStringList keysNotStored() const;
 
     /// The file that the store was made for.
     [[nodiscard]] QString path() const { return _path; }
     /// The file in use: path(), or the one beside it when that had to be left as it is.
-    [[nodiscard]] QString fileName() const { return _settings.fileName(); }
+    [[nodiscard]] QString fileName() const { return _fileName; }
 
   Q_SIGNALS:
     /// The value of `key` is another one now.
     void changed(const QString& key);
+    /// The file could not be written, for the first time or since it last could: what changes is
+    /// kept in memory, and stored as soon as it can be. See problem() and keysNotStored().
+    void storingFailed();
 
   private:
+    void readAtStart();
+    void watch();
+    void handOver();
+    void takeReading(const SettingsFile::Content& content);
+    void takeStored(quint64 number, const SettingsFile::Values& values);
+    void takeProblem(const QString& problem);
+    void replaceValues(const SettingsFile::Values& values);
+
     QString _path;
+    QString _fileName;
+    SettingsFile::Damage _damage = SettingsFile::Damage::None;
     QString _corruptFile;
-    QSettings _settings;
+    /// What the file says.
+    SettingsFile::Values _values;
+    /// What is to be put into it, of which an invalid value removes the key.
+    SettingsFile::Values _changes;
+    /// Of the job that was last handed over.
+    SettingsFile::Values _changesHandedOver;
+    quint64 _lastJob = 0;
+    QString _problem;
+    bool _isDamaged = false;
     QHash<QString, QVariant> _defaults;
+    QTimer _handOverSoon;
+    QTimer _readSoon;
+    QFileSystemWatcher _watcher;
+    std::shared_ptr<MainQueue> _reports;
+    std::unique_ptr<SettingsWriter> _writer;
 };

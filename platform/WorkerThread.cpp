@@ -1,4 +1,4 @@
-#include "serial/WorkerThread.h"
+#include "platform/WorkerThread.h"
 
 #include <csignal>
 #include <pthread.h>

@@ -2,7 +2,7 @@
 
 #include "platform/MainQueue.h"
 #include "serial/ORSSerialPort.h"
-#include "serial/WorkerThread.h"
+#include "platform/WorkerThread.h"
 
 #include <algorithm>
 #include <array>

@@ -1,4 +1,4 @@
-#include "serial/WorkerThread.h"
+#include "platform/WorkerThread.h"
 #include "tests/serial/PortBench.h"
 #include "tests/support/RegisteredTest.h"
 

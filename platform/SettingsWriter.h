@@ -1,0 +1,56 @@
+#pragma once
+
+#include "platform/SettingsFile.h"
+
+#include <chrono>
+#include <functional>
+#include <memory>
+#include <thread>
+
+/// Reads and writes a settings file on a thread of its own, so that a slow disk or another
+/// program's lock holds nobody up. What cannot be written is tried again from time to time. Main
+/// thread only, but for the reports.
+class SettingsWriter {
+  public:
+    struct Job {
+        /// What is to be stored, of which an invalid value removes the key.
+        SettingsFile::Values changes;
+        /// What the file said last.
+        SettingsFile::Values known;
+        /// Tells jobs apart; the later, the greater.
+        quint64 number = 0;
+    };
+
+    /// What a reading or a writing came to.
+    struct Report {
+        /// The number of the job that was done; 0 for a reading.
+        quint64 number = 0;
+        /// Why nothing could be written; null when all went well.
+        QString problem;
+        /// What the file says, if it was no problem and no damage.
+        SettingsFile::Content content;
+    };
+    /// Called on the writer's thread.
+    using Receiver = std::function<void(const Report&)>;
+
+    SettingsWriter(const QString& path, Receiver receiver, std::chrono::milliseconds retryTime);
+    SettingsWriter(const SettingsWriter&) = delete;
+    SettingsWriter& operator=(const SettingsWriter&) = delete;
+    /// Gives the last job some seconds to be done. A disk that takes longer keeps the process from
+    /// nothing.
+    ~SettingsWriter();
+
+    /// Has the file read anew, once whatever else there is to do is done.
+    void read();
+    /// Has this stored in place of any job that waits.
+    void write(const Job& job);
+    /// Waits until the job of that number has been tried, some seconds at most; whether it was
+    /// stored.
+    [[nodiscard]] bool finish(quint64 number);
+
+  private:
+    struct State;
+
+    std::shared_ptr<State> _state;
+    std::jthread _thread;
+};
