@@ -11,7 +11,7 @@
 using namespace std::chrono_literals;
 
 AlertAnswer DesktopApplication::runModal(const Alert& alert) {
-    if (_limit && *_limit == 0ms) {
+    if (_limit && *_limit == std::chrono::milliseconds::zero()) {
         logLine(alert.messageText);
         return alert.alternateButton.isNull() ? AlertAnswer::Default : AlertAnswer::Alternate;
     }

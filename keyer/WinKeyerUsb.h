@@ -123,8 +123,8 @@ class WinKeyerUsb final : public QObject, public ORSSerialPortDelegate {
     void clearSending();
     /// Empties the keyer's buffer and forgets all text.
     void stopMessageSending(const QObject* sender);
-    /// Keys up and empties the keyer's buffer at once, whatever it keys: tune, text, or a message of
-    /// its own. The text of the engine stays.
+    /// Keys up and empties the keyer's buffer at once, whatever it keys: tune, text, or a message
+    /// of its own. The text of the engine stays.
     void silence();
     /// Whether the keyer may be keying, by what it was given and what it has told since.
     [[nodiscard]] bool mayBeKeying() const { return _mayBeKeying; }

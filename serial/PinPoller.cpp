@@ -1,8 +1,8 @@
 #include "serial/PinPoller.h"
 
 #include "platform/MainQueue.h"
-#include "serial/ORSSerialPort.h"
 #include "platform/WorkerThread.h"
+#include "serial/ORSSerialPort.h"
 
 #include <algorithm>
 #include <array>

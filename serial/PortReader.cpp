@@ -1,8 +1,8 @@
 #include "serial/PortReader.h"
 
 #include "platform/MainQueue.h"
-#include "serial/ORSSerialPort.h"
 #include "platform/WorkerThread.h"
+#include "serial/ORSSerialPort.h"
 
 #include <algorithm>
 #include <array>

@@ -12,8 +12,8 @@
 /// is written down as "thread".
 class RecordingDelegate final : public ORSSerialPortDelegate {
   public:
-    /// "opened", "closing", "closed", "removed", "data" and "error", in the order of the calls; several
-    /// "data" or "error" in a row count as one.
+    /// "opened", "closing", "closed", "removed", "data" and "error", in the order of the calls;
+    /// several "data" or "error" in a row count as one.
     [[nodiscard]] const QStringList& events() const { return _events; }
     [[nodiscard]] qsizetype count(const QString& event) const { return _all.count(event); }
     [[nodiscard]] const QByteArray& received() const { return _received; }
