@@ -14,7 +14,6 @@
 #include <csignal>
 #include <cstdio>
 #include <memory>
-#include <optional>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -266,7 +265,7 @@ void SettingsStoringTest::whatCannotBeStoredIsToldAndStoredLater() {
     QFETCH(const QString, obstacle);
     QFETCH(const QString, reason);
     putInTheWay(obstacle);
-    std::optional<OrdinaryUser> user(std::in_place);
+    auto user = std::make_unique<OrdinaryUser>();
     SettingsStore store(path(), 50ms);
     QSignalSpy failures(&store, &SettingsStore::storingFailed);
     {
