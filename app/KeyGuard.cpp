@@ -27,6 +27,13 @@ KeyGuard::KeyGuard(WinKeyerUsb& engine, const QString& program)
     : _engine(engine), _program(program) {
     connect(&_engine, &WinKeyerUsb::activityChanged, this, &KeyGuard::followLink);
     connect(&_engine, &WinKeyerUsb::tuneStateChanged, this, &KeyGuard::followTune);
+    connect(&_engine, &WinKeyerUsb::willLoadMemory, this,
+            [this] { tell(GuardMessage::LoadingMemory); });
+    connect(&_engine, &WinKeyerUsb::isLoadingMemoryChanged, this, [this] {
+        if (!_engine.isLoadingMemory()) {
+            tell(GuardMessage::NotLoadingMemory);
+        }
+    });
     followLink();
 }
 
@@ -79,6 +86,12 @@ void KeyGuard::end() {
     _guard.reset();
 }
 
+void KeyGuard::tell(GuardMessage message) {
+    if (_guard) {
+        _guard->tell(message);
+    }
+}
+
 /// The guard hears of the end of a tune when key up has been written: the one who switches tune off
 /// writes it right after.
 void KeyGuard::followTune() {
@@ -87,8 +100,8 @@ void KeyGuard::followTune() {
     } else if (_nextSign) {
         _nextSign->invalidate();
         _nextSign = Platform::current().clock().scheduleTimer({}, this, [this] {
-            if (_guard && _engine.tuneState() == 0) {
-                _guard->tell(GuardMessage::NotTuning);
+            if (_engine.tuneState() == 0) {
+                tell(GuardMessage::NotTuning);
             }
         });
     }
@@ -98,9 +111,7 @@ void KeyGuard::giveSign() {
     if (_nextSign) {
         _nextSign->invalidate();
     }
-    if (_guard) {
-        _guard->tell(GuardMessage::Tuning);
-    }
+    tell(GuardMessage::Tuning);
     _nextSign = Platform::current().clock().scheduleTimer(signInterval, this, [this] {
         if (_engine.tuneState() != 0) {
             giveSign();

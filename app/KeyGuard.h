@@ -42,6 +42,7 @@ class KeyGuard final : public QObject {
     void followOpening();
     void followTune();
     void giveSign();
+    void tell(GuardMessage message);
     void start();
     void end();
     void guardHasEnded(std::optional<GuardEnd> how);

@@ -42,6 +42,9 @@ namespace {
 /// How long an alert of the way out waits for an operator who has asked to quit.
 constexpr auto lastWord = 10s;
 
+/// Bytes: a stop behind them is at the keyer within a tenth of a second.
+constexpr int runLimit = 6;
+
 /// What the desktop gave this start, so that a window may come to the front.
 QString activationToken() {
     return qEnvironmentVariable("XDG_ACTIVATION_TOKEN", qEnvironmentVariable("DESKTOP_STARTUP_ID"));
@@ -67,6 +70,7 @@ int run(SingleInstance& instance) {
     PreferencesMessagesViewController::initialize();
     PreferencesGeneral::initialize();
 
+    WinKeyerUsb::sharedInstance().setRunLimit(runLimit);
     QuorvelDelegate delegate;
     const KeyGuard guard(WinKeyerUsb::sharedInstance(), KeyGuardProcess::standardProgram());
     // Ahead of whatever sends: a key that was left down is let go of first.

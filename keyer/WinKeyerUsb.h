@@ -104,6 +104,10 @@ class WinKeyerUsb final : public QObject, public ORSSerialPortDelegate {
     /// write is logged.
     void putToWinKeyer(const QByteArray& bytes);
     void serialPortDidReceiveData(ORSSerialPort& port, const QByteArray& data) override;
+    /// Of what sends no echo, such as half spaces, so many bytes are written ahead of the line, and
+    /// the rest as the line sends them, so that a stop never queues behind a long run of them. 0, as
+    /// at first, for no limit.
+    void setRunLimit(int bytes) { _runLimit = bytes; }
     /// Sends all keyer settings as one block, when connected.
     void loadDefaults();
 
@@ -160,6 +164,9 @@ class WinKeyerUsb final : public QObject, public ORSSerialPortDelegate {
     /// holds a character without a code (nothing is loaded then) or the port did not take the
     /// bytes. Never fills `error`. A message too long for the space left is left out.
     [[nodiscard]] bool writeEeprom(Error* error);
+    /// Whether an image of its memory is on its way to the keyer, which takes the line more than two
+    /// seconds. Text waits meanwhile.
+    [[nodiscard]] bool isLoadingMemory() const { return _memoryLoad != nullptr; }
     /// Has the keyer key one of its stored messages, 1 to 6; the low 8 bits are sent as they are.
     void sendStandaloneMessage(int number);
     /// Writes the codes of `message` from `start` on. False, and nothing written, when it holds a
@@ -212,6 +219,10 @@ class WinKeyerUsb final : public QObject, public ORSSerialPortDelegate {
     void messageSendingStopped();
     /// The port is being closed by another, which stops what was being sent or waited to be.
     void sendingCutShort();
+    /// An image of the keyer's memory is about to be written, behind which a key up would queue.
+    void willLoadMemory();
+    /// isLoadingMemory() is another one now, or an image could not be written.
+    void isLoadingMemoryChanged();
     /// silence() has keyed up, over a line that took it, and so ended a tune.
     void silenced();
     void speedStringChanged();
@@ -237,6 +248,7 @@ class WinKeyerUsb final : public QObject, public ORSSerialPortDelegate {
     void setSpeedString(const QString& speed);
     void appendSendableText(const QString& text);
     void announceActivity();
+    void makeWay();
     void beginHostMode();
     void completeHostMode();
 
@@ -244,6 +256,12 @@ class WinKeyerUsb final : public QObject, public ORSSerialPortDelegate {
     void handleStatus(std::uint8_t status);
     void handleIdle();
 
+    void beginMemoryLoad();
+    void endMemoryLoad();
+
+    void continueRun();
+    [[nodiscard]] bool isRunUnderWay() const;
+    void writeAhead(const QByteArray& bytes);
     [[nodiscard]] Step sendNext();
     [[nodiscard]] Step sendNextOfHisCallsign();
     [[nodiscard]] Step sendCharacter(char character);
@@ -259,6 +277,8 @@ class WinKeyerUsb final : public QObject, public ORSSerialPortDelegate {
     bool _hasHeardFromKeyer = false;
     bool _mayBeKeying = false;
     bool _isToBeGreetedAgain = false;
+    Clock::Duration _greetingEnd{0};
+    std::shared_ptr<Timer> _memoryLoad;
     std::optional<std::uint8_t> _lastStatus;
     KeyerActivity _announcedActivity = KeyerActivity::NotConnected;
     QString _announcedPortName;
@@ -269,6 +289,10 @@ class WinKeyerUsb final : public QObject, public ORSSerialPortDelegate {
     qsizetype _outputBufferIndex = 0;
     qsizetype _inFlightIndex = 0;
     bool _sendingState = false;
+    bool _sendIsDue = false;
+    int _runLimit = 0;
+    qsizetype _bytesAhead = 0;
+    std::shared_ptr<Timer> _runTimer;
     QString _hisCallsign;
     bool _sendingHisCallsign = false;
     qsizetype _nextHisCallsignCharacterIndex = 0;

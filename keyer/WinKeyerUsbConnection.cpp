@@ -2,6 +2,7 @@
 
 #include "keyer/GeneralSettings.h"
 #include "keyer/KeyerCommand.h"
+#include "keyer/LineTime.h"
 #include "keyer/StoredSettings.h"
 #include "keyer/WinKeyerUsb.h"
 #include "platform/LeadingNumber.h"
@@ -13,6 +14,12 @@ using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
 namespace {
+
+/// What connecting sends, in bytes.
+constexpr qsizetype greetingSize = 28;
+
+/// Of a command that is no block of settings or memory.
+constexpr qsizetype longestCommand = 4;
 
 QString giveUp() {
     return WinKeyerUsb::tr("Giving up and closing connection to keyer.");
@@ -78,6 +85,7 @@ bool WinKeyerUsb::disconnect(Error* error) {
         clock.sleep(1s);
         _winKeyerSerialPort->close();
     }
+    endMemoryLoad();
     _winKeyerSerialPort.reset();
     announceActivity();
     return isHostClosed;
@@ -169,6 +177,7 @@ bool WinKeyerUsb::openHostMode(Error* error) {
 }
 
 void WinKeyerUsb::beginHostMode() {
+    endMemoryLoad();
     _isHostMode = false;
     _isToBeGreetedAgain = false;
     _hasHeardFromKeyer = false;
@@ -180,6 +189,7 @@ void WinKeyerUsb::completeHostMode() {
     loadDefaults();
     putToWinKeyer(KeyerCommand::getSpeedPot());
     _isHostMode = true;
+    _greetingEnd = Platform::current().clock().now() + lineTime(greetingSize);
 }
 
 void WinKeyerUsb::greetAgain() {
@@ -232,6 +242,7 @@ bool WinKeyerUsb::closeHostMode(Error* error) {
     if (!_isHostMode) {
         return true;
     }
+    makeWay();
     if (sendToPort(KeyerCommand::adminHostClose())) {
         _isHostMode = false;
         return true;
@@ -256,6 +267,7 @@ void WinKeyerUsb::serialPortWillBeClosed(ORSSerialPort& port) {
     silence();
     clearSending();
     static_cast<void>(sendToPort(KeyerCommand::adminHostClose()));
+    endMemoryLoad();
     _isHostMode = false;
     _isToBeGreetedAgain = true;
     announceActivity();
@@ -271,6 +283,7 @@ void WinKeyerUsb::serialPortWasRemovedFromSystem(ORSSerialPort& port) {
     logLine(u"-[WinKeyerUsb serialPortWasRemovedFromSystem:]"_s);
     // A port used before, whose delegate this still is, takes no link with it.
     if (&port == _winKeyerSerialPort.get()) {
+        endMemoryLoad();
         _winKeyerSerialPort.reset();
         announceActivity();
     }
@@ -278,6 +291,20 @@ void WinKeyerUsb::serialPortWasRemovedFromSystem(ORSSerialPort& port) {
 
 bool WinKeyerUsb::sendToPort(const QByteArray& bytes) {
     return isConnected() && _winKeyerSerialPort->sendData(bytes);
+}
+
+/// Lets what is written next reach the keyer at once: output that waits is dropped, if it is more
+/// than a command, and the keyer's parser begins anew. A block that is cut in its midst would have
+/// the keyer take the next commands for the rest of it, so one that may be on its way is let out.
+void WinKeyerUsb::makeWay() {
+    if (!isConnected() || isLoadingMemory() || Platform::current().clock().now() < _greetingEnd ||
+        _winKeyerSerialPort->outputWaiting() <= longestCommand) {
+        return;
+    }
+    _winKeyerSerialPort->dropOutput();
+    for (int i = 0; i < 4; ++i) {
+        static_cast<void>(sendToPort(KeyerCommand::nullCommand()));
+    }
 }
 
 /// Fails a step of connecting: tells why, forgets the stored choice of port, and lets go of it.

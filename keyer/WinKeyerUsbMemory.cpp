@@ -2,13 +2,15 @@
 
 #include "keyer/KeyerCommand.h"
 #include "keyer/KeyerMemory.h"
+#include "keyer/LineTime.h"
 #include "keyer/MorseTable.h"
 #include "keyer/StoredSettings.h"
 #include "keyer/WinKeyerUsb.h"
-#include "platform/SettingsStore.h"
+#include "platform/Platform.h"
 
 #include <algorithm>
 #include <iterator>
+#include <utility>
 
 using namespace KeyerMemory;
 
@@ -56,7 +58,32 @@ bool WinKeyerUsb::writeEeprom(Error*) {
     }
     auto image = imageOf(StoredSettings());
     store(layout, image);
-    return sendToPort(KeyerCommand::adminLoadEeprom()) && sendToPort(bytesOf(image));
+    Q_EMIT willLoadMemory();
+    if (!sendToPort(KeyerCommand::adminLoadEeprom()) || !sendToPort(bytesOf(image))) {
+        Q_EMIT isLoadingMemoryChanged();
+        return false;
+    }
+    beginMemoryLoad();
+    return true;
+}
+
+void WinKeyerUsb::beginMemoryLoad() {
+    endMemoryLoad();
+    const auto size = KeyerCommand::adminLoadEeprom().size() + qsizetype(Image().size());
+    _memoryLoad = Platform::current().clock().scheduleTimer(lineTime(size), this,
+                                                            [this] { endMemoryLoad(); });
+    Q_EMIT isLoadingMemoryChanged();
+}
+
+void WinKeyerUsb::endMemoryLoad() {
+    if (!isLoadingMemory()) {
+        return;
+    }
+    std::exchange(_memoryLoad, nullptr)->invalidate();
+    Q_EMIT isLoadingMemoryChanged();
+    if (std::exchange(_sendIsDue, false)) {
+        send();
+    }
 }
 
 void WinKeyerUsb::sendStandaloneMessage(int number) {

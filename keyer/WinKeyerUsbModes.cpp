@@ -11,10 +11,14 @@ void WinKeyerUsb::tune(const QObject* sender) {
     using KeyerCommand::KeyLine;
     const auto isOn = Action::state(sender) == 1;
     _mayBeKeying = _mayBeKeying || isOn;
+    if (!isOn) {
+        makeWay();
+    }
     putToWinKeyer(KeyerCommand::keyImmediate(isOn ? KeyLine::Down : KeyLine::Up));
 }
 
 void WinKeyerUsb::silence() {
+    makeWay();
     const bool isKeyUp = sendToPort(KeyerCommand::keyImmediate(KeyerCommand::KeyLine::Up));
     static_cast<void>(sendToPort(KeyerCommand::clearBuffer()));
     if (isKeyUp) {

@@ -4,12 +4,13 @@
 #include "keyer/GeneralSettings.h"
 #include "keyer/KeyerCommand.h"
 #include "keyer/KeyerSettings.h"
+#include "keyer/LineTime.h"
 #include "keyer/MessageSettings.h"
 #include "keyer/ReceivedByte.h"
 #include "keyer/SendableText.h"
 #include "keyer/WinKeyerUsb.h"
 #include "platform/Log.h"
-#include "platform/SettingsStore.h"
+#include "platform/Platform.h"
 
 using namespace Qt::StringLiterals;
 
@@ -91,16 +92,39 @@ void WinKeyerUsb::repeatMessage() {
 }
 
 void WinKeyerUsb::send() {
+    if (isRunUnderWay()) {
+        return; // it goes on by itself, up to the next character
+    }
     if (!_sendingHisCallsign) {
         _inFlightIndex = _outputBufferIndex;
     }
+    continueRun();
+}
+
+/// Up to the next character whose echo is waited for, or until so much is written that the line has
+/// to send it first.
+void WinKeyerUsb::continueRun() {
+    _bytesAhead = 0;
     while (sendNext() == Step::GoOn) {
+        if (_runLimit > 0 && _bytesAhead >= _runLimit) {
+            _runTimer = Platform::current().clock().scheduleTimer(lineTime(_bytesAhead), this,
+                                                                  [this] { continueRun(); });
+            break;
+        }
     }
     Q_EMIT sendingProgressed();
 }
 
+bool WinKeyerUsb::isRunUnderWay() const {
+    return _runTimer && _runTimer->isValid();
+}
+
 WinKeyerUsb::Step WinKeyerUsb::sendNext() {
     if (pauseState() != 0) {
+        return Step::WaitForEcho;
+    }
+    if (isLoadingMemory()) {
+        _sendIsDue = true;
         return Step::WaitForEcho;
     }
     if (_sendingHisCallsign) {
@@ -159,14 +183,14 @@ WinKeyerUsb::Step WinKeyerUsb::beginHSCW() {
     logLine(u"HSCW Speed = %1"_s.arg(speed));
     const auto command = KeyerCommand::hscwSpeedChange(KeyerEncoding::lowByte(speed));
     logLine(u"HSCW command = <%1>"_s.arg(QLatin1StringView(command.toHex())));
-    putToWinKeyer(command);
+    writeAhead(command);
     return Step::GoOn;
 }
 
 WinKeyerUsb::Step WinKeyerUsb::endHSCW() {
     logLine(u"End HSCW"_s);
     setHscwState(0);
-    putToWinKeyer(KeyerCommand::cancelBufferedSpeedChange());
+    writeAhead(KeyerCommand::cancelBufferedSpeedChange());
     return Step::GoOn;
 }
 
@@ -186,6 +210,11 @@ WinKeyerUsb::Step WinKeyerUsb::mergeLetters() {
 
 void WinKeyerUsb::sendText(const QByteArray& bytes) {
     _mayBeKeying = true;
+    writeAhead(bytes);
+}
+
+void WinKeyerUsb::writeAhead(const QByteArray& bytes) {
+    _bytesAhead += bytes.size();
     putToWinKeyer(bytes);
 }
 
@@ -199,6 +228,10 @@ void WinKeyerUsb::clearSending() {
     _outputBufferIndex = 0;
     _inFlightIndex = 0;
     _sendingState = false;
+    _sendIsDue = false;
+    if (_runTimer) {
+        _runTimer->invalidate();
+    }
     setKeyboardBuffer(u""_s);
     Q_EMIT sendingProgressed();
     setBeaconState(0);
@@ -206,6 +239,7 @@ void WinKeyerUsb::clearSending() {
 
 void WinKeyerUsb::stopMessageSending(const QObject*) {
     if (isConnected() && _winKeyerSerialPort->isOpen()) {
+        makeWay();
         putToWinKeyer(KeyerCommand::clearBuffer());
     }
     clearSending();

@@ -5,6 +5,8 @@
 #include "serial/LivePorts.h"
 #include "serial/PortOpening.h"
 
+#include <QSocketNotifier>
+
 #include <algorithm>
 #include <cerrno>
 

@@ -14,6 +14,7 @@
 
 class LivePorts;
 class PortOpening;
+class QSocketNotifier;
 
 /// One serial device of the system: its line settings, opening and closing, reading and writing.
 ///
@@ -111,8 +112,14 @@ class ORSSerialPort final : public QObject, public std::enable_shared_from_this<
     /// The device has gone: closes the port, telling the delegate before, and tells it so.
     void cleanup();
     /// False when the port is closed or the write failed; bytes that a short or failed write left
-    /// behind go out ahead of the next ones. Blocks while the device takes no bytes.
+    /// behind go out ahead of the next ones. Never waits: what the line has no room for goes out
+    /// by itself once it has, from the event loop.
     [[nodiscard]] bool sendData(const QByteArray& data);
+    /// How many bytes of sendData() have not left the computer, as far as its driver tells. 0 when
+    /// the port is closed.
+    [[nodiscard]] qsizetype outputWaiting() const;
+    /// Throws those bytes away, as far as the driver can.
+    void dropOutput();
     /// Hands bytes to the delegate as received.
     void receiveData(const QByteArray& data);
     /// Reports the calling thread's errno to the delegate, at once.
@@ -192,6 +199,9 @@ class ORSSerialPort final : public QObject, public std::enable_shared_from_this<
 
     [[nodiscard]] bool closeOpening();
     void queueErrorReport();
+    bool writeOut();
+    void watchForRoom();
+    void endWatchForRoom();
     void setFlowControl(bool& setting, bool uses, void (ORSSerialPort::*changed)());
     void setOutputLine(int& line, int value, int bit, void (ORSSerialPort::*changed)());
     void setInputLine(std::atomic<bool>& line, bool value, void (ORSSerialPort::*changed)());
@@ -206,6 +216,7 @@ class ORSSerialPort final : public QObject, public std::enable_shared_from_this<
     QString _path;
     QString _name;
     QByteArray _writeBuffer;
+    std::unique_ptr<QSocketNotifier> _roomWatch;
 
     unsigned long _baudRate = 19200;
     unsigned _numberOfStopBits = 1;

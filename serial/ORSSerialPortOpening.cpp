@@ -73,6 +73,7 @@ bool ORSSerialPort::close() {
     const auto self = shared_from_this();
     Q_EMIT willClose();
     _writeBuffer.clear();
+    endWatchForRoom();
     if (!closeOpening()) {
         static_cast<void>(_opening->startWorkers(self, _mainQueue));
         Q_EMIT isOpenChanged();
@@ -111,23 +112,4 @@ void ORSSerialPort::cleanup() {
     if (auto* const told = delegate()) {
         told->serialPortWasRemovedFromSystem(*this);
     }
-}
-
-// One attempt a call: what the device did not take waits for the next call.
-bool ORSSerialPort::sendData(const QByteArray& data) {
-    if (!isOpen()) {
-        return false;
-    }
-    _writeBuffer += data;
-    if (_writeBuffer.isEmpty()) {
-        return true;
-    }
-    const auto count = ::write(_fileDescriptor, _writeBuffer.constData(),
-                               static_cast<size_t>(_writeBuffer.size()));
-    if (count < 0) {
-        notifyDelegateOfPosixError();
-        return false;
-    }
-    _writeBuffer.remove(0, count);
-    return true;
 }

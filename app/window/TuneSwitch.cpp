@@ -16,7 +16,10 @@ TuneSwitch::TuneSwitch(WinKeyerUsb& engine, QAbstractButton& button, QObject* pa
                      [this] { _button.setChecked(_engine.tuneState() != 0); });
     QObject::connect(&_engine, &WinKeyerUsb::messageSendingStopped, this, &TuneSwitch::letGo);
     QObject::connect(&_engine, &WinKeyerUsb::silenced, this, [this] { _engine.setTuneState(0); });
+    QObject::connect(&_engine, &WinKeyerUsb::willLoadMemory, this, &TuneSwitch::letGo);
     QObject::connect(&_engine, &WinKeyerUsb::activityChanged, this, &TuneSwitch::followLink);
+    QObject::connect(&_engine, &WinKeyerUsb::isLoadingMemoryChanged, this,
+                     &TuneSwitch::followLink);
     _button.setChecked(_engine.tuneState() != 0);
     followLink();
 }
@@ -33,7 +36,9 @@ void TuneSwitch::followLink() {
     if (!isConnected) {
         letGo();
     }
-    _button.setEnabled(isConnected);
-    _button.setToolTip(isConnected ? tr("Key the transmitter steadily (Ctrl+T)")
-                                   : tr("Tune needs a keyer, and none is connected"));
+    const bool isLoading = _engine.isLoadingMemory();
+    _button.setEnabled(isConnected && !isLoading);
+    _button.setToolTip(!isConnected ? tr("Tune needs a keyer, and none is connected")
+                       : isLoading  ? tr("The keyer's memory is being loaded")
+                                    : tr("Key the transmitter steadily (Ctrl+T)"));
 }

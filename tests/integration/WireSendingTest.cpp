@@ -42,6 +42,7 @@ class WireSendingTest : public QObject {
     void aPushButtonSendsItsMessage();
     void thePaddleTakesOver();
     void stopSilencesTheKeyer();
+    void stopOvertakesWhatHasNoEcho();
     void aFullKeyerPausesUntilTheOperatorGoesOn();
 
   private:
@@ -208,6 +209,19 @@ void WireSendingTest::stopSilencesTheKeyer() {
     QVERIFY(_station->waitForQuiet());
     QCOMPARE(_station->keyed(), u"PAR"_s);
 
+    _station->type(u"K"_s);
+    QVERIFY(_station->waitForQuiet());
+    QCOMPARE(_station->keyed(), u"K"_s);
+}
+
+void WireSendingTest::stopOvertakesWhatHasNoEcho() {
+    _station->engine().setRunLimit(6);
+    _station->type(QString(20'000, u'|') + u'E');
+    _station->pass(5s);
+    const auto stopped = _station->now();
+    _station->engine().stopMessageSending(nullptr);
+    QVERIFY(_station->waitForQuiet());
+    QVERIFY(_station->now() - stopped <= 100ms);
     _station->type(u"K"_s);
     QVERIFY(_station->waitForQuiet());
     QCOMPARE(_station->keyed(), u"K"_s);

@@ -65,6 +65,26 @@ class SessionTest(ProgramTest):
         quorvel.wait_for("the key to rise", lambda: not keyer.is_key_down())
         self.terminate(keyer, quorvel)
 
+    def test_a_line_that_takes_nothing_does_not_hold_up_the_end(self):
+        far_end, line = os.openpty()
+        self.addCleanup(os.close, far_end)
+        self.addCleanup(os.close, line)
+        ports = self.runtime / "quorvel/ports"
+        ports.mkdir(parents=True, mode=0o700)
+        (ports / PORT).symlink_to(os.ttyname(line))
+        os.set_blocking(line, False)
+        with self.assertRaises(BlockingIOError):
+            while True:
+                os.write(line, b"|" * 4096)
+        self.write_settings(SETTINGS)
+        quorvel = self.start_quorvel()
+        window = self.active_window(quorvel)
+        quorvel.wait_for("the link", lambda: window.find("Keyer status").description().startswith(
+            f"Connected to {PORT}"))
+        self.desktop.press("ctrl+t")
+        quorvel.wait_for("tune", lambda: window.find("Tune").is_in_state("checked"))
+        self.assertEqual(quorvel.end(), 0)
+
     def test_without_a_bus_it_runs(self):
         keyer = self.start_keyer()
         self.write_settings(SETTINGS)

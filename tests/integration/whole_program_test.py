@@ -34,6 +34,17 @@ class WholeProgramTest(ProgramTest):
         self.assertLess(len(before), len(LONG_TEXT))
         self.terminate(keyer, quorvel)
 
+    def test_a_stop_overtakes_what_waits_for_the_line(self):
+        # They sound of nothing and have no echo, and take the line three minutes.
+        keyer, quorvel, window = self.start_connected(
+            SETTINGS.replace(LONG_TEXT, "|" * 20000))
+        self.desktop.press("F8")
+        quorvel.wait_for("the text", lambda: len(window.find("Keyboard").text()) == 20000)
+        self.desktop.press("Escape")
+        self.desktop.type("k")
+        keyer.has_keyed("K")
+        self.terminate(keyer, quorvel)
+
     def test_a_signal_ends_it_in_mid_text(self):
         keyer, quorvel, _ = self.start_connected()
         self.desktop.press("F8")

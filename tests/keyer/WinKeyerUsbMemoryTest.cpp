@@ -10,6 +10,7 @@
 #include <optional>
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
 class WinKeyerUsbMemoryTest : public QObject {
     Q_OBJECT
@@ -28,6 +29,11 @@ class WinKeyerUsbMemoryTest : public QObject {
     void aRefusedCommandKeepsTheImageBack();
     void aRefusedImageFails();
     void withoutAPortNothingIsSent();
+    void textWaitsUntilTheImageIsOut();
+    void textUnderWayGoesOnWhenTheImageIsOut();
+    void theEndOfALoadSendsNothingUnasked();
+    void aLoadEndsWithTheLink();
+    void aLoadIsForeseen();
     void standaloneMessagesAreSentByNumber_data();
     void standaloneMessagesAreSentByNumber();
 
@@ -166,6 +172,68 @@ void WinKeyerUsbMemoryTest::withoutAPortNothingIsSent() {
     QVERIFY(!_bench->engine().writeEeprom(nullptr));
     _bench->engine().sendStandaloneMessage(1);
     QCOMPARE(_bench->written(), "");
+}
+
+// The command and the image are on the line for 2.365 s.
+
+void WinKeyerUsbMemoryTest::textWaitsUntilTheImageIsOut() {
+    auto& engine = _bench->engine();
+    QVERIFY(engine.writeEeprom(nullptr));
+    QVERIFY(engine.isLoadingMemory());
+    static_cast<void>(_bench->written());
+    _bench->type(u"CQ"_s);
+    engine.appendMessage(u"TEST"_s);
+    _bench->clock().advance(2364ms);
+    QCOMPARE(_bench->written(), "");
+    _bench->clock().advance(1ms);
+    QVERIFY(!engine.isLoadingMemory());
+    QCOMPARE(_bench->written(), "43");
+    _bench->receive({'C'});
+    QCOMPARE(_bench->written(), "51");
+}
+
+void WinKeyerUsbMemoryTest::textUnderWayGoesOnWhenTheImageIsOut() {
+    _bench->type(u"CQ"_s);
+    QVERIFY(_bench->engine().writeEeprom(nullptr));
+    static_cast<void>(_bench->written());
+    _bench->receive({'C'});
+    QCOMPARE(_bench->written(), "");
+    _bench->clock().advance(3s);
+    QCOMPARE(_bench->written(), "51");
+}
+
+void WinKeyerUsbMemoryTest::theEndOfALoadSendsNothingUnasked() {
+    _bench->type(u"CQ"_s);
+    QVERIFY(_bench->engine().writeEeprom(nullptr));
+    static_cast<void>(_bench->written());
+    _bench->clock().advance(3s);
+    QCOMPARE(_bench->written(), ""); // the echo of the first letter has not come yet
+    QVERIFY(_bench->engine().writeEeprom(nullptr));
+    _bench->receive({'C'});
+    _bench->engine().stopMessageSending(nullptr);
+    static_cast<void>(_bench->written());
+    _bench->clock().advance(3s);
+    QCOMPARE(_bench->written(), "");
+}
+
+void WinKeyerUsbMemoryTest::aLoadEndsWithTheLink() {
+    QVERIFY(_bench->engine().writeEeprom(nullptr));
+    QVERIFY(_bench->engine().disconnect(nullptr));
+    QVERIFY(!_bench->engine().isLoadingMemory());
+    QVERIFY(_bench->connect());
+    _bench->type(u"E"_s);
+    QCOMPARE(_bench->written(), "45");
+}
+
+void WinKeyerUsbMemoryTest::aLoadIsForeseen() {
+    QStringList story;
+    QObject::connect(&_bench->engine(), &WinKeyerUsb::willLoadMemory, this, [&] {
+        story.append(QString::fromLatin1(_bench->written()));
+        _bench->engine().tune(nullptr);
+    });
+    QVERIFY(_bench->engine().writeEeprom(nullptr));
+    QCOMPARE(story, QStringList{QString(u""_s)});
+    QVERIFY(_bench->written().startsWith("0b 00 00 0d a5"));
 }
 
 void WinKeyerUsbMemoryTest::standaloneMessagesAreSentByNumber_data() {

@@ -11,6 +11,7 @@
 #include <optional>
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
 namespace {
 
@@ -61,6 +62,14 @@ class WinKeyerUsbSendingTest : public QObject {
     void theFirstCharacterIsLostWhileNotConnected();
     void controlCharactersCostNoStack();
     void charactersThatAreNoTextNeverReachTheKeyer();
+    void aLongRunIsWrittenAsTheLineSendsIt();
+    void aRunIsNotHurried();
+    void aStopEndsARun();
+    void aPauseHoldsARun();
+    void whatEndsTheKeyingOvertakesWhatWaits_data();
+    void whatEndsTheKeyingOvertakesWhatWaits();
+    void nothingIsCutFromABlock_data();
+    void nothingIsCutFromABlock();
 
   private:
     std::optional<EngineBench> _bench;
@@ -401,6 +410,115 @@ void WinKeyerUsbSendingTest::charactersThatAreNoTextNeverReachTheKeyer() {
         _bench->receive({'E'});
     }
     QCOMPARE(_bench->written(), "20 4b 31 45");
+}
+
+// Six bytes are on the line for 55 ms.
+
+void WinKeyerUsbSendingTest::aLongRunIsWrittenAsTheLineSendsIt() {
+    _bench->engine().setRunLimit(6);
+    _bench->type(u"A||||||{AR%|||E|"_s);
+    QCOMPARE(_bench->written(), "41");
+    _bench->receive({'A'});
+    QCOMPARE(_bench->written(), "7c 7c 7c 7c 7c 7c");
+    _bench->clock().advance(54ms);
+    QCOMPARE(_bench->written(), "");
+    _bench->clock().advance(1ms);
+    QCOMPARE(_bench->written(), "1b 41 52 1d 0a 7c");
+    _bench->clock().advance(1h);
+    QCOMPARE(_bench->written(), "7c 7c 45");
+    _bench->receive({'E'});
+    QCOMPARE(_bench->written(), "7c");
+}
+
+void WinKeyerUsbSendingTest::aRunIsNotHurried() {
+    _bench->engine().setRunLimit(6);
+    _bench->type(u"||||||||AB"_s);
+    _bench->receive({0xC0});
+    _bench->receive({'U'});
+    _bench->engine().appendMessage(u"C"_s);
+    QCOMPARE(_bench->written(), "7c 7c 7c 7c 7c 7c");
+    _bench->clock().advance(55ms);
+    QCOMPARE(_bench->written(), "7c 7c 41");
+    _bench->receive({'A'});
+    QCOMPARE(_bench->written(), "42");
+}
+
+void WinKeyerUsbSendingTest::aStopEndsARun() {
+    _bench->engine().setRunLimit(6);
+    _bench->type(QString(20'000, u'|'));
+    _bench->clock().advance(200ms);
+    static_cast<void>(_bench->written());
+    _bench->engine().stopMessageSending(nullptr);
+    QCOMPARE(_bench->written(), "0a");
+    _bench->clock().advance(1h);
+    QCOMPARE(_bench->written(), "");
+    _bench->type(u"|E"_s);
+    QCOMPARE(_bench->written(), "7c 45");
+}
+
+void WinKeyerUsbSendingTest::aPauseHoldsARun() {
+    _bench->engine().setRunLimit(6);
+    _bench->type(QString(7, u'|') + u'E');
+    _bench->receive({0xC1});
+    QCOMPARE(_bench->written(), "7c 7c 7c 7c 7c 7c 06 01");
+    _bench->clock().advance(1h);
+    QCOMPARE(_bench->written(), "");
+    _bench->receive({0xC0});
+    QCOMPARE(_bench->written(), "06 00 7c 45");
+}
+
+void WinKeyerUsbSendingTest::whatEndsTheKeyingOvertakesWhatWaits_data() {
+    QTest::addColumn<QString>("end");
+    QTest::addColumn<int>("waiting");
+    QTest::addColumn<QByteArray>("written");
+    QTest::newRow("stop") << u"stop"_s << 5 << QByteArray("13 13 13 13 0a");
+    QTest::newRow("a stop behind a command") << u"stop"_s << 4 << QByteArray("0a");
+    QTest::newRow("the end of tune") << u"tune"_s << 5 << QByteArray("13 13 13 13 0b 00");
+    QTest::newRow("silence") << u"silence"_s << 5
+                             << QByteArray("13 13 13 13 0b 00 0a");
+    QTest::newRow("leaving host mode") << u"close"_s << 5 << QByteArray("13 13 13 13 00 03");
+}
+
+void WinKeyerUsbSendingTest::whatEndsTheKeyingOvertakesWhatWaits() {
+    QFETCH(QString, end);
+    QFETCH(int, waiting);
+    QFETCH(QByteArray, written);
+    auto& engine = _bench->engine();
+    _bench->clock().advance(1s);
+    SystemCallFaults faults;
+    faults.setOutputWaiting(waiting);
+    if (end == u"stop") {
+        engine.stopMessageSending(nullptr);
+    } else if (end == u"tune") {
+        engine.tune(nullptr);
+    } else if (end == u"silence") {
+        engine.silence();
+    } else {
+        QVERIFY(engine.closeHostMode(nullptr));
+    }
+    QCOMPARE(_bench->written(), written);
+}
+
+void WinKeyerUsbSendingTest::nothingIsCutFromABlock_data() {
+    QTest::addColumn<bool>("isMemory");
+    QTest::newRow("settings") << false;
+    QTest::newRow("the keyer's memory") << true;
+}
+
+void WinKeyerUsbSendingTest::nothingIsCutFromABlock() {
+    QFETCH(bool, isMemory);
+    SystemCallFaults faults;
+    if (isMemory) {
+        _bench->clock().advance(1s);
+        QVERIFY(_bench->engine().writeEeprom(nullptr));
+        static_cast<void>(_bench->written());
+    }
+    faults.setOutputWaiting(100);
+    _bench->engine().stopMessageSending(nullptr);
+    QCOMPARE(_bench->written(), "0a");
+    _bench->clock().advance(3s);
+    _bench->engine().stopMessageSending(nullptr);
+    QCOMPARE(_bench->written(), "13 13 13 13 0a");
 }
 
 static const RegisteredTest<WinKeyerUsbSendingTest> registered;

@@ -143,6 +143,62 @@ class ORSSerialPortTransferTest : public QObject {
         QCOMPARE(bench.line.read(2), "ad"_ba);
     }
 
+    void aFullLineHoldsNobodyUp() {
+        PortBench bench;
+        QVERIFY(bench.open());
+        const auto sent = pattern(200'000);
+        QElapsedTimer time;
+        time.start();
+        for (qsizetype at = 0; at < sent.size(); at += 500) {
+            QVERIFY(bench.port->sendData(sent.mid(at, 500)));
+        }
+        QVERIFY(time.elapsed() < 5000);
+        QVERIFY(bench.port->outputWaiting() > 0);
+        // What found no room follows once there is some.
+        QCOMPARE(bench.line.read(sent.size(), 20s), sent);
+        QCOMPARE(bench.port->outputWaiting(), 0);
+        QCOMPARE(bench.delegate.count(u"error"_s), 0);
+    }
+
+    void droppedOutputIsNotSent() {
+        PortBench bench;
+        QVERIFY(bench.open());
+        const auto dropped = pattern(200'000);
+        QVERIFY(bench.port->sendData(dropped));
+        bench.port->dropOutput();
+        QCOMPARE(bench.port->outputWaiting(), 0);
+        QVERIFY(bench.port->sendData("end"));
+        QByteArray arrived;
+        QTRY_VERIFY((arrived += bench.line.readAvailable()).endsWith("end"));
+        // A far end may hold some that it has not taken yet.
+        QVERIFY(arrived.size() < 5000);
+        QVERIFY(dropped.startsWith(arrived.chopped(3)));
+    }
+
+    void aFullLineThatHangsUpIsGivenUp() {
+        PortBench bench;
+        QVERIFY(bench.open());
+        QVERIFY(bench.port->sendData(pattern(200'000)));
+        bench.line.hangUp();
+        QTRY_COMPARE(bench.delegate.count(u"error"_s), 1);
+        const int writes = bench.faults.count(SystemCall::Write);
+        QTest::qWait(50);
+        QCOMPARE(bench.faults.count(SystemCall::Write), writes);
+        QCOMPARE(bench.delegate.errors().constLast().code, EIO);
+    }
+
+    void aFullLineMayBeClosed() {
+        PortBench bench;
+        QVERIFY(bench.open());
+        QVERIFY(bench.port->sendData(pattern(200'000)));
+        QVERIFY(bench.port->close());
+        QCOMPARE(bench.port->outputWaiting(), 0);
+        bench.port->dropOutput();
+        static_cast<void>(bench.line.readAvailable());
+        QTest::qWait(20);
+        QVERIFY(!bench.port->isOpen());
+    }
+
     void receivedBytesComeAfterTheOpening() {
         PortBench bench;
         bench.port->open();

@@ -37,6 +37,7 @@ struct Table {
     QList<int> modemWordsSet;
     std::optional<int> serialFlags;
     int knownSerialFlags = 0;
+    std::optional<int> outputWaiting;
     std::optional<int> closeError;
 };
 
@@ -96,6 +97,15 @@ bool answersSerialRequest(unsigned long request, void* argument) {
     } else {
         table->serialFlags = settings.flags & table->knownSerialFlags;
     }
+    return true;
+}
+
+bool answersOutputRequest(unsigned long request, void* argument) {
+    const std::scoped_lock lock(mutex);
+    if (!table || !table->outputWaiting || request != TIOCOUTQ) {
+        return false;
+    }
+    *static_cast<int*>(argument) = *table->outputWaiting;
     return true;
 }
 
@@ -197,6 +207,11 @@ int SystemCallFaults::serialFlags() const {
     return table->serialFlags.value_or(0);
 }
 
+void SystemCallFaults::setOutputWaiting(int count) {
+    const std::scoped_lock lock(mutex);
+    table->outputWaiting = count;
+}
+
 QList<int> SystemCallFaults::modemWordsSet() const {
     const std::scoped_lock lock(mutex);
     return table->modemWordsSet;
@@ -271,7 +286,8 @@ int __wrap_ioctl(int descriptor, unsigned long request, ...) {
     if (fails(SystemCall::Ioctl, descriptor, request)) {
         return -1;
     }
-    if (answersModemRequest(request, argument) || answersSerialRequest(request, argument)) {
+    if (answersModemRequest(request, argument) || answersSerialRequest(request, argument) ||
+        answersOutputRequest(request, argument)) {
         return 0;
     }
     return __real_ioctl(descriptor, request, argument);

@@ -69,6 +69,8 @@ class SystemCallFaults {
     /// TIOCSSERIAL writes them, all of them or those that the driver knows.
     void setSerialFlags(int flags, int known = ~0);
     [[nodiscard]] int serialFlags() const;
+    /// Has TIOCOUTQ say that so many bytes have not left any terminal yet.
+    void setOutputWaiting(int count);
     /// The words that TIOCMSET was given, in order.
     [[nodiscard]] QList<int> modemWordsSet() const;
 };

@@ -37,6 +37,8 @@ class TuneSwitchTest : public QObject {
     void closingTheWindowLetsGo();
     void sleepLetsGo();
     void onlyAKeyerCanBeTuned();
+    void aLoadOfTheKeyersMemoryLetsGoFirst();
+    void thereIsNoTuneWhileTheKeyersMemoryIsLoaded();
     void escapeWithoutATuneKeysNothing();
     void aKeyUpThatTheLineRefusesGoesWithTheNextStop_data();
     void aKeyUpThatTheLineRefusesGoesWithTheNextStop();
@@ -203,6 +205,24 @@ void TuneSwitchTest::onlyAKeyerCanBeTuned() {
     QVERIFY(_bench->connect());
     QVERIFY(_button->isEnabled());
     QCOMPARE(_button->toolTip(), reason);
+}
+
+void TuneSwitchTest::aLoadOfTheKeyersMemoryLetsGoFirst() {
+    tune();
+    QVERIFY(_bench->engine().writeEeprom(nullptr));
+    QVERIFY(_bench->written().startsWith("0b 00 00 0d a5"));
+    QVERIFY(!isTransmittingShown());
+}
+
+void TuneSwitchTest::thereIsNoTuneWhileTheKeyersMemoryIsLoaded() {
+    QVERIFY(_bench->engine().writeEeprom(nullptr));
+    static_cast<void>(_bench->written());
+    QVERIFY(!_button->isEnabled());
+    QVERIFY(_button->toolTip().contains(u"being loaded"));
+    QTest::keyClick(_window->windowHandle(), Qt::Key_T, Qt::ControlModifier);
+    QCOMPARE(_bench->written(), "");
+    _bench->clock().advance(std::chrono::seconds(3));
+    tune();
 }
 
 void TuneSwitchTest::escapeWithoutATuneKeysNothing() {

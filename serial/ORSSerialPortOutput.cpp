@@ -1,0 +1,63 @@
+#include "serial/LineOutput.h"
+#include "serial/ORSSerialPort.h"
+#include "serial/PortOpening.h"
+
+#include <QSocketNotifier>
+
+#include <algorithm>
+#include <cerrno>
+
+bool ORSSerialPort::sendData(const QByteArray& data) {
+    if (!isOpen()) {
+        return false;
+    }
+    _writeBuffer += data;
+    return _writeBuffer.isEmpty() || writeOut();
+}
+
+// One attempt a call: what a short or failed write left waits for the next one. Only what a full
+// line has no room for goes out by itself, as if the write had waited for it.
+bool ORSSerialPort::writeOut() {
+    const auto count = LineOutput::write(_fileDescriptor, _writeBuffer);
+    const int number = errno;
+    const bool isCutShort = count < 0 ? number == EAGAIN : count < _writeBuffer.size();
+    _writeBuffer.remove(0, std::max<qsizetype>(count, 0));
+    if (isCutShort && !LineOutput::hasRoom(_fileDescriptor)) {
+        watchForRoom();
+        return true;
+    }
+    endWatchForRoom();
+    if (count < 0) {
+        errno = number;
+        notifyDelegateOfPosixError();
+    }
+    return count >= 0;
+}
+
+void ORSSerialPort::watchForRoom() {
+    if (!_roomWatch) {
+        _roomWatch = std::make_unique<QSocketNotifier>(_fileDescriptor, QSocketNotifier::Write);
+        QObject::connect(_roomWatch.get(), &QSocketNotifier::activated, this,
+                         [this] { static_cast<void>(writeOut()); });
+    }
+}
+
+// It may be the watch itself that has called.
+void ORSSerialPort::endWatchForRoom() {
+    if (_roomWatch) {
+        _roomWatch->setEnabled(false);
+        _roomWatch.release()->deleteLater();
+    }
+}
+
+qsizetype ORSSerialPort::outputWaiting() const {
+    return isOpen() ? _writeBuffer.size() + LineOutput::waiting(_fileDescriptor) : 0;
+}
+
+void ORSSerialPort::dropOutput() {
+    if (isOpen()) {
+        _writeBuffer.clear();
+        endWatchForRoom();
+        LineOutput::drop(_fileDescriptor);
+    }
+}
