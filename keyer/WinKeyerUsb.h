@@ -123,6 +123,8 @@ class WinKeyerUsb final : public QObject, public ORSSerialPortDelegate {
     void handleButtonPressed();
     /// Sends the next character of the text, with the control sequences before it.
     void send();
+    /// Whether text is being handed to the keyer: neither exhausted nor held back.
+    [[nodiscard]] bool isSending() const { return _sendingState && _pauseState == 0; }
     /// Forgets all text, sent or not, and switches the beacon off.
     void clearSending();
     /// Empties the keyer's buffer and forgets all text.
@@ -215,6 +217,10 @@ class WinKeyerUsb final : public QObject, public ORSSerialPortDelegate {
     void activityChanged();
     /// inFlightIndex() or outputBufferIndex() may be another one now.
     void sendingProgressed();
+    /// Text, or a change of speed within it, is about to be written.
+    void willSend();
+    /// The keyer has told its status, in a byte that reports no push-buttons; see KeyerStatus.
+    void statusReceived(std::uint8_t status);
     /// Sending was stopped by stopMessageSending(), which ends a tune in the keyer too.
     void messageSendingStopped();
     /// The port is being closed by another, which stops what was being sent or waited to be.

@@ -84,6 +84,7 @@ void WinKeyerUsb::handleStatus(std::uint8_t status) {
     if ((status & KeyerStatus::busy) != 0 && beaconState() != 0 && _beaconTimer) {
         _beaconTimer->invalidate();
     }
+    Q_EMIT statusReceived(status);
 }
 
 KeyerActivity WinKeyerUsb::activity() const {

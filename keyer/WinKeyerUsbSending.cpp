@@ -214,6 +214,7 @@ void WinKeyerUsb::sendText(const QByteArray& bytes) {
 }
 
 void WinKeyerUsb::writeAhead(const QByteArray& bytes) {
+    Q_EMIT willSend();
     _bytesAhead += bytes.size();
     putToWinKeyer(bytes);
 }

@@ -1,33 +1,64 @@
 #include "app/window/TuneSwitch.h"
 
+#include "keyer/ReceivedByte.h"
 #include "keyer/WinKeyerUsb.h"
+#include "platform/Platform.h"
 
 #include <QAbstractButton>
+
+namespace {
+
+/// What the keyer told before it was told to tune has arrived by then.
+constexpr Clock::Duration longestReport = std::chrono::milliseconds(250);
+
+} // namespace
 
 TuneSwitch::TuneSwitch(WinKeyerUsb& engine, QAbstractButton& button, QObject* parent)
     : QObject(parent), _engine(engine), _button(button) {
     QObject::connect(&_button, &QAbstractButton::toggled, this, [this](bool isOn) {
         if (isOn != (_engine.tuneState() != 0)) {
+            if (isOn && _engine.isSending()) {
+                _engine.stopMessageSending(&_button);
+            }
             _engine.setTuneState(isOn ? 1 : 0);
             _engine.tune(&_button);
         }
     });
-    QObject::connect(&_engine, &WinKeyerUsb::tuneStateChanged, this,
-                     [this] { _button.setChecked(_engine.tuneState() != 0); });
+    QObject::connect(&_engine, &WinKeyerUsb::tuneStateChanged, this, &TuneSwitch::follow);
+    QObject::connect(&_engine, &WinKeyerUsb::willSend, this, &TuneSwitch::letGo);
+    QObject::connect(&_engine, &WinKeyerUsb::statusReceived, this, &TuneSwitch::followStatus);
     QObject::connect(&_engine, &WinKeyerUsb::messageSendingStopped, this, &TuneSwitch::letGo);
     QObject::connect(&_engine, &WinKeyerUsb::silenced, this, [this] { _engine.setTuneState(0); });
     QObject::connect(&_engine, &WinKeyerUsb::willLoadMemory, this, &TuneSwitch::letGo);
     QObject::connect(&_engine, &WinKeyerUsb::activityChanged, this, &TuneSwitch::followLink);
     QObject::connect(&_engine, &WinKeyerUsb::isLoadingMemoryChanged, this,
                      &TuneSwitch::followLink);
-    _button.setChecked(_engine.tuneState() != 0);
+    follow();
     followLink();
+}
+
+void TuneSwitch::follow() {
+    _since = Platform::current().clock().now();
+    _isReported = false;
+    _button.setChecked(_engine.tuneState() != 0);
 }
 
 void TuneSwitch::letGo() {
     if (_engine.tuneState() != 0) {
         _engine.setTuneState(0);
         _engine.tune(&_button);
+    }
+}
+
+/// That the keyer is idle may have been on its way already when tune was switched on. The key up that
+/// is written in any case does nothing to a keyer whose key is up.
+void TuneSwitch::followStatus(std::uint8_t status) {
+    const bool isIdle = (status & KeyerStatus::anything) == 0;
+    const auto age = Platform::current().clock().now() - _since;
+    const bool isEnd = isIdle && (_isReported || age > longestReport);
+    _isReported = _isReported || !isIdle;
+    if (isEnd || (status & KeyerStatus::breakIn) != 0) {
+        letGo();
     }
 }
 

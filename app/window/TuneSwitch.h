@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/Clock.h"
+
 #include <QObject>
 
 class QAbstractButton;
@@ -8,8 +10,10 @@ class WinKeyerUsb;
 /// The switch that keys the transmitter steadily, and what lets go of it.
 ///
 /// A keyer holds the key until it is told otherwise, so the switch falls, and the keyer is told,
-/// on every way out: when sending is stopped and when the link goes, be it for a sleep.
-/// It can be switched on only while there is a keyer.
+/// on every way out: when sending is stopped, when something is to be sent, when the keyer tells
+/// that the paddle is used or that it keys no more, and when the link goes, be it for a sleep.
+/// Switched on, it stops what is being sent. It can be switched on only while there is a keyer whose
+/// memory is not being loaded.
 class TuneSwitch final : public QObject {
     Q_OBJECT
   public:
@@ -20,8 +24,13 @@ class TuneSwitch final : public QObject {
     void letGo();
 
   private:
+    void follow();
     void followLink();
+    void followStatus(std::uint8_t status);
 
     WinKeyerUsb& _engine;
     QAbstractButton& _button;
+    Clock::Duration _since{0};
+    /// Whether the keyer has told that it keys, since then.
+    bool _isReported = false;
 };

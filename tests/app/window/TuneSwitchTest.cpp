@@ -39,6 +39,13 @@ class TuneSwitchTest : public QObject {
     void onlyAKeyerCanBeTuned();
     void aLoadOfTheKeyersMemoryLetsGoFirst();
     void thereIsNoTuneWhileTheKeyersMemoryIsLoaded();
+    void whateverIsSentLetsGoFirst_data();
+    void whateverIsSentLetsGoFirst();
+    void textThatIsHeldBackLetsGoOnlyWhenItGoes();
+    void stopsWhatIsBeingSent();
+    void thePaddleEndsIt();
+    void aKeyerThatKeysNoMoreEndsIt();
+    void whatTheKeyerToldBeforeDoesNotEndIt();
     void escapeWithoutATuneKeysNothing();
     void aKeyUpThatTheLineRefusesGoesWithTheNextStop_data();
     void aKeyUpThatTheLineRefusesGoesWithTheNextStop();
@@ -223,6 +230,98 @@ void TuneSwitchTest::thereIsNoTuneWhileTheKeyersMemoryIsLoaded() {
     QCOMPARE(_bench->written(), "");
     _bench->clock().advance(std::chrono::seconds(3));
     tune();
+}
+
+void TuneSwitchTest::whateverIsSentLetsGoFirst_data() {
+    QTest::addColumn<QString>("how");
+    QTest::newRow("a message") << u"message"_s;
+    QTest::newRow("a typed letter") << u"letter"_s;
+    QTest::newRow("a push-button of the keyer") << u"button"_s;
+    QTest::newRow("the beacon") << u"beacon"_s;
+}
+
+void TuneSwitchTest::whateverIsSentLetsGoFirst() {
+    QFETCH(QString, how);
+    auto& engine = _bench->engine();
+    _bench->settings().setObject(u"ET"_s, u"Message1"_s);
+    engine.setBeaconState(1);
+    engine.appendMessage(u"E"_s);
+    for (const int byte : {int('E'), 0xC0}) {
+        _bench->receive({byte});
+    }
+    engine.setKeyboardBuffer(u""_s);
+    engine.textDidChange();
+    static_cast<void>(_bench->written());
+    tune();
+    if (how == u"message") {
+        QTest::keyClick(_window->windowHandle(), Qt::Key_F1);
+    } else if (how == u"letter") {
+        QTest::keyClick(_window->windowHandle(), Qt::Key_E);
+    } else if (how == u"button") {
+        _bench->receive({0xC9});
+    } else {
+        _bench->clock().advance(std::chrono::hours(1));
+    }
+    QCOMPARE(_bench->written(), "0b 00 45");
+    QVERIFY(!isTransmittingShown());
+}
+
+void TuneSwitchTest::textThatIsHeldBackLetsGoOnlyWhenItGoes() {
+    _bench->engine().setPauseState(1);
+    _bench->type(u"E"_s);
+    static_cast<void>(_bench->written());
+    tune();
+    _bench->type(u"ET"_s);
+    QCOMPARE(_bench->written(), "");
+    QVERIFY(isTransmittingShown());
+    _bench->engine().setPauseState(0);
+    QCOMPARE(_bench->written(), "06 00 0b 00 45");
+    QVERIFY(!isTransmittingShown());
+}
+
+void TuneSwitchTest::stopsWhatIsBeingSent() {
+    _bench->type(u"PARIS"_s);
+    static_cast<void>(_bench->written());
+    QTest::mouseClick(_button, Qt::LeftButton);
+    QCOMPARE(_bench->written(), "0a 0b 01");
+    QCOMPARE(_bench->engine().keyboardBuffer(), u""_s);
+    // The end of what was sent, and the beginning of the tune.
+    for (const int byte : {0xC0, int('P'), 0xD0, 0xD4}) {
+        _bench->receive({byte});
+    }
+    QVERIFY(isTransmittingShown());
+    QCOMPARE(_bench->written(), "");
+}
+
+void TuneSwitchTest::thePaddleEndsIt() {
+    tune();
+    _bench->receive({0xD4});
+    _bench->receive({0xC6});
+    QVERIFY(!isTransmittingShown());
+    QCOMPARE(_bench->written(), "0b 00");
+}
+
+void TuneSwitchTest::aKeyerThatKeysNoMoreEndsIt() {
+    tune();
+    _bench->receive({0xD4});
+    QVERIFY(isTransmittingShown());
+    _bench->receive({0xC0});
+    QVERIFY(!isTransmittingShown());
+    static_cast<void>(_bench->written());
+    // One that told nothing of the tune.
+    tune();
+    _bench->clock().advance(std::chrono::seconds(1));
+    _bench->receive({0xC0});
+    QVERIFY(!isTransmittingShown());
+}
+
+void TuneSwitchTest::whatTheKeyerToldBeforeDoesNotEndIt() {
+    tune();
+    _bench->clock().advance(std::chrono::milliseconds(60));
+    _bench->receive({0xC0});
+    QVERIFY(isTransmittingShown());
+    _bench->receive({0xD4});
+    QVERIFY(isTransmittingShown());
 }
 
 void TuneSwitchTest::escapeWithoutATuneKeysNothing() {
