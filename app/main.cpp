@@ -80,6 +80,8 @@ int run(SingleInstance& instance) {
     alerts.setAlertParent(&window);
     QObject::connect(&delegate, &QuorvelDelegate::willDisconnect, &window,
                      &MainWindow::silenceKeyer);
+    QObject::connect(&window, &MainWindow::connectionWanted, &delegate,
+                     [&] { delegate.changeSerialPort(nullptr); });
     PreferencesController preferences;
     preferences.awakeFromNib();
     QObject::connect(&window, &MainWindow::preferencesRequested, &preferences,

@@ -58,6 +58,8 @@ class WinKeyerUsb final : public QObject, public ORSSerialPortDelegate {
     [[nodiscard]] KeyerActivity activity() const;
     /// The name of the port that the keyer is on; null while not connected.
     [[nodiscard]] QString serialPortName() const;
+    /// Whether that port is open; it is closed while the machine sleeps.
+    [[nodiscard]] bool isPortOpen() const;
     /// The port that the keyer is on; empty while not connected.
     [[nodiscard]] const std::shared_ptr<ORSSerialPort>& winKeyerSerialPort() const {
         return _winKeyerSerialPort;
@@ -95,7 +97,10 @@ class WinKeyerUsb final : public QObject, public ORSSerialPortDelegate {
     void serialPortWasRemovedFromSystem(ORSSerialPort& port) override;
     /// After a sleep, greets the keyer anew.
     void serialPortWasOpened(ORSSerialPort& port) override;
-    /// Sends the keyer, on the open port, all that connecting sends it. A refused write is logged.
+    /// Only looked at when a port was to be opened after a sleep.
+    void serialPortDidEncounterError(ORSSerialPort& port, const Error& error) override;
+    /// Sends the keyer, on the open port, all that connecting sends it; a refused write is logged.
+    /// Text that was on its way, to a keyer that has not heard it, is sent once more.
     void greetAgain();
 
     // Traffic.
@@ -125,6 +130,8 @@ class WinKeyerUsb final : public QObject, public ORSSerialPortDelegate {
     void send();
     /// Whether text is being handed to the keyer: neither exhausted nor held back.
     [[nodiscard]] bool isSending() const { return _sendingState && _pauseState == 0; }
+    /// Whether a character is on its way to the keyer, which has not told that it is sent.
+    [[nodiscard]] bool isAwaitingEcho() const { return _isAwaitingEcho; }
     /// Forgets all text, sent or not, and switches the beacon off.
     void clearSending();
     /// Empties the keyer's buffer and forgets all text.
@@ -217,6 +224,12 @@ class WinKeyerUsb final : public QObject, public ORSSerialPortDelegate {
     void activityChanged();
     /// inFlightIndex() or outputBufferIndex() may be another one now.
     void sendingProgressed();
+    /// The keyer was sent all that brings it into host mode.
+    void greeted();
+    /// The port that a sleep had closed does not open again.
+    void reopeningFailed();
+    /// A byte has come from the keyer, and has been handled.
+    void heard();
     /// Text, or a change of speed within it, is about to be written.
     void willSend();
     /// The keyer has told its status, in a byte that reports no push-buttons; see KeyerStatus.
@@ -275,6 +288,8 @@ class WinKeyerUsb final : public QObject, public ORSSerialPortDelegate {
     [[nodiscard]] Step endHSCW();
     [[nodiscard]] Step mergeLetters();
     void sendText(const QByteArray& bytes);
+    [[nodiscard]] Step sendPlain(char character);
+    void takeBackUnheard();
     [[nodiscard]] qint64 hscwSpeed() const;
 
     std::shared_ptr<ORSSerialPort> _winKeyerSerialPort;
@@ -296,6 +311,7 @@ class WinKeyerUsb final : public QObject, public ORSSerialPortDelegate {
     qsizetype _inFlightIndex = 0;
     bool _sendingState = false;
     bool _sendIsDue = false;
+    bool _isAwaitingEcho = false;
     int _runLimit = 0;
     qsizetype _bytesAhead = 0;
     std::shared_ptr<Timer> _runTimer;

@@ -58,6 +58,9 @@ bool WinKeyerUsb::connect(Error* error) {
     _winKeyerSerialPort->setDelegate(this);
     const bool isHostOpen = openHostMode(error);
     announceActivity();
+    if (isHostOpen) {
+        Q_EMIT greeted();
+    }
     return isHostOpen;
 }
 
@@ -67,6 +70,10 @@ bool WinKeyerUsb::isConnected() const {
 
 QString WinKeyerUsb::serialPortName() const {
     return isConnected() ? _winKeyerSerialPort->name() : QString();
+}
+
+bool WinKeyerUsb::isPortOpen() const {
+    return isConnected() && _winKeyerSerialPort->isOpen();
 }
 
 bool WinKeyerUsb::disconnect(Error* error) {
@@ -194,16 +201,18 @@ void WinKeyerUsb::completeHostMode() {
 
 void WinKeyerUsb::greetAgain() {
     using namespace KeyerCommand;
-    if (!isConnected() || !_winKeyerSerialPort->isOpen()) {
+    if (!isPortOpen()) {
         return;
     }
     beginHostMode();
+    takeBackUnheard();
     for (const auto& command : {nullCommand(), nullCommand(), nullCommand(), nullCommand(),
                                 adminEchoTest(), adminHostOpen(), adminSetWK2Mode()}) {
         putToWinKeyer(command);
     }
     completeHostMode();
     announceActivity();
+    Q_EMIT greeted();
 }
 
 bool WinKeyerUsb::hostOpen(Error* error) {
@@ -276,6 +285,12 @@ void WinKeyerUsb::serialPortWillBeClosed(ORSSerialPort& port) {
 void WinKeyerUsb::serialPortWasOpened(ORSSerialPort& port) {
     if (&port == _winKeyerSerialPort.get() && _isToBeGreetedAgain) {
         greetAgain();
+    }
+}
+
+void WinKeyerUsb::serialPortDidEncounterError(ORSSerialPort& port, const Error&) {
+    if (&port == _winKeyerSerialPort.get() && _isToBeGreetedAgain && !isPortOpen()) {
+        Q_EMIT reopeningFailed();
     }
 }
 

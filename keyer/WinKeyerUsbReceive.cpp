@@ -59,9 +59,11 @@ void WinKeyerUsb::handleByte(std::uint8_t byte) {
         handleStatus(byte);
         break;
     case ReceivedByte::Echo:
+        _isAwaitingEcho = false;
         send();
         break;
     }
+    Q_EMIT heard();
 }
 
 void WinKeyerUsb::handleStatus(std::uint8_t status) {
@@ -105,6 +107,7 @@ void WinKeyerUsb::announceActivity() {
 }
 
 void WinKeyerUsb::handleIdle() {
+    _isAwaitingEcho = false;
     if (pauseState() != 0) {
         setPauseState(0);
     }

@@ -152,9 +152,8 @@ WinKeyerUsb::Step WinKeyerUsb::sendNextOfHisCallsign() {
         return Step::GoOn;
     }
     const auto character = byteOf(_hisCallsign.at(_nextHisCallsignCharacterIndex++));
-    sendText(QByteArray(1, character));
     _sendingState = true;
-    return Step::WaitForEcho;
+    return sendPlain(character);
 }
 
 WinKeyerUsb::Step WinKeyerUsb::sendCharacter(char character) {
@@ -172,8 +171,24 @@ WinKeyerUsb::Step WinKeyerUsb::sendCharacter(char character) {
         _sendingHisCallsign = true;
         return Step::GoOn;
     default:
-        sendText(QByteArray(1, character));
-        return Step::WaitForEcho;
+        return sendPlain(character);
+    }
+}
+
+WinKeyerUsb::Step WinKeyerUsb::sendPlain(char character) {
+    _isAwaitingEcho = true;
+    sendText(QByteArray(1, character));
+    return Step::WaitForEcho;
+}
+
+void WinKeyerUsb::takeBackUnheard() {
+    if (_isAwaitingEcho) {
+        _outputBufferIndex = _inFlightIndex;
+        _sendingHisCallsign = false;
+        _nextHisCallsignCharacterIndex = 0;
+        _isAwaitingEcho = false;
+        _sendingState = false;
+        Q_EMIT sendingProgressed();
     }
 }
 
@@ -230,6 +245,7 @@ void WinKeyerUsb::clearSending() {
     _inFlightIndex = 0;
     _sendingState = false;
     _sendIsDue = false;
+    _isAwaitingEcho = false;
     if (_runTimer) {
         _runTimer->invalidate();
     }

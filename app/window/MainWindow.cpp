@@ -1,6 +1,7 @@
 #include "app/window/MainWindow.h"
 
 #include "app/window/AboutBox.h"
+#include "app/window/AnswerNotice.h"
 #include "app/window/EditActions.h"
 #include "app/window/GuideWindow.h"
 #include "app/window/MessageButtons.h"
@@ -8,6 +9,7 @@
 #include "app/window/SleepNotice.h"
 #include "app/window/TuneSwitch.h"
 #include "app/window/WindowPlace.h"
+#include "keyer/KeyerWatch.h"
 #include "keyer/WinKeyerUsb.h"
 #include "ui_MainWindow.h"
 
@@ -49,12 +51,10 @@ MainWindow::MainWindow(WinKeyerUsb& engine)
     setUpMessages();
     _ui->keyboardView->setEngine(_engine);
     _ui->keyboardView->setFocus();
-    QObject::connect(_ui->noticeStrip, &NoticeStrip::hasGivenUpFocus, _ui->keyboardView,
-                     [this] { _ui->keyboardView->setFocus(); });
+    setUpNotices();
     setUpContact();
     setUpSwitches();
     setUpMenus();
-    new SleepNotice(_engine, *_ui->noticeStrip, this);
     new WindowPlace(*this, u"MainWindowPlace"_s, this);
 
     _ui->tuneWarning->setEngine(_engine);
@@ -78,6 +78,17 @@ void MainWindow::setUpMessages() {
                         {_ui->message7Button, _ui->message7Action},
                         {_ui->message8Button, _ui->message8Action}},
                        this);
+}
+
+void MainWindow::setUpNotices() {
+    for (const auto* strip : {_ui->noticeStrip, _ui->answerStrip}) {
+        QObject::connect(strip, &NoticeStrip::hasGivenUpFocus, _ui->keyboardView,
+                         [this] { _ui->keyboardView->setFocus(); });
+    }
+    new SleepNotice(_engine, *_ui->noticeStrip, this);
+    auto* watch = new KeyerWatch(_engine, this);
+    QObject::connect(watch, &KeyerWatch::connectionWanted, this, &MainWindow::connectionWanted);
+    new AnswerNotice(_engine, *watch, *_ui->answerStrip, this);
 }
 
 void MainWindow::setUpContact() {

@@ -39,6 +39,8 @@ class MainWindow final : public QMainWindow {
   Q_SIGNALS:
     void preferencesRequested();
     void quitRequested();
+    /// The keyer's port is closed, and the operator wants it connected again.
+    void connectionWanted();
 
   protected:
     void changeEvent(QEvent* event) override;
@@ -46,6 +48,7 @@ class MainWindow final : public QMainWindow {
 
   private:
     void setUpMessages();
+    void setUpNotices();
     void setUpContact();
     void setUpSwitches();
     void setUpMenus();

@@ -1,8 +1,10 @@
 #include "app/window/NoticeStrip.h"
 
 #include <QAccessible>
+#include <QApplication>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QPushButton>
 #include <QStyle>
 #include <QToolButton>
 
@@ -31,6 +33,26 @@ NoticeStrip::NoticeStrip(QWidget* parent)
     hide();
 }
 
+QString NoticeStrip::offer() const {
+    return _offerButton != nullptr ? _offerButton->text() : QString();
+}
+
+void NoticeStrip::setOffer(const QString& offer) {
+    if (_offerButton == nullptr) {
+        _offerButton = new QPushButton(this);
+        _offerButton->setObjectName(u"noticeOfferButton"_s);
+        _offerButton->setFocusPolicy(Qt::TabFocus);
+        connect(_offerButton, &QPushButton::clicked, this, [this] {
+            putAway();
+            Q_EMIT offerTaken();
+        });
+        qobject_cast<QHBoxLayout*>(layout())->insertWidget(1, _offerButton);
+        setTabOrder(_offerButton, _closeButton);
+    }
+    _offerButton->setText(offer);
+    _offerButton->setAccessibleName(offer);
+}
+
 void NoticeStrip::say(const QString& text) {
     _label->setText(text);
     setAccessibleName(text);
@@ -40,7 +62,7 @@ void NoticeStrip::say(const QString& text) {
 }
 
 void NoticeStrip::putAway() {
-    const bool hadFocus = _closeButton->hasFocus();
+    const bool hadFocus = isAncestorOf(QApplication::focusWidget());
     hide();
     if (hadFocus) {
         Q_EMIT hasGivenUpFocus();
