@@ -9,9 +9,11 @@ EscapeKey::EscapeKey(QObject* parent) : QObject(parent) {
 
 /// A key reaches the native window first, once, and then one widget after the other.
 bool EscapeKey::eventFilter(QObject* watched, QEvent* event) {
-    if (watched->isWindowType() && event->type() == QEvent::KeyPress &&
-        static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape) {
-        Q_EMIT pressed();
+    if (watched->isWindowType() && event->type() == QEvent::KeyPress) {
+        const auto& press = *static_cast<QKeyEvent*>(event);
+        if (press.key() == Qt::Key_Escape && !press.isAutoRepeat()) {
+            Q_EMIT pressed();
+        }
     }
     return QObject::eventFilter(watched, event);
 }

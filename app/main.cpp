@@ -2,6 +2,7 @@
 #include "app/EscapeKey.h"
 #include "app/FieldEdges.h"
 #include "app/KeyGuard.h"
+#include "app/KeyRepeat.h"
 #include "app/KeyingRecord.h"
 #include "app/MenuShield.h"
 #include "app/QuorvelDelegate.h"
@@ -101,6 +102,8 @@ int run(SingleInstance& instance) {
     const EscapeKey escape;
     QObject::connect(&escape, &EscapeKey::pressed, &window, &MainWindow::stop);
     QObject::connect(&instance, &SingleInstance::activated, &window, &MainWindow::comeToFront);
+
+    const KeyRepeat keyRepeat;
 
     Termination termination(delegate);
     QObject::connect(&window, &MainWindow::quitRequested, &termination,

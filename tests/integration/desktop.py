@@ -1,11 +1,16 @@
 """A desktop of the test's own: a screen in memory, a window manager, a bus, and what a screen
 reader sees of it."""
 
+import contextlib
 import os
 import subprocess
 
 from process import Process
 from waiting import wait_for
+
+# Milliseconds until a held key repeats, and from one repeat to the next.
+REPEAT_DELAY = "250"
+REPEAT_INTERVAL = "30"
 
 
 class Desktop:
@@ -52,6 +57,15 @@ class Desktop:
     def press(self, keys):
         assert self.xdotool("key", keys) is not None
 
+    @contextlib.contextmanager
+    def hold(self, keys):
+        """Presses keys, the last of which repeats for as long as the block runs."""
+        assert self.xdotool("keydown", keys) is not None
+        try:
+            yield
+        finally:
+            self.xdotool("keyup", keys)
+
     def type(self, text, delay=20):
         """`delay` in milliseconds, between two characters."""
         assert self.xdotool("type", "--delay", delay, text) is not None
@@ -69,7 +83,7 @@ class Desktop:
         """One more screen, without a window manager; its process and the name of its display."""
         process, number = self._start_and_ask(
             ["Xvfb", "-displayfd", "{descriptor}", "-screen", "0", "1280x960x24", "-nolisten",
-             "tcp", "-noreset"])
+             "tcp", "-noreset", "-ardelay", REPEAT_DELAY, "-arinterval", REPEAT_INTERVAL])
         return process, f":{number}"
 
     def _start(self, command, pass_fds=()):

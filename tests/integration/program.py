@@ -31,11 +31,12 @@ Message8={LONG_TEXT}
 class Keyer(Process):
     """The virtual keyer's program, plugged in, its speed pot at `speed`."""
 
-    def __init__(self, environment, directory, speed=SPEED):
+    def __init__(self, environment, directory, speed=SPEED, profile="default"):
         self._transcript = directory / "transcript.txt"
         self._registers = directory / "registers.txt"
-        super().__init__([VIRTUAL_KEYER, "--headless", "--speed", str(speed), "--transcript",
-                          self._transcript, "--registers", self._registers], environment, directory)
+        super().__init__([VIRTUAL_KEYER, "--headless", "--speed", str(speed), "--profile", profile,
+                          "--transcript", self._transcript, "--registers", self._registers],
+                         environment, directory)
         self.wait_for("the keyer", lambda: "Plugged in as" in self.errors())
 
     def keyed(self):
@@ -107,8 +108,8 @@ class ProgramTest(unittest.TestCase):
         self.addCleanup(quorvel.end, signal.SIGKILL)
         return quorvel
 
-    def start_keyer(self, speed=SPEED):
-        keyer = Keyer(self.environment, self.home, speed)
+    def start_keyer(self, speed=SPEED, profile="default"):
+        keyer = Keyer(self.environment, self.home, speed, profile)
         self.addCleanup(keyer.end, signal.SIGKILL)
         return keyer
 

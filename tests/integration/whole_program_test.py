@@ -3,7 +3,10 @@
 Usage: whole_program_test.py QUORVEL VIRTUAL_KEYER [TEST...]
 """
 
-from program import LONG_TEXT, PORT, SETTINGS, Keyer, ProgramTest, run_tests
+import os
+import tty
+
+from program import LONG_TEXT, PORT, SETTINGS, SPEED, Keyer, ProgramTest, run_tests
 from waiting import wait_for
 
 
@@ -76,6 +79,39 @@ class WholeProgramTest(ProgramTest):
         self.desktop.type("test")
         keyer.has_keyed("TEST")
         self.terminate(keyer, quorvel)
+
+    def test_a_keyer_that_starts_anew_when_its_port_is_opened(self):
+        self.write_settings(SETTINGS)
+        keyer = self.start_keyer(profile="boot-loader")
+        quorvel = self.start_quorvel()
+        window = self.active_window(quorvel)
+        self.wait_for_speed(quorvel, window)
+        self.desktop.type("test")
+        keyer.has_keyed("TEST")
+        self.assertEqual(quorvel.end(), 0)
+
+    def test_a_keyer_that_never_answers(self):
+        far_end, line = os.openpty()
+        self.addCleanup(os.close, far_end)
+        tty.setraw(line)
+        ports = self.runtime / "quorvel/ports"
+        ports.mkdir(parents=True, mode=0o700)
+        (ports / PORT).symlink_to(os.ttyname(line))
+        os.close(line)
+        self.write_settings(SETTINGS)
+        quorvel = self.start_quorvel()
+        window = self.active_window(quorvel)
+        notice = f"The keyer on {PORT} does not answer. Look at its power, its cable, and whether " \
+            "this is its port."
+        quorvel.wait_for("the notice", lambda: window.find(notice))
+        os.read(far_end, 4096)
+        window.find("Ask again").press()
+        quorvel.wait_for("the greeting", lambda: os.read(far_end, 4096).startswith(b"\x13"))
+        os.write(far_end, b"U\x17\xC8\x9E")
+        quorvel.wait_for("the speed",
+                         lambda: window.find("Speed").description() == f"{SPEED} WPM")
+        self.assertFalse(window.find(notice).is_in_state("showing"))
+        self.assertEqual(quorvel.end(), 0)
 
     def test_a_link_that_is_removed_lets_go_of_the_key(self):
         keyer, quorvel, _ = self.start_connected()
