@@ -8,6 +8,7 @@
 #include "app/window/ModeSwitches.h"
 #include "app/window/SleepNotice.h"
 #include "app/window/TuneSwitch.h"
+#include "app/window/TuneTimer.h"
 #include "app/window/WindowPlace.h"
 #include "keyer/KeyerWatch.h"
 #include "keyer/WinKeyerUsb.h"
@@ -57,7 +58,6 @@ MainWindow::MainWindow(WinKeyerUsb& engine)
     setUpMenus();
     new WindowPlace(*this, u"MainWindowPlace"_s, this);
 
-    _ui->tuneWarning->setEngine(_engine);
     _ui->keyerStatusLabel->setEngine(_engine);
     QObject::connect(&_engine, &WinKeyerUsb::speedStringChanged, this, &MainWindow::showSpeed);
     showSpeed();
@@ -118,6 +118,12 @@ void MainWindow::setUpContact() {
 
 void MainWindow::setUpSwitches() {
     _tuneSwitch = new TuneSwitch(_engine, *_ui->tuneButton, this);
+    auto* tuneTimer = new TuneTimer(_engine, this);
+    _ui->tuneWarning->setEngine(_engine, *tuneTimer);
+    QObject::connect(tuneTimer, &TuneTimer::limitReached, this, [this](int limit) {
+        _tuneSwitch->letGo();
+        say(tr("Tune was let go of after %1 s.").arg(limit));
+    });
     new ModeSwitches(
         _engine, {.pause = _ui->pauseButton, .hscw = _ui->hscwButton, .beacon = _ui->beaconButton},
         this);

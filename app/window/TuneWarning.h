@@ -2,18 +2,23 @@
 
 #include <QLabel>
 
+class TuneTimer;
 class WinKeyerUsb;
 
-/// A strip across the window that is there while the operator tunes, and says so. A screen reader
-/// announces it as an alert.
+/// A strip across the window that is there while the operator tunes, and says so, and for how long.
+/// A screen reader announces it as an alert, once.
 class TuneWarning final : public QLabel {
     Q_OBJECT
   public:
     explicit TuneWarning(QWidget* parent = nullptr);
 
-    /// Follows `engine`, which must outlive the warning.
-    void setEngine(const WinKeyerUsb& engine);
+    /// Follows `engine`, and counts by `timer`; both must outlive the warning. Its text until now
+    /// stays ahead of the seconds.
+    void setEngine(const WinKeyerUsb& engine, const TuneTimer& timer);
 
   private:
     void setShown(bool isShown);
+    void showSeconds(const TuneTimer& timer);
+
+    QString _warning;
 };

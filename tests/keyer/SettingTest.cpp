@@ -76,6 +76,7 @@ void SettingTest::registeredDefaults_data() {
     row("BeaconInterval", 4.2);
     row("WKPortName", u"None"_s);
     row("MyCall", u"your call"_s);
+    row("TuneLimit", u"Off"_s);
 }
 
 void SettingTest::registeredDefaults() {
@@ -90,7 +91,7 @@ void SettingTest::everyKeyIsRegisteredOnce() {
     QCOMPARE(defaultsOf(keyerSettings).size(), 37);
     QCOMPARE(keyerSettings.size(), std::size_t{37});
     QCOMPARE(messageDefaults().size(), 17);
-    QCOMPARE(defaultsOf(generalSettings).size(), 2);
+    QCOMPARE(defaultsOf(generalSettings).size(), 3);
 }
 
 static const RegisteredTest<SettingTest> registered;

@@ -75,6 +75,7 @@ class PreferencesGeneralViewControllerTest : public QObject {
     void theOwnCallIsInUpperCase();
     void theOwnCallTakesOnlyCallSigns();
     void theDefaultCallReadsAsItIs();
+    void theLimitOfTuneIsChosen();
     void theLinkIsTold();
     void everyControlHasItsLabelsName();
 
@@ -289,6 +290,21 @@ void PreferencesGeneralViewControllerTest::theDefaultCallReadsAsItIs() {
     QCOMPARE(stored(MyCall), u"your call"_s);
 }
 
+void PreferencesGeneralViewControllerTest::theLimitOfTuneIsChosen() {
+    show();
+    auto& limit = *_pane->view()->findChild<QComboBox*>(u"tuneLimitChooser"_s);
+    QCOMPARE(limit.currentText(), u"Off"_s);
+    QStringList choices;
+    for (int i = 0; i < limit.count(); ++i) {
+        choices.append(limit.itemText(i));
+    }
+    QCOMPARE(choices, (QStringList{u"Off"_s, u"10 s"_s, u"30 s"_s, u"60 s"_s, u"120 s"_s}));
+    limit.showPopup();
+    limit.view()->setCurrentIndex(limit.model()->index(2, 0));
+    QTest::keyClick(limit.view(), Qt::Key_Return);
+    QCOMPARE(stored(TuneLimit.key), u"30 s"_s);
+}
+
 void PreferencesGeneralViewControllerTest::theLinkIsTold() {
     QCOMPARE(link(), u"Not connected"_s);
     _pane->setSerialPortNames({u"None"_s});
@@ -312,7 +328,7 @@ void PreferencesGeneralViewControllerTest::everyControlHasItsLabelsName() {
             ++count;
         }
     }
-    QCOMPARE(count, 2);
+    QCOMPARE(count, 3);
 }
 
 static const RegisteredTest<PreferencesGeneralViewControllerTest> registered;

@@ -31,6 +31,7 @@ void RegisteredDefaultsTest::eachClassRegistersItsOwn() {
     PreferencesGeneral::initialize();
     QCOMPARE(settings.stringForKey(u"WKPortName"_s), u"None"_s);
     QCOMPARE(settings.stringForKey(u"MyCall"_s), u"your call"_s);
+    QCOMPARE(settings.stringForKey(u"TuneLimit"_s), u"Off"_s);
 }
 
 void RegisteredDefaultsTest::theyLieUnderWhatTheOperatorHasStored() {

@@ -16,6 +16,7 @@
 #include <optional>
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
 class TuneSwitchTest : public QObject {
     Q_OBJECT
@@ -36,6 +37,8 @@ class TuneSwitchTest : public QObject {
     void quittingKeysUpBeforeItDisconnects();
     void closingTheWindowLetsGo();
     void sleepLetsGo();
+    void theSecondsAreShown();
+    void theLimitLetsGoAndSaysSo();
     void onlyAKeyerCanBeTuned();
     void aLoadOfTheKeyersMemoryLetsGoFirst();
     void thereIsNoTuneWhileTheKeyersMemoryIsLoaded();
@@ -199,6 +202,35 @@ void TuneSwitchTest::sleepLetsGo() {
     _bench->platform().notifications().post(NSWorkspaceDidWakeNotification, nullptr);
     QVERIFY(_bench->written().startsWith("0b 00 0a 00 03"));
     QVERIFY(!isTransmittingShown());
+}
+
+void TuneSwitchTest::theSecondsAreShown() {
+    const auto* warning = _window->findChild<QLabel*>(u"tuneWarning"_s);
+    tune();
+    QVERIFY(warning->text().endsWith(u"  0 s"));
+    _bench->clock().advance(12s);
+    QVERIFY(warning->text().endsWith(u"  12 s"));
+    QTest::mouseClick(_button, Qt::LeftButton);
+    _bench->settings().setObject(u"30 s"_s, TuneLimit.key);
+    static_cast<void>(_bench->written());
+    tune();
+    _bench->clock().advance(12s);
+    QVERIFY(warning->text().endsWith(u"  12 s, lets go in 18 s"));
+}
+
+void TuneSwitchTest::theLimitLetsGoAndSaysSo() {
+    _bench->settings().setObject(u"10 s"_s, TuneLimit.key);
+    tune();
+    _bench->clock().advance(9999ms);
+    QCOMPARE(_bench->written(), "");
+    _bench->clock().advance(1ms);
+    QCOMPARE(_bench->written(), "0b 00");
+    QVERIFY(!isTransmittingShown());
+    const auto* notice = _window->findChild<QLabel*>(u"noticeLabel"_s);
+    QVERIFY(notice->isVisible());
+    QCOMPARE(notice->text(), u"Tune was let go of after 10 s."_s);
+    _bench->clock().advance(1min);
+    QCOMPARE(_bench->written(), "");
 }
 
 void TuneSwitchTest::onlyAKeyerCanBeTuned() {
