@@ -29,9 +29,9 @@ QString profileList() {
 }
 
 struct Options {
-    QCommandLineOption headless{
-        u"headless"_s,
-        u"Shows no window. There is none yet, so the program does the same without this option."_s};
+    QCommandLineOption headless{u"headless"_s, u"Shows no window. There is none yet: without this "
+                                               u"option the program says so, and does the "
+                                               "same."_s};
     QCommandLineOption transcript{u"transcript"_s,
                                   u"Writes a line for every event, with its time in ms, to FILE."_s,
                                   u"FILE"_s};
@@ -56,6 +56,7 @@ struct Options {
 
 /// What is wrong with the values; empty when nothing is.
 QString readValues(const QCommandLineParser& parser, const Options& options, CommandLine& result) {
+    result.isHeadless = parser.isSet(options.headless);
     const QString profileName = parser.value(options.profile);
     const auto profile = profileNamed(profileName.toStdString());
     if (!profile) {

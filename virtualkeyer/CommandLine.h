@@ -13,6 +13,8 @@ struct CommandLine {
     QString answer;
     /// What is wrong with the options, for standard error; empty when nothing is.
     QString error;
+    /// Asked for no window, and so told nothing of there being none yet.
+    bool isHeadless = false;
     Profile profile;
     QString linkName;
     /// Empty for no transcript.

@@ -21,6 +21,7 @@ namespace {
 
 constexpr int runtimeFailure = 1;
 constexpr int badOptions = 2;
+constexpr auto noWindow = "There is no window yet. What is keyed is printed here, until Ctrl+C.\n";
 
 int complain(const char* what, int status) {
     std::fprintf(stderr, "quorvel-virtual-keyer: %s\n", what);
@@ -43,7 +44,8 @@ void run(const CommandLine& commandLine, std::vector<KeyerListener*> listeners) 
     KeyerLoop loop(keyer, terminal);
     const std::string name = QFile::encodeName(commandLine.linkName).toStdString();
     const PortLink link(runtimeDirectory(), name, terminal.slavePath());
-    std::fprintf(stderr, "Plugged in as %s (%s)\n", name.c_str(), link.path().c_str());
+    std::fprintf(stderr, "Plugged in as %s (%s)\n%s", name.c_str(), link.path().c_str(),
+                 commandLine.isHeadless ? "" : noWindow);
     loop.run(stopSignals.descriptor());
 }
 

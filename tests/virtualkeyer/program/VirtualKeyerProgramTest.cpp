@@ -63,6 +63,7 @@ class VirtualKeyerProgramTest : public QObject {
   private Q_SLOTS:
     void init();
     void itSaysWhereItIsPluggedIn();
+    void itSaysThatThereIsNoWindowUnlessItIsHeadless();
     void theHostsTextIsKeyedEchoedPrintedAndWrittenDown();
     void theTextIsPrintedAsItIsKeyed();
     void thePotStandsWhereItWasToldTo_data();
@@ -104,10 +105,19 @@ void VirtualKeyerProgramTest::init() {
 
 void VirtualKeyerProgramTest::itSaysWhereItIsPluggedIn() {
     KeyerProcess keyer(*_runtime);
-    QVERIFY(keyer.plugIn());
+    QVERIFY(keyer.plugIn({u"--headless"_s}));
     QCOMPARE(keyer.errors(), u"Plugged in as usbserial-virtual (%1)\n"_s.arg(keyer.linkPath()));
     QVERIFY(QFileInfo(keyer.linkPath()).isSymLink());
     QVERIFY(QFile::symLinkTarget(keyer.linkPath()).startsWith(u"/dev/pts/"_s));
+}
+
+void VirtualKeyerProgramTest::itSaysThatThereIsNoWindowUnlessItIsHeadless() {
+    KeyerProcess keyer(*_runtime);
+    QVERIFY(keyer.plugIn());
+    QTRY_COMPARE(keyer.errors(),
+                 u"Plugged in as usbserial-virtual (%1)\n"
+                 "There is no window yet. What is keyed is printed here, until Ctrl+C.\n"_s.arg(
+                     keyer.linkPath()));
 }
 
 void VirtualKeyerProgramTest::theHostsTextIsKeyedEchoedPrintedAndWrittenDown() {
