@@ -21,7 +21,7 @@ QString qt(std::string_view text) {
 }
 
 QString profileList() {
-    QString list = u"The kind of keyer, one of:"_s;
+    QString list = u"The kind of keyer, or several of them, separated by commas:"_s;
     for (const NamedProfile& profile : namedProfiles()) {
         list += u"\n%1: %2"_s.arg(qt(profile.name), qt(profile.description));
     }
@@ -47,7 +47,7 @@ struct Options {
             .arg(fastestPot)
             .arg(Profile{}.potWpm),
         u"WPM"_s, QString::number(Profile{}.potWpm)};
-    QCommandLineOption profile{u"profile"_s, profileList(), u"NAME"_s, u"default"_s};
+    QCommandLineOption profile{u"profile"_s, profileList(), u"NAMES"_s, u"default"_s};
     QCommandLineOption link{u"link"_s,
                             u"The serial port's name, usbserial-virtual by default. The port is a "
                             "link in quorvel/ports in the runtime directory."_s,
@@ -57,10 +57,11 @@ struct Options {
 /// What is wrong with the values; empty when nothing is.
 QString readValues(const QCommandLineParser& parser, const Options& options, CommandLine& result) {
     result.isHeadless = parser.isSet(options.headless);
-    const QString profileName = parser.value(options.profile);
-    const auto profile = profileNamed(profileName.toStdString());
-    if (!profile) {
-        return u"Unknown profile '%1'; --help lists them."_s.arg(profileName);
+    const QString profileNames = parser.value(options.profile);
+    for (const QString& name : profileNames.split(u',')) {
+        if (!profileNamed(name.toStdString())) {
+            return u"Unknown profile '%1'; --help lists them."_s.arg(name);
+        }
     }
     bool isNumber = false;
     const int speed = parser.value(options.speed).toInt(&isNumber);
@@ -82,7 +83,7 @@ QString readValues(const QCommandLineParser& parser, const Options& options, Com
     if (parser.isSet(options.registers) && result.registersPath.isEmpty()) {
         return u"The registers need a file name."_s;
     }
-    result.profile = *profile;
+    result.profile = profileNamed(profileNames.toStdString()).value();
     result.profile.potWpm = speed;
     return {};
 }

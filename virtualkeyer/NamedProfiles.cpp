@@ -50,13 +50,18 @@ std::span<const NamedProfile> namedProfiles() {
     return profiles;
 }
 
-std::optional<Profile> profileNamed(std::string_view name) {
-    const auto found = std::ranges::find(profiles, name, &NamedProfile::name);
-    if (found == profiles.end()) {
-        return std::nullopt;
-    }
+std::optional<Profile> profileNamed(std::string_view names) {
     Profile profile;
-    found->differFromDefault(profile);
+    for (std::size_t at = 0; at <= names.size();) {
+        const std::size_t end = std::min(names.find(',', at), names.size());
+        const auto found =
+            std::ranges::find(profiles, names.substr(at, end - at), &NamedProfile::name);
+        if (found == profiles.end()) {
+            return std::nullopt;
+        }
+        found->differFromDefault(profile);
+        at = end + 1;
+    }
     return profile;
 }
 

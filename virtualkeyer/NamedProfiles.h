@@ -18,7 +18,8 @@ struct NamedProfile {
 /// All of them, the default first.
 [[nodiscard]] std::span<const NamedProfile> namedProfiles();
 
-/// The profile called `name`; nothing when there is none.
-[[nodiscard]] std::optional<Profile> profileNamed(std::string_view name);
+/// The profile of a keyer that is all the kinds called `names`, separated by commas; nothing when
+/// there is none by one of the names.
+[[nodiscard]] std::optional<Profile> profileNamed(std::string_view names);
 
 } // namespace virtualkeyer

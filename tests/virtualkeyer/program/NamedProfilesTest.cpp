@@ -47,6 +47,8 @@ class NamedProfilesTest : public QObject {
     void everyOtherProfileDiffersInItsOwnWay();
     void allDifferencesTogetherCoverEveryChoice();
     void namesAreFoundExactly();
+    void severalTogetherDifferInAllTheirWays();
+    void everyOneOfSeveralNamesIsFoundExactly();
 };
 
 void NamedProfilesTest::theDefaultIsTheKeyersOwn() {
@@ -77,6 +79,25 @@ void NamedProfilesTest::namesAreFoundExactly() {
     QVERIFY(!profileNamed("boot"));
     QVERIFY(!profileNamed(""));
     QVERIFY(!profileNamed("Default"));
+}
+
+void NamedProfilesTest::severalTogetherDifferInAllTheirWays() {
+    const Profile profile = profileNamed("late-echo,boot-loader").value();
+    QCOMPARE(differencesOf(profile), differencesOf(profileNamed("late-echo").value()) |
+                                         differencesOf(profileNamed("boot-loader").value()));
+    QCOMPARE(profile.bootLoaderTime.count(), Time{1300ms}.count());
+    QVERIFY(profile.echoTime == EchoTime::AfterLetterSpace);
+    QCOMPARE(differencesOf(profileNamed("default,boot-loader").value()),
+             differencesOf(profileNamed("boot-loader").value()));
+}
+
+void NamedProfilesTest::everyOneOfSeveralNamesIsFoundExactly() {
+    QVERIFY(!profileNamed("late-echo,boot"));
+    QVERIFY(!profileNamed("boot,late-echo"));
+    QVERIFY(!profileNamed("late-echo, boot-loader"));
+    QVERIFY(!profileNamed("late-echo,"));
+    QVERIFY(!profileNamed(",late-echo"));
+    QVERIFY(!profileNamed("late-echo,,boot-loader"));
 }
 
 static const RegisteredTest<NamedProfilesTest> registered;

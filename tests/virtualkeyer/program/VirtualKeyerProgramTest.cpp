@@ -69,6 +69,7 @@ class VirtualKeyerProgramTest : public QObject {
     void thePotStandsWhereItWasToldTo_data();
     void thePotStandsWhereItWasToldTo();
     void aProfileChangesWhatTheHostSees();
+    void aKeyerMayBeOfSeveralKinds();
     void aBootLoaderSwallowsWhatComesInTheFirstMoment();
     void thePortCanBeClosedAndOpenedAgain();
     void itBlocksWhileNothingHappens_data();
@@ -180,6 +181,14 @@ void VirtualKeyerProgramTest::aProfileChangesWhatTheHostSees() {
     const Port port(keyer.linkPath());
     port.send(openCommand);
     QCOMPARE(port.read(2), QByteArray("\x17\xC0"));
+}
+
+void VirtualKeyerProgramTest::aKeyerMayBeOfSeveralKinds() {
+    KeyerProcess keyer(*_runtime);
+    QVERIFY(keyer.plugIn({u"--profile"_s, u"status-after-open,late-echo"_s}));
+    const Port port(keyer.linkPath());
+    port.send(openCommand + serialEchoOn + "#");
+    QCOMPARE(port.readUntil('?'), QByteArray("\x17\xC0\xC4?"));
 }
 
 void VirtualKeyerProgramTest::aBootLoaderSwallowsWhatComesInTheFirstMoment() {
@@ -399,6 +408,8 @@ void VirtualKeyerProgramTest::badOptionsAreRefused_data() {
     row("a speed with a fraction", {u"--speed=20.5"_s}, speed.arg(u"20.5"_s));
     row("an unknown profile", {u"--profile"_s, u"perfect"_s},
         u"Unknown profile 'perfect'; --help lists them."_s);
+    row("an unknown one among known profiles", {u"--profile"_s, u"late-echo,perfect"_s},
+        u"Unknown profile 'perfect'; --help lists them."_s);
     const QString name = u"'%1' cannot name a serial port: a name has 1 to 200 characters, no "
                          "slash, and does not begin with a dot."_s;
     row("a name with a slash", {u"--link"_s, u"../keyer"_s}, name.arg(u"../keyer"_s));
@@ -430,7 +441,7 @@ void VirtualKeyerProgramTest::helpListsOptionsAndProfiles() {
     const QString help = keyer.output();
     for (const QString& word :
          {u"--headless"_s, u"--transcript <FILE>"_s, u"--registers <FILE>"_s, u"--speed <WPM>"_s,
-          u"--profile <NAME>"_s, u"--link <NAME>"_s, u"--version"_s,
+          u"--profile <NAMES>"_s, u"--link <NAME>"_s, u"--version"_s,
           u"default: a version 2 keyer"_s, u"late-echo:"_s, u"status-after-open:"_s,
           u"echo-then-idle:"_s, u"idle-then-echo:"_s, u"early-xoff:"_s, u"abrupt-clear:"_s,
           u"boot-loader:"_s, u"start-beep:"_s, u"no-memory-load:"_s, u"single-break-in:"_s,
