@@ -39,6 +39,8 @@ constexpr std::array profiles{
                  [](Profile& profile) { profile.memoryLoad = MemoryLoad::ThrownAway; }},
     NamedProfile{"single-break-in", "reports break-in by a single C2 first",
                  [](Profile& profile) { profile.breakInReport = BreakInReport::Single; }},
+    NamedProfile{"late-break-in", "is idle for the host until the paddle has keyed for 160 ms",
+                 [](Profile& profile) { profile.breakInDelay = 160ms; }},
     NamedProfile{
         "repeat-after-pause", "keys a letter once more that a pause came into",
         [](Profile& profile) { profile.resumeAfterPause = ResumeAfterPause::RepeatsLetter; }},

@@ -108,7 +108,7 @@ void Keyer::Machine::settle() {
     if (_paddle.awaitsKey() && !_sender.isHandingOver()) {
         _paddle.takeKey(_now);
     }
-    if (_paddle.isReported()) {
+    if (_paddle.hasKeyed()) {
         _sender.echoCutLetter(_now);
     }
     _sender.setBlocked(_tune.isOn(), _now);

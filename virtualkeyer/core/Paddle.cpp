@@ -51,13 +51,14 @@ void Paddle::stop(Time now) {
     _pattern.clear();
     _lookAt.reset();
     _keyAt.reset();
-    _isReported = false;
+    _reportAt.reset();
+    _hasKeyed = false;
     enter(Phase::Idle, std::nullopt);
 }
 
 std::optional<Time> Paddle::due() const {
     std::optional<Time> due = _until;
-    for (const auto& other : {_lookAt, _keyAt}) {
+    for (const auto& other : {_lookAt, _keyAt, _reportAt}) {
         if (other && (!due || *other < *due)) {
             due = other;
         }
@@ -66,6 +67,9 @@ std::optional<Time> Paddle::due() const {
 }
 
 void Paddle::run(Time now) {
+    if (_reportAt && *_reportAt <= now) {
+        return reportBegin(now);
+    }
     if (_lookAt && *_lookAt <= now) {
         _lookAt.reset();
         _logic.look(_board.registers.paddleMode());
@@ -97,7 +101,7 @@ void Paddle::keyNext(Time now) {
         return startElement(*element, now);
     }
     // A bug's dah that was let go before it could begin.
-    reportBegin(now);
+    begin(now);
     _lastKeyUp = now;
     _board.ptt.releaseAt(Ptt::PaddleText, now + timingOf(registers).hang);
     startPause(now);
@@ -106,8 +110,8 @@ void Paddle::keyNext(Time now) {
 void Paddle::startElement(Element element, Time now) {
     const Timing timing = timingOf(_board.registers);
     _board.ptt.raise(Ptt::PaddleText, now);
-    if (!_isReported) {
-        reportBegin(now);
+    if (!_hasKeyed) {
+        begin(now);
     }
     _logic.start(element);
     _pattern += element == Element::Dit ? '.' : '-';
@@ -217,8 +221,18 @@ Time Paddle::pauseStepEnd() const {
     }
 }
 
+void Paddle::begin(Time now) {
+    _hasKeyed = true;
+    const Time delay = _board.profile.breakInDelay;
+    if (delay == Time{0}) {
+        return reportBegin(now);
+    }
+    _board.status.change(0, Status::Sending | Status::Waiting, now);
+    _reportAt = now + delay;
+}
+
 void Paddle::reportBegin(Time now) {
-    _isReported = true;
+    _reportAt.reset();
     if (_board.profile.breakInReport == BreakInReport::Single) {
         _board.status.change(Status::BreakIn, Status::Sending | Status::Waiting, now);
     }
@@ -227,11 +241,14 @@ void Paddle::reportBegin(Time now) {
 }
 
 void Paddle::end(Time now) {
+    if (_reportAt) {
+        reportBegin(now);
+    }
     if (_board.profile.breakInReport == BreakInReport::Level) {
         _board.status.change(0, Status::BreakIn, now);
     }
     _board.status.change(0, Status::BreakIn | Status::PaddleKeyed, now);
-    _isReported = false;
+    _hasKeyed = false;
     enter(Phase::Idle, std::nullopt);
 }
 

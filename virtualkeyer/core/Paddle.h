@@ -22,8 +22,8 @@ class Paddle {
     [[nodiscard]] bool awaitsKey() const { return _phase == Phase::AwaitsKey; }
     /// The host's sending has ended; the paddle may key.
     void takeKey(Time now);
-    /// Whether the break-in has been reported and the host's cut letter may be echoed.
-    [[nodiscard]] bool isReported() const { return _isReported; }
+    /// Whether it has begun to key, so that the host's cut letter may be echoed.
+    [[nodiscard]] bool hasKeyed() const { return _hasKeyed; }
 
     /// Everything ends at once.
     void stop(Time now);
@@ -47,6 +47,7 @@ class Paddle {
     void runPause(Time now);
     void endLetter(Time now);
     [[nodiscard]] Time pauseStepEnd() const;
+    void begin(Time now);
     void reportBegin(Time now);
     void end(Time now);
     void echo(char character, Time now);
@@ -57,11 +58,12 @@ class Paddle {
     std::optional<Time> _until;
     std::optional<Time> _lookAt;
     std::optional<Time> _keyAt;
+    std::optional<Time> _reportAt;
     PauseStep _pauseStep = PauseStep::EndOfLetter;
     Time _lastKeyUp{0};
     std::string _pattern;
     int _elementsInRow = 0;
-    bool _isReported = false;
+    bool _hasKeyed = false;
 };
 
 } // namespace virtualkeyer

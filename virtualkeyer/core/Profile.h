@@ -79,6 +79,9 @@ struct Profile {
     Time firstCommandBeep{0};
     MemoryLoad memoryLoad = MemoryLoad::Kept;
     BreakInReport breakInReport = BreakInReport::Level;
+    /// How long the paddle has keyed before the host is told; till then it takes the keyer for
+    /// idle. Boards that are late are so by 20 to 160 ms.
+    Time breakInDelay{0};
     ResumeAfterPause resumeAfterPause = ResumeAfterPause::GoesOn;
     /// The longest time that the tune command holds the key; nothing for no limit.
     std::optional<Time> tuneLimit;

@@ -50,6 +50,8 @@ class KeyerProfileTest : public QObject {
     void firstCommandMayWaitForABeep();
     void memoryLoadMayBeThrownAway();
     void breakInMayBeASingleByte();
+    void breakInMayBeReportedLate();
+    void lateBreakInIsReportedAtItsEndAtTheLatest();
     void breakInEchoesALetterThatWaitedForItsSpace();
     void resumeMayRepeatTheLetter();
 };
@@ -236,6 +238,40 @@ void KeyerProfileTest::breakInMayBeASingleByte() {
     bench.paddle(false, false);
     QVERIFY(bench.finish());
     QCOMPARE(bench.host(), u"0 C4, 240 C2, 240 C6, 240 54, 780 C0"_s);
+}
+
+void KeyerProfileTest::breakInMayBeReportedLate() {
+    KeyerBench bench(with([](Profile& p) { p.breakInDelay = 160ms; }));
+    bench.open();
+    bench.paddle(true, false);
+    bench.paddle(false, false);
+    QVERIFY(bench.finish());
+    QCOMPARE(bench.host(), u"160 C6, 540 C4, 540 C0"_s);
+    bench.forget();
+    bench.text("TE");
+    bench.waitUntil(50);
+    bench.paddle(true, false);
+    bench.paddle(false, false);
+    bench.waitUntil(350);
+    bench.text("E");
+    QVERIFY(bench.finish());
+    QCOMPARE(bench.host(), u"0 C4, 240 C0, 240 54, 400 C6, 780 C4, 780 C0"_s);
+    QCOMPARE(bench.keying(), u"180 60 60"_s);
+}
+
+void KeyerProfileTest::lateBreakInIsReportedAtItsEndAtTheLatest() {
+    KeyerBench bench(with([](Profile& p) { p.breakInDelay = 160ms; }));
+    bench.open();
+    bench.send({0x02, 99});
+    bench.paddle(true, false);
+    bench.paddle(false, false);
+    QVERIFY(bench.finish());
+    QCOMPARE(bench.bytes(), u"C6 C4 C0"_s);
+    QVERIFY(!bench.keyer.nextEvent());
+    bench.forget();
+    bench.text("E");
+    QVERIFY(bench.finish());
+    QCOMPARE(bench.bytes(), u"C4 45 C0"_s);
 }
 
 void KeyerProfileTest::breakInEchoesALetterThatWaitedForItsSpace() {

@@ -33,6 +33,7 @@ unsigned differencesOf(const Profile& profile) {
     compare(profile.firstCommandBeep == plain.firstCommandBeep);
     compare(profile.memoryLoad == plain.memoryLoad);
     compare(profile.breakInReport == plain.breakInReport);
+    compare(profile.breakInDelay == plain.breakInDelay);
     compare(profile.resumeAfterPause == plain.resumeAfterPause);
     return bits;
 }
@@ -70,7 +71,7 @@ void NamedProfilesTest::allDifferencesTogetherCoverEveryChoice() {
     for (const NamedProfile& named : namedProfiles()) {
         covered |= differencesOf(profileNamed(named.name).value());
     }
-    QCOMPARE(covered, (1U << 13U) - 1U);
+    QCOMPARE(covered, (1U << 14U) - 1U);
 }
 
 void NamedProfilesTest::namesAreFoundExactly() {
