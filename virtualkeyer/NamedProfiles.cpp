@@ -18,6 +18,8 @@ constexpr std::array profiles{
                      profile.echoesHalfSpace = true;
                      profile.unknownCharacter = UnknownCharacter::QuestionMark;
                  }},
+    NamedProfile{"no-echo", "never echoes the text, whatever the host has set",
+                 [](Profile& profile) { profile.echoesText = false; }},
     NamedProfile{"status-after-open", "sends a status byte after the version byte",
                  [](Profile& profile) { profile.reportsStatusAfterOpen = true; }},
     NamedProfile{"echo-then-idle", "sends the last echo and the idle status back to back",

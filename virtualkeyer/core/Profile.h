@@ -64,6 +64,8 @@ struct Profile {
     EchoTime echoTime = EchoTime::BeforeLetterSpace;
     IdleTime idleTime = IdleTime::AfterLetterSpace;
     EndOrder endOrder = EndOrder::EchoThenIdle;
+    /// Whether text is echoed when the host has asked for it.
+    bool echoesText = true;
     /// Whether the half space "|" is echoed.
     bool echoesHalfSpace = false;
     UnknownCharacter unknownCharacter = UnknownCharacter::Skipped;

@@ -276,7 +276,7 @@ void Sender::echoLast(std::optional<std::uint8_t> echoed, bool mayIdle, Time now
 }
 
 void Sender::echo(std::uint8_t byte, Time now) {
-    if (_board.registers.serialEcho()) {
+    if (_board.profile.echoesText && _board.registers.serialEcho()) {
         _board.outbox.tell(byte, now);
     }
 }

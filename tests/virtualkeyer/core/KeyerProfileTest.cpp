@@ -41,6 +41,7 @@ class KeyerProfileTest : public QObject {
     void idleMayBeReportedWithTheEcho();
     void idleMayGoBeforeTheEcho();
     void halfSpaceMayBeEchoed();
+    void echoMayBeMissing();
     void unknownCharactersMayBeKeyedAsQuestionMarks();
     void statusMayFollowTheVersion();
     void xoffMayComeEarlyAndRepeatedly();
@@ -121,6 +122,22 @@ void KeyerProfileTest::idleMayGoBeforeTheEcho() {
     QCOMPARE(hostLog(profile, "EE"), u"0 C4, 120 45, 360 C0, 360 45"_s);
     profile.echoTime = EchoTime::AfterLetterSpace;
     QCOMPARE(hostLog(profile, "EE"), u"0 C4, 240 45, 480 C0, 480 45"_s);
+}
+
+void KeyerProfileTest::echoMayBeMissing() {
+    KeyerBench bench(with([](Profile& p) { p.echoesText = false; }));
+    bench.open();
+    bench.send({0x0E, 0x44});
+    bench.text("ET ");
+    QVERIFY(bench.finish());
+    QCOMPARE(bench.keying(), u"60 180 180"_s);
+    QCOMPARE(bench.bytes(), u"C4 C0"_s);
+    bench.forget();
+    bench.send({0x00, 4, 0x55});
+    bench.paddle(true, false);
+    bench.paddle(false, false);
+    QVERIFY(bench.finish());
+    QCOMPARE(bench.bytes(), u"55 C6 45 20 C4 C0"_s);
 }
 
 void KeyerProfileTest::halfSpaceMayBeEchoed() {

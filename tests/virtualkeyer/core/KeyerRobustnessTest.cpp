@@ -17,6 +17,7 @@ Profile randomProfile(std::mt19937& random) {
     profile.echoTime = static_cast<EchoTime>(choice());
     profile.idleTime = static_cast<IdleTime>(choice());
     profile.endOrder = static_cast<EndOrder>(choice());
+    profile.echoesText = choice() != 0;
     profile.echoesHalfSpace = choice() != 0;
     profile.unknownCharacter = static_cast<UnknownCharacter>(choice());
     profile.reportsStatusAfterOpen = choice() != 0;

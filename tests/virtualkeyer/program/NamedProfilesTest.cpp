@@ -24,6 +24,7 @@ unsigned differencesOf(const Profile& profile) {
     compare(profile.echoTime == plain.echoTime);
     compare(profile.idleTime == plain.idleTime);
     compare(profile.endOrder == plain.endOrder);
+    compare(profile.echoesText == plain.echoesText);
     compare(profile.echoesHalfSpace == plain.echoesHalfSpace);
     compare(profile.unknownCharacter == plain.unknownCharacter);
     compare(profile.reportsStatusAfterOpen == plain.reportsStatusAfterOpen);
@@ -71,7 +72,7 @@ void NamedProfilesTest::allDifferencesTogetherCoverEveryChoice() {
     for (const NamedProfile& named : namedProfiles()) {
         covered |= differencesOf(profileNamed(named.name).value());
     }
-    QCOMPARE(covered, (1U << 14U) - 1U);
+    QCOMPARE(covered, (1U << 15U) - 1U);
 }
 
 void NamedProfilesTest::namesAreFoundExactly() {

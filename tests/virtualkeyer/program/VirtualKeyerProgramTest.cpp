@@ -443,12 +443,13 @@ void VirtualKeyerProgramTest::helpListsOptionsAndProfiles() {
                                 u"--registers <FILE>"_s, u"--speed <WPM>"_s,
                                 u"--profile <NAMES>"_s,  u"--link <NAME>"_s,
                                 u"--version"_s,          u"default: a version 2 keyer"_s,
-                                u"late-echo:"_s,         u"status-after-open:"_s,
-                                u"echo-then-idle:"_s,    u"idle-then-echo:"_s,
-                                u"early-xoff:"_s,        u"abrupt-clear:"_s,
-                                u"boot-loader:"_s,       u"start-beep:"_s,
-                                u"no-memory-load:"_s,    u"single-break-in:"_s,
-                                u"late-break-in:"_s,     u"repeat-after-pause:"_s}) {
+                                u"late-echo:"_s,         u"no-echo:"_s,
+                                u"status-after-open:"_s, u"echo-then-idle:"_s,
+                                u"idle-then-echo:"_s,    u"early-xoff:"_s,
+                                u"abrupt-clear:"_s,      u"boot-loader:"_s,
+                                u"start-beep:"_s,        u"no-memory-load:"_s,
+                                u"single-break-in:"_s,   u"late-break-in:"_s,
+                                u"repeat-after-pause:"_s}) {
         QVERIFY2(help.contains(word), qPrintable(word));
     }
     QCOMPARE(keyer.errors(), QString());
