@@ -52,7 +52,8 @@ class ORSSerialPort final : public QObject, public std::enable_shared_from_this<
     /// The port of the device whose callout or dial-in path is `path`; empty when there is none.
     [[nodiscard]] static std::shared_ptr<ORSSerialPort> serialPortWithPath(const QString& path);
 
-    /// The port of `device`. Throws InternalInconsistency for noDevice.
+    /// The port of `device`: the one that its path has, unless that was another device's, by name.
+    /// Throws InternalInconsistency for noDevice.
     [[nodiscard]] static std::shared_ptr<ORSSerialPort> serialPortWithDevice(DeviceHandle device);
 
     /// Enters a port into the list of live ports, or takes that very port out of it. Ports do so
@@ -100,8 +101,8 @@ class ORSSerialPort final : public QObject, public std::enable_shared_from_this<
     [[nodiscard]] DeviceHandle IOKitDevice() const;
 
     /// Opens the device for this program alone; isOpen() says whether it worked. Failure is
-    /// reported to the delegate later. What came in before is thrown away. Nothing happens to an
-    /// open port.
+    /// reported to the delegate later; of another program that has it open, the log tells which.
+    /// What came in before is thrown away. Nothing happens to an open port.
     void open();
     /// Puts the device's old settings back and closes it, once what was written has gone out. Bytes
     /// received and not yet handed to the delegate are dropped. True when the port is closed
@@ -206,6 +207,7 @@ class ORSSerialPort final : public QObject, public std::enable_shared_from_this<
     void setOutputLine(int& line, int value, int bit, void (ORSSerialPort::*changed)());
     void setInputLine(std::atomic<bool>& line, bool value, void (ORSSerialPort::*changed)());
     void synchronizeOutputLines();
+    [[nodiscard]] bool isUsedElsewhere() const;
     void requestLowLatency();
 
     QPointer<LivePorts> _livePorts;

@@ -1,9 +1,11 @@
 #include "platform/Log.h"
+#include "serial/DeviceUsers.h"
 #include "serial/ExclusiveDevice.h"
 #include "serial/LowLatency.h"
 #include "serial/ORSSerialPort.h"
 #include "serial/PortOpening.h"
 
+#include <cerrno>
 #include <sys/eventfd.h>
 #include <termios.h>
 #include <unistd.h>
@@ -21,6 +23,11 @@ int ORSSerialPort::fileDescriptor() const {
 
 void ORSSerialPort::open() {
     if (isOpen()) {
+        return;
+    }
+    if (isUsedElsewhere()) {
+        errno = EBUSY;
+        queueErrorReport();
         return;
     }
     // The device comes last: given up here, a pseudo-terminal would stay locked.
@@ -58,6 +65,16 @@ void ORSSerialPort::open() {
         return;
     }
     Q_EMIT isOpenChanged();
+}
+
+/// Programs that ask for no lock can open the device, and be shut out by none: both would read, and
+/// each would get half.
+bool ORSSerialPort::isUsedElsewhere() const {
+    const auto users = DeviceUsers::of(_path);
+    if (!users.isEmpty()) {
+        logLine(u"%1 is in use by %2"_s.arg(description(), users.join(u", ")));
+    }
+    return !users.isEmpty();
 }
 
 void ORSSerialPort::requestLowLatency() {

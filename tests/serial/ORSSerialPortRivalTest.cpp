@@ -1,10 +1,17 @@
 // Another program on the same line, which takes what was meant for this one.
 
 #include "tests/serial/PortBench.h"
+#include "tests/support/LogKeeper.h"
 #include "tests/support/RegisteredTest.h"
 
+#include <QFile>
+
+#include <array>
 #include <atomic>
+#include <csignal>
 #include <fcntl.h>
+#include <functional>
+#include <sys/wait.h>
 #include <termios.h>
 #include <thread>
 #include <unistd.h>
@@ -29,6 +36,45 @@ class Rival {
 
   private:
     int _descriptor;
+};
+
+/// Another process, which does what it is made for and then sleeps until it is killed.
+class OtherProgram {
+  public:
+    explicit OtherProgram(const std::function<void()>& action) {
+        std::array<int, 2> ready{};
+        if (::pipe(ready.data()) != 0) {
+            qFatal("no pipe");
+        }
+        _process = ::fork();
+        if (_process == 0) {
+            action();
+            [[maybe_unused]] const auto size = ::write(ready[1], "x", 1);
+            for (;;) {
+                ::pause();
+            }
+        }
+        ::close(ready[1]);
+        char byte = 0;
+        [[maybe_unused]] const auto size = ::read(ready[0], &byte, 1);
+        ::close(ready[0]);
+    }
+    OtherProgram(const OtherProgram&) = delete;
+    OtherProgram& operator=(const OtherProgram&) = delete;
+    ~OtherProgram() {
+        ::kill(_process, SIGKILL);
+        ::waitpid(_process, nullptr, 0);
+    }
+
+    [[nodiscard]] QString description() const {
+        QFile name(u"/proc/%1/comm"_s.arg(_process));
+        static_cast<void>(name.open(QIODevice::ReadOnly));
+        return u"%1 (process %2)"_s.arg(QString::fromLocal8Bit(name.readAll()).trimmed())
+            .arg(_process);
+    }
+
+  private:
+    pid_t _process;
 };
 
 /// Ends a wait for bytes that would last for ever, by sending some, and remembers that it had to.
@@ -58,6 +104,33 @@ class Watchdog {
 class ORSSerialPortRivalTest : public QObject {
     Q_OBJECT
   private Q_SLOTS:
+    void aLineThatAnotherProgramHasOpenIsRefused() {
+        PortBench bench;
+        const auto path = bench.line.path().toLocal8Bit();
+        {
+            const OtherProgram other([&] {
+                ::close(bench.line.farEnd());
+                ::open(path.constData(), O_RDWR | O_NOCTTY);
+            });
+            const LogKeeper log;
+            bench.port->open();
+            QVERIFY(!bench.port->isOpen());
+            QCOMPARE(log.lines(), QStringList{u"line is in use by "_s + other.description()});
+            QTRY_COMPARE(bench.delegate.events(), QStringList{u"error"_s});
+        }
+        bench.port->open();
+        QVERIFY(bench.port->isOpen());
+    }
+
+    void theFarEndMayHoldTheNearEndToo() {
+        PortBench bench;
+        const auto path = bench.line.path().toLocal8Bit();
+        // A copy of this process has the far end as well.
+        const OtherProgram keyer([&] { ::open(path.constData(), O_RDWR | O_NOCTTY); });
+        bench.port->open();
+        QVERIFY(bench.port->isOpen());
+    }
+
     void closingDoesNotWaitForBytesThatSomebodyElseTook() {
         PortBench bench;
         const Rival rival(bench.line);

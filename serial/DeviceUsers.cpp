@@ -1,0 +1,77 @@
+#include "serial/DeviceUsers.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+#include <algorithm>
+#include <filesystem>
+#include <functional>
+#include <string>
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+using std::filesystem::directory_iterator;
+
+namespace {
+
+using Path = std::filesystem::path;
+
+bool isNumber(const std::string& text) {
+    return !text.empty() && text.find_first_not_of("0123456789") == std::string::npos;
+}
+
+QByteArray content(const Path& path) {
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+/// Whether one of the process's descriptors, by its number and what it leads to, is as wanted. The
+/// entries are read and not followed: a file on a server that does not answer would be waited for.
+bool anyDescriptor(const Path& process,
+                   const std::function<bool(const Path& number, const Path& target)>& isWanted) {
+    std::error_code error;
+    for (directory_iterator entry(process / "fd", error), end; !error && entry != end;
+         entry.increment(error)) {
+        std::error_code closed;
+        const auto target = std::filesystem::read_symlink(entry->path(), closed);
+        if (!closed && isWanted(entry->path().filename(), target)) {
+            return true;
+        }
+    }
+    return false;
+}
+
+bool hasOpen(const Path& process, const Path& terminal) {
+    return anyDescriptor(process,
+                         [&](const Path&, const Path& target) { return target == terminal; });
+}
+
+/// Whether the process has the other end of that pseudo-terminal.
+bool isFarEnd(const Path& process, const Path& terminal) {
+    if (terminal.parent_path() != "/dev/pts") {
+        return false;
+    }
+    const auto index = "tty-index:\t" + QByteArray::fromStdString(terminal.filename()) + '\n';
+    return anyDescriptor(process, [&](const Path& number, const Path& target) {
+        return target.filename() == "ptmx" && content(process / "fdinfo" / number).contains(index);
+    });
+}
+
+} // namespace
+
+QStringList DeviceUsers::of(const QString& path) {
+    const Path terminal = QFileInfo(path).canonicalFilePath().toStdString();
+    const auto own = std::to_string(::getpid());
+    QStringList users;
+    std::error_code error;
+    for (directory_iterator entry("/proc", error), end; !error && entry != end;
+         entry.increment(error)) {
+        const auto number = entry->path().filename().string();
+        if (!terminal.empty() && isNumber(number) && number != own &&
+            hasOpen(entry->path(), terminal) && !isFarEnd(entry->path(), terminal)) {
+            const auto name = QString::fromLocal8Bit(content(entry->path() / "comm")).trimmed();
+            users.append(u"%1 (process %2)"_s.arg(name, QString::fromStdString(number)));
+        }
+    }
+    return users;
+}
