@@ -21,6 +21,10 @@ ORSSerialPortManager::Ports portsIn(const Notification& notification, QLatin1Str
     return notification.userInfo.value(key).value<ORSSerialPortManager::Ports>();
 }
 
+bool isPresent(const ORSSerialPort& port) {
+    return ORSSerialPortManager::sharedSerialPortManager().isPresent(port);
+}
+
 } // namespace
 
 QuorvelDelegate::QuorvelDelegate(QObject* parent) : QObject(parent) {
@@ -127,7 +131,7 @@ void QuorvelDelegate::serialPortAdded(const Notification& notification) {
     }
     // Each port is offered, also after a "Yes": a later "Yes" moves the link to the later port.
     for (const auto& port : portsIn(notification, ORSConnectedSerialPortsKey)) {
-        if (!port->name().startsWith("usbserial-"_L1)) {
+        if (!port->name().startsWith("usbserial-"_L1) || !isPresent(*port)) {
             continue;
         }
         const auto answer = application().runModal(
@@ -135,7 +139,8 @@ void QuorvelDelegate::serialPortAdded(const Notification& notification) {
              .informativeText = tr("Try to use this port to communicate with a WinKeyer?"),
              .defaultButton = tr("Yes"),
              .alternateButton = tr("No")});
-        if (answer == AlertAnswer::Default) {
+        // It may have gone while the question was up.
+        if (answer == AlertAnswer::Default && isPresent(*port)) {
             SettingsStore::standardUserDefaults().setObject(port->name(), WKPortName);
             changeSerialPort(this);
         }

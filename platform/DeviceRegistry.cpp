@@ -55,9 +55,32 @@ void DeviceRegistry::reorder(const QList<DeviceHandle>& devices) {
 }
 
 void DeviceRegistry::enqueue(DeviceEvent event, const QList<DeviceHandle>& devices) {
-    if (!devices.isEmpty()) {
-        _announcements.append({event, devices, _lastIterator});
+    auto announced = devices;
+    if (event == DeviceEvent::Terminate) {
+        announced.removeIf([this](DeviceHandle device) { return takeBack(device); });
     }
+    if (!announced.isEmpty()) {
+        _announcements.append({event, announced, _lastIterator});
+    }
+}
+
+/// Drops an arrival that nobody has been told of, and returns whether there was one. Whoever
+/// registered since then was told that the device is present.
+bool DeviceRegistry::takeBack(DeviceHandle device) {
+    const auto arrival =
+        std::find_if(_announcements.begin(), _announcements.end(), [&](const Announcement& each) {
+            return each.event == DeviceEvent::Publish && each.devices.contains(device) &&
+                   each.lastIterator == _lastIterator;
+        });
+    if (arrival == _announcements.end()) {
+        return false;
+    }
+    arrival->devices.removeOne(device);
+    if (arrival->devices.isEmpty()) {
+        _announcements.erase(arrival);
+    }
+    forgetUnlessNeeded(device);
+    return true;
 }
 
 void DeviceRegistry::announce() {

@@ -81,7 +81,8 @@ class DeviceRegistry : public QObject {
     void reorder(const QList<DeviceHandle>& devices);
     [[nodiscard]] const QList<DeviceHandle>& present() const { return _present; }
 
-    /// Notes that devices came or went at one moment, for the registrations that there are now.
+    /// Notes that devices came or went at one moment, for the registrations that there are now. The
+    /// going of a device whose coming waits to be announced takes that back instead.
     void enqueue(DeviceEvent event, const QList<DeviceHandle>& devices);
     /// Tells of everything that waits, in order, and never of one set while another one is being
     /// handled, even if its handler runs an event loop. Does nothing while announcements are held.
@@ -102,6 +103,7 @@ class DeviceRegistry : public QObject {
         quint32 lastIterator;
     };
 
+    [[nodiscard]] bool takeBack(DeviceHandle device);
     void announceNext();
     [[nodiscard]] bool isRegistered(quint32 iterator) const;
     [[nodiscard]] bool isAwaited(DeviceHandle device) const;

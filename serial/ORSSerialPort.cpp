@@ -26,7 +26,11 @@ std::shared_ptr<ORSSerialPort> ORSSerialPort::serialPortWithDevice(DeviceHandle 
     }
     const auto path = bsdCalloutPathFromDevice(device);
     if (auto existing = existingPortWithPath(path)) {
-        return existing;
+        if (existing->name() == modemNameFromDevice(device)) {
+            return existing;
+        }
+        // Another adapter has that node by now, and whoever holds the old one's port keeps it.
+        removeSerialPort(*existing);
     }
     std::shared_ptr<ORSSerialPort> port(new ORSSerialPort(device, path));
     addSerialPort(*port);

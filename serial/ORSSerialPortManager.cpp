@@ -149,9 +149,23 @@ void ORSSerialPortManager::systemWillSleep(const Notification&) {
 void ORSSerialPortManager::systemDidWake(const Notification&) {
     const auto ports = _portsToReopenAfterSleep;
     for (const auto& port : ports) {
-        port->open();
+        if (isPresent(*port)) {
+            port->open();
+        }
         _portsToReopenAfterSleep.removeAll(port);
     }
+}
+
+// The registry knows of removals that are yet to be announced.
+bool ORSSerialPortManager::isPresent(const ORSSerialPort& port) const {
+    const auto ports = _availablePorts.value_or(Ports());
+    const auto devices = Platform::current().devices().matchingDevices();
+    return std::any_of(ports.begin(), ports.end(),
+                       [&](const auto& each) { return each.get() == &port; }) &&
+           devices && std::any_of(devices->begin(), devices->end(), [&](DeviceHandle device) {
+               return ORSSerialPort::bsdCalloutPathFromDevice(device) == port.path() &&
+                      ORSSerialPort::modemNameFromDevice(device) == port.name();
+           });
 }
 
 void ORSSerialPortManager::serialPortsWerePublished(const QList<DeviceHandle>& devices) {
@@ -174,6 +188,7 @@ void ORSSerialPortManager::serialPortsWereTerminated(const QList<DeviceHandle>& 
         ports.append(ORSSerialPort::serialPortWithDevice(device));
     }
     for (const auto& port : std::as_const(ports)) {
+        _portsToReopenAfterSleep.removeAll(port);
         port->cleanup();
     }
     removeAvailablePorts(ports);
@@ -220,6 +235,7 @@ void ORSSerialPortManager::applicationWillTerminate() {
     for (const auto& port : ports) {
         port->cleanup();
     }
+    _portsToReopenAfterSleep.clear();
     setAvailablePorts(std::nullopt);
 }
 

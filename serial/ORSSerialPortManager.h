@@ -82,8 +82,12 @@ class ORSSerialPortManager final : public QObject {
 
     /// Closes the open ports and remembers them.
     void systemWillSleep(const Notification& notification);
-    /// Opens the remembered ports and forgets them, whether or not they opened.
+    /// Opens the remembered ports that are still there, and forgets them all.
     void systemDidWake(const Notification& notification);
+
+    /// Whether the port is listed and the machine has its device: one that has gone while an alert
+    /// is up leaves the list only afterwards.
+    [[nodiscard]] bool isPresent(const ORSSerialPort& port) const;
 
     void serialPortsWerePublished(const QList<DeviceHandle>& devices);
     void serialPortsWereTerminated(const QList<DeviceHandle>& devices);

@@ -2,6 +2,7 @@
 
 #include "app/KeyShield.h"
 #include "serial/ORSSerialPortManager.h"
+#include "tests/support/LogKeeper.h"
 #include "tests/support/RegisteredTest.h"
 #include "tests/support/TestPlatform.h"
 
@@ -12,6 +13,7 @@
 #include <QTimer>
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 using namespace std::chrono_literals;
 
 class DesktopApplicationTest : public QObject {
@@ -26,6 +28,8 @@ class DesktopApplicationTest : public QObject {
     void textIsShownAsItStands();
     void anAlertStandsAboveTheWindowInUse();
     void devicesThatComeMeanwhileAreAnnouncedAfterwards();
+    void onceItEndsNothingIsAsked();
+    void anAlertWithALimitClosesByItself();
 
   private:
     /// Runs `action` on the alert once it has been up for so long; by then it takes keys.
@@ -157,11 +161,32 @@ void DesktopApplicationTest::devicesThatComeMeanwhileAreAnnouncedAfterwards() {
     _application.runModal({.messageText = u"Wait."_s, .informativeText = {}});
     QVERIFY(_wasShown);
     QCOMPARE(announcedMeanwhile, 0);
-    QTRY_COMPARE(announced, (QStringList{ORSSerialPortWasConnectedNotification,
-                                         ORSSerialPortWasConnectedNotification,
-                                         ORSSerialPortWasDisconnectedNotification}));
+    QTRY_COMPARE(announced, QStringList{ORSSerialPortWasConnectedNotification});
     QCOMPARE(manager.countOfAvailablePorts(), 1);
     QCOMPARE(manager.objectInAvailablePortsAtIndex(0)->name(), u"b"_s);
+}
+
+void DesktopApplicationTest::onceItEndsNothingIsAsked() {
+    const LogKeeper log;
+    _application.limitAlerts(0ms);
+    const auto answer = _application.runModal({.messageText = u"Ready?"_s,
+                                               .informativeText = {},
+                                               .defaultButton = u"Yes"_s,
+                                               .alternateButton = u"No"_s});
+    QVERIFY(answer == AlertAnswer::Alternate);
+    _application.presentError(Error::ofApplication(u"It failed."_s, u"Try again."_s));
+    QCOMPARE(log.lines(), (QStringList{u"Ready?"_s, u"It failed."_s}));
+}
+
+void DesktopApplicationTest::anAlertWithALimitClosesByItself() {
+    _application.limitAlerts(50ms);
+    whileShown([](const QMessageBox&) {});
+    const auto answer = _application.runModal({.messageText = u"Ready?"_s,
+                                               .informativeText = {},
+                                               .defaultButton = u"Yes"_s,
+                                               .alternateButton = u"No"_s});
+    QVERIFY(_wasShown);
+    QVERIFY(answer == AlertAnswer::Alternate);
 }
 
 static const RegisteredTest<DesktopApplicationTest> registered;

@@ -45,6 +45,8 @@ class QuorvelDelegateTest : public QObject {
     void aPluggedPortIsOffered();
     void aPluggedPortIsListedBeforeItIsOffered();
     void everyPortOfOneMomentIsOffered();
+    void aPortThatHasGoneIsNotOffered();
+    void yesToAPortThatHasGoneChangesNothing();
     void nothingIsOfferedWhileConnected();
     void onlyUsbSerialPortsAreOffered_data();
     void onlyUsbSerialPortsAreOffered();
@@ -326,6 +328,41 @@ void QuorvelDelegateTest::everyPortOfOneMomentIsOffered() {
     QCOMPARE(chosenPort(), u"usbserial-c"_s);
     QVERIFY(ORSSerialPort::serialPortWithPath(second.path())->isOpen());
     QVERIFY(!ORSSerialPort::serialPortWithPath(first.path())->isOpen());
+}
+
+/// Of two that came at one moment, the second goes while the first is asked about.
+void QuorvelDelegateTest::aPortThatHasGoneIsNotOffered() {
+    _bench->settings().setObject(u"None"_s, WKPortName);
+    launch();
+    _bench->platform().application().clear();
+    auto& devices = _bench->platform().devices();
+    _bench->platform().application().setWhileShown([&](const Alert&) {
+        devices.holdAnnouncements();
+        devices.unplug(ORSSerialPort::deviceFromBSDPath(u"/dev/c"_s));
+        devices.resumeAnnouncements();
+    });
+    _bench->platform().application().answerNext(AlertAnswer::Alternate);
+    using Registry = FakeDeviceRegistry;
+    devices.plug({Registry::device(u"usbserial-a"_s, u"/dev/a"_s),
+                  Registry::device(u"usbserial-c"_s, u"/dev/c"_s)});
+    QCOMPARE(alerts().size(), 1);
+    QCOMPARE(alerts().first().messageText, u"The serial port usbserial-a has been plugged in."_s);
+}
+
+void QuorvelDelegateTest::yesToAPortThatHasGoneChangesNothing() {
+    launch();
+    _bench->platform().devices().unplug(_bench->device());
+    _bench->platform().application().clear();
+    auto& devices = _bench->platform().devices();
+    _bench->platform().application().setWhileShown([&](const Alert&) {
+        devices.holdAnnouncements();
+        devices.unplug(ORSSerialPort::deviceFromBSDPath(_bench->line().path()));
+    });
+    devices.plug(EngineBench::portName, _bench->line().path());
+    QCOMPARE(alerts().size(), 1);
+    QCOMPARE(chosenPort(), QString(EngineBench::portName));
+    QVERIFY(!_bench->engine().isConnected());
+    devices.resumeAnnouncements();
 }
 
 void QuorvelDelegateTest::nothingIsOfferedWhileConnected() {

@@ -29,6 +29,9 @@ class ORSSerialPortManagerHotPlugTest : public ManagerBench {
     void logsAForeignContext_data();
     void logsAForeignContext();
     void followsArrivalsWhenRemovalsCannotBeWatched();
+    void aNodeOfAnotherAdapterIsAnotherPort();
+    void aNodeOfTheSameAdapterIsTheSamePort();
+    void whatComesAndGoesWhileItCannotBeToldIsNotToldOf();
 };
 
 void ORSSerialPortManagerHotPlugTest::appendsArrivals() {
@@ -190,6 +193,43 @@ void ORSSerialPortManagerHotPlugTest::logsAForeignContext() {
     QVERIFY2(loggedLines[0].endsWith(end), qPrintable(loggedLines[0]));
     QVERIFY(observer.posted.isEmpty());
     QCOMPARE(available(), QStringList{u"a"_s});
+}
+
+void ORSSerialPortManagerHotPlugTest::aNodeOfAnotherAdapterIsAnotherPort() {
+    const auto first = devices().plug(u"usbserial-A"_s, u"/dev/ttyUSB0"_s);
+    const auto held = manager().objectInAvailablePortsAtIndex(0);
+    devices().unplug(first);
+    devices().plug(u"usbserial-B"_s, u"/dev/ttyUSB0"_s);
+    QCOMPARE(available(), QStringList{u"usbserial-B"_s});
+    QCOMPARE(held->name(), u"usbserial-A"_s);
+    QVERIFY(!manager().isPresent(*held));
+    QVERIFY(manager().isPresent(*manager().objectInAvailablePortsAtIndex(0)));
+}
+
+void ORSSerialPortManagerHotPlugTest::aNodeOfTheSameAdapterIsTheSamePort() {
+    const auto first = devices().plug(u"usbserial-A"_s, u"/dev/ttyUSB0"_s);
+    const auto held = manager().objectInAvailablePortsAtIndex(0);
+    devices().unplug(first);
+    devices().plug(u"usbserial-A"_s, u"/dev/ttyUSB0"_s);
+    QCOMPARE(manager().objectInAvailablePortsAtIndex(0), held);
+    QVERIFY(manager().isPresent(*held));
+}
+
+void ORSSerialPortManagerHotPlugTest::whatComesAndGoesWhileItCannotBeToldIsNotToldOf() {
+    const auto old = devices().plug(u"old"_s, u"/dev/old"_s);
+    manager();
+    const ManagerObserver observer(notifications());
+    devices().holdAnnouncements();
+    devices().unplug(old);
+    for (int cycle = 0; cycle < 1000; ++cycle) {
+        devices().unplug(devices().plug(u"usbserial-A"_s, u"/dev/ttyUSB0"_s));
+    }
+    devices().plug(u"usbserial-A"_s, u"/dev/ttyUSB0"_s);
+    devices().resumeAnnouncements();
+    QTRY_COMPARE(observer.posted, QStringList({ORSSerialPortWasDisconnectedNotification,
+                                               ORSSerialPortWasConnectedNotification}));
+    QCOMPARE(names(observer.ports[0]), QStringList{u"old"_s});
+    QCOMPARE(available(), QStringList{u"usbserial-A"_s});
 }
 
 void ORSSerialPortManagerHotPlugTest::followsArrivalsWhenRemovalsCannotBeWatched() {

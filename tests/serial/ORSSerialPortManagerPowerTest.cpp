@@ -29,6 +29,9 @@ class ORSSerialPortManagerPowerTest : public ManagerBench {
     void cleansEveryPortUpAtTheEnd();
     void runsOnWithoutAListAfterTheEnd();
     void sleepsWithoutAList();
+    void aPortThatGoesDuringSleepStaysClosed();
+    void aPortWhoseGoingIsYetToBeAnnouncedStaysClosed();
+    void noPortIsOpenedAfterTheEnd();
 };
 
 void ORSSerialPortManagerPowerTest::closesTheOpenPortForSleep() {
@@ -175,6 +178,45 @@ void ORSSerialPortManagerPowerTest::runsOnWithoutAListAfterTheEnd() {
     QCOMPARE(names(observer.ports[1]), QStringList{u"a"_s});
     post(NSApplicationWillTerminateNotification);
     QVERIFY(!manager().availablePorts().has_value());
+}
+
+void ORSSerialPortManagerPowerTest::aPortThatGoesDuringSleepStaysClosed() {
+    const PseudoTerminalPair line;
+    const auto device = devices().plug(u"a"_s, line.path());
+    const auto port = manager().objectInAvailablePortsAtIndex(0);
+    port->open();
+    post(NSWorkspaceWillSleepNotification);
+    devices().unplug(device);
+    QVERIFY(manager().portsToReopenAfterSleep().isEmpty());
+    post(NSWorkspaceDidWakeNotification);
+    QVERIFY(!port->isOpen());
+}
+
+/// As while an alert is up.
+void ORSSerialPortManagerPowerTest::aPortWhoseGoingIsYetToBeAnnouncedStaysClosed() {
+    const PseudoTerminalPair line;
+    const auto device = devices().plug(u"a"_s, line.path());
+    const auto port = manager().objectInAvailablePortsAtIndex(0);
+    port->open();
+    post(NSWorkspaceWillSleepNotification);
+    devices().holdAnnouncements();
+    devices().unplug(device);
+    QVERIFY(!manager().isPresent(*port));
+    post(NSWorkspaceDidWakeNotification);
+    QVERIFY(!port->isOpen());
+    QVERIFY(manager().portsToReopenAfterSleep().isEmpty());
+    devices().resumeAnnouncements();
+}
+
+void ORSSerialPortManagerPowerTest::noPortIsOpenedAfterTheEnd() {
+    const PseudoTerminalPair line;
+    devices().plug(u"a"_s, line.path());
+    const auto port = manager().objectInAvailablePortsAtIndex(0);
+    port->open();
+    post(NSWorkspaceWillSleepNotification);
+    post(NSApplicationWillTerminateNotification);
+    post(NSWorkspaceDidWakeNotification);
+    QVERIFY(!port->isOpen());
 }
 
 void ORSSerialPortManagerPowerTest::sleepsWithoutAList() {
