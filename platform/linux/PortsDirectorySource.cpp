@@ -1,5 +1,6 @@
 #include "platform/linux/PortsDirectorySource.h"
 
+#include "platform/FileDescriptor.h"
 #include "platform/Log.h"
 #include "platform/linux/DeviceNaming.h"
 #include "platform/linux/TerminalNode.h"
@@ -9,8 +10,10 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <sys/inotify.h>
 #include <sys/stat.h>
 #include <system_error>
+#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 
@@ -25,17 +28,38 @@ bool isPresentable(const QString& name) {
                         [](QChar each) { return each.category() == QChar::Other_Control; });
 }
 
-/// Tells a link from one of the same name that took its place.
-QString identityOf(const QString& link, const QString& target) {
-    struct stat status {};
-    if (::lstat(QFile::encodeName(link).constData(), &status) != 0) {
-        return {};
+/// The name with the characters written out that nobody sees: those that turn the direction of what
+/// follows, or have no width, make one name look like another.
+QString visible(const QString& name) {
+    QString shown;
+    for (const auto character : name.toUcs4()) {
+        if (QChar::category(character) == QChar::Other_Format) {
+            shown += u"\\u%1"_s.arg(character, 4, 16, u'0');
+        } else {
+            shown += QString::fromUcs4(reinterpret_cast<const char32_t*>(&character), 1);
+        }
     }
-    return u"%1 %2 %3.%4 %5"_s.arg(link)
-        .arg(status.st_ino)
-        .arg(status.st_mtim.tv_sec)
-        .arg(status.st_mtim.tv_nsec)
-        .arg(target);
+    return shown;
+}
+
+/// Whether somebody else can put a link there, or where it leads.
+bool isForeign(const QString& directory) {
+    struct stat status {};
+    return ::lstat(QFile::encodeName(directory).constData(), &status) == 0 &&
+           (S_ISLNK(status.st_mode) ||
+            (S_ISDIR(status.st_mode) &&
+             (status.st_uid != ::geteuid() || (status.st_mode & (S_IWGRP | S_IWOTH)) != 0)));
+}
+
+/// The link that names the terminal itself, at the end of a chain of links.
+QString lastLink(const QString& link) {
+    constexpr int longestChain = 40;
+    QString last = link;
+    for (int i = 0; i < longestChain && QFileInfo(QFileInfo(last).symLinkTarget()).isSymLink();
+         ++i) {
+        last = QFileInfo(last).symLinkTarget();
+    }
+    return last;
 }
 
 } // namespace
@@ -51,6 +75,7 @@ PortsDirectorySource::PortsDirectorySource(const QString& path) : _path(path) {
         logLine(u"There is no runtime directory, and so no ports directory"_s);
         return;
     }
+    tellOfMissingWatches();
     makeDirectories();
 }
 
@@ -74,6 +99,14 @@ QList<SerialDevice> PortsDirectorySource::devices() {
 QStringList PortsDirectorySource::chain() const {
     const auto parent = QFileInfo(_path).path();
     return {QFileInfo(parent).path(), parent, _path};
+}
+
+/// The toolkit does without in silence, looks once a second, and misses what lasts no longer.
+void PortsDirectorySource::tellOfMissingWatches() {
+    const FileDescriptor probe(::inotify_init1(IN_CLOEXEC));
+    if (!probe.isValid()) {
+        logLine(u"Ports that come and go in %1 are noticed late: %2"_s.arg(_path, reason(errno)));
+    }
 }
 
 void PortsDirectorySource::makeDirectories() {
@@ -117,6 +150,20 @@ QStringList PortsDirectorySource::targetDirectories(const QFileInfoList& links) 
     return directories;
 }
 
+/// A directory that is somebody else's, or open to others, or a link to one, is passed over: what
+/// is in it would be opened, and keyed through.
+bool PortsDirectorySource::isTrusted() {
+    auto directories = chain();
+    directories.first() = QFileInfo(directories.first()).canonicalFilePath();
+    const auto foreign = std::find_if(directories.begin(), directories.end(), &isForeign);
+    const bool isTrusted = foreign == directories.end();
+    if (!isTrusted && _wasTrusted) {
+        logLine(u"The ports directory is not used: %1 is not this user's alone"_s.arg(*foreign));
+    }
+    _wasTrusted = isTrusted;
+    return isTrusted;
+}
+
 QFileInfoList PortsDirectorySource::links() {
     const QFileInfo directory(_path);
     const bool isReadable = !directory.exists() || (directory.isDir() && directory.isReadable() &&
@@ -125,6 +172,9 @@ QFileInfoList PortsDirectorySource::links() {
         logLine(u"Cannot read the ports directory %1"_s.arg(_path));
     }
     _wasReadable = isReadable;
+    if (!isTrusted()) {
+        return {};
+    }
     auto entries = QDir(_path).entryInfoList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot,
                                              QDir::Unsorted);
     entries.removeIf([](const QFileInfo& entry) {
@@ -142,9 +192,13 @@ std::optional<SerialDevice> PortsDirectorySource::deviceAt(const QFileInfo& link
         return std::nullopt;
     }
     const auto path = link.filePath();
-    return SerialDevice{.identity = identityOf(path, terminal),
+    if (TerminalNode::isYoungerThanLink(terminal, lastLink(path))) {
+        return std::nullopt;
+    }
+    // A link that is made anew, to the same terminal, is the same port.
+    return SerialDevice{.identity = path + u' ' + terminal,
                         .calloutPath = terminal,
                         .dialinPath = path,
-                        .baseName = link.fileName(),
+                        .baseName = visible(link.fileName()),
                         .suffixes = {QString()}};
 }

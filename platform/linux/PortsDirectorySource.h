@@ -8,8 +8,9 @@
 #include <optional>
 
 /// The ports directory: each symbolic link in it to a terminal device is a serial port of the
-/// link's name. So programs that make terminals (software keyers, network bridges) have a place
-/// where they can show them, without a right that an ordinary user does not have.
+/// link's name, in which characters that nobody sees are written out. So programs that make
+/// terminals (software keyers, network bridges) have a place where they can show them, without a
+/// right that an ordinary user does not have.
 class PortsDirectorySource final : public DeviceSource {
     Q_OBJECT
   public:
@@ -24,14 +25,17 @@ class PortsDirectorySource final : public DeviceSource {
 
   private:
     [[nodiscard]] QStringList chain() const;
+    void tellOfMissingWatches();
     void makeDirectories();
     void watchAnew(const QStringList& directories);
     void watch(const QStringList& directories);
     [[nodiscard]] QStringList targetDirectories(const QFileInfoList& links) const;
+    [[nodiscard]] bool isTrusted();
     [[nodiscard]] QFileInfoList links();
     [[nodiscard]] std::optional<SerialDevice> deviceAt(const QFileInfo& link) const;
 
     QString _path;
     QFileSystemWatcher _watcher;
     bool _wasReadable = true;
+    bool _wasTrusted = true;
 };

@@ -10,4 +10,8 @@ namespace TerminalNode {
 /// (/dev/tty, /dev/console) or make one (/dev/ptmx) are none.
 [[nodiscard]] bool isTerminal(const QString& path);
 
+/// True when the pseudo-terminal at `path` was made after the symbolic link at `link`: its number
+/// is in use again, and the link was made for another terminal.
+[[nodiscard]] bool isYoungerThanLink(const QString& path, const QString& link);
+
 } // namespace TerminalNode

@@ -1,6 +1,7 @@
 #include "platform/linux/PortsDirectorySource.h"
 
 #include "platform/linux/LinuxDeviceRegistry.h"
+#include "tests/support/LogKeeper.h"
 #include "tests/support/PseudoTerminalPair.h"
 #include "tests/support/RegisteredTest.h"
 
@@ -9,12 +10,17 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <array>
+#include <fcntl.h>
 #include <memory>
 #include <optional>
 #include <sys/stat.h>
+#include <thread>
 #include <unistd.h>
+#include <vector>
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
 namespace {
 
@@ -44,8 +50,16 @@ class PortsDirectorySourceTest : public QObject {
     void seesALinkComeAndGo();
     void seesATerminalGo();
     void seesATerminalComeBehindALink();
-    void aLinkThatIsMadeAnewIsAnotherDevice();
+    void aLinkThatIsMadeAnewToTheSameTerminalIsTheSameDevice();
+    void aLinkThatIsMadeAnewToAnotherTerminalIsAnotherDevice();
+    void aLinkThatIsOlderThanItsTerminalIsNoPort();
+    void aTerminalThatIsUsedKeepsItsPort();
     void aLinkThatStaysIsTheSameDevice();
+    void writesOutWhatNobodySees_data();
+    void writesOutWhatNobodySees();
+    void passesOverADirectoryThatIsNotTheUsersAlone_data();
+    void passesOverADirectoryThatIsNotTheUsersAlone();
+    void passesOverADirectoryBehindALink();
     void theDirectoryMayGoAndComeBack();
     void theDirectoryMayBeReplaced();
     void theParentMayGoAndComeBack();
@@ -71,6 +85,7 @@ class PortsDirectorySourceTest : public QObject {
 };
 
 void PortsDirectorySourceTest::init() {
+    ::umask(S_IWGRP | S_IWOTH);
     _runtime = std::make_unique<QTemporaryDir>();
     qputenv("XDG_RUNTIME_DIR", QFile::encodeName(_runtime->path()));
 }
@@ -217,17 +232,65 @@ void PortsDirectorySourceTest::seesATerminalComeBehindALink() {
     QCOMPARE(names(), QStringList{u"a"_s});
 }
 
-void PortsDirectorySourceTest::aLinkThatIsMadeAnewIsAnotherDevice() {
+void PortsDirectorySourceTest::aLinkThatIsMadeAnewToTheSameTerminalIsTheSameDevice() {
     const PseudoTerminalPair line;
     start();
     link(u"a"_s, line.path());
-    const auto before = _source->devices().value(0).identity;
+    const auto before = _source->devices();
     link(u"b"_s, line.path());
+    QCOMPARE(::rename(QFile::encodeName(at(u"b"_s)).constData(),
+                      QFile::encodeName(at(u"a"_s)).constData()),
+             0);
+    QCOMPARE(_source->devices(), before);
+    const std::array<timespec, 2> later{timespec{2'000'000'000, 0}, timespec{2'000'000'000, 0}};
+    QCOMPARE(::utimensat(AT_FDCWD, QFile::encodeName(at(u"a"_s)).constData(), later.data(),
+                         AT_SYMLINK_NOFOLLOW),
+             0);
+    QCOMPARE(_source->devices(), before);
+}
+
+void PortsDirectorySourceTest::aLinkThatIsMadeAnewToAnotherTerminalIsAnotherDevice() {
+    const PseudoTerminalPair first;
+    const PseudoTerminalPair second;
+    start();
+    link(u"a"_s, first.path());
+    const auto before = _source->devices().value(0).identity;
+    link(u"b"_s, second.path());
     QCOMPARE(::rename(QFile::encodeName(at(u"b"_s)).constData(),
                       QFile::encodeName(at(u"a"_s)).constData()),
              0);
     QCOMPARE(names(), QStringList{u"a"_s});
     QVERIFY(_source->devices().value(0).identity != before);
+}
+
+/// Whoever made it has gone, and the number of its terminal is that of another one by now.
+void PortsDirectorySourceTest::aLinkThatIsOlderThanItsTerminalIsNoPort() {
+    QString path;
+    start();
+    {
+        const PseudoTerminalPair line;
+        path = line.path();
+        link(u"a"_s, path);
+        QCOMPARE(names(), QStringList{u"a"_s});
+    }
+    QVERIFY(names().isEmpty());
+    // Programs may set a terminal up just after they have made the link to it.
+    std::this_thread::sleep_for(1100ms);
+    // Other programs may take the number, too.
+    std::vector<std::unique_ptr<PseudoTerminalPair>> shells;
+    QTRY_VERIFY(shells.emplace_back(std::make_unique<PseudoTerminalPair>())->path() == path);
+    QVERIFY(names().isEmpty());
+    link(u"b"_s, path);
+    QCOMPARE(names(), QStringList{u"b"_s});
+}
+
+void PortsDirectorySourceTest::aTerminalThatIsUsedKeepsItsPort() {
+    const PseudoTerminalPair line;
+    start();
+    link(u"a"_s, line.path());
+    std::this_thread::sleep_for(1100ms);
+    QCOMPARE(::chmod(QFile::encodeName(line.path()).constData(), 0666), 0);
+    QCOMPARE(names(), QStringList{u"a"_s});
 }
 
 void PortsDirectorySourceTest::aLinkThatStaysIsTheSameDevice() {
@@ -237,6 +300,73 @@ void PortsDirectorySourceTest::aLinkThatStaysIsTheSameDevice() {
     const auto before = _source->devices();
     link(u"b"_s, u"/dev/null"_s);
     QCOMPARE(_source->devices(), before);
+}
+
+void PortsDirectorySourceTest::writesOutWhatNobodySees_data() {
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("shown");
+    QTest::newRow("from right to left") << u"usb\u202Elairesbsu"_s << u"usb\\u202elairesbsu"_s;
+    QTest::newRow("isolated") << u"a\u2066b\u2069"_s << u"a\\u2066b\\u2069"_s;
+    QTest::newRow("no width") << u"usbserial\u200B-1"_s << u"usbserial\\u200b-1"_s;
+    QTest::newRow("a mark of byte order") << u"\uFEFFa"_s << u"\\ufeffa"_s;
+    QTest::newRow("a tag") << u"a\U000E0041"_s << u"a\\ue0041"_s;
+    QTest::newRow("letters of any kind stay") << u"Gr\u00FC\u00DFe \u6771\u4EAC \U0001F600"_s
+                                              << u"Gr\u00FC\u00DFe \u6771\u4EAC \U0001F600"_s;
+}
+
+void PortsDirectorySourceTest::writesOutWhatNobodySees() {
+    QFETCH(const QString, name);
+    QFETCH(const QString, shown);
+    const PseudoTerminalPair line;
+    start();
+    link(name, line.path());
+    QCOMPARE(names(), QStringList{shown});
+}
+
+void PortsDirectorySourceTest::passesOverADirectoryThatIsNotTheUsersAlone_data() {
+    QTest::addColumn<QString>("directory");
+    QTest::addColumn<int>("mode");
+    for (const auto& directory : {u""_s, u"quorvel"_s, u"quorvel/ports"_s}) {
+        QTest::addRow("%s: others may write", qPrintable(directory)) << directory << 0707;
+        QTest::addRow("%s: the group may write", qPrintable(directory)) << directory << 0770;
+        if (::geteuid() == 0) {
+            // Nobody else can give a directory away.
+            QTest::addRow("%s: it is somebody else's", qPrintable(directory)) << directory << 0755;
+        }
+    }
+}
+
+void PortsDirectorySourceTest::passesOverADirectoryThatIsNotTheUsersAlone() {
+    QFETCH(const QString, directory);
+    QFETCH(const int, mode);
+    const PseudoTerminalPair line;
+    start();
+    link(u"a"_s, line.path());
+    QCOMPARE(names(), QStringList{u"a"_s});
+    const auto path = QDir::cleanPath(_runtime->filePath(directory));
+    const bool isForeign = mode == 0755;
+    constexpr uid_t nobody = 65534;
+    QCOMPARE(::chown(QFile::encodeName(path).constData(), isForeign ? nobody : ::geteuid(),
+                     static_cast<gid_t>(-1)),
+             0);
+    QCOMPARE(::chmod(QFile::encodeName(path).constData(), static_cast<mode_t>(mode)), 0);
+    const LogKeeper log;
+    QVERIFY(names().isEmpty());
+    QVERIFY(names().isEmpty());
+    QCOMPARE(log.lines(), QStringList{u"The ports directory is not used: %1 is not this user's "
+                                      "alone"_s.arg(path)});
+}
+
+void PortsDirectorySourceTest::passesOverADirectoryBehindALink() {
+    const PseudoTerminalPair line;
+    const auto elsewhere = _runtime->filePath(u"elsewhere"_s);
+    QVERIFY(QDir().mkpath(elsewhere + u"/ports"_s));
+    QVERIFY(QFile::link(line.path(), elsewhere + u"/ports/a"_s));
+    QVERIFY(QFile::link(elsewhere, _runtime->filePath(u"quorvel"_s)));
+    const LogKeeper log;
+    start();
+    QVERIFY(names().isEmpty());
+    QCOMPARE(log.lines().size(), 1);
 }
 
 void PortsDirectorySourceTest::theDirectoryMayGoAndComeBack() {
