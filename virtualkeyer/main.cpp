@@ -40,6 +40,9 @@ void writeTo(const QString& path, std::optional<Writer>& writer,
 void run(const CommandLine& commandLine, std::vector<KeyerListener*> listeners) {
     const StopSignals stopSignals;
     PseudoTerminal terminal;
+    if (terminal.watch() < 0) {
+        complain("the system has no watches left; openings of the port are noticed late", 0);
+    }
     SerialKeyer keyer(commandLine.profile, std::move(listeners));
     KeyerLoop loop(keyer, terminal);
     const std::string name = QFile::encodeName(commandLine.linkName).toStdString();

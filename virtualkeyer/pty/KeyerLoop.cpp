@@ -10,6 +10,9 @@ namespace virtualkeyer {
 
 namespace {
 
+/// Where nobody tells of openings of the port.
+constexpr Time timeBetweenLooks = std::chrono::milliseconds(100);
+
 /// What is due in the past is due now.
 timespec timeoutOf(Time wait) {
     const Time rest = std::max(wait, Time::zero());
@@ -37,7 +40,11 @@ bool KeyerLoop::waitForWork(int stopDescriptor) {
                                        {_terminal.watch(), POLLIN, 0},
                                        {_keyer.hasRoom() ? _terminal.master() : -1, POLLIN, 0}}};
     timespec timeout{};
-    const auto due = _keyer.nextEvent();
+    auto due = _keyer.nextEvent();
+    if (_terminal.watch() < 0) {
+        const Time look = now() + timeBetweenLooks;
+        due = due ? std::min(*due, look) : look;
+    }
     if (due) {
         timeout = timeoutOf(*due - now());
     }

@@ -38,6 +38,10 @@ PortLink::PortLink(const std::string& runtimeDirectory, const std::string& name,
       _claim(_claims.number(), name) {
     makeWay();
     plugIn(target);
+    struct stat link {};
+    if (::fstatat(_ports.number(), _name.c_str(), &link, AT_SYMLINK_NOFOLLOW) == 0) {
+        _remover.emplace(_ports.number(), _name, link);
+    }
 }
 
 PortLink::~PortLink() {

@@ -1,15 +1,17 @@
 #pragma once
 
 #include "virtualkeyer/pty/FileDescriptor.h"
+#include "virtualkeyer/pty/LinkRemover.h"
 #include "virtualkeyer/pty/NameClaim.h"
 
+#include <optional>
 #include <string>
 #include <string_view>
 
 namespace virtualkeyer {
 
 /// Plugs a terminal in: a symbolic link to it in the ports directory, pulled when this is
-/// destroyed.
+/// destroyed, or the process is killed.
 ///
 /// The ports directory is `quorvel/ports` in the runtime directory and holds links only, because
 /// whatever is in it is a port. Who has which name stands beside it, in `quorvel/virtual-keyers`.
@@ -50,6 +52,7 @@ class PortLink {
     FileDescriptor _claims;
     NameClaim _claim;
     std::string _identity;
+    std::optional<LinkRemover> _remover;
 };
 
 } // namespace virtualkeyer

@@ -39,7 +39,7 @@ void makeRaw(int slave) {
 PseudoTerminal::PseudoTerminal()
     : _master(checked(::posix_openpt(O_RDWR | O_NOCTTY | O_CLOEXEC | O_NONBLOCK),
                       "cannot make a pseudo-terminal")),
-      _watch(checked(::inotify_init1(IN_CLOEXEC | IN_NONBLOCK), "cannot watch the port")) {
+      _watch(::inotify_init1(IN_CLOEXEC | IN_NONBLOCK)) {
     checked(::grantpt(_master.number()), "cannot grant the pseudo-terminal");
     checked(::unlockpt(_master.number()), "cannot unlock the pseudo-terminal");
     _slavePath = pathOfSlave(_master.number());
@@ -47,6 +47,9 @@ PseudoTerminal::PseudoTerminal()
 }
 
 int PseudoTerminal::takeOpenings() {
+    if (!_watch.isOpen()) {
+        return takeExclusiveOpenings();
+    }
     int openings = 0;
     alignas(inotify_event) std::array<char, 4096> buffer{};
     ssize_t size = 0;
@@ -64,6 +67,17 @@ int PseudoTerminal::takeOpenings() {
         }
     }
     return openings;
+}
+
+int PseudoTerminal::takeExclusiveOpenings() {
+    int isExclusive = 0;
+    ::ioctl(_slave.number(), TIOCGEXCL, &isExclusive);
+    const bool wasOpen = isOpenByApplication();
+    _openCount = isExclusive != 0 ? 1 : 0;
+    if (wasOpen && !isOpenByApplication()) {
+        afterClosed();
+    }
+    return !wasOpen && isOpenByApplication() ? 1 : 0;
 }
 
 std::size_t PseudoTerminal::read(std::span<std::uint8_t> buffer) {
@@ -87,8 +101,9 @@ void PseudoTerminal::write(std::uint8_t byte) {
 void PseudoTerminal::holdSlave() {
     _slave = FileDescriptor(checked(::open(_slavePath.c_str(), O_RDWR | O_NOCTTY | O_CLOEXEC),
                                     "cannot open " + _slavePath));
-    checked(::inotify_add_watch(_watch.number(), _slavePath.c_str(), IN_OPEN | IN_CLOSE),
-            "cannot watch " + _slavePath);
+    if (::inotify_add_watch(_watch.number(), _slavePath.c_str(), IN_OPEN | IN_CLOSE) < 0) {
+        _watch = FileDescriptor();
+    }
     makeRaw(_slave.number());
 }
 

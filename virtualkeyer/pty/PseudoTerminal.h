@@ -25,6 +25,9 @@ class PseudoTerminal {
     [[nodiscard]] int master() const { return _master.number(); }
 
     /// Readable when the port was opened or closed; then call takeOpenings().
+    ///
+    /// -1 where the system has no watches left to give. Then takeOpenings() has to be called from
+    /// time to time, and notices only an application that opens the port for its exclusive use.
     [[nodiscard]] int watch() const { return _watch.number(); }
 
     /// How many times the port went from closed to open since the last call.
@@ -44,6 +47,7 @@ class PseudoTerminal {
 
   private:
     void holdSlave();
+    [[nodiscard]] int takeExclusiveOpenings();
     void afterOpened();
     void afterClosed();
 

@@ -58,6 +58,19 @@ class OtherKeyer {
         _process = 0;
     }
 
+    /// As when all its processes are killed at once, and nobody is left to remove the link.
+    void crashWithEverything() {
+        QFile children(u"/proc/%1/task/%1/children"_s.arg(_process));
+        if (!children.open(QIODevice::ReadOnly)) {
+            qFatal("no list of children");
+        }
+        const auto processes = children.readAll().simplified().split(' ');
+        for (const auto& each : processes) {
+            ::kill(each.toInt(), SIGKILL);
+        }
+        crash();
+    }
+
   private:
     pid_t _process = 0;
     bool _isPluggedIn = false;
@@ -82,6 +95,9 @@ class PortLinkTest : public QObject {
     void whatNoVirtualKeyerMadeIsRefusedAndLeftAlone_data();
     void whatNoVirtualKeyerMadeIsRefusedAndLeftAlone();
     void aForeignLinkInACrashedKeyersPlaceIsLeftAlone();
+    void aKilledKeyerTakesItsLinkAlong();
+    void aKilledKeyersTerminalGoesAtOnce();
+    void aForeignLinkPutInAKilledKeyersPlaceStays();
     void aForeignLinkPutInOurPlaceSurvivesOurEnd();
     void aRuntimeDirectoryThatIsMissingIsAnError();
     void namesThatCanBeAPort_data();
@@ -162,7 +178,7 @@ void PortLinkTest::aCrashedKeyersLinkIsReplaced() {
     OtherKeyer other(runtime(),
                      oldTarget.isEmpty() ? terminal.slavePath() : oldTarget.toStdString());
     QVERIFY(other.isPluggedIn());
-    other.crash();
+    other.crashWithEverything();
     QVERIFY(QFileInfo(linkPath()).isSymLink());
     {
         const PortLink link(runtime(), "usbserial-virtual", terminal.slavePath());
@@ -224,11 +240,54 @@ void PortLinkTest::aForeignLinkInACrashedKeyersPlaceIsLeftAlone() {
     const PseudoTerminal terminal;
     OtherKeyer other(runtime(), terminal.slavePath());
     QVERIFY(other.isPluggedIn());
-    other.crash();
+    other.crashWithEverything();
     QVERIFY(QFile::remove(linkPath()));
     QVERIFY(QFile::link(QString::fromStdString(terminal.slavePath()), linkPath()));
     QVERIFY(!refusal().isEmpty());
     QVERIFY(QFileInfo(linkPath()).isSymLink());
+}
+
+void PortLinkTest::aKilledKeyerTakesItsLinkAlong() {
+    const PseudoTerminal terminal;
+    OtherKeyer other(runtime(), terminal.slavePath());
+    QVERIFY(other.isPluggedIn());
+    other.crash();
+    QTRY_VERIFY(!QFileInfo(linkPath()).isSymLink());
+}
+
+void PortLinkTest::aKilledKeyersTerminalGoesAtOnce() {
+    QString path;
+    {
+        std::array<int, 2> ready{};
+        QCOMPARE(::pipe(ready.data()), 0);
+        const auto process = ::fork();
+        if (process == 0) {
+            const PseudoTerminal terminal;
+            const PortLink link(runtime(), "usbserial-virtual", terminal.slavePath());
+            [[maybe_unused]] const auto size =
+                ::write(ready[1], terminal.slavePath().data(), terminal.slavePath().size());
+            ::raise(SIGKILL);
+        }
+        ::close(ready[1]);
+        std::array<char, 64> name{};
+        const auto size = ::read(ready[0], name.data(), name.size());
+        ::close(ready[0]);
+        ::waitpid(process, nullptr, 0);
+        path = QString::fromLocal8Bit(name.data(), size);
+    }
+    QVERIFY(path.startsWith(u"/dev/pts/"_s));
+    QTRY_VERIFY(!QFile::exists(path));
+}
+
+void PortLinkTest::aForeignLinkPutInAKilledKeyersPlaceStays() {
+    const PseudoTerminal terminal;
+    OtherKeyer other(runtime(), terminal.slavePath());
+    QVERIFY(other.isPluggedIn());
+    QVERIFY(QFile::remove(linkPath()));
+    QVERIFY(QFile::link(u"/dev/null"_s, linkPath()));
+    other.crash();
+    QTest::qWait(100);
+    QCOMPARE(target(), u"/dev/null"_s);
 }
 
 void PortLinkTest::aForeignLinkPutInOurPlaceSurvivesOurEnd() {
