@@ -21,6 +21,8 @@ constexpr QLatin1StringView tokenKey{"activation-token"};
 constexpr QLatin1StringView startupKey{"desktop-startup-id"};
 
 constexpr auto pauseBetweenCalls = 50ms;
+/// A program that calls without end shall not keep the window from anything else.
+constexpr auto restAfterActivation = 250ms;
 
 QString tokenIn(const QVariantMap& platformData) {
     return platformData.value(tokenKey, platformData.value(startupKey)).toString();
@@ -28,7 +30,16 @@ QString tokenIn(const QVariantMap& platformData) {
 
 } // namespace
 
-SingleInstance::SingleInstance(const QDBusConnection& bus) : _bus(bus) {}
+SingleInstance::SingleInstance(const QDBusConnection& bus, const QString& lockPath)
+    : _bus(bus), _lock(lockPath) {
+    _rest.setSingleShot(true);
+    _rest.setInterval(restAfterActivation);
+    QObject::connect(&_rest, &QTimer::timeout, this, [this] {
+        if (_isWanted) {
+            activate();
+        }
+    });
+}
 
 SingleInstance::~SingleInstance() {
     leave();
@@ -36,6 +47,7 @@ SingleInstance::~SingleInstance() {
 
 void SingleInstance::leave() {
     _hasLeft = true;
+    _lock.release();
     if (std::exchange(_hasName, false)) {
         _bus.unregisterObject(objectPath);
         _bus.interface()->unregisterService(bundleIdentifier);
@@ -44,15 +56,13 @@ void SingleInstance::leave() {
 
 SingleInstance::Role SingleInstance::begin(const QString& activationToken,
                                            std::chrono::milliseconds waiting) {
-    if (!_bus.isConnected()) {
-        return Role::First;
-    }
     // The owner may go while it is being called, and then the name is free.
     for (const QDeadlineTimer deadline(waiting);;) {
-        if (takeName()) {
+        if (takePlace()) {
             return Role::First;
         }
-        if (callOwner(activationToken, std::chrono::milliseconds(deadline.remainingTime()))) {
+        if (!_hasName && _bus.isConnected() &&
+            callOwner(activationToken, std::chrono::milliseconds(deadline.remainingTime()))) {
             return Role::Second;
         }
         if (deadline.hasExpired()) {
@@ -60,6 +70,11 @@ SingleInstance::Role SingleInstance::begin(const QString& activationToken,
         }
         QThread::msleep(pauseBetweenCalls.count());
     }
+}
+
+/// With the name there may still be one that runs without a bus, which has the lock.
+bool SingleInstance::takePlace() {
+    return (!_bus.isConnected() || _hasName || takeName()) && _lock.take();
 }
 
 /// The object is there before the name, so that whoever finds the name finds it.
@@ -92,7 +107,17 @@ void SingleInstance::comeToFront(const QVariantMap& platformData) {
         sendErrorReply(QDBusError::Failed, u"The program is ending."_s);
         return;
     }
-    Q_EMIT activated(tokenIn(platformData));
+    _token = tokenIn(platformData);
+    _isWanted = true;
+    if (!_rest.isActive()) {
+        activate();
+    }
+}
+
+void SingleInstance::activate() {
+    _isWanted = false;
+    _rest.start();
+    Q_EMIT activated(_token);
 }
 
 void SingleInstance::Activate(const QVariantMap& platformData) {

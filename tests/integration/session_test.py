@@ -94,6 +94,21 @@ class SessionTest(ProgramTest):
                        0x80 <= int(keyer.answers()[-1], 16) < 0xC0)
         self.terminate(keyer, quorvel)
 
+    def test_without_a_bus_a_second_start_leaves_the_first_alone(self):
+        keyer = self.start_keyer()
+        self.write_settings(SETTINGS)
+        self.environment["DBUS_SESSION_BUS_ADDRESS"] = "unix:path=/nowhere"
+        first = self.start_quorvel()
+        keyer.wait_for("the greeting", lambda: keyer.answers()[-1:] and
+                       0x80 <= int(keyer.answers()[-1], 16) < 0xC0)
+        second = self.start_quorvel()
+        second.wait_for("the message", lambda: "running already" in second.errors())
+        second.wait_for("the alert", lambda: self.desktop.active_process() == second.pid)
+        self.desktop.press("Return")
+        self.assertEqual(second.status(), 1)
+        self.assertIn(f"WKPortName={PORT}", self.settings.read_text())
+        self.terminate(keyer, first)
+
     def test_the_keyer_is_left_when_the_screen_goes(self):
         screen, self.environment["DISPLAY"] = self.desktop.start_screen()
         keyer = self.start_keyer()

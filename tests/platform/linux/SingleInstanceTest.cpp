@@ -8,6 +8,7 @@
 #include <QDBusPendingCallWatcher>
 #include <QElapsedTimer>
 #include <QSemaphore>
+#include <QTemporaryDir>
 #include <QTest>
 #include <QThread>
 
@@ -41,6 +42,7 @@ class SingleInstanceTest : public QObject {
     void theSecondCallsTheFirst();
     void desktopsCanCallIt_data();
     void desktopsCanCallIt();
+    void aFloodOfCallsIsAFewActivations();
     void theNameIsFreeAfterTheEnd();
     void aPlaceThatIsLeftIsTaken();
     void aCallThatComesAsThePlaceIsLeftIsRefused();
@@ -48,12 +50,18 @@ class SingleInstanceTest : public QObject {
     void anOwnerThatHangsIsNotWaitedForLong();
     void anOwnerThatKnowsNothingOfThisIsNotWaitedForLong();
     void withoutABusItIsTheFirst();
+    void withoutABusTheSecondKnowsTheFirst_data();
+    void withoutABusTheSecondKnowsTheFirst();
+    void withABusTheSecondKnowsAFirstWithout();
+    void withoutARuntimeDirectoryItIsTheFirst();
 
   private:
+    [[nodiscard]] QString lockPath() const { return _runtime->filePath(u"quorvel/lock"_s); }
     /// The running instance lives on a thread of its own, as it would in a process of its own.
     void startFirst();
     void endFirst();
 
+    std::optional<QTemporaryDir> _runtime;
     std::optional<PrivateBus> _bus;
     QThread _thread;
     SingleInstance* _first = nullptr;
@@ -61,6 +69,7 @@ class SingleInstanceTest : public QObject {
 };
 
 void SingleInstanceTest::init() {
+    _runtime.emplace();
     _bus.emplace();
     _thread.start();
 }
@@ -78,7 +87,7 @@ void SingleInstanceTest::cleanup() {
 
 void SingleInstanceTest::startFirst() {
     const auto connection = _bus->connect(u"first"_s);
-    _first = new SingleInstance(connection);
+    _first = new SingleInstance(connection, lockPath());
     _first->moveToThread(&_thread);
     QObject::connect(_first, &SingleInstance::activated, this,
                      [this](const QString& token) { _tokens.append(token); });
@@ -111,7 +120,7 @@ void SingleInstanceTest::theSecondCallsTheFirst_data() {
 void SingleInstanceTest::theSecondCallsTheFirst() {
     QFETCH(QString, token);
     startFirst();
-    SingleInstance second(_bus->connect(u"second"_s));
+    SingleInstance second(_bus->connect(u"second"_s), lockPath());
     QCOMPARE(second.begin(token), SingleInstance::Role::Second);
     QTRY_COMPARE(_tokens, QStringList{token});
 }
@@ -135,10 +144,22 @@ void SingleInstanceTest::desktopsCanCallIt() {
     QTRY_COMPARE(_tokens, QStringList{u"old"_s});
 }
 
+void SingleInstanceTest::aFloodOfCallsIsAFewActivations() {
+    constexpr int calls = 500;
+    startFirst();
+    const auto desktop = _bus->connect(u"desktop"_s);
+    for (int i = 1; i <= calls; ++i) {
+        const QVariantMap data{{u"activation-token"_s, QString::number(i)}};
+        desktop.asyncCall(call(u"Activate"_s, {data}));
+    }
+    QTRY_VERIFY(!_tokens.isEmpty() && _tokens.constLast() == QString::number(calls));
+    QVERIFY2(_tokens.size() < calls / 10, qPrintable(QString::number(_tokens.size())));
+}
+
 void SingleInstanceTest::theNameIsFreeAfterTheEnd() {
     startFirst();
     endFirst();
-    SingleInstance second(_bus->connect(u"second"_s));
+    SingleInstance second(_bus->connect(u"second"_s), lockPath());
     QCOMPARE(second.begin({}), SingleInstance::Role::First);
 }
 
@@ -146,7 +167,7 @@ void SingleInstanceTest::aPlaceThatIsLeftIsTaken() {
     startFirst();
     QMetaObject::invokeMethod(
         _first, [this] { _first->leave(); }, Qt::BlockingQueuedConnection);
-    SingleInstance second(_bus->connect(u"second"_s));
+    SingleInstance second(_bus->connect(u"second"_s), lockPath());
     QCOMPARE(second.begin({}), SingleInstance::Role::First);
     endFirst();
     QVERIFY(_bus->connect(u"desktop"_s).interface()->isServiceRegistered(service));
@@ -185,7 +206,7 @@ void SingleInstanceTest::aPlaceThatBecomesFreeIsTaken() {
         owner.unregisterService(service);
     }));
     end->start();
-    SingleInstance second(_bus->connect(u"second"_s));
+    SingleInstance second(_bus->connect(u"second"_s), lockPath());
     QCOMPARE(second.begin({}, 20s), SingleInstance::Role::First);
     QVERIFY(end->wait());
 }
@@ -202,7 +223,7 @@ void SingleInstanceTest::anOwnerThatHangsIsNotWaitedForLong() {
     QElapsedTimer time;
     time.start();
     {
-        SingleInstance second(_bus->connect(u"second"_s));
+        SingleInstance second(_bus->connect(u"second"_s), lockPath());
         QCOMPARE(second.begin({}, 300ms), SingleInstance::Role::Unanswered);
     }
     mayGoOn.release();
@@ -212,13 +233,47 @@ void SingleInstanceTest::anOwnerThatHangsIsNotWaitedForLong() {
 
 void SingleInstanceTest::anOwnerThatKnowsNothingOfThisIsNotWaitedForLong() {
     QVERIFY(_bus->connect(u"first"_s).registerService(service));
-    SingleInstance second(_bus->connect(u"second"_s));
+    SingleInstance second(_bus->connect(u"second"_s), lockPath());
     QCOMPARE(second.begin({}, 200ms), SingleInstance::Role::Unanswered);
 }
 
 void SingleInstanceTest::withoutABusItIsTheFirst() {
-    SingleInstance instance(QDBusConnection(u"none"_s));
+    SingleInstance instance(QDBusConnection(u"none"_s), lockPath());
     QCOMPARE(instance.begin({}), SingleInstance::Role::First);
+}
+
+void SingleInstanceTest::withoutABusTheSecondKnowsTheFirst_data() {
+    QTest::addColumn<bool>("hasFirstABus");
+    QTest::newRow("which has none either") << false;
+    QTest::newRow("which has one") << true;
+}
+
+void SingleInstanceTest::withoutABusTheSecondKnowsTheFirst() {
+    QFETCH(const bool, hasFirstABus);
+    std::optional<SingleInstance> other;
+    if (hasFirstABus) {
+        startFirst();
+    } else {
+        other.emplace(QDBusConnection(u"none"_s), lockPath());
+        QCOMPARE(other->begin({}), SingleInstance::Role::First);
+    }
+    SingleInstance second(QDBusConnection(u"none"_s), lockPath());
+    QCOMPARE(second.begin({}, 200ms), SingleInstance::Role::Unanswered);
+    other.reset();
+    endFirst();
+    QCOMPARE(second.begin({}), SingleInstance::Role::First);
+}
+
+void SingleInstanceTest::withABusTheSecondKnowsAFirstWithout() {
+    SingleInstance first(QDBusConnection(u"none"_s), lockPath());
+    QCOMPARE(first.begin({}), SingleInstance::Role::First);
+    SingleInstance second(_bus->connect(u"second"_s), lockPath());
+    QCOMPARE(second.begin({}, 200ms), SingleInstance::Role::Unanswered);
+}
+
+void SingleInstanceTest::withoutARuntimeDirectoryItIsTheFirst() {
+    SingleInstance first(QDBusConnection(u"none"_s), QString());
+    QCOMPARE(first.begin({}), SingleInstance::Role::First);
 }
 
 static const RegisteredTest<SingleInstanceTest> registered;
