@@ -20,6 +20,18 @@ if(QUORVEL_SANITIZE)
     target_link_options(quorvel-flags INTERFACE -fsanitize=${QUORVEL_SANITIZE})
 endif()
 
+# What makes an error in the program harder to make use of. The sanitizers see to the same themselves,
+# and the optimised builds alone can check the lengths of what is copied.
+if(NOT QUORVEL_SANITIZE)
+    include(CheckCXXCompilerFlag)
+    check_cxx_compiler_flag(-fcf-protection=full QUORVEL_HAS_CF_PROTECTION)
+    target_compile_options(quorvel-flags INTERFACE -fstack-protector-strong
+        $<$<BOOL:${QUORVEL_HAS_CF_PROTECTION}>:-fcf-protection=full>
+        $<$<CONFIG:Release,RelWithDebInfo>:-U_FORTIFY_SOURCE>
+        $<$<CONFIG:Release,RelWithDebInfo>:-D_FORTIFY_SOURCE=$<IF:$<CXX_COMPILER_ID:GNU>,3,2>>)
+    target_link_options(quorvel-flags INTERFACE -Wl,-z,relro -Wl,-z,now -Wl,-z,noexecstack)
+endif()
+
 # Nearly all of a build's time goes into Qt's headers, so each family of targets reads them once. The
 # clang preset reads them per file, which keeps the includes of each file honest.
 add_subdirectory(${CMAKE_CURRENT_LIST_DIR}/precompiled ${CMAKE_BINARY_DIR}/precompiled)
