@@ -1,0 +1,102 @@
+"""What a desktop does to a program: other programs on its port, its files gone wrong, a bad moment
+to end.
+
+Usage: trouble_test.py QUORVEL VIRTUAL_KEYER [TEST...]
+"""
+
+import os
+import select
+import signal
+import time
+
+from port import Port
+from program import PORT, SETTINGS, ProgramTest, run_tests
+from waiting import wait_for
+
+
+class TroubleTest(ProgramTest):
+    def link(self):
+        return self.runtime / "quorvel/ports" / PORT
+
+    def test_a_keyer_that_goes_while_it_is_being_left_holds_nobody_up(self):
+        # The host close fails, and nobody may be there to read of it.
+        for pause in (0, 0.02, 0.05):
+            with self.subTest(pause=pause):
+                keyer = self.start_keyer()
+                if not self.settings.exists():
+                    self.write_settings(SETTINGS)
+                self.settings.write_text(SETTINGS)
+                quorvel = self.start_quorvel()
+                self.wait_for_speed(quorvel, self.active_window(quorvel))
+                quorvel.send(signal.SIGTERM)
+                time.sleep(pause)
+                keyer.end(signal.SIGKILL)
+                start = time.monotonic()
+                self.assertEqual(quorvel.status(), 0)
+                self.assertLess(time.monotonic() - start, 15)
+
+    def test_it_ends_with_a_menu_open(self):
+        keyer, quorvel, _ = self.start_connected()
+        self.desktop.press("F10")
+        self.desktop.press("Down")
+        self.terminate(keyer, quorvel)
+
+    def test_a_lock_that_was_left_behind_holds_nobody_up(self):
+        self.write_settings(SETTINGS)
+        self.settings.with_suffix(".conf.lock").touch()
+        keyer = self.start_keyer()
+        quorvel = self.start_quorvel()
+        start = time.monotonic()
+        window = self.active_window(quorvel)
+        self.wait_for_speed(quorvel, window)
+        self.assertLess(time.monotonic() - start, 20)
+        self.terminate(keyer, quorvel)
+
+    def test_settings_that_cannot_be_stored_are_told_of(self):
+        keyer, quorvel, _ = self.start_connected()
+        self.settings.unlink()
+        self.settings.mkdir()
+        # A change: that its port has gone is stored.
+        keyer.end(signal.SIGKILL)
+        texts = ["Your settings cannot be stored.",
+                 f"The WinKeyer using serial port {PORT} has been unplugged."]
+        for _ in texts:
+            alert = quorvel.wait_for("an alert", lambda: self.alerts(quorvel))[0]
+            text = next(each for each in texts if alert.find(each) is not None)
+            self.answer_alert(quorvel, text)
+        self.assertIn(f"Settings are not stored in {self.settings}: Is a directory",
+                      quorvel.errors())
+        self.assertEqual(quorvel.end(), 0)
+
+    def test_a_port_that_another_program_reads_is_refused_by_name(self):
+        keyer = self.start_keyer()
+        self.write_settings(SETTINGS)
+        with Port(self.link()):
+            quorvel = self.start_quorvel()
+            self.answer_alert(quorvel, f"Unable to open the WinKeyer serial port {PORT}.")
+            self.assertIn(f"{PORT} is in use by python3 (process {os.getpid()})",
+                          quorvel.errors())
+            self.assertEqual(quorvel.end(), 0)
+        self.assertEqual(keyer.end(), 0)
+
+    def test_the_terminal_of_a_killed_keyer_is_nobodys_port(self):
+        keyer = self.start_keyer()
+        terminal = os.readlink(self.link())
+        keyer.end(signal.SIGKILL)
+        wait_for("the link to go", lambda: not os.path.lexists(self.link()))
+        self.write_settings(SETTINGS)
+        # What a keyer that could not clean up leaves behind, before the number is used again.
+        os.symlink(terminal, self.link())
+        time.sleep(1.1)
+        shells = []
+        self.addCleanup(lambda: [os.close(each) for each in shells])
+        while not os.path.exists(terminal):
+            shells.extend(os.openpty())
+        quorvel = self.start_quorvel()
+        self.answer_alert(quorvel, f"The WinKeyer serial port {PORT} is not available.")
+        self.assertEqual(quorvel.end(), 0)
+        self.assertEqual(select.select(shells, [], [], 0)[0], [])
+
+
+if __name__ == "__main__":
+    run_tests()
