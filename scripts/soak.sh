@@ -1,10 +1,11 @@
 #!/usr/bin/env bash
-# Ten thousand lives of serial ports and key guards, plain and under each sanitizer; a number asks for another count
+# Ten thousand lives of ports and key guards, also under the sanitizers; a million characters: [LIVES [CHARACTERS]]
 set -euo pipefail
 source scripts/lib/packages.sh
 cycles=${1:-10000}
-if [[ ! $cycles =~ ^[1-9][0-9]*$ ]]; then
-    echo "How many lives is a number, not \"$cycles\"." >&2
+characters=${2:-1000000}
+if [[ ! $cycles =~ ^[1-9][0-9]*$ || ! $characters =~ ^[1-9][0-9]*$ ]]; then
+    echo "How many lives, and how many characters, are numbers." >&2
     exit 2
 fi
 require_packages build test
@@ -17,6 +18,11 @@ export UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1
 export TSAN_OPTIONS=suppressions=$PWD/tests/tsan.supp:halt_on_error=1
 # QtTest ends a test function after five minutes otherwise.
 export QTEST_FUNCTION_TIMEOUT=7200000
+
+echo "== characters"
+build_preset dev --target sending-soak
+QT_QPA_PLATFORM=offscreen QUORVEL_SOAK_CHARACTERS=$characters \
+    build/dev/tests/sending-soak SendingSoak </dev/null
 
 for preset in dev asan-ubsan tsan; do
     runner=()

@@ -4,6 +4,8 @@
 
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace DeviceNaming {
 
 QString freeSuffix(const SerialDevice& device, const QSet<QString>& taken) {
@@ -25,6 +27,21 @@ bool comesNaturallyBefore(const QString& first, const QString& second) {
     const auto order = collator.compare(first, second);
     // "a01" and "a1" are equal up to here; something must still tell them apart.
     return order != 0 ? order < 0 : first < second;
+}
+
+bool isPresentable(const QString& name) {
+    return std::none_of(name.begin(), name.end(),
+                        [](QChar each) { return each.category() == QChar::Other_Control; });
+}
+
+QString visible(const QString& name) {
+    QString shown;
+    for (const char32_t character : name.toUcs4()) {
+        shown += QChar::category(character) == QChar::Other_Format
+                     ? u"\\u%1"_s.arg(static_cast<uint>(character), 4, 16, QChar(u'0'))
+                     : QString::fromUcs4(&character, 1);
+    }
+    return shown;
 }
 
 } // namespace DeviceNaming

@@ -23,25 +23,6 @@ QString reason(int number) {
     return QString::fromStdString(std::generic_category().message(number));
 }
 
-bool isPresentable(const QString& name) {
-    return std::none_of(name.begin(), name.end(),
-                        [](QChar each) { return each.category() == QChar::Other_Control; });
-}
-
-/// The name with the characters written out that nobody sees: those that turn the direction of what
-/// follows, or have no width, make one name look like another.
-QString visible(const QString& name) {
-    QString shown;
-    for (const auto character : name.toUcs4()) {
-        if (QChar::category(character) == QChar::Other_Format) {
-            shown += u"\\u%1"_s.arg(character, 4, 16, u'0');
-        } else {
-            shown += QString::fromUcs4(reinterpret_cast<const char32_t*>(&character), 1);
-        }
-    }
-    return shown;
-}
-
 /// Whether somebody else can put a link there, or where it leads.
 bool isForeign(const QString& directory) {
     struct stat status {};
@@ -178,7 +159,7 @@ QFileInfoList PortsDirectorySource::links() {
     auto entries = QDir(_path).entryInfoList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot,
                                              QDir::Unsorted);
     entries.removeIf([](const QFileInfo& entry) {
-        return !entry.isSymLink() || !isPresentable(entry.fileName());
+        return !entry.isSymLink() || !DeviceNaming::isPresentable(entry.fileName());
     });
     std::sort(entries.begin(), entries.end(), [](const QFileInfo& first, const QFileInfo& second) {
         return DeviceNaming::comesNaturallyBefore(first.fileName(), second.fileName());
@@ -199,6 +180,6 @@ std::optional<SerialDevice> PortsDirectorySource::deviceAt(const QFileInfo& link
     return SerialDevice{.identity = path + u' ' + terminal,
                         .calloutPath = terminal,
                         .dialinPath = path,
-                        .baseName = visible(link.fileName()),
+                        .baseName = DeviceNaming::visible(link.fileName()),
                         .suffixes = {QString()}};
 }

@@ -84,6 +84,9 @@ class Station final : public ORSSerialPortDelegate {
     [[nodiscard]] const std::vector<Byte>& allWritten() const { return _written; }
     [[nodiscard]] const std::vector<Byte>& allReceived() const { return _received; }
 
+    /// Forgets what was written, received and keyed, as a run of many hours must.
+    void forget();
+
     void serialPortDidReceiveData(ORSSerialPort& port, const QByteArray& data) override;
     void serialPortWasOpened(ORSSerialPort& port) override;
     void serialPortWillBeClosed(ORSSerialPort& port) override;
@@ -98,7 +101,6 @@ class Station final : public ORSSerialPortDelegate {
     void takeFromEngine();
     void takeKeyersEvents();
     void deliver(std::uint8_t byte);
-    void forget();
 
     EngineBench _bench;
     virtualkeyer::Keyer _keyer;
