@@ -17,7 +17,9 @@
 #include <QToolBar>
 #include <QVBoxLayout>
 #include <QVariantAnimation>
+#include <QWindow>
 
+#include <algorithm>
 #include <mutex>
 #include <stdexcept>
 #include <utility>
@@ -70,6 +72,7 @@ MBPreferencesController::MBPreferencesController() : _contentView(new QWidget) {
     layout->setContentsMargins({});
     setUpToolbar();
     setUpKeys();
+    _window.installEventFilter(this);
     _window.setFixedSize(300, 200);
 }
 
@@ -190,12 +193,38 @@ MBPreferencesController::moduleForIdentifier(const QString& identifier) const {
 }
 
 void MBPreferencesController::showWindow(const QObject*) {
-    const auto frame =
-        WindowFrame::centered(_window.frameGeometry(), _window.screen()->availableGeometry());
-    _window.move(frame.topLeft());
+    center();
     _window.show();
     _window.raise();
     _window.activateWindow();
+}
+
+void MBPreferencesController::center() {
+    const auto frame =
+        WindowFrame::centered(_window.frameGeometry(), _window.screen()->availableGeometry());
+    _isCenteredWithoutFrame = frame.size() == _window.size();
+    _window.move(frame.topLeft());
+}
+
+/// A window manager gives the window its frame only once it is shown for the first time.
+void MBPreferencesController::centerInFrame() {
+    auto* handle = _window.windowHandle();
+    if (!_isCenteredWithoutFrame || handle == nullptr || handle->frameMargins().isNull()) {
+        return;
+    }
+    _isCenteredWithoutFrame = false;
+    const auto frame =
+        WindowFrame::centered(handle->frameGeometry(), _window.screen()->availableGeometry());
+    handle->setFramePosition(frame.topLeft());
+}
+
+bool MBPreferencesController::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == &_window) {
+        centerInFrame();
+    } else if (event->type() == QEvent::LayoutRequest) {
+        fitGrownView();
+    }
+    return QObject::eventFilter(watched, event);
 }
 
 void MBPreferencesController::selectModule(const QObject* sender) {
@@ -224,6 +253,9 @@ void MBPreferencesController::changeToModule(Module module) {
     if (module != nullptr) {
         module->willBeDisplayed();
     }
+    if (change != _changes) {
+        return; // the module has made another change
+    }
     _currentModule = std::move(module);
     showView();
     SettingsStore::standardUserDefaults().setObject(
@@ -235,6 +267,7 @@ void MBPreferencesController::showView() {
     auto* view = _currentModule != nullptr ? _currentModule->view() : nullptr;
     if (view != nullptr) {
         _contentView->layout()->addWidget(view);
+        view->installEventFilter(this);
         view->show();
         auto* first = firstControl(*view);
         if (first != nullptr && _window.focusWidget() == nullptr) {
@@ -249,6 +282,7 @@ void MBPreferencesController::takeViewOut() {
         if (auto* focused = _window.focusWidget(); view->isAncestorOf(focused)) {
             focused->clearFocus(); // else the toolbar had it next
         }
+        view->removeEventFilter(this);
         _contentView->layout()->removeWidget(view);
         view->setParent(nullptr);
     }
@@ -256,19 +290,36 @@ void MBPreferencesController::takeViewOut() {
 
 QRect MBPreferencesController::frameFor(const MBPreferencesModule* module) const {
     auto* view = module != nullptr ? module->view() : nullptr;
-    // A view that was laid out for another font may need more than it had.
-    const auto content =
-        view != nullptr ? view->size().expandedTo(view->minimumSizeHint()) : QSize(0, 0);
+    // A view that was laid out for another font, or for less text, may need more than it had.
+    auto content = view != nullptr ? view->size().expandedTo(view->minimumSizeHint()) : QSize(0, 0);
+    if (view != nullptr && view->hasHeightForWidth()) {
+        content.setHeight(std::max(content.height(), view->heightForWidth(content.width())));
+    }
     const auto toolbar = QSize(0, _toolbar->sizeHint().height());
     const auto border = _window.frameGeometry().size() - _window.size();
     return WindowFrame::forContent(_window.frameGeometry(), content, toolbar + border);
+}
+
+QSize MBPreferencesController::sizeIn(const QRect& frame) const {
+    return frame.size() - (_window.frameGeometry().size() - _window.size());
+}
+
+/// The text of a label that wraps may have become longer.
+void MBPreferencesController::fitGrownView() {
+    const auto* view = _currentModule != nullptr ? _currentModule->view() : nullptr;
+    if (view != nullptr && view->parentWidget() == _contentView) {
+        const auto size = sizeIn(frameFor(_currentModule.get()));
+        if (size != _window.size()) {
+            _window.setFixedSize(size);
+        }
+    }
 }
 
 /// A window on the screen grows and shrinks before the operator's eyes. Nothing that the operator
 /// does comes in between; the keyer and the clock go on, and may begin a later change, which then
 /// has the window.
 void MBPreferencesController::setFrame(const QRect& frame) {
-    const auto size = frame.size() - (_window.frameGeometry().size() - _window.size());
+    const auto size = sizeIn(frame);
     const auto resize = [this, change = _changes](const QSize& each) {
         if (change == _changes) {
             _window.setFixedSize(each);

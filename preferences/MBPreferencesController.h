@@ -39,7 +39,7 @@ class MBPreferencesController final : public QObject {
     [[nodiscard]] const Module& currentModule() const { return _currentModule; }
     void setCurrentModule(const Module& module) { _currentModule = module; }
 
-    /// Puts the window in the middle of its screen and in front of all others.
+    /// Puts the window, frame and all, in the middle of its screen and in front of all others.
     void showWindow(const QObject* sender);
     /// Changes to the module of the toolbar's item that sends; another sender is ignored.
     void selectModule(const QObject* sender);
@@ -64,6 +64,8 @@ class MBPreferencesController final : public QObject {
 
     [[nodiscard]] QMainWindow& window() { return _window; }
 
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
   private:
     MBPreferencesController();
 
@@ -73,7 +75,11 @@ class MBPreferencesController final : public QObject {
     void followItem(QAction& item, int change);
     void selectToolbarItem(const QString& identifier);
     [[nodiscard]] QRect frameFor(const MBPreferencesModule* module) const;
+    [[nodiscard]] QSize sizeIn(const QRect& frame) const;
     void setFrame(const QRect& frame);
+    void fitGrownView();
+    void center();
+    void centerInFrame();
     void showView();
     void takeViewOut();
 
@@ -85,4 +91,6 @@ class MBPreferencesController final : public QObject {
     Module _currentModule;
     /// Counts the changes of module: what runs while a window grows may begin another one.
     int _changes = 0;
+    /// The window was centred before it had its frame.
+    bool _isCenteredWithoutFrame = false;
 };

@@ -47,6 +47,7 @@ class ChangeOfModuleTest : public QObject, private PreferencesWindowBench {
     void theWindowGrowsInSteps();
     void aWindowThatIsNotSeenChangesAtOnce();
     void aChangeWithinAChangeIsTheLast();
+    void aModuleThatChangesTheModuleIsFollowed();
     void aWindowClosedWhileItGrowsIsWhole();
     void quittingWhileTheWindowGrowsIsSafe();
 };
@@ -145,6 +146,19 @@ void ChangeOfModuleTest::aChangeWithinAChangeIsTheLast() {
     QVERIFY(_two->view()->parent() == nullptr);
     QCOMPARE(_two->timesDisplayed(), 0);
     QVERIFY(_three->view()->isVisible());
+}
+
+void ChangeOfModuleTest::aModuleThatChangesTheModuleIsFollowed() {
+    controller().setModules(list({_one, _two, _three}));
+    _two->setWhenDisplayed([this] { controller().changeToModule(_three); });
+    controller().changeToModule(_two);
+    QCOMPARE(controller().currentModule(), MBPreferencesController::Module(_three));
+    QCOMPARE(controller().window().windowTitle(), _three->title());
+    QCOMPARE(selectedItem(), u"three"_s);
+    QCOMPARE(remembered(), u"three"_s);
+    QVERIFY(controller().window().isAncestorOf(_three->view()));
+    QVERIFY(!controller().window().isAncestorOf(_two->view()));
+    QCOMPARE(contentSize(), _three->view()->size());
 }
 
 void ChangeOfModuleTest::aWindowClosedWhileItGrowsIsWhole() {

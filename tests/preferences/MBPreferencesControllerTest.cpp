@@ -6,10 +6,12 @@
 #include "tests/support/RegisteredTest.h"
 
 #include <QAccessible>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPointer>
 #include <QScreen>
 #include <QToolButton>
+#include <QVBoxLayout>
 
 #include <array>
 #include <atomic>
@@ -48,6 +50,7 @@ class MBPreferencesControllerTest : public QObject, private PreferencesWindowBen
     void noModuleLeavesTheWindowEmpty();
     void aModuleWithoutViewLeavesTheWindowEmpty();
     void openingCentersTheWindow();
+    void aTextThatGrowsHasRoom();
     void closingAndOpeningShowsTheSame();
     void escapeStopsTheKeyer();
     void itemsAreReachedByKeyboard();
@@ -298,6 +301,26 @@ void MBPreferencesControllerTest::openingCentersTheWindow() {
         controller().showWindow(nullptr);
     }
     QVERIFY((window.frameGeometry().center() - middle).manhattanLength() <= 2);
+}
+
+void MBPreferencesControllerTest::aTextThatGrowsHasRoom() {
+    auto* layout = new QVBoxLayout(_one->view());
+    auto* label = new QLabel(u"Few words."_s);
+    label->setWordWrap(true);
+    layout->addWidget(label);
+    _one->view()->resize(300, 60);
+    controller().setModules(list({_one, _two}));
+    controller().showWindow(this);
+    const auto before = controller().window().frameGeometry();
+    label->setText(u"A good many words, which need more than one line or two. "_s.repeated(6));
+    QTRY_VERIFY(label->height() >= label->heightForWidth(label->width()));
+    QCOMPARE(controller().window().frameGeometry().topLeft(), before.topLeft());
+    QCOMPARE(controller().window().width(), before.width());
+    // And from the beginning, when it is shown next.
+    controller().changeToModule(_two);
+    label->setText(u"Still more words, and all of them have to be read. "_s.repeated(12));
+    controller().changeToModule(_one);
+    QVERIFY(label->height() >= label->heightForWidth(label->width()));
 }
 
 void MBPreferencesControllerTest::closingAndOpeningShowsTheSame() {

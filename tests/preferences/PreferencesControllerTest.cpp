@@ -8,6 +8,7 @@
 #include "tests/support/TestPlatform.h"
 
 #include <QComboBox>
+#include <QLabel>
 #include <QTest>
 
 #include <optional>
@@ -26,6 +27,7 @@ class PreferencesControllerTest : public QObject {
     void thePaneShownLastIsShownAtTheNextLaunch();
     void showingOpensTheOneWindow();
     void eachPaneFitsASmallScreen();
+    void theLinkToAnOrdinaryAdapterIsToldInFull();
     void thePortsReachTheirPane();
     void portsBeforeThePanesAreNoMatter();
 
@@ -96,6 +98,19 @@ void PreferencesControllerTest::eachPaneFitsASmallScreen() {
         QVERIFY2(size.width() <= 800 && size.height() <= 600, qPrintable(pane->title()));
         QVERIFY2(pane->view()->minimumSizeHint().width() <= pane->view()->width(),
                  qPrintable(pane->title()));
+    }
+}
+
+void PreferencesControllerTest::theLinkToAnOrdinaryAdapterIsToldInFull() {
+    PreferencesController controller;
+    controller.awakeFromNib();
+    controller.showPreferences(this);
+    auto* link = window().currentModule()->view()->findChild<QLabel*>(u"linkLabel"_s);
+    for (const auto& port : {u"usbserial-A50285BI"_s, u"usbserial-FTDI_FT232R_USB_UART_A50285BI"_s,
+                             u"usbserial-Prolific Technology Inc. USB-Serial Controller D"_s}) {
+        link->setText(u"Connected to %1; the keyer has not answered yet"_s.arg(port));
+        QTRY_VERIFY(link->height() >= link->heightForWidth(link->width()));
+        QVERIFY(link->width() >= link->minimumSizeHint().width());
     }
 }
 
