@@ -84,12 +84,21 @@ struct Placement {
     /// The text as it is stored, in upper case; a byte a character.
     QString text;
     /// Where it begins; nothing when it is empty or does not fit.
-    std::optional<std::uint8_t> start;
-    /// The first character that has no code, if there is one.
-    std::optional<QChar> rejected;
+    std::optional<std::uint8_t> start = {};
+    /// The first character that has no code, if there is one: nothing can be saved with it.
+    std::optional<QChar> rejected = {};
+    /// The first character that takes a byte and is sent as nothing.
+    std::optional<QChar> silent = {};
+    /// The first character whose code is an end mark too: the keyer sends nothing behind it.
+    std::optional<QChar> ending = {};
+    /// How many bytes it is too long for the room that the messages before it leave; 0 when it
+    /// fits.
+    int excess = 0;
 
     [[nodiscard]] qsizetype length() const { return text.size(); }
-    [[nodiscard]] bool isLeftOut() const { return !text.isEmpty() && !start; }
+    [[nodiscard]] bool isLeftOut() const { return excess > 0; }
+    /// What it takes of the memory.
+    [[nodiscard]] int bytes() const { return start ? static_cast<int>(length()) : 0; }
 };
 
 /// How six messages share the memory.
@@ -98,8 +107,8 @@ struct Layout {
     std::uint8_t freePointer = Offset::messages;
 
     [[nodiscard]] bool hasRejectedCharacter() const;
-    /// 0 to 232. One byte fewer can be filled: the free pointer must stay inside the memory.
-    [[nodiscard]] int bytesLeft() const;
+    /// 0 to 231: the free pointer has to stay inside the memory.
+    [[nodiscard]] int usedBytes() const { return freePointer - static_cast<int>(Offset::messages); }
 };
 
 /// Places the messages in order, each behind the one before. One that is too long for the space

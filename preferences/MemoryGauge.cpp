@@ -22,21 +22,21 @@ MemoryGauge::MemoryGauge(QWidget* parent) : QWidget(parent) {
     setAccessibleName(tr("Keyer memory"));
     setToolTip(tr("How the six messages share the keyer's memory, a byte a character. One byte "
                   "always stays free."));
-    setShares({});
+    setMemory({});
 }
 
-void MemoryGauge::setShares(const MemoryUse::Shares& shares) {
-    _shares = shares;
+void MemoryGauge::setMemory(const KeyerMemory::Layout& memory) {
+    _memory = memory;
     setAccessibleDescription(text());
     update();
 }
 
 QString MemoryGauge::text() const {
     const auto figures =
-        tr("%1 of %2 bytes used").arg(_shares.usedBytes()).arg(KeyerMemory::messageAreaSize);
+        tr("%1 of %2 bytes used").arg(_memory.usedBytes()).arg(KeyerMemory::messageAreaSize);
     QStringList leftOut;
-    for (std::size_t i = 0; i < _shares.messages.size(); ++i) {
-        if (_shares.messages[i].isLeftOut()) {
+    for (std::size_t i = 0; i < _memory.messages.size(); ++i) {
+        if (_memory.messages[i].isLeftOut()) {
             leftOut.append(locale().toString(static_cast<int>(i) + 1));
         }
     }
@@ -74,8 +74,8 @@ void MemoryGauge::paintSegments(QPainter& painter) const {
     };
     int begin = 0;
     bool isDarker = false;
-    for (std::size_t i = 0; i < _shares.messages.size(); ++i) {
-        const int end = begin + _shares.messages[i].bytes;
+    for (std::size_t i = 0; i < _memory.messages.size(); ++i) {
+        const int end = begin + _memory.messages[i].bytes();
         if (end == begin) {
             continue;
         }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "preferences/MemoryUse.h"
+#include "keyer/KeyerMemory.h"
 
 #include <QWidget>
 
@@ -11,7 +11,7 @@ class MemoryGauge final : public QWidget {
   public:
     explicit MemoryGauge(QWidget* parent = nullptr);
 
-    void setShares(const MemoryUse::Shares& shares);
+    void setMemory(const KeyerMemory::Layout& memory);
     /// What stands below the bar, such as "54 of 232 bytes used".
     [[nodiscard]] QString text() const;
 
@@ -25,5 +25,5 @@ class MemoryGauge final : public QWidget {
     [[nodiscard]] QRect bar() const;
     void paintSegments(QPainter& painter) const;
 
-    MemoryUse::Shares _shares;
+    KeyerMemory::Layout _memory;
 };

@@ -6,7 +6,6 @@
 #include "ui_StandaloneMessages.h"
 
 #include <QStyle>
-#include <QToolTip>
 
 #include <algorithm>
 
@@ -26,33 +25,41 @@ QString quoted(QChar character) {
 }
 
 /// What is wrong with a message, in a few words; empty when nothing is.
-QString faultOf(const MemoryUse::Share& share) {
-    if (share.rejected) {
-        return StandaloneMessages::tr("Cannot hold %1").arg(quoted(*share.rejected));
+QString faultOf(const KeyerMemory::Placement& message) {
+    if (message.rejected) {
+        return StandaloneMessages::tr("Cannot hold %1").arg(quoted(*message.rejected));
     }
-    if (share.isLeftOut()) {
+    if (message.isLeftOut()) {
         return StandaloneMessages::tr("Does not fit");
     }
-    if (share.silent) {
-        return StandaloneMessages::tr("No Morse for %1").arg(quoted(*share.silent));
+    if (message.ending) {
+        return StandaloneMessages::tr("Ends at %1").arg(quoted(*message.ending));
+    }
+    if (message.silent) {
+        return StandaloneMessages::tr("No Morse for %1").arg(quoted(*message.silent));
     }
     return {};
 }
 
-QString explanationOf(const MemoryUse::Share& share) {
-    if (share.rejected) {
+QString explanationOf(const KeyerMemory::Placement& message) {
+    if (message.rejected) {
         return StandaloneMessages::tr("The keyer's memory has no place for %1. Nothing can be "
                                       "saved while it is in this message.")
-            .arg(quoted(*share.rejected));
+            .arg(quoted(*message.rejected));
     }
-    if (share.isLeftOut()) {
+    if (message.isLeftOut()) {
         return StandaloneMessages::tr("The memory has no room for this message, which is left out "
                                       "when you save. Characters too many: %1.")
-            .arg(share.excess);
+            .arg(message.excess);
+    }
+    if (message.ending) {
+        return StandaloneMessages::tr("The keyer takes %1 for the end of the message: it sends "
+                                      "nothing behind it, and the sign itself is cut short.")
+            .arg(quoted(*message.ending));
     }
     return StandaloneMessages::tr("%1 has no Morse code: the keyer sends nothing in its place. "
                                   "Tokens are not filled in here.")
-        .arg(quoted(*share.silent));
+        .arg(quoted(*message.silent));
 }
 
 } // namespace
@@ -70,7 +77,7 @@ StandaloneMessages::StandaloneMessages(QWidget* parent)
     connect(_ui->progress, &TimedProgressBar::finished, this, &StandaloneMessages::endLoading);
     connect(&WinKeyerUsb::sharedInstance(), &WinKeyerUsb::activityChanged, this,
             &StandaloneMessages::showAvailability);
-    showShares();
+    showMemory();
     showAvailability();
 }
 
@@ -79,34 +86,41 @@ StandaloneMessages::~StandaloneMessages() = default;
 void StandaloneMessages::setUpRow(const Row& row) {
     row.field->setValidator(new MessageFormatter(row.field));
     row.field->setMinimumWidth(fontMetrics().averageCharWidth() * readableLength);
-    connect(row.field, &QLineEdit::textChanged, this, &StandaloneMessages::showShares);
+    connect(row.field, &QLineEdit::textChanged, this, &StandaloneMessages::showMemory);
 
     auto* mark = row.mark;
     mark->setIcon(style()->standardIcon(QStyle::SP_MessageBoxWarning));
-    // The fields keep their width while marks come and go.
-    auto policy = mark->sizePolicy();
-    policy.setRetainSizeWhenHidden(true);
-    mark->setSizePolicy(policy);
-    mark->setText(faultOf({.silent = u'W'}));
-    mark->setFixedWidth(mark->sizeHint().width());
-    mark->setText({});
-    connect(mark, &QToolButton::clicked, mark, [mark] {
-        QToolTip::showText(mark->mapToGlobal(mark->rect().bottomLeft()), mark->toolTip(), mark);
-    });
+    // Which has its explanation told.
+    connect(mark, &QToolButton::clicked, mark, [mark] { mark->setFocus(Qt::MouseFocusReason); });
 }
 
-void StandaloneMessages::showShares() {
+KeyerMemory::Layout StandaloneMessages::memory() const {
     std::array<QString, KeyerMemory::messageCount> texts;
     std::ranges::transform(_rows, texts.begin(), [](const Row& row) { return row.field->text(); });
-    const auto shares = MemoryUse::sharesOf(KeyerMemory::layOut(texts));
-    for (std::size_t i = 0; i < _rows.size(); ++i) {
-        showMark(i, shares.messages[i]);
-    }
-    _ui->gauge->setShares(shares);
+    return KeyerMemory::layOut(texts);
 }
 
-void StandaloneMessages::showMark(std::size_t index, const MemoryUse::Share& share) {
-    const auto fault = faultOf(share);
+void StandaloneMessages::showMemory() {
+    const auto layout = memory();
+    for (std::size_t i = 0; i < _rows.size(); ++i) {
+        showMark(i, layout.messages[i]);
+    }
+    _ui->gauge->setMemory(layout);
+}
+
+QString StandaloneMessages::reasonNotToSave() const {
+    const auto messages = memory().messages;
+    const auto found =
+        std::ranges::find_if(messages, [](const auto& each) { return each.rejected.has_value(); });
+    return found == messages.end()
+               ? QString()
+               : tr("Message %1 holds %2, which has no Morse code. Take it out and save again.")
+                     .arg(found - messages.begin() + 1)
+                     .arg(quoted(*found->rejected));
+}
+
+void StandaloneMessages::showMark(std::size_t index, const KeyerMemory::Placement& message) {
+    const auto fault = faultOf(message);
     auto& mark = *_rows[index].mark;
     mark.setVisible(!fault.isEmpty());
     if (fault.isEmpty()) {
@@ -114,7 +128,7 @@ void StandaloneMessages::showMark(std::size_t index, const MemoryUse::Share& sha
     }
     mark.setText(fault);
     mark.setAccessibleName(tr("Message %1: %2").arg(index + 1).arg(fault));
-    explain(mark, explanationOf(share));
+    explain(mark, explanationOf(message));
 }
 
 void StandaloneMessages::showAvailability() {
@@ -127,8 +141,7 @@ void StandaloneMessages::showAvailability() {
     const auto reason = !isConnected ? tr("Connect the keyer to save and to send.")
                         : isLoading  ? tr("The keyer's memory is being loaded.")
                                      : QString();
-    _ui->state->setCurrentWidget(isLoading ? _ui->loadingPage : _ui->reasonPage);
-    _ui->reason->setText(reason);
+    _ui->state->setCurrentWidget(isLoading ? _ui->loadingPage : _ui->gaugePage);
     const auto enable = [&reason](QPushButton& button, const QString& toolTip) {
         button.setEnabled(reason.isEmpty());
         explain(button, reason.isEmpty() ? toolTip : reason);

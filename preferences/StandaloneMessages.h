@@ -1,7 +1,6 @@
 #pragma once
 
 #include "keyer/KeyerMemory.h"
-#include "preferences/MemoryUse.h"
 
 #include <QPointer>
 #include <QWidget>
@@ -32,6 +31,9 @@ class StandaloneMessages final : public QWidget {
     /// The keyer's memory is being loaded from now on: shows how far that is, for as long as it
     /// takes on the line. For whoever carries out "saveSettings" to call when that has succeeded.
     void showLoading();
+    /// Which message holds a character that keeps all from being saved, in words; empty when none
+    /// does.
+    [[nodiscard]] QString reasonNotToSave() const;
 
   private:
     /// What belongs to one message.
@@ -42,8 +44,9 @@ class StandaloneMessages final : public QWidget {
     };
 
     void setUpRow(const Row& row);
-    void showShares();
-    void showMark(std::size_t index, const MemoryUse::Share& share);
+    [[nodiscard]] KeyerMemory::Layout memory() const;
+    void showMemory();
+    void showMark(std::size_t index, const KeyerMemory::Placement& message);
     void showAvailability();
     void endLoading();
 

@@ -124,7 +124,7 @@ void messagesCanBeReadBack() {
             used += length;
         }
     }
-    RC_ASSERT(layout.bytesLeft() == 232 - used);
+    RC_ASSERT(layout.usedBytes() == used);
     for (std::size_t i = 0; i < messageCount; ++i) {
         if (const auto& start = layout.messages.at(i).start) {
             RC_ASSERT(WinKeyerUsb::decodeMessage(image, *start) == texts.at(i));

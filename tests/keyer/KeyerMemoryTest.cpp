@@ -136,7 +136,7 @@ void KeyerMemoryTest::codesThatDecodeToAnotherCharacter() {
 void KeyerMemoryTest::emptyMessagesTakeNoSpace() {
     const auto layout = layOut(Texts{});
     QCOMPARE(int{layout.freePointer}, 0x18);
-    QCOMPARE(layout.bytesLeft(), 232);
+    QCOMPARE(layout.usedBytes(), 0);
     for (const auto& message : layout.messages) {
         QVERIFY(!message.start);
         QVERIFY(!message.isLeftOut());
@@ -150,7 +150,7 @@ void KeyerMemoryTest::messagesStandBackToBack() {
     QCOMPARE(layout.messages[2].start.value(), 0x1A);
     QCOMPARE(layout.messages[2].text, u"TEST"_s);
     QCOMPARE(int{layout.freePointer}, 0x1E);
-    QCOMPARE(layout.bytesLeft(), 226);
+    QCOMPARE(layout.usedBytes(), 6);
 }
 
 void KeyerMemoryTest::aMessageOf232DoesNotFitOneOf231Does() {
@@ -162,7 +162,7 @@ void KeyerMemoryTest::aMessageOf232DoesNotFitOneOf231Does() {
     const auto longest = layOut(Texts{QString(231, u'E')});
     QCOMPARE(longest.messages[0].start.value(), 0x18);
     QCOMPARE(int{longest.freePointer}, 0xFF);
-    QCOMPARE(longest.bytesLeft(), 1);
+    QCOMPARE(longest.usedBytes(), 231);
 }
 
 void KeyerMemoryTest::aShorterMessageStillFitsAfterOneThatDoesNot() {

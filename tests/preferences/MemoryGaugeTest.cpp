@@ -8,8 +8,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-MemoryUse::Shares sharesOf(const std::array<QString, KeyerMemory::messageCount>& texts) {
-    return MemoryUse::sharesOf(KeyerMemory::layOut(texts));
+KeyerMemory::Layout layoutOf(const std::array<QString, KeyerMemory::messageCount>& texts) {
+    return KeyerMemory::layOut(texts);
 }
 
 } // namespace
@@ -28,7 +28,7 @@ class MemoryGaugeTest : public QObject {
 void MemoryGaugeTest::itTellsTheUseInFigures() {
     MemoryGauge gauge;
     QCOMPARE(gauge.text(), u"0 of 232 bytes used"_s);
-    gauge.setShares(sharesOf({QString(100, u'E'), QString(53, u'T')}));
+    gauge.setMemory(layoutOf({QString(100, u'E'), QString(53, u'T')}));
     QCOMPARE(gauge.text(), u"153 of 232 bytes used"_s);
     QCOMPARE(gauge.accessibleDescription(), gauge.text());
     QCOMPARE(gauge.accessibleName(), u"Keyer memory"_s);
@@ -36,7 +36,7 @@ void MemoryGaugeTest::itTellsTheUseInFigures() {
 
 void MemoryGaugeTest::itTellsWhichMessagesAreLeftOut() {
     MemoryGauge gauge;
-    gauge.setShares(sharesOf({u"CQ"_s, QString(230, u'E'), QString(240, u'E'), u"TU"_s}));
+    gauge.setMemory(layoutOf({u"CQ"_s, QString(230, u'E'), QString(240, u'E'), u"TU"_s}));
     QCOMPARE(gauge.text(), u"4 of 232 bytes used; left out: 2, 3"_s);
     QCOMPARE(gauge.accessibleDescription(), gauge.text());
 }
@@ -52,7 +52,7 @@ void MemoryGaugeTest::theBarIsAsLongAsTheUse() {
     MemoryGauge gauge;
     gauge.setLayoutDirection(direction);
     gauge.resize(466, gauge.sizeHint().height()); // 2 pixels a byte, and the outline
-    gauge.setShares(sharesOf({QString(100, u'E')}));
+    gauge.setMemory(layoutOf({QString(100, u'E')}));
     const auto image = gauge.grab().toImage();
     const auto isFull = [&](int byte) {
         const int x = 1 + 2 * byte;
@@ -68,7 +68,7 @@ void MemoryGaugeTest::theBarIsAsLongAsTheUse() {
 void MemoryGaugeTest::neighborsDifferInColor() {
     MemoryGauge gauge;
     gauge.resize(466, gauge.sizeHint().height());
-    gauge.setShares(sharesOf({QString(40, u'E'), QString(), QString(40, u'E'), QString(40, u'E')}));
+    gauge.setMemory(layoutOf({QString(40, u'E'), QString(), QString(40, u'E'), QString(40, u'E')}));
     const auto image = gauge.grab().toImage();
     const auto color = [&](int byte) { return image.pixelColor(1 + 2 * byte, 3); };
     QCOMPARE(color(0), color(39));

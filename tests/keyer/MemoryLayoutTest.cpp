@@ -1,28 +1,36 @@
-#include "preferences/MemoryUse.h"
+#include "keyer/KeyerMemory.h"
 
 #include "tests/support/RegisteredTest.h"
 
 #include <QTest>
 
 using namespace Qt::StringLiterals;
-using MemoryUse::Share;
 
 namespace {
 
+/// What is told of a message.
+struct Part {
+    int bytes = 0;
+    int excess = 0;
+    std::optional<QChar> rejected = {};
+    std::optional<QChar> silent = {};
+    std::optional<QChar> ending = {};
+};
+
 using Texts = std::array<QString, KeyerMemory::messageCount>;
-using Parts = std::array<Share, KeyerMemory::messageCount>;
+using Parts = std::array<Part, KeyerMemory::messageCount>;
 
 } // namespace
 
-class MemoryUseTest : public QObject {
+class MemoryLayoutTest : public QObject {
     Q_OBJECT
 
   private Q_SLOTS:
-    void shares_data();
-    void shares();
+    void parts_data();
+    void parts();
 };
 
-void MemoryUseTest::shares_data() {
+void MemoryLayoutTest::parts_data() {
     QTest::addColumn<Texts>("texts");
     QTest::addColumn<Parts>("expected");
     QTest::addColumn<int>("used");
@@ -45,6 +53,8 @@ void MemoryUseTest::shares_data() {
           {.bytes = 3, .silent = u'~'}}},
         8);
     row("the first silent character is told", {u"E{%"_s}, {{{.bytes = 3, .silent = u'{'}}}, 3);
+    row("a dollar sign ends the message", {u"A$B"_s, u"TU$"_s},
+        {{{.bytes = 3, .ending = u'$'}, {.bytes = 3, .ending = u'$'}}}, 6);
     row("space and bar are keyed", {u"A B|"_s}, {{{.bytes = 4}}}, 4);
     row("lower case is keyed", {u"cq"_s}, {{{.bytes = 2}}}, 2);
     row("a character outside the table is rejected", {u"M\u00dcLL"_s},
@@ -53,20 +63,22 @@ void MemoryUseTest::shares_data() {
         {{{.excess = 2, .rejected = u'\u00c4', .silent = u'`'}}}, 0);
 }
 
-void MemoryUseTest::shares() {
+void MemoryLayoutTest::parts() {
     QFETCH(const Texts, texts);
     QFETCH(const Parts, expected);
     QFETCH(const int, used);
-    const auto shares = MemoryUse::sharesOf(KeyerMemory::layOut(texts));
+    const auto layout = KeyerMemory::layOut(texts);
     for (std::size_t i = 0; i < expected.size(); ++i) {
-        QCOMPARE(shares.messages[i].bytes, expected[i].bytes);
-        QCOMPARE(shares.messages[i].excess, expected[i].excess);
-        QCOMPARE(shares.messages[i].rejected, expected[i].rejected);
-        QCOMPARE(shares.messages[i].silent, expected[i].silent);
-        QCOMPARE(shares.messages[i].isLeftOut(), expected[i].excess > 0);
+        const auto& message = layout.messages[i];
+        QCOMPARE(message.bytes(), expected[i].bytes);
+        QCOMPARE(message.excess, expected[i].excess);
+        QCOMPARE(message.rejected, expected[i].rejected);
+        QCOMPARE(message.silent, expected[i].silent);
+        QCOMPARE(message.ending, expected[i].ending);
+        QCOMPARE(message.isLeftOut(), expected[i].excess > 0);
     }
-    QCOMPARE(shares.usedBytes(), used);
+    QCOMPARE(layout.usedBytes(), used);
 }
 
-static const RegisteredTest<MemoryUseTest> registered;
-#include "MemoryUseTest.moc"
+static const RegisteredTest<MemoryLayoutTest> registered;
+#include "MemoryLayoutTest.moc"
