@@ -19,6 +19,7 @@ PreferencesGeneralViewController::PreferencesGeneralViewController()
     _ui->myCallTextField->setValidator(new CallsignFormatter(_ui->myCallTextField));
     _ui->serialPortChooser->addItem(noPortName);
     _binder = std::make_unique<SettingBinder>(*_view, *this, generalSettings);
+    _ui->explanation->follow(*_binder);
     connect(&WinKeyerUsb::sharedInstance(), &WinKeyerUsb::activityChanged, this,
             &PreferencesGeneralViewController::showLink);
     showLink();

@@ -35,6 +35,7 @@ PreferencesMessagesViewController::PreferencesMessagesViewController()
     _ui->setupUi(_view.get());
     awakeFromNib();
     _binder = std::make_unique<SettingBinder>(*_view, *this, paneSettings);
+    _ui->explanation->follow(*_binder);
     connect(&SettingsStore::standardUserDefaults(), &SettingsStore::changed, this,
             &PreferencesMessagesViewController::explainTokens);
     connect(&WinKeyerUsb::sharedInstance(), &WinKeyerUsb::serialNumberChanged, this,

@@ -6,10 +6,10 @@
 #include "keyer/WinKeyerUsb.h"
 #include "platform/Platform.h"
 #include "platform/SettingsStore.h"
-#include "preferences/StandaloneMessages.h"
+#include "preferences/KeyerNotice.h"
 #include "ui_PreferencesWinKeyerPane.h"
 
-#include <QLabel>
+#include <QCheckBox>
 
 using namespace Qt::StringLiterals;
 
@@ -19,25 +19,20 @@ void put(const QByteArray& command) {
     WinKeyerUsb::sharedInstance().putToWinKeyer(command);
 }
 
-QWidget* makeView() {
-    auto* view = new QWidget;
-    Ui::PreferencesWinKeyerPane().setupUi(view);
-    return view;
-}
-
 } // namespace
 
 PreferencesWinKeyerViewController::PreferencesWinKeyerViewController()
-    : _view(makeView()), _binder(*_view, *this, keyerSettings) {
+    : _view(std::make_unique<QWidget>()), _ui(std::make_unique<Ui::PreferencesWinKeyerPane>()) {
+    _ui->setupUi(_view.get());
+    _ui->groups->setCornerWidget(new KeyerNotice(_ui->groups)); // beside the tabs, seen from each
+    _binder = std::make_unique<SettingBinder>(*_view, *this, keyerSettings);
+    _ui->explanation->follow(*_binder);
     connect(&SettingsStore::standardUserDefaults(), &SettingsStore::changed, this,
             &PreferencesWinKeyerViewController::showWhetherKeyed);
     showWhetherKeyed();
 }
 
-PreferencesWinKeyerViewController::~PreferencesWinKeyerViewController() {
-    _binder.settle(); // before it has no controls any more
-    delete _view;     // unless the window that showed it has taken it along
-}
+PreferencesWinKeyerViewController::~PreferencesWinKeyerViewController() = default;
 
 QString PreferencesWinKeyerViewController::title() const {
     return tr("WinKeyer");
@@ -49,10 +44,6 @@ QString PreferencesWinKeyerViewController::identifier() const {
 
 QIcon PreferencesWinKeyerViewController::image() const {
     return QIcon(u":/Quorvel"_s);
-}
-
-QWidget* PreferencesWinKeyerViewController::view() const {
-    return _view;
 }
 
 void PreferencesWinKeyerViewController::changeWeight(const QObject*) {
@@ -104,7 +95,11 @@ void PreferencesWinKeyerViewController::changePaddleSwitchpoint(const QObject*) 
 }
 
 void PreferencesWinKeyerViewController::changeEnableDitDahMemory(const QObject* sender) {
-    if (Action::state(sender) == 1) {
+    // A check box tells of its mixed state by no property.
+    const auto* box = qobject_cast<const QCheckBox*>(sender);
+    const bool isOn =
+        box != nullptr ? box->checkState() == Qt::Checked : Action::state(sender) == 1;
+    if (isOn) {
         changePaddleSwitchpoint(sender);
     } else {
         put(KeyerCommand::setPaddleSwitchpoint(0));
@@ -120,31 +115,22 @@ void PreferencesWinKeyerViewController::sendStandaloneMessage(const QObject* sen
 }
 
 void PreferencesWinKeyerViewController::showWhetherKeyed() {
-    if (_view) {
-        const auto& settings = SettingsStore::standardUserDefaults();
-        _view->findChild<QLabel*>(u"noOutputLabel"_s)
-            ->setVisible(!settings.boolForKey(WKKeyOut1Enable) &&
-                         !settings.boolForKey(WKKeyOut2Enable));
-    }
-}
-
-void PreferencesWinKeyerViewController::showLoading() {
-    if (_view) {
-        _view->findChild<StandaloneMessages*>()->showLoading();
-    }
+    const auto& settings = SettingsStore::standardUserDefaults();
+    _ui->noOutputLabel->setVisible(!settings.boolForKey(WKKeyOut1Enable) &&
+                                   !settings.boolForKey(WKKeyOut2Enable));
 }
 
 void PreferencesWinKeyerViewController::saveSettings(const QObject*) {
     Error error;
     if (WinKeyerUsb::sharedInstance().writeEeprom(&error)) {
-        showLoading();
+        _ui->standaloneMessages->showLoading();
         return;
     }
     if (error.localizedDescription().isEmpty()) {
-        error = Error::ofApplication(
-            tr("The keyer's memory could not be written."),
-            tr("Check that the keyer is connected, and that no standalone message holds a "
-               "character that has no Morse code."));
+        const auto reason = _ui->standaloneMessages->reasonNotToSave();
+        error = Error::ofApplication(tr("The keyer's memory could not be written."),
+                                     reason.isEmpty() ? tr("Check that the keyer is connected.")
+                                                      : reason);
     }
     Platform::current().application().presentError(error);
 }

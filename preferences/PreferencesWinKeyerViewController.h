@@ -4,8 +4,12 @@
 #include "preferences/binding/SettingBinder.h"
 
 #include <QObject>
-#include <QPointer>
-#include <QWidget>
+
+#include <memory>
+
+namespace Ui {
+class PreferencesWinKeyerPane;
+}
 
 /// The preferences pane of the keyer: its timing, modes, outputs and own messages.
 ///
@@ -24,7 +28,7 @@ class PreferencesWinKeyerViewController final : public QObject, public MBPrefere
     [[nodiscard]] QString title() const override;
     [[nodiscard]] QString identifier() const override;
     [[nodiscard]] QIcon image() const override;
-    [[nodiscard]] QWidget* view() const override;
+    [[nodiscard]] QWidget* view() const override { return _view.get(); }
 
   public Q_SLOTS:
     // Actions. But for changeEnableDitDahMemory and sendStandaloneMessage the sender is ignored.
@@ -56,8 +60,8 @@ class PreferencesWinKeyerViewController final : public QObject, public MBPrefere
   private:
     /// Tells when neither output is on, as the transmitter stays silent then for no other reason.
     void showWhetherKeyed();
-    void showLoading();
 
-    QPointer<QWidget> _view;
-    SettingBinder _binder;
+    std::unique_ptr<QWidget> _view;
+    std::unique_ptr<Ui::PreferencesWinKeyerPane> _ui;
+    std::unique_ptr<SettingBinder> _binder;
 };

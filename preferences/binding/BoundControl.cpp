@@ -71,32 +71,53 @@ void BoundControl::change(const QVariant& value) {
     if (_isShowing || value == storedValue()) {
         return;
     }
+    if (!isAvailable()) {
+        show();
+        return;
+    }
+    Q_EMIT aboutToChange();
     _isUnsettled = true;
     settings().setObject(value, _setting.key);
+    // What is typed meanwhile is not finished when the time is over.
+    wait(&BoundControl::actIfUnsettled);
+}
+
+void BoundControl::settleSoon() {
+    wait(&BoundControl::settle);
+}
+
+void BoundControl::wait(void (BoundControl::*next)()) {
     if (_settling) {
         _settling->invalidate();
     }
-    _settling = Platform::current().clock().scheduleTimer(settlingTime, this, [this] { settle(); });
+    _settling = Platform::current().clock().scheduleTimer(settlingTime, this,
+                                                          [=, this] { (this->*next)(); });
 }
 
 void BoundControl::settle() {
     finishTyping();
+    actIfUnsettled();
+}
+
+void BoundControl::actIfUnsettled() {
     if (_settling) {
         std::exchange(_settling, nullptr)->invalidate();
     }
     if (std::exchange(_isUnsettled, false)) {
-        act();
+        _action.call();
     }
 }
 
 void BoundControl::reset() {
+    Q_EMIT aboutToChange();
     _isUnsettled = true;
     settings().setObject({}, _setting.key);
-    settle();
+    show();
+    actIfUnsettled();
 }
 
 void BoundControl::act() {
-    Q_EMIT aboutToAct();
+    Q_EMIT aboutToChange();
     _action.call();
 }
 
@@ -107,6 +128,12 @@ bool BoundControl::eventFilter(QObject* watched, QEvent* event) {
     }
     if (event->type() == QEvent::FocusOut) {
         settle();
+    }
+    if (event->type() == QEvent::EnabledChange) {
+        if (_buddyLabel) {
+            _buddyLabel->setEnabled(isAvailable());
+        }
+        Q_EMIT availabilityChanged();
     }
     return QObject::eventFilter(watched, event);
 }
@@ -151,7 +178,7 @@ QString BoundControl::label() const {
     return button != nullptr ? plain(button->text()) : QString();
 }
 
-QString BoundControl::number(double value) const {
+QString BoundControl::numberText(double value) const {
     auto locale = _widget.locale();
     locale.setNumberOptions(QLocale::OmitGroupSeparator);
     const auto scale = _widget.property("scale");
@@ -161,28 +188,37 @@ QString BoundControl::number(double value) const {
 QString BoundControl::defaultText() const {
     return std::visit(Overloaded{[](bool isOn) { return isOn ? tr("on") : tr("off"); },
                                  [](QLatin1StringView text) { return QString(text); },
-                                 [this](auto value) { return number(value) + unit(); }},
+                                 [this](auto value) { return numberText(value) + unit(); }},
                       _setting.defaultValue);
+}
+
+/// The name of a check box is no name of a thing: it says what is so while it is on.
+QString BoundControl::resetText() const {
+    const auto text = std::holds_alternative<bool>(_setting.defaultValue)
+                          ? tr("Reset “%1” to its default, %2")
+                          : tr("Reset %1 to %2");
+    return text.arg(label(), defaultText());
 }
 
 QString BoundControl::strangeText() const {
     const bool isNumber = range().has_value();
-    return tr("stored: %1").arg(isNumber ? number(storedNumber()) + unit() : storedText());
+    return tr("stored: %1").arg(isNumber ? numberText(storedNumber()) + unit() : storedText());
 }
 
 QString BoundControl::explanation() const {
     const auto limits = range();
-    return limits
-               ? tr("%1 to %2, default %3")
-                     .arg(number(limits->minimum), number(limits->maximum) + unit(), defaultText())
-               : tr("Default: %1").arg(defaultText());
+    return limits ? tr("%1 to %2, default %3")
+                        .arg(numberText(limits->minimum), numberText(limits->maximum) + unit(),
+                             defaultText())
+                  : tr("Default: %1").arg(defaultText());
 }
 
 void BoundControl::describe() {
-    QStringList lines{_toolTip, explanation()};
+    QStringList lines{trouble(), _toolTip, explanation()};
     if (!offersStored()) {
         lines.append(tr("%1. It stays until it is changed here.").arg(strangeText()));
     }
     lines.removeAll(QString());
     explain(_widget, lines.join(u'\n'));
+    Q_EMIT described();
 }

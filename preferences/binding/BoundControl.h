@@ -28,29 +28,43 @@ class BoundControl : public QObject {
     [[nodiscard]] bool isDefault() const;
     /// What the operator calls the setting.
     [[nodiscard]] QString label() const;
-    /// The default value as the operator reads it, with its unit.
-    [[nodiscard]] QString defaultText() const;
+    /// What a button says that brings the default back.
+    [[nodiscard]] QString resetText() const;
+    /// What is wrong with what stands in the control, in words; nothing of it is stored then.
+    [[nodiscard]] virtual QString trouble() const { return {}; }
+    [[nodiscard]] bool isAvailable() const { return _widget.isEnabled(); }
     void takeFocus() { _widget.setFocus(Qt::OtherFocusReason); }
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   Q_SIGNALS:
-    /// The action follows. What it does may have to come after what other controls still owe.
-    void aboutToAct();
+    /// A change or an action follows, which must come after what other controls still owe.
+    void aboutToChange();
+    /// trouble() may be another one now.
+    void described();
+    /// isAvailable() is another one now.
+    void availabilityChanged();
 
   protected:
     /// Throws std::logic_error when the controller has not the action that the control names.
     BoundControl(QWidget& widget, const Setting& setting, QObject& controller);
 
-    /// The operator has changed the value: stores it, and acts once it has settled.
+    /// The operator has changed the value: stores it, and acts once it has settled. A control that
+    /// is disabled, which only an assistive tool can reach, shows what is stored instead.
     void change(const QVariant& value);
+    /// What is being typed is taken over by and by, for want of somebody who ends the typing.
+    void settleSoon();
     /// Whether the action still waits.
     [[nodiscard]] bool isUnsettled() const { return _isUnsettled; }
     void act();
+    /// Tells what the control does, and what is wrong with it.
+    void describe();
 
     [[nodiscard]] const Setting& setting() const { return _setting; }
     [[nodiscard]] QString storedText() const;
     [[nodiscard]] double storedNumber() const;
+    /// A number as the control shows it, without its unit.
+    [[nodiscard]] QString numberText(double value) const;
     /// How a stored value is told that the control does not offer.
     [[nodiscard]] QString strangeText() const;
 
@@ -64,9 +78,10 @@ class BoundControl : public QObject {
 
   private:
     [[nodiscard]] QVariant storedValue() const;
-    [[nodiscard]] QString number(double value) const;
+    [[nodiscard]] QString defaultText() const;
     [[nodiscard]] QString explanation() const;
-    void describe();
+    void actIfUnsettled();
+    void wait(void (BoundControl::*next)());
 
     QWidget& _widget;
     const Setting& _setting;

@@ -4,7 +4,8 @@
 
 BoundLineEdit::BoundLineEdit(QLineEdit& field, const Setting& setting, QObject& controller)
     : BoundControl(field, setting, controller), _field(field) {
-    connect(&field, &QLineEdit::textEdited, this, &BoundLineEdit::change);
+    // Also what an assistive tool puts there, which is no editing.
+    connect(&field, &QLineEdit::textChanged, this, &BoundLineEdit::change);
     connect(&field, &QLineEdit::editingFinished, this, &BoundLineEdit::settle);
 }
 

@@ -6,7 +6,7 @@ using namespace Qt::StringLiterals;
 
 ResetButton::ResetButton(QToolButton& button, BoundControl& control)
     : QObject(&button), _button(button), _control(&control) {
-    const auto purpose = tr("Reset %1 to %2").arg(control.label(), control.defaultText());
+    const auto purpose = control.resetText();
     button.setAccessibleName(purpose);
     button.setToolTip(purpose);
     button.setFocusPolicy(Qt::StrongFocus);
@@ -15,8 +15,9 @@ ResetButton::ResetButton(QToolButton& button, BoundControl& control)
     }
     connect(&button, &QToolButton::clicked, this, &ResetButton::press);
     connect(&SettingsStore::standardUserDefaults(), &SettingsStore::changed, this,
-            &ResetButton::showWhetherDefault);
-    showWhetherDefault();
+            &ResetButton::showAvailability);
+    connect(&control, &BoundControl::availabilityChanged, this, &ResetButton::showAvailability);
+    showAvailability();
 }
 
 void ResetButton::press() {
@@ -27,6 +28,6 @@ void ResetButton::press() {
     }
 }
 
-void ResetButton::showWhetherDefault() {
-    _button.setEnabled(_control && !_control->isDefault());
+void ResetButton::showAvailability() {
+    _button.setEnabled(_control && _control->isAvailable() && !_control->isDefault());
 }

@@ -13,7 +13,7 @@ class ResetButton final : public QObject {
 
   private:
     void press();
-    void showWhetherDefault();
+    void showAvailability();
 
     QToolButton& _button;
     QPointer<BoundControl> _control;

@@ -3,8 +3,9 @@
 #include "preferences/binding/BoundCheckBox.h"
 #include "preferences/binding/BoundComboBox.h"
 #include "preferences/binding/BoundLineEdit.h"
-#include "preferences/binding/BoundSpinBox.h"
+#include "preferences/binding/BoundNumber.h"
 #include "preferences/binding/ControlAction.h"
+#include "preferences/binding/NeededSetting.h"
 #include "preferences/binding/ResetButton.h"
 
 #include <QEvent>
@@ -34,10 +35,9 @@ BoundControl* boundAs(QWidget& widget, const Setting& setting, QObject& controll
 
 using Binding = BoundControl* (*)(QWidget&, const Setting&, QObject&);
 
-constexpr std::array<Binding, 5> bindings{
+constexpr std::array<Binding, 4> bindings{
     &boundAs<BoundCheckBox, QCheckBox>, &boundAs<BoundComboBox, QComboBox>,
-    &boundAs<BoundLineEdit, QLineEdit>, &boundAs<BoundSpinBox<QSpinBox>, QSpinBox>,
-    &boundAs<BoundSpinBox<QDoubleSpinBox>, QDoubleSpinBox>};
+    &boundAs<BoundLineEdit, QLineEdit>, &boundAs<BoundNumber, NumberBox>};
 
 BoundControl& bound(QWidget& widget, const Setting& setting, QObject& controller) {
     for (const auto& binding : bindings) {
@@ -56,13 +56,11 @@ SettingBinder::SettingBinder(QWidget& view, QObject& controller, std::span<const
     for (auto* widget : view.findChildren<QWidget*>()) {
         const auto key = widget->property("setting").toString();
         if (!key.isEmpty()) {
-            auto& control = bound(*widget, settingNamed(key, table), controller);
-            _controls.append(&control);
-            // The keyer must hear of changes in the order in which they were made.
-            connect(&control, &BoundControl::aboutToAct, this, &SettingBinder::settle);
+            bindControl(*widget, settingNamed(key, table), controller);
         }
     }
     show();
+    bindNeeds(view, table);
     bindResetButtons(view);
     bindActionButtons(view, controller);
     view.installEventFilter(this);
@@ -72,6 +70,23 @@ SettingBinder::~SettingBinder() {
     settle();
     for (const auto& control : std::as_const(_controls)) {
         delete control;
+    }
+}
+
+void SettingBinder::bindControl(QWidget& widget, const Setting& setting, QObject& controller) {
+    auto& control = bound(widget, setting, controller);
+    _controls.append(&control);
+    connect(&control, &BoundControl::aboutToChange, this,
+            [this, &control] { settleOthers(control); });
+    connect(&control, &BoundControl::described, this, &SettingBinder::troubleChanged);
+}
+
+void SettingBinder::bindNeeds(const QWidget& view, std::span<const Setting> table) {
+    for (auto* widget : view.findChildren<QWidget*>()) {
+        const auto need = widget->property("needs").toString();
+        if (!need.isEmpty()) {
+            new NeededSetting(*widget, need, table);
+        }
     }
 }
 
@@ -120,9 +135,29 @@ void SettingBinder::settle() {
     }
 }
 
+/// The keyer must hear of changes in the order in which they were made.
+void SettingBinder::settleOthers(const BoundControl& control) {
+    for (const auto& each : std::as_const(_controls)) {
+        if (each && each != &control) {
+            each->settle();
+        }
+    }
+}
+
+QString SettingBinder::trouble() const {
+    QStringList troubles;
+    for (const auto& each : _controls) {
+        if (each && !each->trouble().isEmpty()) {
+            troubles.append(tr("%1: %2").arg(each->label(), each->trouble()));
+        }
+    }
+    return troubles.join(u' ');
+}
+
 bool SettingBinder::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::Hide) {
         settle();
+        show(); // a number out of its range does not outlast the view
     }
     return QObject::eventFilter(watched, event);
 }

@@ -1,13 +1,12 @@
 #include "keyer/KeyerSettings.h"
 #include "preferences/PreferencesWinKeyerViewController.h"
+#include "preferences/binding/NumberBox.h"
 #include "tests/integration/Station.h"
 #include "tests/preferences/PaneOperator.h"
 #include "tests/support/RegisteredTest.h"
 
 #include <QComboBox>
-#include <QDoubleSpinBox>
 #include <QPushButton>
-#include <QSpinBox>
 #include <QTabWidget>
 #include <QTest>
 
@@ -43,7 +42,7 @@ class WirePaneTest : public QObject {
         return shown(key) == u"on" ? bit : 0;
     }
     [[nodiscard]] int number(QLatin1StringView key) const {
-        return _operator->control<QSpinBox>(key).value();
+        return qRound(_operator->control<NumberBox>(key).value());
     }
     [[nodiscard]] int entry(QLatin1StringView key) const {
         return _operator->control<QComboBox>(key).currentIndex();
@@ -81,7 +80,7 @@ QByteArray WirePaneTest::shownRegisters() const {
     const int pins = entry(WKDitDahPriority) << 6 | entry(WKPaddleHang) << 4 |
                      bit(WKKeyOut2Enable, 0x08) | bit(WKKeyOut1Enable, 0x04) |
                      bit(WKSidetoneEnable, 0x02) | bit(WKPTTEnable, 0x01);
-    const auto& ratio = _operator->control<QDoubleSpinBox>(WKRatio);
+    const auto& ratio = _operator->control<NumberBox>(WKRatio);
     QByteArray bytes;
     for (const int value :
          {mode, 0, bit(WKPaddleOnlySidetone, 0x80) | 4000 / hertz, number(WKWeighting) + 50,
@@ -131,6 +130,9 @@ void WirePaneTest::everyBoxSwitchesItsBit() {
 
 void WirePaneTest::everyEntryOfEveryListArrives() {
     for (const auto& setting : keyerSettings) {
+        if (!setting.choices.empty()) {
+            _operator->meetNeeds(setting.key);
+        }
         for (const auto& choice : setting.choices) {
             _operator->choose(setting.key, choice.text);
             QCOMPARE(shown(setting.key), choice.text);
@@ -139,7 +141,7 @@ void WirePaneTest::everyEntryOfEveryListArrives() {
         }
     }
     QCOMPARE(_station->registers().sidetoneHz(), 4000);
-    QCOMPARE(_station->registers().paddleMode(), virtualkeyer::PaddleMode::Bug);
+    QCOMPARE(_station->registers().paddleMode(), virtualkeyer::PaddleMode::Ultimatic);
     QCOMPARE(_station->registers().ultimaticPriority(), virtualkeyer::UltimaticPriority::Dit);
     QCOMPARE(_station->registers().hangDits(), 8);
 }
@@ -149,6 +151,7 @@ void WirePaneTest::everyNumberArrivesFromEndToEnd() {
         if (!setting.range) {
             continue;
         }
+        _operator->meetNeeds(setting.key);
         const auto [minimum, maximum] = *setting.range;
         const auto scale = _operator->control(setting.key).property("scale");
         for (const double part : {0.0, 0.2, 0.5, 0.7, 1.0}) {
@@ -161,7 +164,7 @@ void WirePaneTest::everyNumberArrivesFromEndToEnd() {
             QCOMPARE(registers(), shownRegisters());
         }
     }
-    QCOMPARE(registers(), "15 00 8a 5a 19 19 63 20 fa fa 63 5a 42 06");
+    QCOMPARE(registers(), "15 00 8a 5a 19 19 63 20 fa fa 63 5a 42 07");
 }
 
 void WirePaneTest::numbersArriveWhileTheyAreStepped() {

@@ -57,6 +57,10 @@ class Accessible:
     def set_value(self, number):
         assert Atspi.Value.set_current_value(self._element, number), f"{self.name()} stays"
 
+    def set_text(self, text):
+        """As an assistive tool does, without a key."""
+        assert Atspi.EditableText.set_text_contents(self._element, text), f"{self.name()} stays"
+
     def is_in_state(self, state):
         """`state` as in "focused" or "active"."""
         wanted = getattr(Atspi.StateType, state.upper())

@@ -68,11 +68,16 @@ class Desktop:
 
     def type(self, text, delay=20):
         """`delay` in milliseconds, between two characters."""
-        assert self.xdotool("type", "--delay", delay, text) is not None
+        assert self.xdotool("type", "--delay", delay, "--", text) is not None
 
     def click(self, element):
+        self.point(element)
+        assert self.xdotool("click", 1) is not None
+
+    def point(self, element):
+        """Rests the mouse on it."""
         x, y = element.centre()
-        assert self.xdotool("mousemove", "--sync", x, y, "click", 1) is not None
+        assert self.xdotool("mousemove", x - 2, y, "mousemove", "--sync", x, y) is not None
 
     def application(self, pid):
         """What the screen reader sees of a process; None while it sees nothing."""

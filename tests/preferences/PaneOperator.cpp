@@ -97,6 +97,16 @@ void PaneOperator::turnTo(const QWidget& widget) {
     }
 }
 
+void PaneOperator::meetNeeds(QLatin1StringView key) {
+    const auto need = control(key).property("needs").toString().toLatin1().split('=');
+    const QLatin1StringView needed(need.constFirst());
+    if (need.size() == 2) {
+        choose(needed, QString::fromLatin1(need.last()));
+    } else if (!needed.isEmpty() && shown(needed) == u"off") {
+        toggle(needed);
+    }
+}
+
 void PaneOperator::toggle(QLatin1StringView key) {
     auto& box = control<QCheckBox>(key);
     turnTo(box);

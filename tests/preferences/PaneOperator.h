@@ -29,6 +29,8 @@ class PaneOperator {
     /// Whether the widget is what Qt makes a control of.
     [[nodiscard]] static bool isPart(const QWidget& widget);
 
+    /// Works what the control needs to have an effect, if it needs anything.
+    void meetNeeds(QLatin1StringView key);
     /// Clicks a check box.
     void toggle(QLatin1StringView key);
     /// Opens a pop-up and takes one of its entries.

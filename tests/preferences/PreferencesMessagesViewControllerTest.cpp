@@ -4,12 +4,13 @@
 #include "keyer/MessageSettings.h"
 #include "keyer/WinKeyerUsb.h"
 #include "preferences/PreferencesGeneral.h"
+#include "preferences/binding/NumberBox.h"
 #include "tests/support/RegisteredTest.h"
 #include "tests/support/TestPlatform.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QClipboard>
-#include <QDoubleSpinBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QSet>
@@ -38,6 +39,8 @@ class PreferencesMessagesViewControllerTest : public QObject {
     void labelsFollowLetterByLetter();
     void theTokensAreExplained();
     void theBeaconIntervalIsInSeconds();
+    void aBeaconIntervalOutOfRangeIsTold();
+    void textFromAnAssistiveToolIsStored();
     void fieldsFollowInTheOrderOfReading();
     void everyControlHasItsLabelsName();
 
@@ -174,13 +177,35 @@ void PreferencesMessagesViewControllerTest::theTokensAreExplained() {
 }
 
 void PreferencesMessagesViewControllerTest::theBeaconIntervalIsInSeconds() {
-    auto* box = _pane->view()->findChild<QDoubleSpinBox*>();
+    auto* box = _pane->view()->findChild<NumberBox*>();
     QCOMPARE(box->text(), u"4.2 s"_s);
     box->stepUp();
     QCOMPARE(_platform->settings().doubleForKey(u"BeaconInterval"_s), 4.3);
     QVERIFY(box->toolTip().contains(u"0 to 3600 s, default 4.2 s"_s));
     _pane->view()->findChild<QToolButton*>(u"beaconIntervalReset"_s)->click();
     QCOMPARE(box->value(), 4.2);
+}
+
+void PreferencesMessagesViewControllerTest::aBeaconIntervalOutOfRangeIsTold() {
+    auto* box = _pane->view()->findChild<NumberBox*>();
+    box->selectAll();
+    QTest::keyClicks(box, u"4000\r"_s);
+    QCOMPARE(_platform->settings().doubleForKey(u"BeaconInterval"_s), 4.2);
+    QCOMPARE(_pane->view()->findChild<QLabel*>(u"explanation"_s)->text(),
+             u"Beacon interval: 4000 s is out of range: 0 to 3600 s. It stays at 4.2 s."_s);
+}
+
+void PreferencesMessagesViewControllerTest::textFromAnAssistiveToolIsStored() {
+    const auto set = [](QLineEdit& field, const QString& text) {
+        auto* editing = QAccessible::queryAccessibleInterface(&field)->editableTextInterface();
+        editing->replaceText(0, static_cast<int>(field.text().size()), text);
+    };
+    for (int number = 1; number <= 8; ++number) {
+        set(message(number), u"tu %1"_s.arg(number));
+        set(label(number), u"Thanks %1"_s.arg(number));
+        QCOMPARE(stored(u"Message%1"_s.arg(number)), u"TU %1"_s.arg(number));
+        QCOMPARE(stored(u"Message%1Label"_s.arg(number)), u"Thanks %1"_s.arg(number));
+    }
 }
 
 void PreferencesMessagesViewControllerTest::fieldsFollowInTheOrderOfReading() {
@@ -193,7 +218,7 @@ void PreferencesMessagesViewControllerTest::fieldsFollowInTheOrderOfReading() {
         QCOMPARE(QApplication::focusWidget(), &message(number));
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
     }
-    QCOMPARE(QApplication::focusWidget(), _pane->view()->findChild<QDoubleSpinBox*>());
+    QCOMPARE(QApplication::focusWidget(), _pane->view()->findChild<NumberBox*>());
 }
 
 void PreferencesMessagesViewControllerTest::everyControlHasItsLabelsName() {

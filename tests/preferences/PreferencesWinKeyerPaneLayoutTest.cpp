@@ -1,5 +1,7 @@
 #include "keyer/KeyerSettings.h"
+#include "preferences/KeyerNotice.h"
 #include "preferences/PreferencesWinKeyerViewController.h"
+#include "preferences/binding/ExplanationLine.h"
 #include "tests/keyer/EngineBench.h"
 #include "tests/preferences/PaneOperator.h"
 #include "tests/support/RegisteredTest.h"
@@ -33,10 +35,16 @@ class PreferencesWinKeyerPaneLayoutTest : public QObject {
     void eachPageHasItsOwnMnemonics();
     void everyControlIsNamedByItsLabel();
     void everyControlTellsWhatItDoes();
+    void everyExplanationHasItsLine_data();
+    void everyExplanationHasItsLine();
+    void everyTabTellsThatNoKeyerIsConnected();
+    void resetButtonsReadLikeSentences();
     void tabReachesEveryControl();
 
   private:
     [[nodiscard]] QWidget& view() { return *_controller->view(); }
+    /// The pane as it is with a font of that size.
+    void open(int pointSize);
     [[nodiscard]] QTabWidget& pages() { return *view().findChild<QTabWidget*>(); }
 
     std::optional<EngineBench> _bench;
@@ -83,6 +91,16 @@ void PreferencesWinKeyerPaneLayoutTest::cleanup() {
     QApplication::setLayoutDirection(Qt::LeftToRight);
 }
 
+void PreferencesWinKeyerPaneLayoutTest::open(int pointSize) {
+    auto font = QApplication::font();
+    font.setPointSize(pointSize);
+    QApplication::setFont(font, "QWidget");
+    _operator.reset();
+    _controller.emplace(); // opened with that font
+    _operator.emplace(view());
+    view().adjustSize();
+}
+
 void PreferencesWinKeyerPaneLayoutTest::itFitsTheSmallestScreen_data() {
     QTest::addColumn<int>("pointSize");
     QTest::addColumn<Qt::LayoutDirection>("direction");
@@ -97,16 +115,11 @@ void PreferencesWinKeyerPaneLayoutTest::itFitsTheSmallestScreen() {
     QFETCH(int, pointSize);
     QFETCH(Qt::LayoutDirection, direction);
     QApplication::setLayoutDirection(direction);
-    auto font = QApplication::font();
-    font.setPointSize(pointSize);
-    QApplication::setFont(font, "QWidget");
-    _operator.reset();
     for (const auto output : {WKKeyOut1Enable, WKKeyOut2Enable}) {
         _bench->settings().setObject(false, output); // which has the most to tell
     }
-    _controller.emplace(); // opened with that font
-    _operator.emplace(view());
-    view().adjustSize();
+    QVERIFY(_bench->engine().disconnect(nullptr)); // and that
+    open(pointSize);
     QVERIFY2(view().width() <= 760, qPrintable(QString::number(view().width())));
     QVERIFY2(view().height() <= 460, qPrintable(QString::number(view().height())));
     QVERIFY(pages().tabBar()->sizeHint().width() <= pages().width());
@@ -210,7 +223,65 @@ void PreferencesWinKeyerPaneLayoutTest::everyControlTellsWhatItDoes() {
     QVERIFY(_operator->control(WKSerialEchoback).toolTip().contains(u"gaps"));
 }
 
+void PreferencesWinKeyerPaneLayoutTest::everyExplanationHasItsLine_data() {
+    QTest::addColumn<int>("pointSize");
+    for (const auto size : {9, 10, 14}) {
+        QTest::addRow("%d pt", size) << size;
+    }
+}
+
+/// Whoever comes to a control by keyboard reads all of it.
+void PreferencesWinKeyerPaneLayoutTest::everyExplanationHasItsLine() {
+    QFETCH(int, pointSize);
+    open(pointSize);
+    for (const auto needed : {WKSidetoneEnable, WKPTTEnable, WKEnableDitDahMemory}) {
+        _bench->settings().setObject(true, needed);
+    }
+    _bench->settings().setObject(u"Ultimatic"_s, WKKeyMode);
+    const auto& line = *view().findChild<ExplanationLine*>();
+    QLabel paper;
+    paper.setFont(line.font());
+    paper.setWordWrap(true);
+    for (const auto& setting : keyerSettings) {
+        for (auto* control : _operator->controls(setting.key)) {
+            for (int i = 0; i < pages().count(); ++i) {
+                if (pages().widget(i)->isAncestorOf(control)) {
+                    pages().setCurrentIndex(i);
+                }
+            }
+            control->setFocus();
+            auto told = control->accessibleDescription();
+            QCOMPARE(line.text(), told.replace(u'\n', u' '));
+            paper.setText(line.text());
+            QVERIFY2(paper.heightForWidth(line.width()) <= line.height(), setting.key.data());
+        }
+    }
+}
+
+void PreferencesWinKeyerPaneLayoutTest::everyTabTellsThatNoKeyerIsConnected() {
+    const auto& notice = *view().findChild<KeyerNotice*>();
+    for (int i = 0; i < pages().count(); ++i) {
+        pages().setCurrentIndex(i);
+        QVERIFY(notice.text().isEmpty());
+    }
+    QVERIFY(_bench->engine().disconnect(nullptr));
+    for (int i = 0; i < pages().count(); ++i) {
+        pages().setCurrentIndex(i);
+        QCOMPARE(notice.text(), u"Not connected"_s);
+        QTRY_VERIFY(notice.isVisible() && notice.width() >= notice.sizeHint().width());
+    }
+}
+
+void PreferencesWinKeyerPaneLayoutTest::resetButtonsReadLikeSentences() {
+    QCOMPARE(nameOf(&_operator->resetButton(WKSidetoneEnable)),
+             u"Reset “Sidetone on” to its default, on"_s);
+    QCOMPARE(nameOf(&_operator->resetButton(WKWeighting)), u"Reset Weighting to 0 %"_s);
+    QCOMPARE(nameOf(&_operator->resetButton(WKKeyMode)), u"Reset Key mode to Iambic A"_s);
+}
+
 void PreferencesWinKeyerPaneLayoutTest::tabReachesEveryControl() {
+    _bench->settings().setObject(true, WKPTTEnable);
+    _bench->settings().setObject(u"Ultimatic"_s, WKKeyMode);
     for (int i = 0; i < pages().count(); ++i) {
         pages().setCurrentIndex(i);
         QSet<QWidget*> missing;

@@ -1,14 +1,14 @@
 #include "keyer/KeyerSettings.h"
 #include "preferences/PreferencesWinKeyerViewController.h"
+#include "preferences/binding/NumberBox.h"
 #include "tests/keyer/EngineBench.h"
 #include "tests/preferences/PaneOperator.h"
 #include "tests/support/RegisteredTest.h"
 
+#include <QAccessible>
 #include <QCheckBox>
 #include <QComboBox>
-#include <QDoubleSpinBox>
 #include <QLabel>
-#include <QSpinBox>
 #include <QStyleOptionSpinBox>
 #include <QTabWidget>
 #include <QTest>
@@ -40,14 +40,18 @@ class PreferencesWinKeyerPaneTest : public QObject {
     void aNumberActsOnceItHasSettled();
     void aNumberThatHasNotSettledActsAtTheEnd();
     void aNumberThatIsHiddenActsAtTheEnd();
+    void twoNumbersActInTheOrderOfTheirChanges();
     void commandsComeInTheOrderOfTheChanges();
     void heldKeysSendOneCommand();
     void arrowsWorkByMouse();
     void aNumberThatComesBackIsSent();
-    void aNumberOutOfRangeCannotBeTyped_data();
-    void aNumberOutOfRangeCannotBeTyped();
+    void aNumberOutOfRangeIsToldAndNothingElse_data();
+    void aNumberOutOfRangeIsToldAndNothingElse();
     void resetBringsTheDefaultBack();
     void theSwitchpointNeedsTheMemory();
+    void whatHasNoEffectIsOff_data();
+    void whatHasNoEffectIsOff();
+    void anAssistiveToolCannotTurnTheMemoryOn();
     void withoutAnOutputItTellsThatNothingIsKeyed();
     void withoutTheMemoryItOpensWithoutASwitchpoint();
     void aChangeFromElsewhereIsShown();
@@ -58,8 +62,9 @@ class PreferencesWinKeyerPaneTest : public QObject {
     [[nodiscard]] QWidget& view() { return *_controller->view(); }
     [[nodiscard]] QTabWidget& pages() { return *view().findChild<QTabWidget*>(); }
     [[nodiscard]] SettingsStore& settings() { return _bench->settings(); }
-    /// Works the control of a setting as the test's table says.
+    /// Works the control of a setting as the test's table says, and what it needs before that.
     void operate(QLatin1StringView key);
+    void forgetAllSettings();
 
     std::optional<EngineBench> _bench;
     std::optional<PreferencesWinKeyerViewController> _controller;
@@ -102,7 +107,7 @@ const QList<Operation>& operations() {
         {WKPTTEnable, nullptr, true, "09 07"},
         {WKPTTLeadTime, u"30", 3, "04 03 0a"},
         {WKPTTTailTime, u"250", 25, "04 00 19"},
-        {WKPaddleHang, u"1.66", u"1.66"_s, "09 26"},
+        {WKPaddleHang, u"1.66", u"1.66"_s, "09 27"},
         {WKSpeedPotMinimum, u"5", 5, "05 05 20 ff 02 00 07"},
         {WKSpeedPotRange, u"31", 31, "05 0d 1f ff 02 00 07"},
         {WKHSCWSpeed, u"2000 lpm", u"2000 lpm"_s, ""},
@@ -138,6 +143,8 @@ void PreferencesWinKeyerPaneTest::operate(QLatin1StringView key) {
     const auto operation = std::ranges::find_if(
         operations(), [key](const Operation& each) { return each.key == key; });
     QVERIFY2(operation != operations().end(), key.data());
+    _operator->meetNeeds(key);
+    static_cast<void>(_bench->written());
     const auto entered = QString::fromUtf16(operation->entered);
     auto& control = _operator->control(key);
     if (operation->entered == nullptr) {
@@ -146,6 +153,12 @@ void PreferencesWinKeyerPaneTest::operate(QLatin1StringView key) {
         _operator->choose(key, entered);
     } else {
         _operator->enter(key, entered);
+    }
+}
+
+void PreferencesWinKeyerPaneTest::forgetAllSettings() {
+    for (const auto& setting : keyerSettings) {
+        settings().setObject({}, setting.key);
     }
 }
 
@@ -158,11 +171,9 @@ void PreferencesWinKeyerPaneTest::everySettingHasOneControlOfItsKind() {
         QCOMPARE(_operator->controls(setting.key).size(), 1);
         const auto& control = _operator->control(setting.key);
         const auto is = [&control](const char* type) { return control.inherits(type); };
-        const bool isRight = std::holds_alternative<bool>(setting.defaultValue)  ? is("QCheckBox")
-                             : std::holds_alternative<int>(setting.defaultValue) ? is("QSpinBox")
-                             : std::holds_alternative<double>(setting.defaultValue)
-                                 ? is("QDoubleSpinBox")
-                             : !setting.choices.empty() ? is("QComboBox")
+        const bool isRight = std::holds_alternative<bool>(setting.defaultValue) ? is("QCheckBox")
+                             : setting.range                                    ? is("NumberBox")
+                             : !setting.choices.empty()                         ? is("QComboBox")
                                                         : is("QComboBox") || is("QLineEdit");
         QVERIFY2(isRight, setting.key.data());
         QVERIFY(_operator->resetButton(setting.key).isVisibleTo(&view()) || !control.isVisible());
@@ -256,6 +267,8 @@ void PreferencesWinKeyerPaneTest::checkBoxesWorkBothWays() {
         if (!std::holds_alternative<bool>(setting.defaultValue)) {
             continue;
         }
+        _operator->meetNeeds(setting.key);
+        static_cast<void>(_bench->written());
         auto& box = _operator->control<QCheckBox>(setting.key);
         const bool wasOn = settings().boolForKey(setting.key);
         QCOMPARE(box.isChecked(), wasOn);
@@ -292,7 +305,7 @@ void PreferencesWinKeyerPaneTest::aNumberThatHasNotSettledActsAtTheEnd() {
 }
 
 void PreferencesWinKeyerPaneTest::aNumberThatIsHiddenActsAtTheEnd() {
-    auto& weighting = _operator->control<QSpinBox>(WKWeighting);
+    auto& weighting = _operator->control<NumberBox>(WKWeighting);
     view().hide();
     weighting.stepUp(); // as an assistive tool may
     QCOMPARE(_bench->written(), "");
@@ -301,10 +314,25 @@ void PreferencesWinKeyerPaneTest::aNumberThatIsHiddenActsAtTheEnd() {
     QCOMPARE(_bench->written(), "03 33");
 }
 
+/// Each of the two commands of a pair of numbers tells both.
+void PreferencesWinKeyerPaneTest::twoNumbersActInTheOrderOfTheirChanges() {
+    _operator->toggle(WKPTTEnable);
+    static_cast<void>(_bench->written());
+    auto& tail = _operator->control(WKPTTTailTime);
+    auto& ratio = _operator->control(WKRatio);
+    tail.setFocus();
+    QTest::keyClick(&tail, Qt::Key_Up);
+    pages().setCurrentIndex(0);
+    ratio.setFocus();
+    QTest::keyClick(&ratio, Qt::Key_Up);
+    _bench->clock().advance(1s);
+    QCOMPARE(_bench->written(), "04 00 0b 17 33");
+}
+
 /// Else the late switchpoint would turn the memory on again.
 void PreferencesWinKeyerPaneTest::commandsComeInTheOrderOfTheChanges() {
     pages().setCurrentIndex(1);
-    _operator->control<QSpinBox>(WKPaddleSwitchpoint).setValue(60);
+    _operator->control<NumberBox>(WKPaddleSwitchpoint).setValue(60);
     _operator->control<QCheckBox>(WKEnableDitDahMemory).click();
     _bench->clock().advance(1s);
     QCOMPARE(_bench->written(), "12 3c 12 00");
@@ -312,6 +340,7 @@ void PreferencesWinKeyerPaneTest::commandsComeInTheOrderOfTheChanges() {
 
 void PreferencesWinKeyerPaneTest::heldKeysSendOneCommand() {
     auto& lead = _operator->control(WKPTTLeadTime);
+    settings().setObject(true, WKPTTEnable);
     pages().setCurrentIndex(2);
     lead.setFocus();
     for (int i = 0; i < 12; ++i) {
@@ -325,7 +354,7 @@ void PreferencesWinKeyerPaneTest::heldKeysSendOneCommand() {
 }
 
 void PreferencesWinKeyerPaneTest::arrowsWorkByMouse() {
-    auto& ratio = _operator->control<QDoubleSpinBox>(WKRatio);
+    auto& ratio = _operator->control<NumberBox>(WKRatio);
     QStyleOptionSpinBox option;
     option.initFrom(&ratio);
     option.subControls = QStyle::SC_All;
@@ -342,6 +371,7 @@ void PreferencesWinKeyerPaneTest::arrowsWorkByMouse() {
 /// A command of its neighbour has told the keyer of what was there in between.
 void PreferencesWinKeyerPaneTest::aNumberThatComesBackIsSent() {
     auto& lead = _operator->control(WKPTTLeadTime);
+    settings().setObject(true, WKPTTEnable);
     pages().setCurrentIndex(2);
     lead.setFocus();
     QTest::keyClick(&lead, Qt::Key_Up);
@@ -352,7 +382,7 @@ void PreferencesWinKeyerPaneTest::aNumberThatComesBackIsSent() {
     QCOMPARE(_bench->written(), "04 00 0a");
 }
 
-void PreferencesWinKeyerPaneTest::aNumberOutOfRangeCannotBeTyped_data() {
+void PreferencesWinKeyerPaneTest::aNumberOutOfRangeIsToldAndNothingElse_data() {
     QTest::addColumn<QString>("key");
     for (const auto& setting : keyerSettings) {
         if (setting.range) {
@@ -361,14 +391,27 @@ void PreferencesWinKeyerPaneTest::aNumberOutOfRangeCannotBeTyped_data() {
     }
 }
 
-void PreferencesWinKeyerPaneTest::aNumberOutOfRangeCannotBeTyped() {
+void PreferencesWinKeyerPaneTest::aNumberOutOfRangeIsToldAndNothingElse() {
     QFETCH(QString, key);
     const auto setting = std::ranges::find_if(
         keyerSettings, [&key](const Setting& each) { return each.key == key; });
-    for (const auto* text : {u"0", u"1", u"4", u"9", u"100", u"300", u"9999", u"-41", u"-1"}) {
-        _operator->enter(setting->key, QString::fromUtf16(text));
-        const auto stored = settings().doubleForKey(key);
-        QVERIFY(stored >= setting->range->minimum && stored <= setting->range->maximum);
+    _operator->meetNeeds(setting->key);
+    static_cast<void>(_bench->written());
+    const auto& box = _operator->control<NumberBox>(setting->key);
+    for (const auto text : {-1000, -41, -1, 0, 1, 3, 4, 9, 33, 100, 181, 251, 300, 4000, 99999}) {
+        const auto before = settings().objectForKey(key);
+        _operator->enter(setting->key, QString::number(text));
+        const bool isOffered = text >= setting->range->minimum * box.scale() &&
+                               text <= setting->range->maximum * box.scale();
+        const auto words = view().findChild<QLabel*>(u"explanation"_s)->text();
+        QCOMPARE(words.contains(u"%1%2 is out of range"_s.arg(text).arg(box.suffix())), !isOffered);
+        QCOMPARE(box.accessibleDescription().contains(u"is out of range"), !isOffered);
+        if (!isOffered) {
+            QCOMPARE(box.text(), QString::number(text) + box.suffix());
+            QCOMPARE(settings().objectForKey(key), before);
+            QCOMPARE(_bench->written(), "");
+        }
+        static_cast<void>(_bench->written());
     }
 }
 
@@ -390,6 +433,7 @@ void PreferencesWinKeyerPaneTest::resetBringsTheDefaultBack() {
         const auto sentBack = _bench->written();
         QVERIFY2(sentBack != sent || sent.isEmpty(), key);
         QCOMPARE(sentBack.left(2), sent.left(2)); // the same command
+        forgetAllSettings();
     }
 }
 
@@ -405,6 +449,58 @@ void PreferencesWinKeyerPaneTest::theSwitchpointNeedsTheMemory() {
     QCOMPARE(_bench->written(), "12 3c");
     QVERIFY(_operator->control(WKPaddleSwitchpoint).isEnabled());
     QVERIFY(_operator->resetButton(WKPaddleSwitchpoint).isEnabled());
+}
+
+void PreferencesWinKeyerPaneTest::whatHasNoEffectIsOff_data() {
+    QTest::addColumn<QString>("needed");
+    QTest::addColumn<QVariant>("with");
+    QTest::addColumn<QVariant>("without");
+    QTest::addColumn<QStringList>("keys");
+    QTest::newRow("ultimatic priority") << QString(WKKeyMode) << QVariant(u"Ultimatic"_s)
+                                        << QVariant(u"Iambic B"_s) << QStringList{WKDitDahPriority};
+    QTest::newRow("sidetone") << QString(WKSidetoneEnable) << QVariant(true) << QVariant(false)
+                              << QStringList{WKSidetoneFrequency, WKPaddleOnlySidetone};
+    QTest::newRow("PTT times") << QString(WKPTTEnable) << QVariant(true) << QVariant(false)
+                               << QStringList{WKPTTLeadTime, WKPTTTailTime, WKPaddleHang};
+    QTest::newRow("switchpoint") << QString(WKEnableDitDahMemory) << QVariant(true)
+                                 << QVariant(false) << QStringList{WKPaddleSwitchpoint};
+}
+
+void PreferencesWinKeyerPaneTest::whatHasNoEffectIsOff() {
+    QFETCH(QString, needed);
+    QFETCH(QVariant, with);
+    QFETCH(QVariant, without);
+    QFETCH(QStringList, keys);
+    const auto areOn = [&] {
+        return std::ranges::all_of(keys, [this](const QString& key) {
+            const auto latin = key.toLatin1();
+            return _operator->control(QLatin1StringView(latin)).isEnabled();
+        });
+    };
+    const auto areOff = [&] {
+        return std::ranges::none_of(keys, [this](const QString& key) {
+            const auto latin = key.toLatin1();
+            return _operator->control(QLatin1StringView(latin)).isEnabled();
+        });
+    };
+    settings().setObject(without, needed);
+    QVERIFY(areOff());
+    settings().setObject(with, needed);
+    QVERIFY(areOn());
+    settings().setObject(without, needed);
+    QVERIFY(areOff());
+}
+
+void PreferencesWinKeyerPaneTest::anAssistiveToolCannotTurnTheMemoryOn() {
+    _operator->toggle(WKEnableDitDahMemory);
+    QCOMPARE(_bench->written(), "12 00");
+    auto* switchpoint =
+        QAccessible::queryAccessibleInterface(&_operator->control(WKPaddleSwitchpoint));
+    switchpoint->valueInterface()->setCurrentValue(30);
+    switchpoint->editableTextInterface()->replaceText(0, 3, u"60"_s);
+    _bench->clock().advance(1s);
+    QCOMPARE(_bench->written(), "");
+    QCOMPARE(settings().integerForKey(WKPaddleSwitchpoint), 50);
 }
 
 void PreferencesWinKeyerPaneTest::withoutAnOutputItTellsThatNothingIsKeyed() {
@@ -467,12 +563,19 @@ void PreferencesWinKeyerPaneTest::aStoredValueOutOfRangeIsToldAndKept() {
 }
 
 void PreferencesWinKeyerPaneTest::allSettingsSurviveARestart() {
-    for (const auto& operation : operations()) {
-        if (operation.key != WKEnableDitDahMemory) { // without it there is no switchpoint to set
-            operate(operation.key);
+    const auto operateAll = [this](bool haveNeeds) {
+        for (const auto& operation : operations()) {
+            const bool hasNeeds = _operator->control(operation.key).property("needs").isValid();
+            if (hasNeeds == haveNeeds) {
+                operate(operation.key);
+            }
         }
+    };
+    operateAll(true);
+    for (const auto needed : {WKKeyMode, WKPTTEnable}) {
+        settings().setObject({}, needed);
     }
-    operate(WKEnableDitDahMemory);
+    operateAll(false);
     QVERIFY(settings().synchronize());
 
     SettingsStore again(_bench->platform().settingsPath());

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "formatters/MessageFormatter.h"
+#include "preferences/binding/NumberBox.h"
 #include "preferences/binding/SettingBinder.h"
 #include "tests/support/TestPlatform.h"
 
@@ -9,7 +10,6 @@
 #include <QFormLayout>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QSpinBox>
 #include <QTest>
 #include <QToolButton>
 
@@ -98,9 +98,9 @@ class View final : public QWidget {
     QComboBox pace;
     QLineEdit call;
     QLineEdit text;
-    QSpinBox speed;
-    QDoubleSpinBox ratio;
-    QSpinBox spare;
+    NumberBox speed;
+    NumberBox ratio;
+    NumberBox spare;
     QToolButton reset;
     QPushButton send;
 };

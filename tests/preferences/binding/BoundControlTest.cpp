@@ -4,6 +4,7 @@
 #include "tests/support/RegisteredTest.h"
 
 #include <QAbstractItemView>
+#include <QAccessible>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -35,7 +36,6 @@ class BoundControlTest : public QObject, private BinderBench {
     void init() { setUp(); }
     void cleanup() { tearDown(); }
 
-    void aNumberBeyondItsRangeStaysUntilItIsChanged();
     void anUnknownChoiceStaysUntilItIsChanged();
     void aTextBesideTheItemsIsOneMoreItem();
     void aMissingTextIsShownAsSuch();
@@ -55,6 +55,7 @@ class BoundControlTest : public QObject, private BinderBench {
     void choosingTheSameItemActsWhereThatIsAskedFor();
     void aTextIsStoredLetterByLetterAndActsOnce();
     void aStoredTextIsNotFilteredByShowingIt();
+    void aTextFromAnAssistiveToolIsStoredAndActs();
     void theInsertionPointStaysWhileTyping();
     void steppingActsOncePerSettledValue();
     void aTypedNumberActsWhenReturnIsPressed();
@@ -62,28 +63,6 @@ class BoundControlTest : public QObject, private BinderBench {
     void aTypedNumberActsWhenTheViewHides();
     void aTypedNumberActsWhenSettlingIsAskedFor();
 };
-
-void BoundControlTest::aNumberBeyondItsRangeStaysUntilItIsChanged() {
-    store(200, u"Speed"_s);
-    store(0.5, u"Ratio"_s);
-    bind();
-    QCOMPARE(_view->speed.text(), u"stored: 200 wpm"_s);
-    QVERIFY(_view->speed.toolTip().contains(u"stored: 200 wpm"_s));
-    QCOMPARE(_view->ratio.text(), u"stored: 0.5"_s);
-    QCOMPARE(stored(u"Speed"_s), QVariant(200));
-    _view->speed.stepUp();
-    QCOMPARE(stored(u"Speed"_s), QVariant(10));
-    QCOMPARE(_view->speed.text(), u"10 wpm"_s);
-    QCOMPARE(_view->speed.minimum(), 10);
-    QVERIFY(!_view->speed.toolTip().contains(u"stored"_s));
-    store(200, u"Speed"_s);
-    QCOMPARE(_view->speed.text(), u"stored: 200 wpm"_s);
-    showView();
-    _view->speed.setFocus();
-    _view->speed.selectAll();
-    QTest::keyClicks(&_view->speed, u"99\r"_s);
-    QCOMPARE(stored(u"Speed"_s), QVariant(99));
-}
 
 void BoundControlTest::anUnknownChoiceStaysUntilItIsChanged() {
     store(u"Straight"_s, u"Mode"_s);
@@ -304,6 +283,18 @@ void BoundControlTest::aStoredTextIsNotFilteredByShowingIt() {
     bind();
     QCOMPARE(_view->text.text(), u"A&B*C"_s);
     QCOMPARE(_view->text.validator(), &_view->formatter);
+}
+
+void BoundControlTest::aTextFromAnAssistiveToolIsStoredAndActs() {
+    bind();
+    auto* call = QAccessible::queryAccessibleInterface(&_view->call)->editableTextInterface();
+    call->replaceText(0, 9, u"N0CALL"_s);
+    QCOMPARE(stored(u"Call"_s), QVariant(u"N0CALL"_s));
+    auto* text = QAccessible::queryAccessibleInterface(&_view->text)->editableTextInterface();
+    text->insertText(2, u" test&"_s);
+    QCOMPARE(stored(u"Text"_s), QVariant(u"CQ TEST"_s));
+    _platform->clock().advance(250ms);
+    QCOMPARE(calls(), QStringList({u"Call=N0CALL"_s, u"Text=CQ TEST"_s}));
 }
 
 void BoundControlTest::theInsertionPointStaysWhileTyping() {

@@ -128,10 +128,7 @@ void SettingBinderTest::whatActsLetsTheOthersActFirst() {
     _view->ratio.stepUp();
     _view->speed.stepUp();
     _view->swap.click();
-    auto called = calls();
-    QCOMPARE(called.takeLast(), u"Swap=false"_s);
-    called.sort();
-    QCOMPARE(called, QStringList({u"Ratio=3.1"_s, u"Speed=12"_s}));
+    QCOMPARE(calls(), QStringList({u"Ratio=3.1"_s, u"Speed=12"_s, u"Swap=false"_s}));
     _platform->clock().advance(1s);
     QCOMPARE(calls(), QStringList());
 }
@@ -285,10 +282,7 @@ void SettingBinderTest::aButtonActsOnceAllHasSettled() {
     QTest::keyClicks(&_view->speed, u"45"_s);
     QTest::keyClick(&_view->speed, Qt::Key_N, Qt::AltModifier);
     QTRY_VERIFY(!_view->send.isDown());
-    const auto called = calls();
-    QCOMPARE(called.size(), 3);
-    QVERIFY(called.contains(u"Speed=45"_s) && called.contains(u"Ratio=3.1"_s));
-    QCOMPARE(called.last(), u"="_s);
+    QCOMPARE(calls(), QStringList({u"Ratio=3.1"_s, u"Speed=45"_s, u"="_s}));
     QCOMPARE(QApplication::focusWidget(), &_view->speed);
 }
 

@@ -1,0 +1,85 @@
+#include "preferences/binding/ExplanationLine.h"
+
+#include "preferences/binding/SettingBinder.h"
+
+#include <QEvent>
+#include <QTextDocumentFragment>
+
+#include <utility>
+
+namespace {
+
+/// Enough for the longest explanation there is, in the narrowest pane.
+constexpr int lines = 2;
+
+QString explanationOf(const QWidget* widget) {
+    const auto toolTip = widget != nullptr ? widget->toolTip() : QString();
+    return QTextDocumentFragment::fromHtml(toolTip).toPlainText().simplified();
+}
+
+} // namespace
+
+ExplanationLine::ExplanationLine(QWidget* parent) : QLabel(parent) {
+    setTextFormat(Qt::PlainText);
+    setWordWrap(true);
+    setAlignment(Qt::AlignLeading | Qt::AlignTop);
+    setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+}
+
+void ExplanationLine::follow(const SettingBinder& binder) {
+    connect(&binder, &SettingBinder::troubleChanged, this, [this, &binder] {
+        _trouble = binder.trouble();
+        tell();
+    });
+}
+
+QSize ExplanationLine::sizeHint() const {
+    return {0, lines * fontMetrics().lineSpacing()};
+}
+
+void ExplanationLine::showEvent(QShowEvent* event) {
+    QLabel::showEvent(event);
+    if (!std::exchange(_isWatching, true)) {
+        for (auto* each : parentWidget()->findChildren<QWidget*>()) {
+            each->installEventFilter(this);
+        }
+    }
+    auto* focused = window()->focusWidget();
+    _focused = parentWidget()->isAncestorOf(focused) ? focused : nullptr;
+    tell();
+}
+
+bool ExplanationLine::eventFilter(QObject* watched, QEvent* event) {
+    auto* widget = qobject_cast<QWidget*>(watched);
+    switch (event->type()) {
+    case QEvent::FocusIn:
+        _focused = widget;
+        tell();
+        break;
+    case QEvent::ToolTip:
+        if (widget->toolTip().isEmpty()) {
+            break; // its parent may have one
+        }
+        _hovered = widget;
+        tell();
+        return true;
+    case QEvent::Leave:
+        if (widget == _hovered) {
+            _hovered = nullptr;
+            tell();
+        }
+        break;
+    case QEvent::ToolTipChange:
+        tell();
+        break;
+    default:
+        break;
+    }
+    return QLabel::eventFilter(watched, event);
+}
+
+void ExplanationLine::tell() {
+    setText(_hovered             ? explanationOf(_hovered)
+            : _trouble.isEmpty() ? explanationOf(_focused)
+                                 : _trouble);
+}

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QLabel>
+#include <QPointer>
+
+class SettingBinder;
+
+/// A line of a pane that tells what the control does that has the focus, so that nobody needs a
+/// mouse for it, or the one that the mouse rests on: its tool tip stands here, where it covers
+/// nothing. It watches all that its parent holds when it is first shown. Main thread only.
+class ExplanationLine final : public QLabel {
+    Q_OBJECT
+  public:
+    explicit ExplanationLine(QWidget* parent = nullptr);
+
+    /// What is wrong in the view of `binder`, while something is, it tells in place of what the
+    /// focused control does.
+    void follow(const SettingBinder& binder);
+
+    [[nodiscard]] QSize sizeHint() const override;
+    [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
+    [[nodiscard]] int heightForWidth(int) const override { return sizeHint().height(); }
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+  protected:
+    void showEvent(QShowEvent* event) override;
+
+  private:
+    void tell();
+
+    QPointer<QWidget> _focused;
+    QPointer<QWidget> _hovered;
+    QString _trouble;
+    bool _isWatching = false;
+};
