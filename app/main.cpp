@@ -1,5 +1,5 @@
+#include "app/ApplicationKey.h"
 #include "app/DesktopApplication.h"
-#include "app/EscapeKey.h"
 #include "app/FieldEdges.h"
 #include "app/KeyGuard.h"
 #include "app/KeyRepeat.h"
@@ -99,8 +99,8 @@ int run(SingleInstance& instance) {
 
     const MenuShield menuShield;
     const TypingWatch typingWatch;
-    const EscapeKey escape;
-    QObject::connect(&escape, &EscapeKey::pressed, &window, &MainWindow::stop);
+    const ApplicationKey escape(Qt::Key_Escape);
+    QObject::connect(&escape, &ApplicationKey::pressed, &window, &MainWindow::stop);
     QObject::connect(&instance, &SingleInstance::activated, &window, &MainWindow::comeToFront);
 
     const KeyRepeat keyRepeat;
@@ -112,6 +112,8 @@ int run(SingleInstance& instance) {
         alerts.limitAlerts(cause == Termination::Cause::Operator ? lastWord : 0ms);
     });
     QObject::connect(&termination, &Termination::hasLeftKeyer, &keyingRecord, &KeyingRecord::close);
+    const ApplicationKey quit(Qt::CTRL | Qt::Key_Q);
+    QObject::connect(&quit, &ApplicationKey::pressed, &window, &MainWindow::quitRequested);
     // By the time the event loop comes round again, in an alert of the way out, the port is free.
     QObject::connect(&termination, &Termination::begun, &instance, &SingleInstance::leave,
                      Qt::QueuedConnection);

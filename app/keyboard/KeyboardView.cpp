@@ -2,36 +2,16 @@
 
 #include "app/keyboard/Composition.h"
 #include "app/keyboard/KeyboardViewAccessible.h"
-#include "app/keyboard/TypedKey.h"
 #include "keyer/WinKeyerUsb.h"
 
-#include <QAction>
-#include <QContextMenuEvent>
-#include <QGuiApplication>
-#include <QInputMethod>
-#include <QInputMethodEvent>
-#include <QMenu>
-#include <QMimeData>
 #include <QPainter>
 #include <QScopedValueRollback>
 #include <QScrollBar>
+#include <QStyle>
 #include <QTextBlock>
 #include <QTextCursor>
 
 #include <algorithm>
-#include <memory>
-
-using namespace Qt::StringLiterals;
-
-namespace {
-
-QInputMethodEvent::Attribute underlined(qsizetype length) {
-    QTextCharFormat format;
-    format.setFontUnderline(true);
-    return {QInputMethodEvent::TextFormat, 0, static_cast<int>(length), format};
-}
-
-} // namespace
 
 KeyboardView::KeyboardView(QWidget* parent)
     : QPlainTextEdit(parent), _text(*document()), _scrollRest(this) {
@@ -54,7 +34,8 @@ void KeyboardView::setEngine(WinKeyerUsb& engine) {
     QObject::connect(_engine, &WinKeyerUsb::keyboardBufferChanged, this,
                      &KeyboardView::showEnginesText);
     QObject::connect(_engine, &WinKeyerUsb::sendingProgressed, this, &KeyboardView::takeProgress);
-    QObject::connect(_engine, &WinKeyerUsb::messageSendingStopped, this, &KeyboardView::dropMerge);
+    QObject::connect(_engine, &WinKeyerUsb::messageSendingStopped, this,
+                     &KeyboardView::dropHeldText);
     showChange(TextChange::between(text(), _engine->keyboardBuffer()));
     showProgress();
 }
@@ -104,61 +85,15 @@ void KeyboardView::replaceText(qsizetype begin, qsizetype end, const QString& te
     cursor.setPosition(static_cast<int>(begin));
     cursor.setPosition(static_cast<int>(end), QTextCursor::KeepAnchor);
     cursor.insertText(readied(text, cursor));
-    if (_merge.isBegun()) {
+    if (!_kept.isEmpty()) {
         setTextCursor(cursor);
-        enter({});
+        showKept();
     }
-}
-
-/// Text that goes where the caret is, as if it had been composed there.
-void KeyboardView::enter(const QString& text) {
-    QInputMethodEvent event;
-    event.setCommitString(text);
-    inputMethodEvent(&event);
-}
-
-/// What is to go into the text at `place`, instead of its selection, of what was typed there.
-QString KeyboardView::readied(const QString& typed, const QTextCursor& place) {
-    const auto before = _text.characterAt(place.selectionStart() - 1);
-    const auto after = _text.characterAt(place.selectionEnd());
-    const auto complete = _merge.take(KeyboardText::inOneLine(typed, before, after));
-    const bool isBehindMessage = place.selectionStart() == _messageEnd && after.isNull();
-    if (isBehindMessage && before != u' ' && !complete.isEmpty() && !complete.startsWith(u' ')) {
-        return u' ' + complete;
-    }
-    return complete;
-}
-
-bool KeyboardView::takeKeyOfMerge(const QKeyEvent& event) {
-    if (!_merge.isBegun() || TypedKey::isModifier(event)) {
-        return false;
-    }
-    if (event.key() == Qt::Key_Backspace) {
-        _merge.eraseLast();
-        enter({});
-        return true;
-    }
-    dropMerge();
-    return false;
-}
-
-void KeyboardView::dropMerge() {
-    if (!_merge.isBegun()) {
-        return;
-    }
-    _merge.clear();
-    // What an input method enters takes the place of the selection, even when it is nothing.
-    const QTextCursor selection = textCursor();
-    auto caret = selection;
-    caret.clearSelection();
-    setTextCursor(caret);
-    enter({});
-    setTextCursor(selection);
 }
 
 void KeyboardView::undoTyping() {
-    if (_merge.isBegun()) {
-        dropMerge();
+    if (!_kept.isEmpty()) {
+        dropHeldText();
         return;
     }
     travel(_history.undo());
@@ -259,7 +194,9 @@ SendingMarks::State KeyboardView::sendingState() const {
 }
 
 qsizetype KeyboardView::waitingCount() const {
-    return _engine == nullptr ? 0 : _engine->keyboardBuffer().size() - _engine->inFlightIndex();
+    const auto held = _isHoldingText ? _kept.all().size() : 0;
+    return _engine == nullptr ? 0
+                              : _engine->keyboardBuffer().size() - _engine->inFlightIndex() + held;
 }
 
 void KeyboardView::takeProgress() {
@@ -286,8 +223,8 @@ void KeyboardView::showProgress() {
 
 /// The caret is a block where typing has the keyer send again what it has been given.
 void KeyboardView::followCaret() {
-    const bool isInSentText =
-        _engine != nullptr && textCursor().selectionStart() < _engine->outputBufferIndex();
+    const bool isInSentText = _engine != nullptr && hasFocus() &&
+                              textCursor().selectionStart() < _engine->outputBufferIndex();
     if (_isCaretInSentText == isInSentText) {
         return;
     }
@@ -349,140 +286,4 @@ void KeyboardView::paintEvent(QPaintEvent* event) {
         }
         marks.paint(painter, {block, geometry.topLeft()});
     }
-}
-
-// What the view is used by.
-
-void KeyboardView::keyPressEvent(QKeyEvent* event) {
-    _scrollRest.noteUse();
-    if (event->matches(QKeySequence::Undo)) {
-        undoTyping();
-    } else if (event->matches(QKeySequence::Redo)) {
-        redoTyping();
-    } else if (TypedKey::isText(*event) || TypedKey::isLineEnd(*event)) {
-        enterKey(*event);
-    } else if (takeKeyOfMerge(*event)) {
-        return;
-    } else if (isCaretInSentText() && event->key() == Qt::Key_End && !event->modifiers()) {
-        moveCursor(QTextCursor::End);
-    } else {
-        if (Composition::isDisturbedBy(*event) && Composition::isIn(*document())) {
-            endComposition();
-        }
-        QPlainTextEdit::keyPressEvent(event);
-    }
-}
-
-/// A letter with Alt is a command, if one that nobody knows, and Return over a selection a slip.
-void KeyboardView::enterKey(const QKeyEvent& event) {
-    if ((event.modifiers() & TypedKey::commandKeys) != 0) {
-        return;
-    }
-    if (!TypedKey::isLineEnd(event)) {
-        enter(event.text());
-    } else if (!textCursor().hasSelection()) {
-        enter(u"\n"_s);
-    }
-}
-
-/// What is kept back of a merge stands in front of what an input method composes.
-void KeyboardView::inputMethodEvent(QInputMethodEvent* event) {
-    _scrollRest.noteUse();
-    const auto complete = readied(event->commitString(), textCursor());
-    const auto kept = _merge.kept();
-    QList<QInputMethodEvent::Attribute> attributes;
-    if (!kept.isEmpty()) {
-        attributes.append(underlined(kept.size()));
-    }
-    for (auto attribute : event->attributes()) {
-        const bool isOfText = attribute.type == QInputMethodEvent::Selection;
-        attribute.start += isOfText ? 0 : static_cast<int>(kept.size());
-        attributes.append(attribute);
-    }
-    QInputMethodEvent composed(kept + event->preeditString(), attributes);
-    const auto replaced = Composition::replacementAt(textCursor(), *event);
-    composed.setCommitString(complete, replaced.start, replaced.length);
-    QPlainTextEdit::inputMethodEvent(&composed);
-    event->setAccepted(composed.isAccepted());
-}
-
-void KeyboardView::endComposition() {
-    QGuiApplication::inputMethod()->commit();
-    Composition::removeFrom(*document());
-}
-
-void KeyboardView::mousePressEvent(QMouseEvent* event) {
-    _scrollRest.noteUse();
-    dropMerge();
-    QPlainTextEdit::mousePressEvent(event);
-}
-
-void KeyboardView::mouseReleaseEvent(QMouseEvent* event) {
-    _scrollRest.noteUse();
-    QPlainTextEdit::mouseReleaseEvent(event);
-}
-
-void KeyboardView::contextMenuEvent(QContextMenuEvent* event) {
-    const std::unique_ptr<QMenu> menu(createStandardContextMenu(event->pos()));
-    if (auto* undo = menu->findChild<QAction*>(u"edit-undo"_s)) {
-        undo->disconnect();
-        undo->setEnabled(canUndoTyping());
-        QObject::connect(undo, &QAction::triggered, this, &KeyboardView::undoTyping);
-    }
-    if (auto* redo = menu->findChild<QAction*>(u"edit-redo"_s)) {
-        redo->disconnect();
-        redo->setEnabled(canRedoTyping());
-        QObject::connect(redo, &QAction::triggered, this, &KeyboardView::redoTyping);
-    }
-    menu->exec(event->globalPos());
-    _scrollRest.noteUse();
-}
-
-QMimeData* KeyboardView::createMimeDataFromSelection() const {
-    auto plain = std::make_unique<QMimeData>();
-    plain->setText(KeyboardText::withSpaces(textCursor().selectedText()));
-    return plain.release();
-}
-
-// The base class counts a composition as text when it looks for the place under the mouse, too.
-bool KeyboardView::canInsertFromMimeData(const QMimeData* source) const {
-    return source->hasText() && !Composition::isIn(*document());
-}
-
-void KeyboardView::insertFromMimeData(const QMimeData* source) {
-    if (!source->hasText()) {
-        return; // a pasted picture leaves even the selection alone
-    }
-    if (!_isDropping) {
-        enter(source->text());
-        return;
-    }
-    auto caret = textCursor();
-    caret.insertText(readied(source->text(), caret));
-}
-
-// A drop is one edit of the document, whose lines are laid out anew only when it is over. Until
-// then no place may be looked for in them; the base class shows the caret afterwards.
-void KeyboardView::dropEvent(QDropEvent* event) {
-    {
-        const QScopedValueRollback guard(_isDropping, true);
-        QPlainTextEdit::dropEvent(event);
-    }
-    if (_merge.isBegun()) {
-        enter({});
-    }
-}
-
-void KeyboardView::focusInEvent(QFocusEvent* event) {
-    QPlainTextEdit::focusInEvent(event);
-    if (_engine != nullptr && _engine->textShouldBeginEditing(this)) {
-        _engine->textDidBeginEditing(this);
-    }
-}
-
-void KeyboardView::focusOutEvent(QFocusEvent* event) {
-    if (_engine != nullptr && _engine->textShouldEndEditing(this)) {
-        _engine->textDidEndEditing(this);
-    }
-    QPlainTextEdit::focusOutEvent(event);
 }

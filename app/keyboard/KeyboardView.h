@@ -1,8 +1,8 @@
 #pragma once
 
 #include "app/keyboard/EditHistory.h"
+#include "app/keyboard/KeptText.h"
 #include "app/keyboard/KeyboardText.h"
-#include "app/keyboard/MergeEntry.h"
 #include "app/keyboard/ScrollRest.h"
 #include "app/keyboard/SendingMarks.h"
 
@@ -18,7 +18,8 @@ class WinKeyerUsb;
 /// filters it, and what the engine makes of it, or adds, shows here. Its changes leave caret,
 /// selection and a composition of an input method with their text. The view follows the sending
 /// while it is not in use. What is typed right behind an added message is a word of its own, and
-/// "{" is kept back until its two letters have been typed. A position in the document is the index
+/// "{" is kept back until its two letters have been typed, as all is while the paddle is in use. A
+/// position in the document is the index
 /// into the engine's text, but some spaces are ends of paragraphs there; see KeyboardText.
 class KeyboardView final : public QPlainTextEdit {
     Q_OBJECT
@@ -36,6 +37,13 @@ class KeyboardView final : public QPlainTextEdit {
 
     /// How many characters are on their way or wait.
     [[nodiscard]] qsizetype waitingCount() const;
+
+    /// Whether typed text is kept back because the paddle was in use when it was typed.
+    [[nodiscard]] bool isHoldingText() const { return _isHoldingText; }
+    /// Has such text sent, unless the paddle is in use yet.
+    void handOverHeldText();
+    /// Forgets it, and a "{" that waits for its letters.
+    void dropHeldText();
 
     /// Whether what is typed at the caret would make the keyer send again what it has been given.
     [[nodiscard]] bool isCaretInSentText() const { return _isCaretInSentText; }
@@ -55,7 +63,7 @@ class KeyboardView final : public QPlainTextEdit {
     void canRedoTypingChanged(bool canRedo);
     /// isCaretInSentText() is another one now.
     void caretInSentTextChanged();
-    /// waitingCount() may be another one now.
+    /// waitingCount() or isHoldingText() may be another one now.
     void waitingCountChanged();
 
   protected:
@@ -79,7 +87,10 @@ class KeyboardView final : public QPlainTextEdit {
     void enter(const QString& text);
     [[nodiscard]] QString readied(const QString& typed, const QTextCursor& place);
     [[nodiscard]] bool isBeginOfWord(const TextChange& change) const;
-    [[nodiscard]] bool takeKeyOfMerge(const QKeyEvent& event);
+    [[nodiscard]] bool isPaddleInUse() const;
+    void showKept();
+    void followCaretWithKept();
+    [[nodiscard]] bool takeKeyOfKept(const QKeyEvent& event);
     void dropMerge();
     void travel(const std::optional<TextChange>& change);
     void announceHistory();
@@ -103,7 +114,7 @@ class KeyboardView final : public QPlainTextEdit {
     WinKeyerUsb* _engine = nullptr;
     KeyboardText _text;
     EditHistory _history;
-    MergeEntry _merge;
+    KeptText _kept;
     /// Where the message that was added last ends, -1 without one.
     qsizetype _messageEnd = -1;
     SendingMarks::State _shownState;
@@ -114,4 +125,5 @@ class KeyboardView final : public QPlainTextEdit {
     bool _couldUndo = false;
     bool _couldRedo = false;
     bool _isCaretInSentText = false;
+    bool _isHoldingText = false;
 };

@@ -31,16 +31,24 @@ QString statusOf(const WinKeyerUsb& engine) {
 } // namespace
 
 void KeyerStatusLine::setEngine(const WinKeyerUsb& engine) {
-    const auto follow = [this, &engine] { show(statusOf(engine)); };
+    const auto follow = [this, &engine] {
+        _status = statusOf(engine);
+        show();
+    };
     QObject::connect(&engine, &WinKeyerUsb::activityChanged, this, follow);
     QObject::connect(&engine, &WinKeyerUsb::tuneStateChanged, this, follow);
     follow();
 }
 
-void KeyerStatusLine::show(const QString& status) {
-    if (status == text()) {
-        return;
+void KeyerStatusLine::setNotice(const QString& notice) {
+    _notice = notice;
+    show();
+}
+
+void KeyerStatusLine::show() {
+    const auto shown = _notice.isEmpty() ? _status : tr("%1. %2").arg(_status, _notice);
+    if (shown != text()) {
+        setText(shown);
+        setAccessibleDescription(shown);
     }
-    setText(status);
-    setAccessibleDescription(status);
 }

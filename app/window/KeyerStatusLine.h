@@ -14,6 +14,12 @@ class KeyerStatusLine final : public QLabel {
     /// Follows `engine`, which must outlive the line.
     void setEngine(const WinKeyerUsb& engine);
 
+    /// Says something more, behind what the keyer is doing; an empty text for nothing.
+    void setNotice(const QString& notice);
+
   private:
-    void show(const QString& status);
+    void show();
+
+    QString _status;
+    QString _notice;
 };

@@ -2,8 +2,10 @@
 
 #include "app/window/AboutBox.h"
 #include "app/window/AnswerNotice.h"
+#include "app/window/ContactFields.h"
 #include "app/window/EditActions.h"
 #include "app/window/GuideWindow.h"
+#include "app/window/HeldMessages.h"
 #include "app/window/MessageButtons.h"
 #include "app/window/ModeSwitches.h"
 #include "app/window/SleepNotice.h"
@@ -16,8 +18,6 @@
 
 #include <QCloseEvent>
 #include <QGuiApplication>
-
-#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -59,6 +59,9 @@ MainWindow::MainWindow(WinKeyerUsb& engine)
     new WindowPlace(*this, u"MainWindowPlace"_s, this);
 
     _ui->keyerStatusLabel->setEngine(_engine);
+    QObject::connect(_heldMessages, &HeldMessages::changed, this, &MainWindow::showNotice);
+    QObject::connect(_ui->keyboardView, &KeyboardView::caretInSentTextChanged, this,
+                     &MainWindow::showNotice);
     QObject::connect(&_engine, &WinKeyerUsb::speedStringChanged, this, &MainWindow::showSpeed);
     showSpeed();
     QObject::connect(&_engine, &WinKeyerUsb::tuneStateChanged, this, &MainWindow::showTitle);
@@ -68,7 +71,8 @@ MainWindow::MainWindow(WinKeyerUsb& engine)
 MainWindow::~MainWindow() = default;
 
 void MainWindow::setUpMessages() {
-    new MessageButtons(_engine,
+    _heldMessages = new HeldMessages(_engine, *_ui->keyboardView, this);
+    new MessageButtons(_engine, *_heldMessages,
                        {{_ui->message1Button, _ui->message1Action},
                         {_ui->message2Button, _ui->message2Action},
                         {_ui->message3Button, _ui->message3Action},
@@ -92,22 +96,7 @@ void MainWindow::setUpNotices() {
 }
 
 void MainWindow::setUpContact() {
-    auto* callsign = _ui->hisCallsignTextField;
-    QObject::connect(callsign, &QLineEdit::textChanged, &_engine, &WinKeyerUsb::setHisCallsign);
-    QObject::connect(&_engine, &WinKeyerUsb::hisCallsignChanged, callsign, [this, callsign] {
-        if (callsign->text() != _engine.hisCallsign()) {
-            callsign->setText(_engine.hisCallsign());
-        }
-    });
-
-    auto* number = _ui->serialNumberBox;
-    QObject::connect(number, &QSpinBox::valueChanged, &_engine, &WinKeyerUsb::setSerialNumber);
-    const auto showNumber = [this, number] {
-        number->setMaximum(std::max(number->maximum(), static_cast<int>(_engine.serialNumber())));
-        number->setValue(static_cast<int>(_engine.serialNumber()));
-    };
-    QObject::connect(&_engine, &WinKeyerUsb::serialNumberChanged, number, showNumber);
-    showNumber();
+    _contact = new ContactFields(_engine, *_ui->hisCallsignTextField, *_ui->serialNumberBox, this);
     auto* increment = _ui->incrementSerialNumberButton;
     QObject::connect(increment, &QToolButton::clicked, this,
                      [this, increment] { _engine.incrementSerialNumber(increment); });
@@ -139,8 +128,12 @@ void MainWindow::setUpMenus() {
     join(*_ui->pauseAction, *_ui->pauseButton);
     join(*_ui->hscwAction, *_ui->hscwButton);
     join(*_ui->beaconAction, *_ui->beaconButton);
-    QObject::connect(_ui->hisCallsignAction, &QAction::triggered, _ui->hisCallsignTextField,
-                     [this] { _ui->hisCallsignTextField->setFocus(Qt::ShortcutFocusReason); });
+    QObject::connect(_ui->hisCallsignAction, &QAction::triggered, _contact,
+                     &ContactFields::goToCallsign);
+    QObject::connect(_ui->wipeCallsignAction, &QAction::triggered, _contact,
+                     &ContactFields::wipeCallsign);
+    QObject::connect(_ui->nextContactAction, &QAction::triggered, _contact,
+                     &ContactFields::goToNextContact);
     QObject::connect(_ui->keyboardAction, &QAction::triggered, _ui->keyboardView,
                      [this] { _ui->keyboardView->setFocus(Qt::ShortcutFocusReason); });
     QObject::connect(_ui->incrementSerialNumberAction, &QAction::triggered,
@@ -231,6 +224,18 @@ void MainWindow::showSpeed() {
     _ui->speedLabel->setText(shown);
     // A screen reader reads the label's name in place of its text.
     _ui->speedLabel->setAccessibleDescription(shown);
+}
+
+/// What the operator has to know before the next key.
+void MainWindow::showNotice() {
+    QStringList notices;
+    if (!_heldMessages->isEmpty()) {
+        notices.append(tr("What you send waits for the paddle to be free: Esc drops it"));
+    }
+    if (_ui->keyboardView->isCaretInSentText()) {
+        notices.append(tr("Typing here sends again: End goes to the end"));
+    }
+    _ui->keyerStatusLabel->setNotice(notices.join(u". "_s));
 }
 
 /// The title is what is seen of a window that lies under others.

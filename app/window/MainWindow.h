@@ -5,7 +5,9 @@
 #include <memory>
 
 class EditActions;
+class ContactFields;
 class GuideWindow;
+class HeldMessages;
 class QLineEdit;
 class TuneSwitch;
 class WinKeyerUsb;
@@ -54,12 +56,15 @@ class MainWindow final : public QMainWindow {
     void setUpMenus();
     void enlargeFonts();
     void showGuide();
+    void showNotice();
     void showSpeed();
     void showTitle();
 
     WinKeyerUsb& _engine;
     std::unique_ptr<Ui::MainWindow> _ui;
     std::unique_ptr<EditActions> _editActions;
+    HeldMessages* _heldMessages = nullptr;
+    ContactFields* _contact = nullptr;
     TuneSwitch* _tuneSwitch = nullptr;
     GuideWindow* _guide = nullptr;
 };

@@ -5,10 +5,19 @@
 #include <QStyleOptionButton>
 #include <QStylePainter>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 constexpr int wantedCharacters = 16;
 constexpr int leastCharacters = 8;
 } // namespace
+
+void MessageButton::setHeld(bool isHeld) {
+    if (_isHeld != isHeld) {
+        _isHeld = isHeld;
+        update();
+    }
+}
 
 QSize MessageButton::sizeHint() const {
     return sizeFor(wantedCharacters);
@@ -32,6 +41,9 @@ void MessageButton::paintEvent(QPaintEvent*) {
     QStylePainter painter(this);
     QStyleOptionButton option;
     initStyleOption(&option);
+    if (_isHeld) {
+        option.text = u"◷ "_s + option.text;
+    }
     const auto room = style()->subElementRect(QStyle::SE_PushButtonContents, &option, this).width();
     option.text = fontMetrics().elidedText(option.text, Qt::ElideRight, room, Qt::TextShowMnemonic);
     // A key and a label read from left to right, whatever way the window does.

@@ -9,6 +9,10 @@ class MessageButton final : public QPushButton {
   public:
     using QPushButton::QPushButton;
 
+    /// Shows that the message has been pressed and waits.
+    void setHeld(bool isHeld);
+    [[nodiscard]] bool isHeld() const { return _isHeld; }
+
     /// Has room for some words, whatever the text.
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override;
@@ -18,4 +22,6 @@ class MessageButton final : public QPushButton {
 
   private:
     [[nodiscard]] QSize sizeFor(int characters) const;
+
+    bool _isHeld = false;
 };

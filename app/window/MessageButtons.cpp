@@ -1,11 +1,12 @@
 #include "app/window/MessageButtons.h"
 
+#include "app/window/HeldMessages.h"
+#include "app/window/MessageButton.h"
 #include "keyer/MessageSettings.h"
 #include "keyer/WinKeyerUsb.h"
 #include "platform/SettingsStore.h"
 
 #include <QAction>
-#include <QPushButton>
 #include <QTextDocument>
 
 using namespace Qt::StringLiterals;
@@ -25,11 +26,12 @@ QString shortened(const QString& label) {
 
 } // namespace
 
-MessageButtons::MessageButtons(WinKeyerUsb& engine, const QList<Control>& controls, QObject* parent)
-    : QObject(parent), _engine(engine), _controls(controls) {
+MessageButtons::MessageButtons(WinKeyerUsb& engine, HeldMessages& held,
+                               const QList<Control>& controls, QObject* parent)
+    : QObject(parent), _engine(engine), _held(held), _controls(controls) {
     for (const auto& [button, action] : _controls) {
         QObject::connect(button, &QPushButton::clicked, this,
-                         [this, sender = button] { _engine.sendMessage(sender); });
+                         [this, sender = button] { _held.send(sender); });
         // A button's own shortcut would first show it pressed for a tenth of a second.
         QObject::connect(action, &QAction::triggered, button, &QPushButton::click);
     }
@@ -37,6 +39,7 @@ MessageButtons::MessageButtons(WinKeyerUsb& engine, const QList<Control>& contro
                      &MessageButtons::show);
     QObject::connect(&_engine, &WinKeyerUsb::serialNumberChanged, this, &MessageButtons::show);
     QObject::connect(&_engine, &WinKeyerUsb::hisCallsignChanged, this, &MessageButtons::show);
+    QObject::connect(&_held, &HeldMessages::changed, this, &MessageButtons::show);
     show();
 }
 
@@ -48,7 +51,9 @@ void MessageButtons::show() {
         const auto label = settings.stringForKey(message.labelKey);
         const auto text = textToBeSent(settings.stringForKey(message.textKey));
         button->setAccessibleName(tr("Message %1: %2").arg(i + 1).arg(label));
-        button->setAccessibleDescription(text);
+        const bool isHeld = _held.isHeld(button);
+        button->setHeld(isHeld);
+        button->setAccessibleDescription(isHeld ? tr("Waits for the paddle: %1").arg(text) : text);
         button->setToolTip(Qt::convertFromPlainText(text));
         button->setText(tr("F%1  %2").arg(i + 1).arg(withoutMnemonic(label)));
         action->setText(tr("&%1  %2").arg(i + 1).arg(withoutMnemonic(shortened(label))));

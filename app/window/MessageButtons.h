@@ -3,8 +3,9 @@
 #include <QList>
 #include <QObject>
 
+class HeldMessages;
+class MessageButton;
 class QAction;
-class QPushButton;
 class WinKeyerUsb;
 
 /// The eight message buttons and the items of the menu that press them: they bear the labels of
@@ -14,17 +15,19 @@ class MessageButtons final : public QObject {
     Q_OBJECT
   public:
     struct Control {
-        QPushButton* button;
+        MessageButton* button;
         QAction* action;
     };
 
     /// One control for each stored message, in order, with the message's index as its tag.
-    MessageButtons(WinKeyerUsb& engine, const QList<Control>& controls, QObject* parent);
+    MessageButtons(WinKeyerUsb& engine, HeldMessages& held, const QList<Control>& controls,
+                   QObject* parent);
 
   private:
     void show();
     [[nodiscard]] QString textToBeSent(const QString& stored) const;
 
     WinKeyerUsb& _engine;
+    HeldMessages& _held;
     QList<Control> _controls;
 };

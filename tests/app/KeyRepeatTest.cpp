@@ -1,6 +1,6 @@
 #include "app/KeyRepeat.h"
 
-#include "app/EscapeKey.h"
+#include "app/ApplicationKey.h"
 #include "app/window/MainWindow.h"
 #include "tests/keyer/EngineBench.h"
 #include "tests/support/RegisteredTest.h"
@@ -40,7 +40,7 @@ class KeyRepeatTest : public QObject {
 
     std::optional<EngineBench> _bench;
     std::optional<MainWindow> _window;
-    std::optional<EscapeKey> _escape;
+    std::optional<ApplicationKey> _escape;
     std::optional<KeyRepeat> _repeat;
 };
 
@@ -49,8 +49,8 @@ void KeyRepeatTest::init() {
     QVERIFY(_bench->connect());
     _bench->receive({0xC8});
     _window.emplace(_bench->engine());
-    _escape.emplace();
-    QObject::connect(&*_escape, &EscapeKey::pressed, &*_window, &MainWindow::stop);
+    _escape.emplace(Qt::Key_Escape);
+    QObject::connect(&*_escape, &ApplicationKey::pressed, &*_window, &MainWindow::stop);
     _repeat.emplace();
     _window->show();
     QVERIFY(QTest::qWaitForWindowActive(&*_window));

@@ -1,5 +1,5 @@
 #include "app/AlertBox.h"
-#include "app/EscapeKey.h"
+#include "app/ApplicationKey.h"
 #include "app/MenuShield.h"
 #include "app/TypingWatch.h"
 #include "app/window/MainWindow.h"
@@ -52,7 +52,7 @@ class TypingPropertyTest : public QObject {
     QRandomGenerator _random;
     std::optional<EngineBench> _bench;
     std::optional<MainWindow> _window;
-    std::optional<EscapeKey> _escape;
+    std::optional<ApplicationKey> _escape;
     std::optional<MenuShield> _menuShield;
     std::optional<TypingWatch> _typingWatch;
     std::unique_ptr<AlertBox> _alert;
@@ -65,7 +65,7 @@ void TypingPropertyTest::init() {
     _window.emplace(_bench->engine());
     _menuShield.emplace();
     _typingWatch.emplace();
-    _escape.emplace();
+    _escape.emplace(Qt::Key_Escape);
     _window->show();
     QVERIFY(QTest::qWaitForWindowActive(&*_window));
 }

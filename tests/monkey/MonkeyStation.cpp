@@ -35,7 +35,7 @@ MonkeyStation::MonkeyStation() {
     _preferences->awakeFromNib();
     _menuShield.emplace();
     _typingWatch.emplace();
-    _escape.emplace();
+    _escape.emplace(Qt::Key_Escape);
     connectParts();
     _window->show();
     _delegate->applicationDidFinishLaunching();
@@ -67,7 +67,7 @@ void MonkeyStation::connectParts() {
     QObject::connect(
         &*_delegate, &QuorvelDelegate::serialPortNameArrayChanged, &*_preferences,
         [this] { _preferences->setSerialPortNames(_delegate->serialPortNameArray()); });
-    QObject::connect(&*_escape, &EscapeKey::pressed, &*_window, &MainWindow::stop);
+    QObject::connect(&*_escape, &ApplicationKey::pressed, &*_window, &MainWindow::stop);
     QObject::connect(&settings(), &SettingsStore::storingFailed, &*_window,
                      [this] { _alerts->runModal(settingsNotStoredAlert(settings())); });
 }

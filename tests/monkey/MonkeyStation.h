@@ -1,7 +1,7 @@
 #pragma once
 
 #include "app/DesktopApplication.h"
-#include "app/EscapeKey.h"
+#include "app/ApplicationKey.h"
 #include "app/MenuShield.h"
 #include "app/QuorvelDelegate.h"
 #include "app/TypingWatch.h"
@@ -51,5 +51,5 @@ class MonkeyStation {
     std::optional<PreferencesController> _preferences;
     std::optional<MenuShield> _menuShield;
     std::optional<TypingWatch> _typingWatch;
-    std::optional<EscapeKey> _escape;
+    std::optional<ApplicationKey> _escape;
 };

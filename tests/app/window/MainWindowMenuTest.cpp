@@ -30,6 +30,7 @@ class MainWindowMenuTest : public QObject, private MainWindowFixture {
     void theMenusSwitchesAreInStepWithTheButtons();
     void everyShortcutIsTakenOnce();
     void everyShortcutWorksFromEveryControl();
+    void messageKeysDoNothingInOtherWindows();
     void theEditMenuActsOnTheFocusedField();
     void preferencesAndQuitAreAskedFor();
     void theGuideAndTheAboutBoxOpen();
@@ -119,7 +120,8 @@ void MainWindowMenuTest::everyShortcutWorksFromEveryControl() {
         {Qt::Key_H, Qt::ControlModifier},  {Qt::Key_B, Qt::ControlModifier},
         {Qt::Key_L, Qt::ControlModifier},  {Qt::Key_M, Qt::ControlModifier},
         {Qt::Key_Up, Qt::ControlModifier}, {Qt::Key_Down, Qt::ControlModifier},
-        {Qt::Key_Q, Qt::ControlModifier},  {Qt::Key_Comma, Qt::ControlModifier}};
+        {Qt::Key_Q, Qt::ControlModifier},  {Qt::Key_Comma, Qt::ControlModifier},
+        {Qt::Key_F11, Qt::NoModifier},     {Qt::Key_W, Qt::AltModifier}};
     for (auto* control : tabOrder()) {
         for (const auto& [key, modifier] : keys) {
             int triggered = 0;
@@ -136,6 +138,24 @@ void MainWindowMenuTest::everyShortcutWorksFromEveryControl() {
                      qPrintable(control->objectName() + QKeySequence(key).toString()));
         }
     }
+}
+
+void MainWindowMenuTest::messageKeysDoNothingInOtherWindows() {
+    trigger(u"guideAction"_s);
+    trigger(u"aboutAction"_s);
+    QWidget preferences;
+    preferences.show();
+    const QList<QWidget*> windows{_window->findChild<GuideWindow*>(),
+                                  _window->findChild<AboutBox*>(), &preferences};
+    for (auto* window : windows) {
+        window->activateWindow();
+        QTRY_VERIFY(window->isActiveWindow());
+        for (int key = Qt::Key_F1; key <= Qt::Key_F8; ++key) {
+            QTest::keyClick(window->windowHandle(), static_cast<Qt::Key>(key));
+        }
+        QCOMPARE(_bench->engine().keyboardBuffer(), u""_s);
+    }
+    QCOMPARE(_bench->written(), "");
 }
 
 void MainWindowMenuTest::theEditMenuActsOnTheFocusedField() {

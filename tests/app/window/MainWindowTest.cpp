@@ -42,6 +42,7 @@ class MainWindowTest : public QObject, private MainWindowFixture {
     void aToolTipTellsWhatWouldBeSent();
     void aLongLabelDoesNotWidenTheWindow();
     void theWindowComesBackWhereItWas();
+    void theStatusLineSaysWhereTypingWouldSendAgain();
     void aPlaceOnAScreenThatIsGoneIsNotTaken();
     void theWindowComesToTheFront();
     void aClickOnAButtonLeavesTheFocusWhereItWas();
@@ -269,6 +270,18 @@ void MainWindowTest::theWindowComesBackWhereItWas() {
     _window.emplace(_bench->engine());
     _window->show();
     QCOMPARE(_window->geometry(), other);
+}
+
+void MainWindowTest::theStatusLineSaysWhereTypingWouldSendAgain() {
+    const auto* status = find<QLabel>(u"keyerStatusLabel"_s);
+    const auto notice = u"Typing here sends again: End goes to the end"_s;
+    type(u"test"_s);
+    QVERIFY(!status->text().contains(notice));
+    press(Qt::Key_Home);
+    QVERIFY(status->text().contains(notice));
+    QCOMPARE(status->accessibleDescription(), status->text());
+    press(Qt::Key_End);
+    QVERIFY(!status->text().contains(notice));
 }
 
 void MainWindowTest::aPlaceOnAScreenThatIsGoneIsNotTaken() {

@@ -1,7 +1,9 @@
-#include "app/EscapeKey.h"
+#include "app/ApplicationKey.h"
 
+#include "app/AlertBox.h"
 #include "app/DesktopApplication.h"
 #include "app/KeyShield.h"
+#include "app/window/GuideWindow.h"
 #include "app/window/MainWindow.h"
 #include "tests/keyer/EngineBench.h"
 #include "tests/support/RegisteredTest.h"
@@ -12,6 +14,7 @@
 #include <QMessageBox>
 #include <QPointer>
 #include <QShortcut>
+#include <QSignalSpy>
 #include <QTest>
 #include <QTimer>
 
@@ -20,7 +23,7 @@
 using namespace Qt::StringLiterals;
 
 /// Keys are pressed on native windows, as the desktop does, so that they take the whole way.
-class EscapeKeyTest : public QObject {
+class ApplicationKeyTest : public QObject {
     Q_OBJECT
 
   private Q_SLOTS:
@@ -36,36 +39,37 @@ class EscapeKeyTest : public QObject {
     void isLeftToAWindowThatHasItsOwn();
     void stopsOnceFromAPopupOfSuchAWindow();
     void otherKeysStopNothing();
+    void ctrlAndQAreHeardFromEveryWindow();
 
   private:
     void press(QWidget& window, Qt::Key key = Qt::Key_Escape);
 
     std::optional<EngineBench> _bench;
     std::optional<MainWindow> _window;
-    std::optional<EscapeKey> _escape;
+    std::optional<ApplicationKey> _escape;
 };
 
-void EscapeKeyTest::init() {
+void ApplicationKeyTest::init() {
     _bench.emplace();
     QVERIFY(_bench->connect());
     _window.emplace(_bench->engine());
-    _escape.emplace();
-    QObject::connect(&*_escape, &EscapeKey::pressed, &*_window, &MainWindow::stop);
+    _escape.emplace(Qt::Key_Escape);
+    QObject::connect(&*_escape, &ApplicationKey::pressed, &*_window, &MainWindow::stop);
     _window->show();
     QVERIFY(QTest::qWaitForWindowActive(&*_window));
 }
 
-void EscapeKeyTest::cleanup() {
+void ApplicationKeyTest::cleanup() {
     _escape.reset();
     _window.reset();
     _bench.reset();
 }
 
-void EscapeKeyTest::press(QWidget& window, Qt::Key key) {
+void ApplicationKeyTest::press(QWidget& window, Qt::Key key) {
     QTest::keyClick(window.windowHandle(), key);
 }
 
-void EscapeKeyTest::stopsOnceFromEveryControl() {
+void ApplicationKeyTest::stopsOnceFromEveryControl() {
     int count = 0;
     for (auto* control : _window->findChildren<QWidget*>()) {
         if ((control->focusPolicy() & Qt::TabFocus) == 0 || !control->isVisible() ||
@@ -80,7 +84,7 @@ void EscapeKeyTest::stopsOnceFromEveryControl() {
     QVERIFY2(count >= 17, qPrintable(QString::number(count)));
 }
 
-void EscapeKeyTest::stopsFromAMenu() {
+void ApplicationKeyTest::stopsFromAMenu() {
     auto* menu = _window->findChild<QMenu*>(u"sendMenu"_s);
     menu->popup(_window->mapToGlobal(QPoint(10, 10)));
     QVERIFY(QTest::qWaitForWindowExposed(menu));
@@ -89,14 +93,14 @@ void EscapeKeyTest::stopsFromAMenu() {
     QCOMPARE(_bench->written(), "0a");
 }
 
-void EscapeKeyTest::stopsFromTheMenuBar() {
+void ApplicationKeyTest::stopsFromTheMenuBar() {
     _window->menuBar()->setActiveAction(_window->menuBar()->actions().constFirst());
     press(*_window);
     press(*_window);
     QCOMPARE(_bench->written(), "0a 0a");
 }
 
-void EscapeKeyTest::stopsFromAContextMenu() {
+void ApplicationKeyTest::stopsFromAContextMenu() {
     QMenu menu;
     menu.addAction(u"Copy"_s);
     menu.popup(_window->mapToGlobal(QPoint(10, 10)));
@@ -106,7 +110,7 @@ void EscapeKeyTest::stopsFromAContextMenu() {
     QCOMPARE(_bench->written(), "0a");
 }
 
-void EscapeKeyTest::stopsFromAnAlertAndClosesIt() {
+void ApplicationKeyTest::stopsFromAnAlertAndClosesIt() {
     DesktopApplication application;
     application.setAlertParent(&*_window);
     QTimer::singleShot(0, &*_window, [this] {
@@ -129,7 +133,7 @@ void EscapeKeyTest::stopsFromAnAlertAndClosesIt() {
     QCOMPARE(_bench->written(), "0a");
 }
 
-void EscapeKeyTest::stopsFromTheGuideAndTheAboutBox() {
+void ApplicationKeyTest::stopsFromTheGuideAndTheAboutBox() {
     for (const auto* name : {"guideAction", "aboutAction"}) {
         _window->findChild<QAction*>(QString::fromLatin1(name))->trigger();
         QPointer<QWidget> opened;
@@ -148,7 +152,7 @@ void EscapeKeyTest::stopsFromTheGuideAndTheAboutBox() {
     }
 }
 
-void EscapeKeyTest::isLeftToAWindowThatHasItsOwn() {
+void ApplicationKeyTest::isLeftToAWindowThatHasItsOwn() {
     QWidget other;
     int presses = 0;
     const QShortcut own(Qt::Key_Escape, &other, [&presses] { ++presses; });
@@ -160,7 +164,7 @@ void EscapeKeyTest::isLeftToAWindowThatHasItsOwn() {
     QCOMPARE(_bench->written(), "");
 }
 
-void EscapeKeyTest::stopsOnceFromAPopupOfSuchAWindow() {
+void ApplicationKeyTest::stopsOnceFromAPopupOfSuchAWindow() {
     QWidget other;
     const QShortcut own(Qt::Key_Escape, &other,
                         [this] { _bench->engine().stopMessageSending(nullptr); });
@@ -176,10 +180,29 @@ void EscapeKeyTest::stopsOnceFromAPopupOfSuchAWindow() {
     QCOMPARE(_bench->written(), "0a");
 }
 
-void EscapeKeyTest::otherKeysStopNothing() {
+void ApplicationKeyTest::otherKeysStopNothing() {
     press(*_window, Qt::Key_Shift);
     QCOMPARE(_bench->written(), "");
 }
 
-static const RegisteredTest<EscapeKeyTest> registered;
-#include "EscapeKeyTest.moc"
+void ApplicationKeyTest::ctrlAndQAreHeardFromEveryWindow() {
+    const ApplicationKey quit(Qt::CTRL | Qt::Key_Q);
+    const QSignalSpy presses(&quit, &ApplicationKey::pressed);
+    QWidget other;
+    AlertBox alert({.messageText = u"Ready?"_s, .informativeText = {}}, &*_window);
+    _window->findChild<QAction*>(u"guideAction"_s)->trigger();
+    auto* guide = _window->findChild<GuideWindow*>();
+    other.show();
+    int heard = 0;
+    for (QWidget* each : {&other, static_cast<QWidget*>(guide), static_cast<QWidget*>(&alert)}) {
+        each->show();
+        QVERIFY(QTest::qWaitForWindowExposed(each));
+        press(*each, Qt::Key_Q);
+        QCOMPARE(presses.size(), heard);
+        QTest::keyClick(each->windowHandle(), Qt::Key_Q, Qt::ControlModifier);
+        QCOMPARE(presses.size(), ++heard);
+    }
+}
+
+static const RegisteredTest<ApplicationKeyTest> registered;
+#include "ApplicationKeyTest.moc"

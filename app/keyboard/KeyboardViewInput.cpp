@@ -1,0 +1,244 @@
+// What the operator does to the keyboard view: keys, input methods, the mouse, the clipboard.
+
+#include "app/keyboard/Composition.h"
+#include "app/keyboard/KeyboardView.h"
+#include "app/keyboard/TypedKey.h"
+#include "keyer/WinKeyerUsb.h"
+
+#include <QAction>
+#include <QContextMenuEvent>
+#include <QGuiApplication>
+#include <QInputMethod>
+#include <QInputMethodEvent>
+#include <QMenu>
+#include <QMimeData>
+#include <QScopedValueRollback>
+#include <QTextCursor>
+
+#include <memory>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QInputMethodEvent::Attribute underlined(qsizetype length) {
+    QTextCharFormat format;
+    format.setFontUnderline(true);
+    return {QInputMethodEvent::TextFormat, 0, static_cast<int>(length), format};
+}
+
+} // namespace
+
+/// Text that goes where the caret is, as if it had been composed there.
+void KeyboardView::enter(const QString& text) {
+    QInputMethodEvent event;
+    event.setCommitString(text);
+    inputMethodEvent(&event);
+}
+
+/// What is to go into the text at `place`, instead of its selection, of what was typed there.
+QString KeyboardView::readied(const QString& typed, const QTextCursor& place) {
+    const auto before = _text.characterAt(place.selectionStart() - 1);
+    const auto after = _text.characterAt(place.selectionEnd());
+    _kept.add(KeyboardText::inOneLine(typed, before, after));
+    _isHoldingText = _kept.hasComplete() && (_isHoldingText || isPaddleInUse());
+    const auto complete = _isHoldingText ? QString() : _kept.release();
+    const bool isBehindMessage = place.selectionStart() == _messageEnd && after.isNull();
+    if (isBehindMessage && before != u' ' && !complete.isEmpty() && !complete.startsWith(u' ')) {
+        return u' ' + complete;
+    }
+    return complete;
+}
+
+bool KeyboardView::isPaddleInUse() const {
+    return _engine != nullptr && _engine->activity() == KeyerActivity::BreakIn;
+}
+
+void KeyboardView::handOverHeldText() {
+    _isHoldingText = false;
+    showKept();
+}
+
+/// As being composed where the caret is. What an input method composes takes the place of the
+/// selection, even when it is nothing.
+void KeyboardView::showKept() {
+    const QTextCursor selection = textCursor();
+    auto caret = selection;
+    caret.clearSelection();
+    setTextCursor(caret);
+    enter({});
+    if (selection.hasSelection()) {
+        setTextCursor(selection);
+    }
+}
+
+bool KeyboardView::takeKeyOfKept(const QKeyEvent& event) {
+    if (_kept.isEmpty() || event.key() != Qt::Key_Backspace) {
+        return false;
+    }
+    _kept.eraseLast();
+    showKept();
+    return true;
+}
+
+/// Held text goes in where the caret is by then.
+void KeyboardView::followCaretWithKept() {
+    if (!_kept.isEmpty()) {
+        showKept();
+    }
+}
+
+void KeyboardView::dropMerge() {
+    if (!_kept.isEmpty()) {
+        _kept.dropMerge();
+        showKept();
+    }
+}
+
+void KeyboardView::dropHeldText() {
+    if (!_kept.isEmpty()) {
+        _kept.clear();
+        _isHoldingText = false;
+        showKept();
+    }
+}
+
+void KeyboardView::keyPressEvent(QKeyEvent* event) {
+    _scrollRest.noteUse();
+    if (event->matches(QKeySequence::Undo)) {
+        undoTyping();
+    } else if (event->matches(QKeySequence::Redo)) {
+        redoTyping();
+    } else if (TypedKey::isText(*event) || TypedKey::isLineEnd(*event)) {
+        enterKey(*event);
+    } else if (takeKeyOfKept(*event)) {
+        return;
+    } else if (isCaretInSentText() && event->key() == Qt::Key_End && !event->modifiers()) {
+        moveCursor(QTextCursor::End);
+    } else {
+        if (!TypedKey::isModifier(*event)) {
+            dropMerge();
+        }
+        if (Composition::isDisturbedBy(*event) && Composition::isIn(*document())) {
+            endComposition();
+        }
+        QPlainTextEdit::keyPressEvent(event);
+        followCaretWithKept();
+    }
+}
+
+/// A letter with Alt is a command, if one that nobody knows, and Return over a selection a slip.
+void KeyboardView::enterKey(const QKeyEvent& event) {
+    if ((event.modifiers() & TypedKey::commandKeys) != 0) {
+        return;
+    }
+    if (!TypedKey::isLineEnd(event)) {
+        enter(event.text());
+    } else if (!textCursor().hasSelection()) {
+        enter(u"\n"_s);
+    }
+}
+
+/// What is kept back of a merge stands in front of what an input method composes.
+void KeyboardView::inputMethodEvent(QInputMethodEvent* event) {
+    _scrollRest.noteUse();
+    const auto complete = readied(event->commitString(), textCursor());
+    const auto kept = _kept.all();
+    QList<QInputMethodEvent::Attribute> attributes;
+    if (!kept.isEmpty()) {
+        attributes.append(underlined(kept.size()));
+    }
+    for (auto attribute : event->attributes()) {
+        const bool isOfText = attribute.type == QInputMethodEvent::Selection;
+        attribute.start += isOfText ? 0 : static_cast<int>(kept.size());
+        attributes.append(attribute);
+    }
+    QInputMethodEvent composed(kept + event->preeditString(), attributes);
+    const auto replaced = Composition::replacementAt(textCursor(), *event);
+    composed.setCommitString(complete, replaced.start, replaced.length);
+    QPlainTextEdit::inputMethodEvent(&composed);
+    event->setAccepted(composed.isAccepted());
+    Q_EMIT waitingCountChanged();
+}
+
+void KeyboardView::endComposition() {
+    QGuiApplication::inputMethod()->commit();
+    Composition::removeFrom(*document());
+}
+
+void KeyboardView::mousePressEvent(QMouseEvent* event) {
+    _scrollRest.noteUse();
+    dropMerge();
+    QPlainTextEdit::mousePressEvent(event);
+    followCaretWithKept();
+}
+
+void KeyboardView::mouseReleaseEvent(QMouseEvent* event) {
+    _scrollRest.noteUse();
+    QPlainTextEdit::mouseReleaseEvent(event);
+}
+
+void KeyboardView::contextMenuEvent(QContextMenuEvent* event) {
+    const std::unique_ptr<QMenu> menu(createStandardContextMenu(event->pos()));
+    if (auto* undo = menu->findChild<QAction*>(u"edit-undo"_s)) {
+        undo->disconnect();
+        undo->setEnabled(canUndoTyping());
+        QObject::connect(undo, &QAction::triggered, this, &KeyboardView::undoTyping);
+    }
+    if (auto* redo = menu->findChild<QAction*>(u"edit-redo"_s)) {
+        redo->disconnect();
+        redo->setEnabled(canRedoTyping());
+        QObject::connect(redo, &QAction::triggered, this, &KeyboardView::redoTyping);
+    }
+    menu->exec(event->globalPos());
+    _scrollRest.noteUse();
+}
+
+QMimeData* KeyboardView::createMimeDataFromSelection() const {
+    auto plain = std::make_unique<QMimeData>();
+    plain->setText(KeyboardText::withSpaces(textCursor().selectedText()));
+    return plain.release();
+}
+
+// The base class counts a composition as text when it looks for the place under the mouse, too.
+bool KeyboardView::canInsertFromMimeData(const QMimeData* source) const {
+    return source->hasText() && !Composition::isIn(*document());
+}
+
+void KeyboardView::insertFromMimeData(const QMimeData* source) {
+    if (!source->hasText()) {
+        return; // a pasted picture leaves even the selection alone
+    }
+    if (!_isDropping) {
+        enter(source->text());
+        return;
+    }
+    auto caret = textCursor();
+    caret.insertText(readied(source->text(), caret));
+}
+
+// A drop is one edit of the document, whose lines are laid out anew only when it is over. Until
+// then no place may be looked for in them; the base class shows the caret afterwards.
+void KeyboardView::dropEvent(QDropEvent* event) {
+    {
+        const QScopedValueRollback guard(_isDropping, true);
+        QPlainTextEdit::dropEvent(event);
+    }
+    followCaretWithKept();
+}
+
+void KeyboardView::focusInEvent(QFocusEvent* event) {
+    QPlainTextEdit::focusInEvent(event);
+    if (_engine != nullptr && _engine->textShouldBeginEditing(this)) {
+        _engine->textDidBeginEditing(this);
+    }
+    followCaret();
+}
+
+void KeyboardView::focusOutEvent(QFocusEvent* event) {
+    if (_engine != nullptr && _engine->textShouldEndEditing(this)) {
+        _engine->textDidEndEditing(this);
+    }
+    QPlainTextEdit::focusOutEvent(event);
+    followCaret();
+}

@@ -1,0 +1,107 @@
+#include "app/window/ContactFields.h"
+
+#include "tests/app/window/MainWindowFixture.h"
+#include "tests/support/RegisteredTest.h"
+
+#include <QLineEdit>
+
+using namespace Qt::StringLiterals;
+
+/// The keys that go from one contact to the next.
+class ContactFieldsTest : public QObject, private MainWindowFixture {
+    Q_OBJECT
+
+  private Q_SLOTS:
+    void init();
+    void cleanup() { close(); }
+
+    void theKeyOfTheCallSelectsItAll_data();
+    void theKeyOfTheCallSelectsItAll();
+    void theNextContactHasTheNextNumberAndNoCallYet();
+    void aHeldKeyIsOneContact();
+    void wipingLeavesTheNumber();
+    void aCallThatWaitsIsSentFirst();
+    void aCallTypedMeanwhileIsNotWiped();
+
+  private:
+    [[nodiscard]] QLineEdit& field() { return *find<QLineEdit>(u"hisCallsignTextField"_s); }
+
+    WinKeyerUsb* _engine = nullptr;
+};
+
+void ContactFieldsTest::init() {
+    open();
+    _engine = &_bench->engine();
+    _engine->setHisCallsign(u"W9XYZ"_s);
+    _engine->setSerialNumber(7);
+}
+
+void ContactFieldsTest::theKeyOfTheCallSelectsItAll_data() {
+    QTest::addColumn<bool>("isThere");
+    QTest::addRow("from elsewhere") << false;
+    QTest::addRow("from the field itself") << true;
+}
+
+void ContactFieldsTest::theKeyOfTheCallSelectsItAll() {
+    QFETCH(const bool, isThere);
+    if (isThere) {
+        field().setFocus();
+        field().end(false);
+    }
+    press(Qt::Key_L, Qt::ControlModifier);
+    QVERIFY(field().hasFocus());
+    QCOMPARE(field().selectedText(), u"W9XYZ"_s);
+    type(u"K1A"_s);
+    QCOMPARE(_engine->hisCallsign(), u"K1A"_s);
+}
+
+void ContactFieldsTest::theNextContactHasTheNextNumberAndNoCallYet() {
+    press(Qt::Key_F11);
+    QCOMPARE(_engine->serialNumber(), 8);
+    QCOMPARE(_engine->hisCallsign(), u""_s);
+    QVERIFY(field().hasFocus());
+    type(u"K1A"_s);
+    QCOMPARE(_engine->hisCallsign(), u"K1A"_s);
+    QCOMPARE(_bench->written(), "");
+}
+
+void ContactFieldsTest::aHeldKeyIsOneContact() {
+    auto* window = _window->windowHandle();
+    QTest::simulateEvent(window, true, Qt::Key_F11, Qt::NoModifier, {}, false);
+    QTest::simulateEvent(window, true, Qt::Key_F11, Qt::NoModifier, {}, true);
+    QCOMPARE(_engine->serialNumber(), 8);
+}
+
+void ContactFieldsTest::wipingLeavesTheNumber() {
+    press(Qt::Key_W, Qt::AltModifier);
+    QCOMPARE(_engine->serialNumber(), 7);
+    QCOMPARE(_engine->hisCallsign(), u""_s);
+    QVERIFY(field().hasFocus());
+    QCOMPARE(_bench->written(), "");
+}
+
+void ContactFieldsTest::aCallThatWaitsIsSentFirst() {
+    _engine->appendMessage(u"e~k"_s);
+    press(Qt::Key_F11);
+    QByteArray sent;
+    for (int i = 0; i < 10; ++i) {
+        sent += QByteArray::fromHex(_bench->written());
+        _bench->receive({'E'});
+    }
+    QCOMPARE(sent, "EW9XYZK");
+    QCOMPARE(_engine->hisCallsign(), u""_s);
+    QCOMPARE(field().text(), u""_s);
+}
+
+void ContactFieldsTest::aCallTypedMeanwhileIsNotWiped() {
+    _engine->appendMessage(u"e~k"_s);
+    press(Qt::Key_F11);
+    type(u"K1A"_s);
+    for (int i = 0; i < 10; ++i) {
+        _bench->receive({'E'});
+    }
+    QCOMPARE(_engine->hisCallsign(), u"K1A"_s);
+}
+
+static const RegisteredTest<ContactFieldsTest> registered;
+#include "ContactFieldsTest.moc"

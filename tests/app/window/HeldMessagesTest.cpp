@@ -1,0 +1,191 @@
+#include "app/window/HeldMessages.h"
+
+#include "app/keyboard/KeyboardView.h"
+#include "app/window/MessageButton.h"
+#include "tests/app/window/MainWindowFixture.h"
+#include "tests/support/RegisteredTest.h"
+
+#include <QLabel>
+#include <QTextBlock>
+
+using namespace Qt::StringLiterals;
+
+/// Messages pressed while the paddle is in use.
+class HeldMessagesTest : public QObject, private MainWindowFixture {
+    Q_OBJECT
+
+  private Q_SLOTS:
+    void init();
+    void cleanup() { close(); }
+
+    void aMessageIsHeldUntilTheKeyerIsIdle_data();
+    void aMessageIsHeldUntilTheKeyerIsIdle();
+    void oneThatWaitsIsShown();
+    void severalGoInOrderAndEachOnce();
+    void whatStopsTheSendingDropsThem_data();
+    void whatStopsTheSendingDropsThem();
+    void laterMessagesAreNotHeld();
+    void typedTextIsHeldToo();
+    void heldTextCanBeCorrected();
+    void textAndMessagesKeepTheirOrder_data();
+    void textAndMessagesKeepTheirOrder();
+    void heldTextIsDroppedWithTheMessages();
+
+  private:
+    [[nodiscard]] QString text() { return _bench->engine().keyboardBuffer(); }
+    [[nodiscard]] KeyboardView& view() { return *find<KeyboardView>(u"keyboardView"_s); }
+    [[nodiscard]] MessageButton& button(int number) {
+        return *find<MessageButton>(u"message%1Button"_s.arg(number));
+    }
+    [[nodiscard]] QString status() { return find<QLabel>(u"keyerStatusLabel"_s)->text(); }
+};
+
+void HeldMessagesTest::init() {
+    open();
+    _bench->receive({0xC6});
+}
+
+void HeldMessagesTest::aMessageIsHeldUntilTheKeyerIsIdle_data() {
+    QTest::addColumn<bool>("isByKey");
+    QTest::addRow("by key") << true;
+    QTest::addRow("by click") << false;
+}
+
+void HeldMessagesTest::aMessageIsHeldUntilTheKeyerIsIdle() {
+    QFETCH(const bool, isByKey);
+    if (isByKey) {
+        press(Qt::Key_F2);
+    } else {
+        click(button(2));
+    }
+    QCOMPARE(text(), u""_s);
+    _bench->receive({0xC4}); // still in the break-in's hang time
+    QCOMPARE(text(), u""_s);
+    QCOMPARE(_bench->written(), "");
+    _bench->receive({0xC0});
+    QCOMPARE(text(), u"5NN NH"_s);
+    QCOMPARE(_bench->written(), "35");
+    QVERIFY(!button(2).isHeld());
+    // Once.
+    _bench->receive({0xC6});
+    _bench->receive({0xC0});
+    QCOMPARE(text(), u""_s);
+}
+
+void HeldMessagesTest::oneThatWaitsIsShown() {
+    const auto before = button(2).grab().toImage();
+    QVERIFY(!status().contains(u"for the paddle"));
+    press(Qt::Key_F2);
+    QVERIFY(button(2).isHeld());
+    QVERIFY(!button(1).isHeld());
+    QVERIFY(button(2).grab().toImage() != before);
+    QCOMPARE(button(2).accessibleDescription(), u"Waits for the paddle: 5NN NH"_s);
+    QVERIFY(status().contains(u"for the paddle to be free: Esc drops it"));
+    _bench->receive({0xC0});
+    QCOMPARE(button(2).grab().toImage(), before);
+    QCOMPARE(button(2).accessibleDescription(), u"5NN NH"_s);
+    QVERIFY(!status().contains(u"for the paddle"));
+}
+
+void HeldMessagesTest::severalGoInOrderAndEachOnce() {
+    press(Qt::Key_F7);
+    press(Qt::Key_F2);
+    press(Qt::Key_F7);
+    _bench->receive({0xC0});
+    QCOMPARE(text(), u"? 5NN NH"_s);
+}
+
+void HeldMessagesTest::whatStopsTheSendingDropsThem_data() {
+    QTest::addColumn<QString>("way");
+    for (const auto* way : {"Escape", "the Stop button", "a link that goes"}) {
+        QTest::addRow("%s", way) << QString::fromLatin1(way);
+    }
+}
+
+void HeldMessagesTest::whatStopsTheSendingDropsThem() {
+    QFETCH(const QString, way);
+    press(Qt::Key_F2);
+    if (way == u"Escape") {
+        press(Qt::Key_Escape);
+    } else if (way == u"the Stop button") {
+        click(*find<QWidget>(u"stopButton"_s));
+    } else {
+        QVERIFY(_bench->engine().disconnect(nullptr));
+        QVERIFY(_bench->connect());
+    }
+    QVERIFY(!button(2).isHeld());
+    static_cast<void>(_bench->written());
+    _bench->receive({0xC0});
+    QCOMPARE(text(), u""_s);
+    QCOMPARE(_bench->written(), "");
+}
+
+void HeldMessagesTest::laterMessagesAreNotHeld() {
+    _bench->receive({0xC0});
+    press(Qt::Key_F7);
+    QCOMPARE(_bench->written(), "3f");
+}
+
+void HeldMessagesTest::typedTextIsHeldToo() {
+    type(u"tu 73"_s);
+    QCOMPARE(text(), u""_s);
+    QCOMPARE(_bench->written(), "");
+    QVERIFY(status().contains(u"for the paddle to be free: Esc drops it"));
+    QCOMPARE(view().document()->firstBlock().layout()->preeditAreaText(), u"tu 73"_s);
+    QCOMPARE(view().waitingCount(), 5);
+    _bench->receive({0xC4});
+    type(u" k"_s);
+    QCOMPARE(_bench->written(), "");
+    _bench->receive({0xC0});
+    QCOMPARE(text(), u"TU 73 K"_s);
+    QCOMPARE(view().text(), text());
+    QCOMPARE(_bench->written(), "54");
+    QVERIFY(!status().contains(u"for the paddle"));
+    type(u"e"_s);
+    QCOMPARE(text(), u"TU 73 KE"_s);
+}
+
+void HeldMessagesTest::heldTextCanBeCorrected() {
+    type(u"tu{a"_s);
+    press(Qt::Key_Backspace);
+    press(Qt::Key_Backspace);
+    press(Qt::Key_Backspace);
+    type(u"est"_s);
+    press(Qt::Key_Left); // there is nowhere to go
+    _bench->receive({0xC0});
+    QCOMPARE(text(), u"TEST"_s);
+}
+
+void HeldMessagesTest::textAndMessagesKeepTheirOrder_data() {
+    QTest::addColumn<bool>("isTextFirst");
+    QTest::addColumn<QString>("result");
+    QTest::addRow("the text first") << true << u"TU 5NN NH"_s;
+    QTest::addRow("the message first") << false << u"5NN NH TU"_s;
+}
+
+void HeldMessagesTest::textAndMessagesKeepTheirOrder() {
+    QFETCH(const bool, isTextFirst);
+    if (!isTextFirst) {
+        press(Qt::Key_F2);
+    }
+    type(u"tu"_s);
+    if (isTextFirst) {
+        press(Qt::Key_F2);
+    }
+    _bench->receive({0xC0});
+    QTEST(text(), "result");
+}
+
+void HeldMessagesTest::heldTextIsDroppedWithTheMessages() {
+    type(u"tu"_s);
+    press(Qt::Key_Escape);
+    QCOMPARE(view().document()->firstBlock().layout()->preeditAreaText(), u""_s);
+    QVERIFY(!status().contains(u"for the paddle"));
+    _bench->receive({0xC0});
+    QCOMPARE(text(), u""_s);
+    type(u"k"_s);
+    QCOMPARE(text(), u"K"_s);
+}
+
+static const RegisteredTest<HeldMessagesTest> registered;
+#include "HeldMessagesTest.moc"
