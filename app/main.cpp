@@ -1,11 +1,11 @@
 #include "app/ApplicationKey.h"
 #include "app/DesktopApplication.h"
-#include "app/FieldEdges.h"
 #include "app/KeyGuard.h"
 #include "app/KeyRepeat.h"
 #include "app/KeyingRecord.h"
 #include "app/MenuShield.h"
 #include "app/QuorvelDelegate.h"
+#include "app/QuorvelStyle.h"
 #include "app/SettingsFileAlert.h"
 #include "app/Termination.h"
 #include "app/TerminationSignals.h"
@@ -21,6 +21,7 @@
 #include "platform/linux/LinuxDeviceRegistry.h"
 #include "platform/linux/LogindPower.h"
 #include "platform/linux/SingleInstance.h"
+#include "preferences/MBPreferencesController.h"
 #include "preferences/PreferencesController.h"
 #include "preferences/PreferencesGeneral.h"
 #include "preferences/PreferencesMessagesViewController.h"
@@ -87,6 +88,11 @@ int run(SingleInstance& instance) {
     preferences.awakeFromNib();
     QObject::connect(&window, &MainWindow::preferencesRequested, &preferences,
                      [&] { preferences.showPreferences(&window); });
+    QObject::connect(&window, &MainWindow::portRequested, &preferences, [&] {
+        MBPreferencesController::sharedController().setSelectedPreferenceItemWithIdentifier(
+            u"PreferencesGeneralPane"_s);
+        preferences.showPreferences(&window);
+    });
     QObject::connect(&delegate, &QuorvelDelegate::serialPortNameArrayChanged, &preferences,
                      [&] { preferences.setSerialPortNames(delegate.serialPortNameArray()); });
 
@@ -146,7 +152,7 @@ int main(int argc, char* argv[]) {
     // The toolkit takes it out of the environment.
     const auto token = activationToken();
     const QApplication toolkit(argc, argv);
-    QApplication::setStyle(new FieldEdges);
+    QApplication::setStyle(new QuorvelStyle);
     const Translations translations(QLocale(), u":/translations"_s);
 
     SingleInstance instance;

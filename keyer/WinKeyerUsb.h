@@ -215,6 +215,10 @@ class WinKeyerUsb final : public QObject, public ORSSerialPortDelegate {
 
     /// Index of the next character of keyboardBuffer to be sent.
     [[nodiscard]] qsizetype outputBufferIndex() const { return _outputBufferIndex; }
+    /// When the beacon is to send again, by the platform's clock; nothing while it is off, or waits
+    /// for the keyer to be idle.
+    [[nodiscard]] std::optional<Clock::Duration> beaconDue() const;
+
     /// Index of the first character of keyboardBuffer that the keyer has been given and has not
     /// echoed; outputBufferIndex() when there is none.
     [[nodiscard]] qsizetype inFlightIndex() const { return _inFlightIndex; }
@@ -326,4 +330,5 @@ class WinKeyerUsb final : public QObject, public ORSSerialPortDelegate {
     int _beaconState = 0;
     QString _beaconMessage;
     std::shared_ptr<Timer> _beaconTimer;
+    Clock::Duration _beaconDue{0};
 };

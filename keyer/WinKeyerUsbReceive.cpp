@@ -116,9 +116,18 @@ void WinKeyerUsb::handleIdle() {
             std::clamp(SettingsStore::standardUserDefaults().doubleForKey(BeaconInterval.key), 0.0,
                        longestBeaconInterval));
         // The timer before this one is let go of, not stopped.
-        _beaconTimer = Platform::current().clock().scheduleTimer(
-            std::chrono::duration_cast<Clock::Duration>(interval), this,
-            [this] { repeatMessage(); });
+        auto& clock = Platform::current().clock();
+        const auto rest = std::chrono::duration_cast<Clock::Duration>(interval);
+        _beaconDue = clock.now() + rest;
+        _beaconTimer = clock.scheduleTimer(rest, this, [this] { repeatMessage(); });
     }
     send();
+}
+
+std::optional<Clock::Duration> WinKeyerUsb::beaconDue() const {
+    const bool isWaiting = _beaconTimer && _beaconTimer->isValid();
+    if (beaconState() == 0 || _beaconMessage.isNull() || !isWaiting) {
+        return std::nullopt;
+    }
+    return _beaconDue;
 }

@@ -120,7 +120,7 @@ void KeyboardText::apply(const TextChange& change) {
     cursor.beginEditBlock();
     // First in, then out: so a caret at either end stays at that end.
     cursor.setPosition(end);
-    cursor.insertText(change.inserted);
+    cursor.insertText(change.inserted, QTextCharFormat());
     cursor.setPosition(begin);
     cursor.setPosition(end, QTextCursor::KeepAnchor);
     cursor.removeSelectedText();

@@ -14,7 +14,7 @@
 #include <algorithm>
 
 KeyboardView::KeyboardView(QWidget* parent)
-    : QPlainTextEdit(parent), _text(*document()), _scrollRest(this) {
+    : QPlainTextEdit(parent), _text(*document()), _sentCalls(*document()), _scrollRest(this) {
     // The document knows nothing of what has been sent, and its own undo would key text twice.
     setUndoRedoEnabled(false);
     setTabChangesFocus(true);
@@ -34,6 +34,7 @@ void KeyboardView::setEngine(WinKeyerUsb& engine) {
     QObject::connect(_engine, &WinKeyerUsb::keyboardBufferChanged, this,
                      &KeyboardView::showEnginesText);
     QObject::connect(_engine, &WinKeyerUsb::sendingProgressed, this, &KeyboardView::takeProgress);
+    QObject::connect(_engine, &WinKeyerUsb::activityChanged, this, &KeyboardView::takeProgress);
     QObject::connect(_engine, &WinKeyerUsb::messageSendingStopped, this,
                      &KeyboardView::dropHeldText);
     showChange(TextChange::between(text(), _engine->keyboardBuffer()));
@@ -84,7 +85,7 @@ void KeyboardView::replaceText(qsizetype begin, qsizetype end, const QString& te
     QTextCursor cursor(document());
     cursor.setPosition(static_cast<int>(begin));
     cursor.setPosition(static_cast<int>(end), QTextCursor::KeepAnchor);
-    cursor.insertText(readied(text, cursor));
+    cursor.insertText(readied(text, cursor), QTextCharFormat());
     if (!_kept.isEmpty()) {
         setTextCursor(cursor);
         showKept();
@@ -190,13 +191,19 @@ void KeyboardView::keepSelection(int begin, int end, bool isReversed) {
 // How far the sending is.
 
 SendingMarks::State KeyboardView::sendingState() const {
-    return {_engine->inFlightIndex(), _engine->outputBufferIndex()};
+    return {_engine->inFlightIndex(), _engine->outputBufferIndex(), isLinked()};
+}
+
+bool KeyboardView::isLinked() const {
+    return _engine != nullptr && _engine->activity() != KeyerActivity::NotConnected;
 }
 
 qsizetype KeyboardView::waitingCount() const {
+    if (!isLinked()) {
+        return 0;
+    }
     const auto held = _isHoldingText ? _kept.all().size() : 0;
-    return _engine == nullptr ? 0
-                              : _engine->keyboardBuffer().size() - _engine->inFlightIndex() + held;
+    return _engine->keyboardBuffer().size() - _engine->inFlightIndex() + held;
 }
 
 void KeyboardView::takeProgress() {
@@ -212,6 +219,7 @@ void KeyboardView::takeProgress() {
 void KeyboardView::showProgress() {
     _history.handOver(_engine->outputBufferIndex());
     announceHistory();
+    noteSentCalls();
     if (_shownState != sendingState()) {
         _shownState = sendingState();
         viewport()->update();
@@ -219,6 +227,18 @@ void KeyboardView::showProgress() {
     followCaret();
     followSending();
     Q_EMIT waitingCountChanged();
+}
+
+void KeyboardView::noteSentCalls() {
+    const auto sent = _engine->inFlightIndex();
+    const auto text = _engine->keyboardBuffer();
+    const QScopedValueRollback guard(_isChangingDocument, true);
+    for (auto i = std::min(_callsSeen, sent); isLinked() && i < sent; ++i) {
+        if (text.at(i) == u'~') {
+            _sentCalls.note(static_cast<int>(i), _engine->hisCallsign().toUpper(), font());
+        }
+    }
+    _callsSeen = sent;
 }
 
 /// The caret is a block where typing has the keyer send again what it has been given.
@@ -285,5 +305,13 @@ void KeyboardView::paintEvent(QPaintEvent* event) {
             break;
         }
         marks.paint(painter, {block, geometry.topLeft()});
+        SentCalls::paint(painter, block, geometry.topLeft(), font(), colors);
+    }
+}
+
+void KeyboardView::changeEvent(QEvent* event) {
+    QPlainTextEdit::changeEvent(event);
+    if (event->type() == QEvent::FontChange) {
+        _sentCalls.fit(font());
     }
 }

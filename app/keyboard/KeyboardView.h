@@ -5,6 +5,7 @@
 #include "app/keyboard/KeyboardText.h"
 #include "app/keyboard/ScrollRest.h"
 #include "app/keyboard/SendingMarks.h"
+#include "app/keyboard/SentCalls.h"
 
 #include <QPlainTextEdit>
 
@@ -35,8 +36,12 @@ class KeyboardView final : public QPlainTextEdit {
     /// Puts `text` in place of the characters [begin, end), as if the operator had typed it.
     void replaceText(qsizetype begin, qsizetype end, const QString& text);
 
-    /// How many characters are on their way or wait.
+    /// How many characters are on their way or wait; 0 while no keyer is connected, when what is
+    /// typed goes nowhere.
     [[nodiscard]] qsizetype waitingCount() const;
+
+    /// Whether a keyer is connected.
+    [[nodiscard]] bool isLinked() const;
 
     /// Whether typed text is kept back because the paddle was in use when it was typed.
     [[nodiscard]] bool isHoldingText() const { return _isHoldingText; }
@@ -74,6 +79,7 @@ class KeyboardView final : public QPlainTextEdit {
     void contextMenuEvent(QContextMenuEvent* event) override;
     void dropEvent(QDropEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
+    void changeEvent(QEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
     [[nodiscard]] QMimeData* createMimeDataFromSelection() const override;
@@ -105,6 +111,7 @@ class KeyboardView final : public QPlainTextEdit {
     void followCaret();
     void takeProgress();
     void showProgress();
+    void noteSentCalls();
     void followSending();
     [[nodiscard]] bool isInUse() const;
     [[nodiscard]] int linesInSight() const;
@@ -118,6 +125,9 @@ class KeyboardView final : public QPlainTextEdit {
     /// Where the message that was added last ends, -1 without one.
     qsizetype _messageEnd = -1;
     SendingMarks::State _shownState;
+    SentCalls _sentCalls;
+    /// How far the text has been looked through for signs that stand for a call.
+    qsizetype _callsSeen = 0;
     ScrollRest _scrollRest;
     bool _isChangingDocument = false;
     bool _isEngineTakingText = false;

@@ -50,6 +50,9 @@ QString KeyboardViewAccessible::text(QAccessible::Text kind) const {
     case QAccessible::Value:
         return _view.text();
     case QAccessible::Description: {
+        if (!_view.isLinked()) {
+            return tr("Not connected: nothing is sent");
+        }
         const auto waiting = static_cast<int>(_view.waitingCount());
         return waiting == 0 ? tr("Nothing waits to be sent")
                             : tr("Characters still to be sent: %1").arg(waiting);

@@ -153,6 +153,9 @@ void KeyboardView::inputMethodEvent(QInputMethodEvent* event) {
         attribute.start += isOfText ? 0 : static_cast<int>(kept.size());
         attributes.append(attribute);
     }
+    if (!complete.isEmpty()) {
+        setCurrentCharFormat(QTextCharFormat()); // what is typed beside a sign has no call
+    }
     QInputMethodEvent composed(kept + event->preeditString(), attributes);
     const auto replaced = Composition::replacementAt(textCursor(), *event);
     composed.setCommitString(complete, replaced.start, replaced.length);
@@ -214,7 +217,7 @@ void KeyboardView::insertFromMimeData(const QMimeData* source) {
         return;
     }
     auto caret = textCursor();
-    caret.insertText(readied(source->text(), caret));
+    caret.insertText(readied(source->text(), caret), QTextCharFormat());
 }
 
 // A drop is one edit of the document, whose lines are laid out anew only when it is over. Until

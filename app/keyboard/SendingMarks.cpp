@@ -41,6 +41,13 @@ void underline(QPainter& painter, const QTextLine& line, const QRectF& extent,
     painter.drawLine(QPointF(extent.left(), y), QPointF(extent.right(), y));
 }
 
+void strikeOut(QPainter& painter, const QTextLine& line, const QRectF& extent,
+               const QColor& color) {
+    const auto y = extent.top() + line.ascent() * 0.68;
+    painter.setPen(QPen(color, std::max(1.0, std::round(line.height() / 16))));
+    painter.drawLine(QPointF(extent.left(), y), QPointF(extent.right(), y));
+}
+
 void invert(QPainter& painter, const QTextLine& line, const QRectF& extent, QPointF origin,
             const QPalette& palette) {
     painter.save();
@@ -71,6 +78,13 @@ void SendingMarks::paintPart(QPainter& painter, const Paragraph& paragraph, Rang
     for (int i = 0; i < layout.lineCount(); ++i) {
         const auto line = layout.lineAt(i);
         if (!line.rect().translated(paragraph.origin).intersects(_visible)) {
+            continue;
+        }
+        if (!_state.isLinked) {
+            const auto all = extent(line, inLayout(paragraph.block, part));
+            if (!all.isEmpty()) {
+                strikeOut(painter, line, all.translated(paragraph.origin), ink);
+            }
             continue;
         }
         if (const auto where = extent(line, inLayout(paragraph.block, onItsWay));

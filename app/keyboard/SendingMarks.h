@@ -11,7 +11,8 @@
 class QPainter;
 
 /// How far a text has been sent, drawn over it: sent text is plain, what is on its way stands in
-/// an inverse box, what waits is underlined with dots. Shapes, not colours, tell them apart, also
+/// an inverse box, what waits is underlined with dots, and what goes nowhere, because no keyer is
+/// connected, is struck out. Shapes, not colours, tell them apart, also
 /// where the text is selected.
 class SendingMarks {
   public:
@@ -19,6 +20,7 @@ class SendingMarks {
     struct State {
         qsizetype inFlight = 0;
         qsizetype waiting = 0;
+        bool isLinked = true;
 
         [[nodiscard]] bool operator==(const State&) const = default;
     };

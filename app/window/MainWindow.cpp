@@ -2,6 +2,7 @@
 
 #include "app/window/AboutBox.h"
 #include "app/window/AnswerNotice.h"
+#include "app/window/BeaconCountdown.h"
 #include "app/window/ContactFields.h"
 #include "app/window/EditActions.h"
 #include "app/window/GuideWindow.h"
@@ -12,12 +13,16 @@
 #include "app/window/TuneSwitch.h"
 #include "app/window/TuneTimer.h"
 #include "app/window/WindowPlace.h"
+#include "keyer/KeyerSettings.h"
 #include "keyer/KeyerWatch.h"
 #include "keyer/WinKeyerUsb.h"
+#include "platform/SettingsStore.h"
 #include "ui_MainWindow.h"
 
 #include <QCloseEvent>
 #include <QGuiApplication>
+#include <QMenuBar>
+#include <QShortcut>
 
 using namespace Qt::StringLiterals;
 
@@ -30,6 +35,13 @@ void join(QAction& action, SwitchButton& button) {
     QObject::connect(&button, &SwitchButton::enabledChanged, &action, &QAction::setEnabled);
     action.setChecked(button.isChecked());
     action.setEnabled(button.isEnabled());
+}
+
+/// Of the beacon, as the widest that is expected.
+constexpr int longestShownSeconds = 999;
+
+QString secondsToBeacon(int seconds) {
+    return seconds > 0 ? MainWindow::tr(" %1 s").arg(seconds) : QString();
 }
 
 /// Sets a font that is so many points larger than the application's.
@@ -58,11 +70,18 @@ MainWindow::MainWindow(WinKeyerUsb& engine)
     setUpMenus();
     new WindowPlace(*this, u"MainWindowPlace"_s, this);
 
-    _ui->keyerStatusLabel->setEngine(_engine);
+    _ui->connectionStrip->setEngine(_engine);
+    QObject::connect(_ui->connectionStrip, &ConnectionStrip::portRequested, this,
+                     &MainWindow::portRequested);
+    _ui->keyerStatusLabel->follow(_engine, *_beaconCountdown);
     QObject::connect(_heldMessages, &HeldMessages::changed, this, &MainWindow::showNotice);
     QObject::connect(_ui->keyboardView, &KeyboardView::caretInSentTextChanged, this,
                      &MainWindow::showNotice);
+    QObject::connect(_ui->keyboardView, &KeyboardView::waitingCountChanged, this,
+                     &MainWindow::showWaiting);
+    showWaiting();
     QObject::connect(&_engine, &WinKeyerUsb::speedStringChanged, this, &MainWindow::showSpeed);
+    QObject::connect(&_engine, &WinKeyerUsb::hscwStateChanged, this, &MainWindow::noteHighSpeed);
     showSpeed();
     QObject::connect(&_engine, &WinKeyerUsb::tuneStateChanged, this, &MainWindow::showTitle);
     showTitle();
@@ -116,6 +135,11 @@ void MainWindow::setUpSwitches() {
     new ModeSwitches(
         _engine, {.pause = _ui->pauseButton, .hscw = _ui->hscwButton, .beacon = _ui->beaconButton},
         this);
+    _beaconCountdown = new BeaconCountdown(_engine, this);
+    _ui->beaconButton->reserveDetail(secondsToBeacon(longestShownSeconds));
+    QObject::connect(_beaconCountdown, &BeaconCountdown::secondsChanged, this, [this] {
+        _ui->beaconButton->setDetail(secondsToBeacon(_beaconCountdown->seconds()));
+    });
     QObject::connect(_ui->stopButton, &QPushButton::clicked, this, &MainWindow::stop);
 }
 
@@ -140,6 +164,8 @@ void MainWindow::setUpMenus() {
                      _ui->incrementSerialNumberButton, &QToolButton::click);
     QObject::connect(_ui->decrementSerialNumberAction, &QAction::triggered,
                      _ui->decrementSerialNumberButton, &QToolButton::click);
+    new QShortcut(Qt::Key_F10, this,
+                  [this] { menuBar()->setActiveAction(menuBar()->actions().constFirst()); });
     _editActions =
         std::make_unique<EditActions>(*this, *_ui->keyboardView,
                                       EditActions::Actions{.undo = _ui->undoAction,
@@ -218,12 +244,27 @@ void MainWindow::enlargeFonts() {
     enlarge(*_ui->speedLabel, 10);
 }
 
+/// As the keyer was told: in hundreds of letters a minute.
+void MainWindow::noteHighSpeed() {
+    const auto rate = SettingsStore::standardUserDefaults().integerForKey(WKHSCWSpeed) / 100 * 100;
+    _highSpeed = _engine.hscwState() != 0 ? tr("%1 LPM").arg(rate) : QString();
+    showSpeed();
+}
+
 void MainWindow::showSpeed() {
-    const auto speed = _engine.speedString();
-    const auto shown = speed.isNull() ? tr("– WPM") : speed;
+    const auto knobs = _engine.speedString().isNull() ? tr("– WPM") : _engine.speedString();
+    const auto shown = _highSpeed.isEmpty() ? knobs : _highSpeed;
     _ui->speedLabel->setText(shown);
     // A screen reader reads the label's name in place of its text.
     _ui->speedLabel->setAccessibleDescription(shown);
+}
+
+void MainWindow::showWaiting() {
+    const auto count = static_cast<int>(_ui->keyboardView->waitingCount());
+    _ui->waitingLabel->setText(count == 0 ? QString() : tr("%1 waiting").arg(count));
+    _ui->keyboardView->setPlaceholderText(_ui->keyboardView->isLinked()
+                                              ? tr("Type here to send")
+                                              : tr("Not connected: nothing is sent"));
 }
 
 /// What the operator has to know before the next key.

@@ -2,9 +2,12 @@
 
 #include <QMainWindow>
 
+#include <QString>
+
 #include <memory>
 
 class EditActions;
+class BeaconCountdown;
 class ContactFields;
 class GuideWindow;
 class HeldMessages;
@@ -40,6 +43,8 @@ class MainWindow final : public QMainWindow {
 
   Q_SIGNALS:
     void preferencesRequested();
+    /// The preferences, where the port is chosen.
+    void portRequested();
     void quitRequested();
     /// The keyer's port is closed, and the operator wants it connected again.
     void connectionWanted();
@@ -57,14 +62,19 @@ class MainWindow final : public QMainWindow {
     void enlargeFonts();
     void showGuide();
     void showNotice();
+    void noteHighSpeed();
     void showSpeed();
+    void showWaiting();
     void showTitle();
 
     WinKeyerUsb& _engine;
     std::unique_ptr<Ui::MainWindow> _ui;
     std::unique_ptr<EditActions> _editActions;
     HeldMessages* _heldMessages = nullptr;
+    BeaconCountdown* _beaconCountdown = nullptr;
     ContactFields* _contact = nullptr;
     TuneSwitch* _tuneSwitch = nullptr;
     GuideWindow* _guide = nullptr;
+    /// The rate of high-speed CW while it is on.
+    QString _highSpeed;
 };

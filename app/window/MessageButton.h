@@ -2,13 +2,17 @@
 
 #include <QPushButton>
 
-/// A button for one stored message. A label that is too long for it is shown cut short, so that
-/// the operator's own words never widen the window.
+/// A button for one stored message: its label, and in a second, smaller line what it sends. What is
+/// too long for it is shown cut short, so that the operator's own words never widen the window; the
+/// second line is left out where there is no room for it.
 class MessageButton final : public QPushButton {
     Q_OBJECT
   public:
     using QPushButton::QPushButton;
 
+    /// What the second line shows.
+    void setPreview(const QString& preview);
+    [[nodiscard]] QString preview() const { return _preview; }
     /// Shows that the message has been pressed and waits.
     void setHeld(bool isHeld);
     [[nodiscard]] bool isHeld() const { return _isHeld; }
@@ -21,7 +25,10 @@ class MessageButton final : public QPushButton {
     void paintEvent(QPaintEvent* event) override;
 
   private:
-    [[nodiscard]] QSize sizeFor(int characters) const;
+    [[nodiscard]] QFont smallFont() const;
+    [[nodiscard]] QSize sizeFor(int characters, int height) const;
+    void drawLine(QPainter& painter, QRect rect, const QString& text) const;
 
+    QString _preview;
     bool _isHeld = false;
 };

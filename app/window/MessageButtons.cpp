@@ -14,6 +14,8 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr qsizetype longestMenuLabel = 40;
+constexpr qsizetype longestToolTip = 600;
+constexpr int longestWord = 30;
 
 /// A label is the operator's own text: an ampersand in it is no keyboard shortcut.
 QString withoutMnemonic(QString label) {
@@ -22,6 +24,23 @@ QString withoutMnemonic(QString label) {
 
 QString shortened(const QString& label) {
     return label.size() <= longestMenuLabel ? label : label.first(longestMenuLabel - 1) + u'…';
+}
+
+/// Text that a tool tip breaks into lines, whatever its length. What is kept in one line is the
+/// operator's text itself, a long one without spaces.
+QString toolTipOf(const QString& text) {
+    const bool isLong = text.size() > longestToolTip;
+    QString broken;
+    int sinceSpace = 0;
+    for (const auto character : isLong ? text.first(longestToolTip) + u'…' : text) {
+        sinceSpace = character == u' ' ? 0 : sinceSpace + 1;
+        broken += character;
+        if (sinceSpace == longestWord) {
+            broken += u'\u200b'; // where a line may end
+            sinceSpace = 0;
+        }
+    }
+    return Qt::convertFromPlainText(broken, Qt::WhiteSpaceNormal);
 }
 
 } // namespace
@@ -54,7 +73,8 @@ void MessageButtons::show() {
         const bool isHeld = _held.isHeld(button);
         button->setHeld(isHeld);
         button->setAccessibleDescription(isHeld ? tr("Waits for the paddle: %1").arg(text) : text);
-        button->setToolTip(Qt::convertFromPlainText(text));
+        button->setPreview(text);
+        button->setToolTip(toolTipOf(text));
         button->setText(tr("F%1  %2").arg(i + 1).arg(withoutMnemonic(label)));
         action->setText(tr("&%1  %2").arg(i + 1).arg(withoutMnemonic(shortened(label))));
     }

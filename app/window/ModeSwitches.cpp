@@ -4,6 +4,8 @@
 
 #include <QAbstractButton>
 
+#include <algorithm>
+
 ModeSwitches::ModeSwitches(WinKeyerUsb& engine, const Buttons& buttons, QObject* parent)
     : QObject(parent), _engine(engine) {
     setUpPause(*buttons.pause);
@@ -32,20 +34,40 @@ void ModeSwitches::setUpHSCW(QAbstractButton& button) {
         }
     });
     QObject::connect(&_engine, &WinKeyerUsb::activityChanged, this,
-                     [this, &button] { followLink(button); });
+                     [this, &button] { followKeyer(button); });
+    QObject::connect(&_engine, &WinKeyerUsb::sendingProgressed, this, &ModeSwitches::followText);
+    QObject::connect(&_engine, &WinKeyerUsb::messageSendingStopped, this,
+                     &ModeSwitches::noteKnobsSpeed);
     follow();
-    followLink(button);
+    followKeyer(button);
 }
 
-/// A keyer that is connected again is at the speed of its pot.
-void ModeSwitches::followLink(QAbstractButton& hscw) {
+/// Tells the keyer nothing: it is at that speed already.
+void ModeSwitches::noteKnobsSpeed() {
+    _engine.setHscwState(0);
+}
+
+/// A break-in empties the keyer's buffer, and with it goes the speed that is set there. A keyer
+/// that is connected again is at the speed of its pot.
+void ModeSwitches::followKeyer(QAbstractButton& hscw) {
     const bool isConnected = _engine.activity() != KeyerActivity::NotConnected;
-    if (!isConnected) {
-        _engine.setHscwState(0);
+    if (!isConnected || _engine.activity() == KeyerActivity::BreakIn) {
+        noteKnobsSpeed();
     }
     hscw.setEnabled(isConnected);
     hscw.setToolTip(isConnected ? tr("Send at the high speed of the preferences (Ctrl+H)")
                                 : tr("High-speed CW needs a keyer, and none is connected"));
+}
+
+void ModeSwitches::followText() {
+    const auto end = _engine.outputBufferIndex();
+    const auto begin = std::min(_textSeen, end);
+    const auto handedOver = _engine.keyboardBuffer().mid(begin, end - begin);
+    _textSeen = end;
+    const bool isLinked = _engine.activity() != KeyerActivity::NotConnected;
+    if (isLinked && handedOver.lastIndexOf(u'%') > handedOver.lastIndexOf(u'^')) {
+        _engine.setHscwState(1);
+    }
 }
 
 void ModeSwitches::setUpBeacon(QAbstractButton& button) {

@@ -6,7 +6,9 @@ class QAbstractButton;
 class WinKeyerUsb;
 
 /// The switches for pause, high-speed CW and beacon, each in step with the engine's property: the
-/// engine pauses by itself, and ends a beacon and high-speed CW. A screen reader toggles a switch
+/// engine pauses by itself, and ends a beacon and high-speed CW. High-speed CW is also on from a
+/// "%" in the text on, and off when a stop or a break-in has put the keyer back to the speed of its
+/// pot, of which the engine's property knows nothing. A screen reader toggles a switch
 /// without a click, so that it is the change of a switch which counts, where the engine differs.
 class ModeSwitches final : public QObject {
     Q_OBJECT
@@ -24,7 +26,11 @@ class ModeSwitches final : public QObject {
     void setUpPause(QAbstractButton& button);
     void setUpHSCW(QAbstractButton& button);
     void setUpBeacon(QAbstractButton& button);
-    void followLink(QAbstractButton& hscw);
+    void followKeyer(QAbstractButton& hscw);
+    void followText();
+    void noteKnobsSpeed();
 
     WinKeyerUsb& _engine;
+    /// How far the text has been looked through for the begin of high-speed CW.
+    qsizetype _textSeen = 0;
 };

@@ -13,7 +13,19 @@ SwitchButton::SwitchButton(QWidget* parent) : QPushButton(parent) {
 
 void SwitchButton::initStyleOption(QStyleOptionButton* option) const {
     QPushButton::initStyleOption(option);
-    option->text = (isChecked() ? u"●\u2009"_s : u"○\u2009"_s) + option->text;
+    option->text = (isChecked() ? u"●\u2009"_s : u"○\u2009"_s) + option->text + _detail;
+}
+
+void SwitchButton::setDetail(const QString& detail) {
+    if (_detail != detail) {
+        _detail = detail;
+        update();
+    }
+}
+
+void SwitchButton::reserveDetail(const QString& widest) {
+    _widestDetail = widest;
+    updateGeometry();
 }
 
 void SwitchButton::changeEvent(QEvent* event) {
@@ -26,7 +38,8 @@ void SwitchButton::changeEvent(QEvent* event) {
 QSize SwitchButton::sizeHint() const {
     QStyleOptionButton option;
     initStyleOption(&option);
-    const auto text = fontMetrics().size(Qt::TextShowMnemonic, option.text);
+    option.text.chop(_detail.size());
+    const auto text = fontMetrics().size(Qt::TextShowMnemonic, option.text + _widestDetail);
     return style()
         ->sizeFromContents(QStyle::CT_PushButton, &option, text, this)
         .expandedTo(QSize(0, leastButtonHeight));

@@ -9,6 +9,11 @@ class SwitchButton final : public QPushButton {
   public:
     explicit SwitchButton(QWidget* parent = nullptr);
 
+    /// Something more to show behind the text, a short one; there is room for `widest` from the
+    /// start, so that nothing moves.
+    void setDetail(const QString& detail);
+    void reserveDetail(const QString& widest);
+
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
 
@@ -18,4 +23,8 @@ class SwitchButton final : public QPushButton {
   protected:
     void changeEvent(QEvent* event) override;
     void initStyleOption(QStyleOptionButton* option) const override;
+
+  private:
+    QString _detail;
+    QString _widestDetail;
 };

@@ -7,6 +7,11 @@
 
 using namespace Qt::StringLiterals;
 
+namespace {
+/// Stands out of light and dark themes, and white on it is read from afar.
+constexpr QColor danger(0xB3, 0x00, 0x1E);
+} // namespace
+
 TuneWarning::TuneWarning(QWidget* parent) : QLabel(parent) {
     setFrameStyle(QFrame::Box | QFrame::Plain);
     setLineWidth(3);
@@ -15,8 +20,10 @@ TuneWarning::TuneWarning(QWidget* parent) : QLabel(parent) {
     setWordWrap(true);
     setTextFormat(Qt::PlainText);
     setAutoFillBackground(true);
-    setBackgroundRole(QPalette::Highlight);
-    setForegroundRole(QPalette::HighlightedText);
+    auto colors = palette();
+    colors.setColor(QPalette::Window, danger);
+    colors.setColor(QPalette::WindowText, Qt::white);
+    setPalette(colors);
     hide();
 }
 

@@ -117,9 +117,10 @@ class MainWindowTest(ProgramTest):
         quorvel.wait_for("the menu", lambda: self.is_menu_open(window, "Guide"))
         self.desktop.press("Escape")
         keyer.wait_for("the key to rise", lambda: not keyer.is_key_down())
-        # The menu bar has the keyboard yet.
-        self.desktop.press("Escape")
+        # What is typed next is text, and chooses nothing in the menus.
         self.active_window(quorvel)
+        self.desktop.type("kt")
+        keyer.has_keyed("KT")
 
         self.press_switch(quorvel, window, "Tune")
         keyer.wait_for("the key", keyer.is_key_down)
@@ -131,6 +132,36 @@ class MainWindowTest(ProgramTest):
         keyer.wait_for("the key to rise", lambda: not keyer.is_key_down())
         self.active_window(quorvel)
         self.terminate(keyer, quorvel)
+
+    def test_after_a_click_on_a_button_and_a_menu_text_is_text(self):
+        keyer, quorvel, window = self.start_connected()
+        self.desktop.click(window.find("Tune"))
+        keyer.wait_for("the key", keyer.is_key_down)
+        self.desktop.click(window.find("Tune"))
+        keyer.wait_for("the key to rise", lambda: not keyer.is_key_down())
+        self.desktop.type("cq cq de n0call")
+        keyer.has_keyed("CQCQDEN0CALL")
+
+        self.desktop.click(self.menu_title(window, "Keyer"))
+        quorvel.wait_for("the menu", lambda: self.is_menu_open(window, "Tune"))
+        self.desktop.type("tu  tu ")
+        self.assertTrue(self.is_menu_open(window, "Tune"))
+        self.desktop.press("Escape")
+        quorvel.wait_for("the menu to go", lambda: not self.is_menu_open(window, "Tune"))
+        self.desktop.type("k")
+        keyer.wait_for("the letter", lambda: keyer.keyed().endswith("K"))
+        self.assertFalse(keyer.is_key_down())
+        self.terminate(keyer, quorvel)
+
+    def test_the_preferences_take_no_message_key_and_let_quit(self):
+        keyer, quorvel, window = self.start_connected()
+        self.desktop.press("ctrl+comma")
+        quorvel.wait_for("the preferences", lambda: "Quorvel" not in self.active_title())
+        self.desktop.press("F1")
+        self.desktop.press("ctrl+q")
+        self.assertEqual(quorvel.status(), 0)
+        self.assertEqual(keyer.keyed(), "")
+        self.expect_closed(keyer)
 
     def test_a_plugged_port_may_be_refused(self):
         self.write_settings(SETTINGS.replace(PORT, "None"))
@@ -156,6 +187,10 @@ class MainWindowTest(ProgramTest):
             self.desktop.press("Tab")
             quorvel.wait_for("the focus to move", lambda: self.focused(window) != focused)
         self.fail(f"Tab does not lead to {name}: {window.describe()}")
+
+    def menu_title(self, window, name):
+        return next(each for each in window.all()
+                    if each.role() == "menu item" and each.name() == name)
 
     def is_menu_open(self, window, item):
         return any(each.name() == item and each.is_in_state("showing")

@@ -23,6 +23,7 @@ class KeyboardViewMarksTest : public QObject {
     void sentTextIsPlain();
     void whatIsBeingComposedBearsNoMark();
     void anEchoRepaintsTheView();
+    void withoutAKeyerTheTextIsStruckOut();
 
   private:
     /// One character's cell, as which pixels are not background.
@@ -160,6 +161,21 @@ void KeyboardViewMarksTest::whatIsBeingComposedBearsNoMark() {
         }
     }
     QCOMPARE(isMarked, (QList<bool>{true, false, false, false, true}));
+}
+
+void KeyboardViewMarksTest::withoutAKeyerTheTextIsStruckOut() {
+    setColors(Qt::black, Qt::white);
+    QVERIFY(_station->engine().disconnect(nullptr));
+    _station->keys(u"....."_s);
+    for (int i = 0; i < 5; ++i) {
+        const auto cell = cellAt(i, Qt::white);
+        QVERIFY2(cell.ink > 0.03 && cell.ink < 0.3, qPrintable(QString::number(cell.ink)));
+    }
+    // With a keyer there is nothing above the points' own height.
+    const auto struckOut = _station->view.viewport()->grab().toImage();
+    QVERIFY(_station->bench.connect());
+    QVERIFY(_station->view.viewport()->grab().toImage() != struckOut);
+    QVERIFY(cellAt(0, Qt::white).ink > 0.5); // on its way, by the next byte from the keyer at least
 }
 
 /// Counts the paint events of a widget.

@@ -1,5 +1,8 @@
 #include "app/window/KeyerStatusLine.h"
 
+#include "app/window/BeaconCountdown.h"
+#include "keyer/MessageSettings.h"
+#include "platform/NotificationCenter.h"
 #include "tests/keyer/EngineBench.h"
 #include "tests/support/RegisteredTest.h"
 
@@ -8,6 +11,7 @@
 #include <optional>
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
 class KeyerStatusLineTest : public QObject {
     Q_OBJECT
@@ -22,20 +26,27 @@ class KeyerStatusLineTest : public QObject {
     void saysWhatTheKeyerDoes();
     void saysThatThePauseIsOn();
     void saysThatTuneIsOn();
+    void tellsTheModes();
+    void countsToTheNextBeacon();
+    void saysThatTheMachineSleeps();
+    void saysMoreBehindAll();
 
   private:
     std::optional<EngineBench> _bench;
+    std::optional<BeaconCountdown> _countdown;
     std::optional<KeyerStatusLine> _line;
 };
 
 void KeyerStatusLineTest::init() {
     _bench.emplace();
     _line.emplace();
-    _line->setEngine(_bench->engine());
+    _countdown.emplace(_bench->engine(), nullptr);
+    _line->follow(_bench->engine(), *_countdown);
 }
 
 void KeyerStatusLineTest::cleanup() {
     _line.reset();
+    _countdown.reset();
     _bench.reset();
 }
 
@@ -85,6 +96,58 @@ void KeyerStatusLineTest::saysThatTuneIsOn() {
     QCOMPARE(_line->text(), u"Transmitting on usbserial-WK1: tune is on"_s);
     _bench->engine().setTuneState(0);
     QCOMPARE(_line->text(), u"Connected to usbserial-WK1: sending"_s);
+}
+
+void KeyerStatusLineTest::tellsTheModes() {
+    QVERIFY(_bench->connect());
+    _bench->receive({0xC4});
+    _bench->engine().setHscwState(1);
+    QCOMPARE(_line->text(), u"Connected to usbserial-WK1: sending (high-speed CW)"_s);
+    _bench->engine().setBeaconState(1);
+    QCOMPARE(_line->text(), u"Connected to usbserial-WK1: sending (high-speed CW, beacon on)"_s);
+    QCOMPARE(_line->accessibleDescription(), _line->text());
+    _bench->engine().setHscwState(0);
+    _bench->engine().setBeaconState(0);
+    // A pause is told as what the keyer does, unless it does something else yet.
+    _bench->engine().setPauseState(1);
+    QCOMPARE(_line->text(), u"Connected to usbserial-WK1: paused"_s);
+    _bench->engine().setTuneState(1);
+    QCOMPARE(_line->text(), u"Transmitting on usbserial-WK1: tune is on"_s);
+}
+
+void KeyerStatusLineTest::countsToTheNextBeacon() {
+    QVERIFY(_bench->connect());
+    _bench->settings().setObject(2.5, BeaconInterval.key);
+    _bench->engine().setBeaconState(1);
+    _bench->engine().appendMessage(u"e"_s);
+    _bench->receive({0xC0});
+    QCOMPARE(_line->text(), u"Connected to usbserial-WK1: idle (beacon again in 3 s)"_s);
+    const auto spoken = u"Connected to usbserial-WK1: idle (beacon on)"_s;
+    QCOMPARE(_line->accessibleDescription(), spoken);
+    _bench->clock().advance(500ms);
+    QCOMPARE(_line->text(), u"Connected to usbserial-WK1: idle (beacon again in 2 s)"_s);
+    _bench->clock().advance(1s);
+    QCOMPARE(_line->text(), u"Connected to usbserial-WK1: idle (beacon again in 1 s)"_s);
+    QCOMPARE(_line->accessibleDescription(), spoken);
+    _bench->clock().advance(1s);
+    QCOMPARE(_line->text(), u"Connected to usbserial-WK1: idle (beacon on)"_s);
+}
+
+void KeyerStatusLineTest::saysThatTheMachineSleeps() {
+    QVERIFY(_bench->connect());
+    auto& center = _bench->platform().notifications();
+    center.post(NSWorkspaceWillSleepNotification, nullptr);
+    QCOMPARE(_line->text(), u"The machine sleeps: usbserial-WK1 is closed"_s);
+    center.post(NSWorkspaceDidWakeNotification, nullptr);
+    QVERIFY(_line->text().startsWith(u"Connected to usbserial-WK1"_s));
+}
+
+void KeyerStatusLineTest::saysMoreBehindAll() {
+    _line->setNotice(u"Mind the step"_s);
+    QCOMPARE(_line->text(), u"Not connected. Mind the step"_s);
+    QCOMPARE(_line->accessibleDescription(), _line->text());
+    _line->setNotice({});
+    QCOMPARE(_line->text(), u"Not connected"_s);
 }
 
 static const RegisteredTest<KeyerStatusLineTest> registered;

@@ -9,6 +9,7 @@
 #include <QClipboard>
 #include <QLineEdit>
 #include <QMenuBar>
+#include <QMenu>
 #include <QPushButton>
 #include <QShortcut>
 #include <QSignalSpy>
@@ -31,6 +32,7 @@ class MainWindowMenuTest : public QObject, private MainWindowFixture {
     void everyShortcutIsTakenOnce();
     void everyShortcutWorksFromEveryControl();
     void messageKeysDoNothingInOtherWindows();
+    void aKeyOpensTheMenuBar();
     void theEditMenuActsOnTheFocusedField();
     void preferencesAndQuitAreAskedFor();
     void theGuideAndTheAboutBoxOpen();
@@ -156,6 +158,14 @@ void MainWindowMenuTest::messageKeysDoNothingInOtherWindows() {
         QCOMPARE(_bench->engine().keyboardBuffer(), u""_s);
     }
     QCOMPARE(_bench->written(), "");
+}
+
+void MainWindowMenuTest::aKeyOpensTheMenuBar() {
+    press(Qt::Key_F10);
+    auto* menu = find<QMenu>(u"fileMenu"_s);
+    QVERIFY(menu->isVisible());
+    press(Qt::Key_Escape);
+    QVERIFY(!menu->isVisible());
 }
 
 void MainWindowMenuTest::theEditMenuActsOnTheFocusedField() {

@@ -1,6 +1,8 @@
 #include "app/QuorvelDelegate.h"
 #include "app/keyboard/KeyboardView.h"
 #include "keyer/GeneralSettings.h"
+#include "keyer/KeyerSettings.h"
+#include "keyer/MessageSettings.h"
 #include "tests/app/window/MainWindowFixture.h"
 #include "tests/support/RegisteredTest.h"
 
@@ -33,6 +35,8 @@ class MainWindowTest : public QObject, private MainWindowFixture {
     void aChangedLabelShowsAtOnce();
     void stopIsAButtonAndAKey();
     void theSpeedShows();
+    void atHighSpeedItsRateShows();
+    void theBeaconsSwitchCounts();
     void theirCallReachesTheEngine();
     void theirCallTakesOnlyCallSigns();
     void theSerialNumberIsSteppedAndTyped();
@@ -113,6 +117,36 @@ void MainWindowTest::theSpeedShows() {
     QCOMPARE(find<QLabel>(u"speedLabel"_s)->text(), u"25 WPM"_s);
     QVERIFY(_bench->engine().disconnect(nullptr));
     QCOMPARE(find<QLabel>(u"speedLabel"_s)->text(), u"\u2013 WPM"_s);
+}
+
+void MainWindowTest::atHighSpeedItsRateShows() {
+    const auto* speed = find<QLabel>(u"speedLabel"_s);
+    _bench->settings().setObject(u"2050 lpm"_s, WKHSCWSpeed);
+    _bench->receive({0x8C});
+    press(Qt::Key_H, Qt::ControlModifier);
+    QCOMPARE(speed->text(), u"2000 LPM"_s);
+    QCOMPARE(speed->accessibleDescription(), u"2000 LPM"_s);
+    _bench->receive({0x8D}); // the knob is turned meanwhile
+    QCOMPARE(speed->text(), u"2000 LPM"_s);
+    press(Qt::Key_Escape);
+    QCOMPARE(speed->text(), u"26 WPM"_s);
+}
+
+void MainWindowTest::theBeaconsSwitchCounts() {
+    auto* button = find<QPushButton>(u"beaconButton"_s);
+    const auto width = button->width();
+    _bench->settings().setObject(3.0, BeaconInterval.key);
+    press(Qt::Key_B, Qt::ControlModifier);
+    press(Qt::Key_F7);
+    const auto sending = button->grab().toImage();
+    _bench->receive({'?'});
+    _bench->receive({0xC0});
+    const auto three = button->grab().toImage();
+    QVERIFY(three != sending);
+    _bench->clock().advance(std::chrono::seconds(1));
+    QVERIFY(button->grab().toImage() != three);
+    QCOMPARE(button->width(), width);
+    QCOMPARE(button->text(), u"Beacon"_s);
 }
 
 void MainWindowTest::theirCallReachesTheEngine() {

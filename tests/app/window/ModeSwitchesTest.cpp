@@ -24,6 +24,10 @@ class ModeSwitchesTest : public QObject {
     void theEndOfHighSpeedInATextIsSeen();
     void aKeyerThatComesBackIsAtThePotsSpeed();
     void highSpeedNeedsAKeyer();
+    void aStopEndsHighSpeed();
+    void aBreakInEndsHighSpeed();
+    void highSpeedThatBeginsInATextIsSeen();
+    void withoutAKeyerNoTextBeginsHighSpeed();
     void beaconIsTheEngines();
     void aStopEndsTheBeacon();
     void theSwitchesStartAsTheEngineIs();
@@ -107,6 +111,46 @@ void ModeSwitchesTest::highSpeedNeedsAKeyer() {
     QVERIFY(_bench->connect());
     QVERIFY(_hscw.isEnabled());
     QCOMPARE(_hscw.toolTip(), toolTip);
+}
+
+/// It empties the keyer's buffer, which puts it back to the speed of its pot.
+void ModeSwitchesTest::aStopEndsHighSpeed() {
+    _hscw.click();
+    static_cast<void>(_bench->written());
+    _bench->engine().stopMessageSending(nullptr);
+    QVERIFY(!_hscw.isChecked());
+    QCOMPARE(_bench->engine().hscwState(), 0);
+    QCOMPARE(_bench->written(), "0a");
+    _hscw.click();
+    QCOMPARE(_bench->written(), "1d 0a");
+}
+
+void ModeSwitchesTest::aBreakInEndsHighSpeed() {
+    _hscw.click();
+    static_cast<void>(_bench->written());
+    _bench->receive({0xC6});
+    QVERIFY(!_hscw.isChecked());
+    QCOMPARE(_bench->written(), "");
+}
+
+void ModeSwitchesTest::highSpeedThatBeginsInATextIsSeen() {
+    _bench->type(u"e%e^"_s);
+    QVERIFY(!_hscw.isChecked());
+    _bench->receive({'E'});
+    QVERIFY(_hscw.isChecked());
+    QCOMPARE(_bench->written(), "45 1d 0a 45");
+    _bench->receive({'E'});
+    QVERIFY(!_hscw.isChecked());
+    QCOMPARE(_bench->written(), "1e");
+    // Both within one step.
+    _bench->type(u"e%e^%^"_s);
+    QVERIFY(!_hscw.isChecked());
+}
+
+void ModeSwitchesTest::withoutAKeyerNoTextBeginsHighSpeed() {
+    QVERIFY(_bench->engine().disconnect(nullptr));
+    _bench->type(u"%e"_s);
+    QVERIFY(!_hscw.isChecked());
 }
 
 void ModeSwitchesTest::beaconIsTheEngines() {

@@ -1,4 +1,4 @@
-#include "app/FieldEdges.h"
+#include "app/QuorvelStyle.h"
 
 #include <QAbstractScrollArea>
 #include <QPainter>
@@ -34,15 +34,15 @@ bool hasEdgeOfFocus(const QStyleOption& option) {
 
 } // namespace
 
-void FieldEdges::polish(QPalette& palette) {
+void QuorvelStyle::polish(QPalette& palette) {
     QProxyStyle::polish(palette);
     auto hint = palette.color(QPalette::Text);
     hint.setAlpha(hintOpacity);
     palette.setColor(QPalette::PlaceholderText, hint);
 }
 
-void FieldEdges::drawPrimitive(PrimitiveElement element, const QStyleOption* option,
-                               QPainter* painter, const QWidget* widget) const {
+void QuorvelStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option,
+                                 QPainter* painter, const QWidget* widget) const {
     QProxyStyle::drawPrimitive(element, option, painter, widget);
     const bool isScrolledField =
         element == PE_Frame && qobject_cast<const QAbstractScrollArea*>(widget) != nullptr;
@@ -51,10 +51,16 @@ void FieldEdges::drawPrimitive(PrimitiveElement element, const QStyleOption* opt
     }
 }
 
-void FieldEdges::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
-                                    QPainter* painter, const QWidget* widget) const {
+void QuorvelStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
+                                      QPainter* painter, const QWidget* widget) const {
     QProxyStyle::drawComplexControl(control, option, painter, widget);
     if (control == CC_SpinBox && !hasEdgeOfFocus(*option)) {
         drawEdge(*option, *painter);
     }
+}
+
+int QuorvelStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                            QStyleHintReturn* data) const {
+    return hint == SH_MenuBar_AltKeyNavigation ? 0
+                                               : QProxyStyle::styleHint(hint, option, widget, data);
 }

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QFrame>
+
+class WinKeyerUsb;
+
+/// A strip across the window that is there while no keyer is connected: says that nothing is sent,
+/// and what becomes of what is typed, and leads to the choice of port.
+class ConnectionStrip final : public QFrame {
+    Q_OBJECT
+  public:
+    explicit ConnectionStrip(QWidget* parent = nullptr);
+
+    /// Follows `engine`, which must outlive the strip.
+    void setEngine(const WinKeyerUsb& engine);
+
+  Q_SIGNALS:
+    /// The operator wants to choose a port.
+    void portRequested();
+};
