@@ -7,6 +7,8 @@
 
 #include <utility>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// Enough for the longest explanation there is, in the narrowest pane.
@@ -34,7 +36,10 @@ void ExplanationLine::follow(const SettingBinder& binder) {
 }
 
 QSize ExplanationLine::sizeHint() const {
-    return {0, lines * fontMetrics().lineSpacing()};
+    // Of so many lines, as a label measures them.
+    const auto text = QStringList(lines, u"X"_s).join(u'\n');
+    return {0,
+            fontMetrics().boundingRect(QRect(0, 0, 1000, 1000), Qt::TextWordWrap, text).height()};
 }
 
 void ExplanationLine::showEvent(QShowEvent* event) {

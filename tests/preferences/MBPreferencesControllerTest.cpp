@@ -315,7 +315,7 @@ void MBPreferencesControllerTest::aTextThatGrowsHasRoom() {
     label->setText(u"A good many words, which need more than one line or two. "_s.repeated(6));
     QTRY_VERIFY(label->height() >= label->heightForWidth(label->width()));
     QCOMPARE(controller().window().frameGeometry().topLeft(), before.topLeft());
-    QCOMPARE(controller().window().width(), before.width());
+    QCOMPARE(controller().window().frameGeometry().width(), before.width());
     // And from the beginning, when it is shown next.
     controller().changeToModule(_two);
     label->setText(u"Still more words, and all of them have to be read. "_s.repeated(12));

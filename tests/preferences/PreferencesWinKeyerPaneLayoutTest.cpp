@@ -16,6 +16,7 @@
 #include <QTabWidget>
 #include <QTest>
 #include <QTextDocument>
+#include <QToolButton>
 
 #include <algorithm>
 #include <optional>
