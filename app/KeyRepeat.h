@@ -6,10 +6,11 @@ class QKeyEvent;
 
 /// Has a key that is held down act once, wherever in the application.
 ///
-/// On X11 a repeat of a held key comes as a release and a press, which nothing but their common time
-/// stamp tells from a key that was let go of and pressed again. The toolkit recognises the pair only
-/// when both are there at once, which on a busy machine they are not. What it has taken for a new
-/// press is handed on as a repeat here: no action or switch repeats, and a text does as ever.
+/// On X11 a repeat of a held key comes as a release and a press, which nothing but their common
+/// time stamp tells from a key that was let go of and pressed again. The toolkit recognises the
+/// pair only when both are there at once, which on a busy machine they are not. What it has taken
+/// for a new press is handed on as a repeat here: no action or switch repeats, and a text does as
+/// ever.
 ///
 /// To be made after whatever else looks at keys on their way.
 class KeyRepeat final : public QObject {

@@ -67,7 +67,8 @@ void KeyerWatch::checkGreeting() {
     }
     const QScopedValueRollback guard(_isGreeting, true);
     _engine.greetAgain();
-    _greetingTimer = engineClock().scheduleTimer(patience[_greetings], this, [this] { checkGreeting(); });
+    _greetingTimer =
+        engineClock().scheduleTimer(patience[_greetings], this, [this] { checkGreeting(); });
 }
 
 void KeyerWatch::hear() {

@@ -10,11 +10,11 @@ class WinKeyerUsb;
 
 /// Sees to it that the keyer answers.
 ///
-/// A keyer from which no byte comes after it was greeted is greeted again on the open port, after 2 s
-/// and once more 5 s later: many a board starts anew when its port is opened, and loses what it is
-/// sent meanwhile. One that answers is greeted once. A keyer that does not answer at all is reported,
-/// and so is one from which nothing comes for 10 s while a character is on its way to it. Main
-/// thread only.
+/// A keyer from which no byte comes after it was greeted is greeted again on the open port, after 2
+/// s and once more 5 s later: many a board starts anew when its port is opened, and loses what it
+/// is sent meanwhile. One that answers is greeted once. A keyer that does not answer at all is
+/// reported, and so is one from which nothing comes for 10 s while a character is on its way to it.
+/// Main thread only.
 class KeyerWatch final : public QObject {
     Q_OBJECT
   public:

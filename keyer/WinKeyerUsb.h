@@ -110,8 +110,8 @@ class WinKeyerUsb final : public QObject, public ORSSerialPortDelegate {
     void putToWinKeyer(const QByteArray& bytes);
     void serialPortDidReceiveData(ORSSerialPort& port, const QByteArray& data) override;
     /// Of what sends no echo, such as half spaces, so many bytes are written ahead of the line, and
-    /// the rest as the line sends them, so that a stop never queues behind a long run of them. 0, as
-    /// at first, for no limit.
+    /// the rest as the line sends them, so that a stop never queues behind a long run of them. 0,
+    /// as at first, for no limit.
     void setRunLimit(int bytes) { _runLimit = bytes; }
     /// Sends all keyer settings as one block, when connected.
     void loadDefaults();
@@ -173,8 +173,8 @@ class WinKeyerUsb final : public QObject, public ORSSerialPortDelegate {
     /// holds a character without a code (nothing is loaded then) or the port did not take the
     /// bytes. Never fills `error`. A message too long for the space left is left out.
     [[nodiscard]] bool writeEeprom(Error* error);
-    /// Whether an image of its memory is on its way to the keyer, which takes the line more than two
-    /// seconds. Text waits meanwhile.
+    /// Whether an image of its memory is on its way to the keyer, which takes the line more than
+    /// two seconds. Text waits meanwhile.
     [[nodiscard]] bool isLoadingMemory() const { return _memoryLoad != nullptr; }
     /// Has the keyer key one of its stored messages, 1 to 6; the low 8 bits are sent as they are.
     void sendStandaloneMessage(int number);

@@ -13,8 +13,7 @@ namespace LineOutput {
 // difference to it.
 ssize_t write(int descriptor, const QByteArray& bytes) {
     static_cast<void>(::fcntl(descriptor, F_SETFL, O_NONBLOCK));
-    const auto count =
-        ::write(descriptor, bytes.constData(), static_cast<size_t>(bytes.size()));
+    const auto count = ::write(descriptor, bytes.constData(), static_cast<size_t>(bytes.size()));
     const int number = errno;
     static_cast<void>(::fcntl(descriptor, F_SETFL, 0));
     errno = number;

@@ -31,8 +31,7 @@ TuneSwitch::TuneSwitch(WinKeyerUsb& engine, QAbstractButton& button, QObject* pa
     QObject::connect(&_engine, &WinKeyerUsb::silenced, this, [this] { _engine.setTuneState(0); });
     QObject::connect(&_engine, &WinKeyerUsb::willLoadMemory, this, &TuneSwitch::letGo);
     QObject::connect(&_engine, &WinKeyerUsb::activityChanged, this, &TuneSwitch::followLink);
-    QObject::connect(&_engine, &WinKeyerUsb::isLoadingMemoryChanged, this,
-                     &TuneSwitch::followLink);
+    QObject::connect(&_engine, &WinKeyerUsb::isLoadingMemoryChanged, this, &TuneSwitch::followLink);
     follow();
     followLink();
 }
@@ -50,8 +49,8 @@ void TuneSwitch::letGo() {
     }
 }
 
-/// That the keyer is idle may have been on its way already when tune was switched on. The key up that
-/// is written in any case does nothing to a keyer whose key is up.
+/// That the keyer is idle may have been on its way already when tune was switched on. The key up
+/// that is written in any case does nothing to a keyer whose key is up.
 void TuneSwitch::followStatus(std::uint8_t status) {
     const bool isIdle = (status & KeyerStatus::anything) == 0;
     const auto age = Platform::current().clock().now() - _since;

@@ -12,8 +12,8 @@ class WinKeyerUsb;
 /// A keyer holds the key until it is told otherwise, so the switch falls, and the keyer is told,
 /// on every way out: when sending is stopped, when something is to be sent, when the keyer tells
 /// that the paddle is used or that it keys no more, and when the link goes, be it for a sleep.
-/// Switched on, it stops what is being sent. It can be switched on only while there is a keyer whose
-/// memory is not being loaded.
+/// Switched on, it stops what is being sent. It can be switched on only while there is a keyer
+/// whose memory is not being loaded.
 class TuneSwitch final : public QObject {
     Q_OBJECT
   public:

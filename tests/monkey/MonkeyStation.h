@@ -1,7 +1,7 @@
 #pragma once
 
-#include "app/DesktopApplication.h"
 #include "app/ApplicationKey.h"
+#include "app/DesktopApplication.h"
 #include "app/MenuShield.h"
 #include "app/QuorvelDelegate.h"
 #include "app/TypingWatch.h"

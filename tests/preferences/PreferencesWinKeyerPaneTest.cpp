@@ -1,6 +1,5 @@
 #include "keyer/KeyerSettings.h"
 #include "preferences/PreferencesWinKeyerViewController.h"
-#include "preferences/binding/NumberBox.h"
 #include "tests/keyer/EngineBench.h"
 #include "tests/preferences/PaneOperator.h"
 #include "tests/support/RegisteredTest.h"
@@ -9,7 +8,6 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
-#include <QStyleOptionSpinBox>
 #include <QTabWidget>
 #include <QTest>
 #include <QToolButton>
@@ -37,16 +35,6 @@ class PreferencesWinKeyerPaneTest : public QObject {
     void aControlStoresAndSends();
     void everySettingIsOperatedHere();
     void checkBoxesWorkBothWays();
-    void aNumberActsOnceItHasSettled();
-    void aNumberThatHasNotSettledActsAtTheEnd();
-    void aNumberThatIsHiddenActsAtTheEnd();
-    void twoNumbersActInTheOrderOfTheirChanges();
-    void commandsComeInTheOrderOfTheChanges();
-    void heldKeysSendOneCommand();
-    void arrowsWorkByMouse();
-    void aNumberThatComesBackIsSent();
-    void aNumberOutOfRangeIsToldAndNothingElse_data();
-    void aNumberOutOfRangeIsToldAndNothingElse();
     void resetBringsTheDefaultBack();
     void theSwitchpointNeedsTheMemory();
     void whatHasNoEffectIsOff_data();
@@ -55,7 +43,6 @@ class PreferencesWinKeyerPaneTest : public QObject {
     void withoutAnOutputItTellsThatNothingIsKeyed();
     void withoutTheMemoryItOpensWithoutASwitchpoint();
     void aChangeFromElsewhereIsShown();
-    void aStoredValueOutOfRangeIsToldAndKept();
     void allSettingsSurviveARestart();
 
   private:
@@ -281,140 +268,6 @@ void PreferencesWinKeyerPaneTest::checkBoxesWorkBothWays() {
     }
 }
 
-void PreferencesWinKeyerPaneTest::aNumberActsOnceItHasSettled() {
-    auto& weighting = _operator->control(WKWeighting);
-    weighting.setFocus();
-    QTest::keyClick(&weighting, Qt::Key_Up);
-    QCOMPARE(settings().integerForKey(WKWeighting), 1);
-    QCOMPARE(_bench->written(), "");
-    _bench->clock().advance(1s);
-    QCOMPARE(_bench->written(), "03 33");
-
-    QTest::keyClick(&weighting, Qt::Key_Up);
-    QTest::keyClick(&weighting, Qt::Key_Tab); // left: that settles it
-    QCOMPARE(_bench->written(), "03 34");
-}
-
-void PreferencesWinKeyerPaneTest::aNumberThatHasNotSettledActsAtTheEnd() {
-    _operator->type(WKWeighting, u"7"_s);
-    QCOMPARE(_bench->written(), "");
-    _operator.reset();
-    _controller.reset();
-    QCOMPARE(settings().integerForKey(WKWeighting), 7);
-    QCOMPARE(_bench->written(), "03 39");
-}
-
-void PreferencesWinKeyerPaneTest::aNumberThatIsHiddenActsAtTheEnd() {
-    auto& weighting = _operator->control<NumberBox>(WKWeighting);
-    view().hide();
-    weighting.stepUp(); // as an assistive tool may
-    QCOMPARE(_bench->written(), "");
-    _operator.reset();
-    _controller.reset();
-    QCOMPARE(_bench->written(), "03 33");
-}
-
-/// Each of the two commands of a pair of numbers tells both.
-void PreferencesWinKeyerPaneTest::twoNumbersActInTheOrderOfTheirChanges() {
-    _operator->toggle(WKPTTEnable);
-    static_cast<void>(_bench->written());
-    auto& tail = _operator->control(WKPTTTailTime);
-    auto& ratio = _operator->control(WKRatio);
-    tail.setFocus();
-    QTest::keyClick(&tail, Qt::Key_Up);
-    pages().setCurrentIndex(0);
-    ratio.setFocus();
-    QTest::keyClick(&ratio, Qt::Key_Up);
-    _bench->clock().advance(1s);
-    QCOMPARE(_bench->written(), "04 00 0b 17 33");
-}
-
-/// Else the late switchpoint would turn the memory on again.
-void PreferencesWinKeyerPaneTest::commandsComeInTheOrderOfTheChanges() {
-    pages().setCurrentIndex(1);
-    _operator->control<NumberBox>(WKPaddleSwitchpoint).setValue(60);
-    _operator->control<QCheckBox>(WKEnableDitDahMemory).click();
-    _bench->clock().advance(1s);
-    QCOMPARE(_bench->written(), "12 3c 12 00");
-}
-
-void PreferencesWinKeyerPaneTest::heldKeysSendOneCommand() {
-    auto& lead = _operator->control(WKPTTLeadTime);
-    settings().setObject(true, WKPTTEnable);
-    pages().setCurrentIndex(2);
-    lead.setFocus();
-    for (int i = 0; i < 12; ++i) {
-        QTest::keyClick(&lead, Qt::Key_Up);
-        _bench->clock().advance(30ms); // as keys repeat
-    }
-    QCOMPARE(settings().integerForKey(WKPTTLeadTime), 12);
-    QCOMPARE(_bench->written(), "");
-    _bench->clock().advance(1s);
-    QCOMPARE(_bench->written(), "04 0c 0a");
-}
-
-void PreferencesWinKeyerPaneTest::arrowsWorkByMouse() {
-    auto& ratio = _operator->control<NumberBox>(WKRatio);
-    QStyleOptionSpinBox option;
-    option.initFrom(&ratio);
-    option.subControls = QStyle::SC_All;
-    option.stepEnabled = QAbstractSpinBox::StepUpEnabled | QAbstractSpinBox::StepDownEnabled;
-    const auto arrow =
-        ratio.style()->subControlRect(QStyle::CC_SpinBox, &option, QStyle::SC_SpinBoxDown, &ratio);
-    QTest::mouseClick(&ratio, Qt::LeftButton, {}, arrow.center());
-    QTest::mouseClick(&ratio, Qt::LeftButton, {}, arrow.center());
-    QCOMPARE(settings().doubleForKey(WKRatio), 2.8);
-    _bench->clock().advance(1s);
-    QCOMPARE(_bench->written(), "17 2e");
-}
-
-/// A command of its neighbour has told the keyer of what was there in between.
-void PreferencesWinKeyerPaneTest::aNumberThatComesBackIsSent() {
-    auto& lead = _operator->control(WKPTTLeadTime);
-    settings().setObject(true, WKPTTEnable);
-    pages().setCurrentIndex(2);
-    lead.setFocus();
-    QTest::keyClick(&lead, Qt::Key_Up);
-    _controller->changePTT(nullptr);
-    QCOMPARE(_bench->written(), "04 01 0a");
-    QTest::keyClick(&lead, Qt::Key_Down);
-    _bench->clock().advance(1s);
-    QCOMPARE(_bench->written(), "04 00 0a");
-}
-
-void PreferencesWinKeyerPaneTest::aNumberOutOfRangeIsToldAndNothingElse_data() {
-    QTest::addColumn<QString>("key");
-    for (const auto& setting : keyerSettings) {
-        if (setting.range) {
-            QTest::newRow(setting.key.data()) << QString(setting.key);
-        }
-    }
-}
-
-void PreferencesWinKeyerPaneTest::aNumberOutOfRangeIsToldAndNothingElse() {
-    QFETCH(QString, key);
-    const auto setting = std::ranges::find_if(
-        keyerSettings, [&key](const Setting& each) { return each.key == key; });
-    _operator->meetNeeds(setting->key);
-    static_cast<void>(_bench->written());
-    const auto& box = _operator->control<NumberBox>(setting->key);
-    for (const auto text : {-1000, -41, -1, 0, 1, 3, 4, 9, 33, 100, 181, 251, 300, 4000, 99999}) {
-        const auto before = settings().objectForKey(key);
-        _operator->enter(setting->key, QString::number(text));
-        const bool isOffered = text >= setting->range->minimum * box.scale() &&
-                               text <= setting->range->maximum * box.scale();
-        const auto words = view().findChild<QLabel*>(u"explanation"_s)->text();
-        QCOMPARE(words.contains(u"%1%2 is out of range"_s.arg(text).arg(box.suffix())), !isOffered);
-        QCOMPARE(box.accessibleDescription().contains(u"is out of range"), !isOffered);
-        if (!isOffered) {
-            QCOMPARE(box.text(), QString::number(text) + box.suffix());
-            QCOMPARE(settings().objectForKey(key), before);
-            QCOMPARE(_bench->written(), "");
-        }
-        static_cast<void>(_bench->written());
-    }
-}
-
 void PreferencesWinKeyerPaneTest::resetBringsTheDefaultBack() {
     const auto defaults = defaultsOf(keyerSettings);
     for (const auto* button : view().findChildren<QToolButton*>()) {
@@ -545,20 +398,6 @@ void PreferencesWinKeyerPaneTest::aChangeFromElsewhereIsShown() {
     QCOMPARE(_operator->shown(WKPaddleSwitchpoint), u"80 % of a dit"_s);
     QVERIFY(!_operator->control(WKPaddleSwitchpoint).isEnabled());
     _bench->clock().advance(1s);
-    QCOMPARE(_bench->written(), "");
-}
-
-void PreferencesWinKeyerPaneTest::aStoredValueOutOfRangeIsToldAndKept() {
-    settings().setObject(-60, WKWeighting);
-    settings().setObject(30, WKPTTLeadTime);
-    settings().setObject(u"1999 lpm"_s, WKHSCWSpeed);
-    QVERIFY(_operator->shown(WKWeighting).contains(u"-60 %"));
-    QVERIFY(_operator->shown(WKPTTLeadTime).contains(u"300 ms"));
-    QCOMPARE(_operator->shown(WKHSCWSpeed), u"1999 lpm"_s);
-    view().hide();
-    QCOMPARE(settings().integerForKey(WKWeighting), -60);
-    QCOMPARE(settings().integerForKey(WKPTTLeadTime), 30);
-    QCOMPARE(settings().stringForKey(WKHSCWSpeed), u"1999 lpm"_s);
     QCOMPARE(_bench->written(), "");
 }
 

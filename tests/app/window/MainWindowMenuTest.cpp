@@ -8,8 +8,8 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QLineEdit>
-#include <QMenuBar>
 #include <QMenu>
+#include <QMenuBar>
 #include <QPushButton>
 #include <QShortcut>
 #include <QSignalSpy>
