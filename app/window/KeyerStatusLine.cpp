@@ -50,7 +50,7 @@ QString KeyerStatusLine::sentence(int secondsToBeacon) const {
 QString KeyerStatusLine::status() const {
     const auto port = _engine->serialPortName();
     const auto activity = _engine->activity();
-    if (activity != KeyerActivity::NotConnected && _isAsleep) {
+    if (_isAsleep && _engine->isConnected()) {
         return tr("The machine sleeps: %1 is closed").arg(port);
     }
     if (activity != KeyerActivity::NotConnected && _engine->tuneState() != 0) {

@@ -13,7 +13,23 @@ SwitchButton::SwitchButton(QWidget* parent) : QPushButton(parent) {
 
 void SwitchButton::initStyleOption(QStyleOptionButton* option) const {
     QPushButton::initStyleOption(option);
-    option->text = (isChecked() ? u"●\u2009"_s : u"○\u2009"_s) + option->text + _detail;
+    option->text = withLamp();
+    if (width() >= sizeWith(_detail).width()) {
+        option->text += _detail;
+    }
+}
+
+QString SwitchButton::withLamp() const {
+    return (isChecked() ? u"●\u2009"_s : u"○\u2009"_s) + text();
+}
+
+QSize SwitchButton::sizeWith(const QString& detail) const {
+    QStyleOptionButton option;
+    QPushButton::initStyleOption(&option);
+    const auto text = fontMetrics().size(Qt::TextShowMnemonic, withLamp() + detail);
+    return style()
+        ->sizeFromContents(QStyle::CT_PushButton, &option, text, this)
+        .expandedTo(QSize(0, leastButtonHeight));
 }
 
 void SwitchButton::setDetail(const QString& detail) {
@@ -33,14 +49,4 @@ void SwitchButton::changeEvent(QEvent* event) {
     if (event->type() == QEvent::EnabledChange) {
         Q_EMIT enabledChanged(isEnabled());
     }
-}
-
-QSize SwitchButton::sizeHint() const {
-    QStyleOptionButton option;
-    initStyleOption(&option);
-    option.text.chop(_detail.size());
-    const auto text = fontMetrics().size(Qt::TextShowMnemonic, option.text + _widestDetail);
-    return style()
-        ->sizeFromContents(QStyle::CT_PushButton, &option, text, this)
-        .expandedTo(QSize(0, leastButtonHeight));
 }

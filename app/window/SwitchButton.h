@@ -9,13 +9,13 @@ class SwitchButton final : public QPushButton {
   public:
     explicit SwitchButton(QWidget* parent = nullptr);
 
-    /// Something more to show behind the text, a short one; there is room for `widest` from the
-    /// start, so that nothing moves.
+    /// Something more to show behind the text, a short one, where the button is wide enough; it
+    /// would like room for `widest` from the start, so that nothing moves.
     void setDetail(const QString& detail);
     void reserveDetail(const QString& widest);
 
-    [[nodiscard]] QSize sizeHint() const override;
-    [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
+    [[nodiscard]] QSize sizeHint() const override { return sizeWith(_widestDetail); }
+    [[nodiscard]] QSize minimumSizeHint() const override { return sizeWith({}); }
 
   Q_SIGNALS:
     void enabledChanged(bool isEnabled);
@@ -25,6 +25,9 @@ class SwitchButton final : public QPushButton {
     void initStyleOption(QStyleOptionButton* option) const override;
 
   private:
+    [[nodiscard]] QString withLamp() const;
+    [[nodiscard]] QSize sizeWith(const QString& detail) const;
+
     QString _detail;
     QString _widestDetail;
 };

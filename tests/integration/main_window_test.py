@@ -120,7 +120,7 @@ class MainWindowTest(ProgramTest):
         # What is typed next is text, and chooses nothing in the menus.
         self.active_window(quorvel)
         self.desktop.type("kt")
-        keyer.has_keyed("KT")
+        keyer.wait_for("the text", lambda: keyer.echoes() == "KT")
 
         self.press_switch(quorvel, window, "Tune")
         keyer.wait_for("the key", keyer.is_key_down)
@@ -140,7 +140,7 @@ class MainWindowTest(ProgramTest):
         self.desktop.click(window.find("Tune"))
         keyer.wait_for("the key to rise", lambda: not keyer.is_key_down())
         self.desktop.type("cq cq de n0call")
-        keyer.has_keyed("CQCQDEN0CALL")
+        keyer.wait_for("the text", lambda: keyer.echoes() == "CQCQDEN0CALL")
 
         self.desktop.click(self.menu_title(window, "Keyer"))
         quorvel.wait_for("the menu", lambda: self.is_menu_open(window, "Tune"))
@@ -156,7 +156,7 @@ class MainWindowTest(ProgramTest):
     def test_the_preferences_take_no_message_key_and_let_quit(self):
         keyer, quorvel, window = self.start_connected()
         self.desktop.press("ctrl+comma")
-        quorvel.wait_for("the preferences", lambda: "Quorvel" not in self.active_title())
+        quorvel.wait_for("the preferences", lambda: "General" in self.active_title())
         self.desktop.press("F1")
         self.desktop.press("ctrl+q")
         self.assertEqual(quorvel.status(), 0)

@@ -7,6 +7,7 @@
 #include <QGuiApplication>
 #include <QTextBlock>
 
+#include <cstdlib>
 #include <optional>
 
 using namespace Qt::StringLiterals;
@@ -119,7 +120,8 @@ void SentCallsTest::itMovesWithTheTextAround() {
     _station->key(Qt::Key_Home);
     _station->key(Qt::Key_Delete);
     QCOMPARE(text(), u"~"_s);
-    QCOMPARE(widthOf(0), wide);
+    // Places are whole pixels, and the letter before it was not so many wide.
+    QVERIFY(std::abs(widthOf(0) - wide) <= 1);
 }
 
 void SentCallsTest::anotherFontHasRoomToo() {

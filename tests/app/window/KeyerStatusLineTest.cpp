@@ -68,7 +68,7 @@ void KeyerStatusLineTest::saysWhatTheKeyerDoes_data() {
     QTest::newRow("idle") << 0xC0 << u"idle"_s;
     QTest::newRow("sending") << 0xC4 << u"sending"_s;
     QTest::newRow("break-in") << 0xC6 << u"break-in (paddle)"_s;
-    QTest::newRow("buffer full") << 0xC5 << u"buffer full"_s;
+    QTest::newRow("buffer full") << 0xC5 << u"buffer full (paused)"_s;
     QTest::newRow("a speed is no work") << 0x8C << u"idle"_s;
 }
 
@@ -139,7 +139,7 @@ void KeyerStatusLineTest::saysThatTheMachineSleeps() {
     center.post(NSWorkspaceWillSleepNotification, nullptr);
     QCOMPARE(_line->text(), u"The machine sleeps: usbserial-WK1 is closed"_s);
     center.post(NSWorkspaceDidWakeNotification, nullptr);
-    QVERIFY(_line->text().startsWith(u"Connected to usbserial-WK1"_s));
+    QTRY_VERIFY(_line->text().startsWith(u"Connected to usbserial-WK1"_s));
 }
 
 void KeyerStatusLineTest::saysMoreBehindAll() {
