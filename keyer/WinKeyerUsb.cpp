@@ -1,32 +1,10 @@
 #include "keyer/WinKeyerUsb.h"
 
 #include "keyer/MorseKeyboardCharacterSet.h"
+#include "keyer/Replace.h"
 #include "platform/Platform.h"
 
 #include <QPointer>
-
-namespace {
-
-/// Stores `value` and tells whether that changed anything.
-template <typename Value>
-bool replace(Value& stored, const Value& value) {
-    if (stored == value) {
-        return false;
-    }
-    stored = value;
-    return true;
-}
-
-/// nil is not the empty text, though the two compare equal.
-bool replace(QString& stored, const QString& value) {
-    if (stored == value && stored.isNull() == value.isNull()) {
-        return false;
-    }
-    stored = value;
-    return true;
-}
-
-} // namespace
 
 WinKeyerUsb& WinKeyerUsb::sharedInstance() {
     static QPointer<WinKeyerUsb> shared;
@@ -58,13 +36,13 @@ void WinKeyerUsb::setVersionString(const QString& version) {
 }
 
 void WinKeyerUsb::setKeyboardBuffer(const QString& text) {
-    if (replace(_keyboardBuffer, text)) {
+    if (_text.setText(text)) {
         Q_EMIT keyboardBufferChanged();
     }
 }
 
 void WinKeyerUsb::setHisCallsign(const QString& callsign) {
-    if (replace(_hisCallsign, callsign)) {
+    if (_text.setCallsign(callsign)) {
         Q_EMIT hisCallsignChanged();
     }
 }

@@ -3,6 +3,7 @@
 #include "keyer/CharacterSet.h"
 #include "keyer/KeyerActivity.h"
 #include "keyer/KeyerMemory.h"
+#include "keyer/SendingText.h"
 #include "platform/Clock.h"
 #include "platform/Error.h"
 #include "serial/ORSSerialPort.h"
@@ -204,24 +205,24 @@ class WinKeyerUsb final : public QObject, public ORSSerialPortDelegate {
     [[nodiscard]] QString versionString() const { return _versionString; }
     void setVersionString(const QString& version);
     /// All text of this sending run, sent and to be sent.
-    [[nodiscard]] QString keyboardBuffer() const { return _keyboardBuffer; }
+    [[nodiscard]] QString keyboardBuffer() const { return _text.text(); }
     void setKeyboardBuffer(const QString& text);
     /// The other station's call sign.
-    [[nodiscard]] QString hisCallsign() const { return _hisCallsign; }
+    [[nodiscard]] QString hisCallsign() const { return _text.callsign(); }
     void setHisCallsign(const QString& callsign);
     /// The contest serial number.
     [[nodiscard]] qint64 serialNumber() const { return _serialNumber; }
     void setSerialNumber(qint64 number);
 
     /// Index of the next character of keyboardBuffer to be sent.
-    [[nodiscard]] qsizetype outputBufferIndex() const { return _outputBufferIndex; }
+    [[nodiscard]] qsizetype outputBufferIndex() const { return _text.index(); }
     /// When the beacon is to send again, by the platform's clock; nothing while it is off, or waits
     /// for the keyer to be idle.
     [[nodiscard]] std::optional<Clock::Duration> beaconDue() const;
 
     /// Index of the first character of keyboardBuffer that the keyer has been given and has not
     /// echoed; outputBufferIndex() when there is none.
-    [[nodiscard]] qsizetype inFlightIndex() const { return _inFlightIndex; }
+    [[nodiscard]] qsizetype inFlightIndex() const { return _text.inFlightIndex(); }
 
   Q_SIGNALS:
     /// activity() or serialPortName() is another one now.
@@ -310,18 +311,13 @@ class WinKeyerUsb final : public QObject, public ORSSerialPortDelegate {
     QString _speedString;
     QString _versionString;
 
-    QString _keyboardBuffer;
-    qsizetype _outputBufferIndex = 0;
-    qsizetype _inFlightIndex = 0;
+    SendingText _text;
     bool _sendingState = false;
     bool _sendIsDue = false;
     bool _isAwaitingEcho = false;
     int _runLimit = 0;
     qsizetype _bytesAhead = 0;
     std::shared_ptr<Timer> _runTimer;
-    QString _hisCallsign;
-    bool _sendingHisCallsign = false;
-    qsizetype _nextHisCallsignCharacterIndex = 0;
     qint64 _serialNumber = 1;
 
     int _pauseState = 0;

@@ -269,7 +269,7 @@ void WinKeyerUsb::serialPortWillBeClosed(ORSSerialPort& port) {
     if (&port != _winKeyerSerialPort.get() || !_isHostMode) {
         return;
     }
-    const bool hasText = _inFlightIndex < _keyboardBuffer.size();
+    const bool hasText = _text.hasUnsent();
     if (_mayBeKeying || _beaconState != 0 || hasText) {
         Q_EMIT sendingCutShort();
     }
@@ -301,6 +301,12 @@ void WinKeyerUsb::serialPortWasRemovedFromSystem(ORSSerialPort& port) {
         endMemoryLoad();
         _winKeyerSerialPort.reset();
         announceActivity();
+    }
+}
+
+void WinKeyerUsb::putToWinKeyer(const QByteArray& bytes) {
+    if (isConnected() && !sendToPort(bytes)) {
+        logLine(u"putToWinKeyer error: "_s);
     }
 }
 

@@ -3,8 +3,6 @@
 #include "keyer/SendableText.h"
 #include "keyer/WinKeyerUsb.h"
 
-#include <algorithm>
-
 namespace {
 
 /// Deletes what cannot be typed. The character after a deleted one is not looked at: typing one
@@ -37,16 +35,14 @@ void WinKeyerUsb::textDidBeginEditing(const QObject*) {}
 void WinKeyerUsb::textDidEndEditing(const QObject*) {}
 
 void WinKeyerUsb::textDidChange() {
-    if (_keyboardBuffer.isEmpty()) {
-        _outputBufferIndex = 0;
-        _inFlightIndex = 0;
+    if (_text.text().isEmpty()) {
+        _text.restrictToText();
         Q_EMIT sendingProgressed();
         return;
     }
-    const auto typed = filtered(_keyboardBuffer.toUpper(), morseKeyboardCharacterSet());
+    const auto typed = filtered(_text.text().toUpper(), morseKeyboardCharacterSet());
     setKeyboardBuffer(sendable(substituteTokens(typed)));
-    _outputBufferIndex = std::min(_outputBufferIndex, _keyboardBuffer.size());
-    _inFlightIndex = std::min(_inFlightIndex, _outputBufferIndex);
+    _text.restrictToText();
     Q_EMIT sendingProgressed();
     if (pauseState() == 0 && !_sendingState) {
         send();
@@ -54,11 +50,10 @@ void WinKeyerUsb::textDidChange() {
 }
 
 void WinKeyerUsb::appendSendableText(const QString& text) {
-    if (_keyboardBuffer.isEmpty()) {
+    if (_text.text().isEmpty()) {
         setKeyboardBuffer(sendable(text));
         return;
     }
-    const auto addition = u' ' + sendable(text);
-    _keyboardBuffer += addition;
+    _text.append(u' ' + sendable(text));
     Q_EMIT keyboardBufferChanged();
 }

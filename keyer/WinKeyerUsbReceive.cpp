@@ -16,12 +16,6 @@ namespace {
 constexpr double longestBeaconInterval = 2'000'000;
 } // namespace
 
-void WinKeyerUsb::putToWinKeyer(const QByteArray& bytes) {
-    if (isConnected() && !sendToPort(bytes)) {
-        logLine(u"putToWinKeyer error: "_s);
-    }
-}
-
 void WinKeyerUsb::serialPortDidReceiveData(ORSSerialPort& port, const QByteArray& data) {
     if (!isConnected() || !_isHostMode) {
         return;

@@ -7,7 +7,6 @@
 #include "keyer/LineTime.h"
 #include "keyer/MessageSettings.h"
 #include "keyer/ReceivedByte.h"
-#include "keyer/SendableText.h"
 #include "keyer/WinKeyerUsb.h"
 #include "platform/Log.h"
 #include "platform/Platform.h"
@@ -15,11 +14,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-
-/// The byte that keys `character`, which is a sendable one.
-char byteOf(QChar character) {
-    return character.toUpper().toLatin1();
-}
 
 /// Which message each button bit of a status byte stands for. A later one wins over an earlier.
 struct ButtonBit {
@@ -95,9 +89,7 @@ void WinKeyerUsb::send() {
     if (isRunUnderWay()) {
         return; // it goes on by itself, up to the next character
     }
-    if (!_sendingHisCallsign) {
-        _inFlightIndex = _outputBufferIndex;
-    }
+    _text.acknowledge();
     continueRun();
 }
 
@@ -127,33 +119,21 @@ WinKeyerUsb::Step WinKeyerUsb::sendNext() {
         _sendIsDue = true;
         return Step::WaitForEcho;
     }
-    if (_sendingHisCallsign) {
+    if (_text.isReadingCallsign()) {
         return sendNextOfHisCallsign();
     }
-    if (_outputBufferIndex >= _keyboardBuffer.size()) {
-        _sendingState = false;
-        return Step::WaitForEcho;
-    }
-    const auto character = byteOf(_keyboardBuffer.at(_outputBufferIndex++));
-    _sendingState = true;
-    return sendCharacter(character);
+    const auto character = _text.next();
+    _sendingState = character.has_value();
+    return character ? sendCharacter(*character) : Step::WaitForEcho;
 }
 
 WinKeyerUsb::Step WinKeyerUsb::sendNextOfHisCallsign() {
-    // The field has filtered the call, but a single pass leaves some things in.
-    while (_nextHisCallsignCharacterIndex < _hisCallsign.size() &&
-           !isSendable(_hisCallsign.at(_nextHisCallsignCharacterIndex))) {
-        ++_nextHisCallsignCharacterIndex;
-    }
-    if (_nextHisCallsignCharacterIndex >= _hisCallsign.size()) {
-        _sendingHisCallsign = false;
-        _nextHisCallsignCharacterIndex = 0;
-        _inFlightIndex = _outputBufferIndex;
+    const auto character = _text.nextOfCallsign();
+    if (!character) {
         return Step::GoOn;
     }
-    const auto character = byteOf(_hisCallsign.at(_nextHisCallsignCharacterIndex++));
     _sendingState = true;
-    return sendPlain(character);
+    return sendPlain(*character);
 }
 
 WinKeyerUsb::Step WinKeyerUsb::sendCharacter(char character) {
@@ -168,7 +148,7 @@ WinKeyerUsb::Step WinKeyerUsb::sendCharacter(char character) {
         sendText(QByteArray(1, character));
         return Step::GoOn;
     case '~':
-        _sendingHisCallsign = true;
+        _text.beginCallsign();
         return Step::GoOn;
     default:
         return sendPlain(character);
@@ -183,9 +163,7 @@ WinKeyerUsb::Step WinKeyerUsb::sendPlain(char character) {
 
 void WinKeyerUsb::takeBackUnheard() {
     if (_isAwaitingEcho) {
-        _outputBufferIndex = _inFlightIndex;
-        _sendingHisCallsign = false;
-        _nextHisCallsignCharacterIndex = 0;
+        _text.takeBack();
         _isAwaitingEcho = false;
         _sendingState = false;
         Q_EMIT sendingProgressed();
@@ -211,15 +189,13 @@ WinKeyerUsb::Step WinKeyerUsb::endHSCW() {
 
 WinKeyerUsb::Step WinKeyerUsb::mergeLetters() {
     logLine(u"Merge letters"_s);
-    if (_outputBufferIndex + 1 >= _keyboardBuffer.size()) {
+    const auto letters = _text.nextTwo();
+    if (!letters) {
         // Two letters do not follow yet. The sign is used up, and whatever calls send() next
         // sends what then follows it as plain characters.
         return Step::WaitForEcho;
     }
-    const auto first = byteOf(_keyboardBuffer.at(_outputBufferIndex));
-    const auto second = byteOf(_keyboardBuffer.at(_outputBufferIndex + 1));
-    sendText(KeyerCommand::mergeLetters(first, second));
-    _outputBufferIndex += 2;
+    sendText(KeyerCommand::mergeLetters(letters->first, letters->second));
     return Step::GoOn;
 }
 
@@ -239,10 +215,7 @@ qint64 WinKeyerUsb::hscwSpeed() const {
 }
 
 void WinKeyerUsb::clearSending() {
-    _sendingHisCallsign = false;
-    _nextHisCallsignCharacterIndex = 0;
-    _outputBufferIndex = 0;
-    _inFlightIndex = 0;
+    _text.rewind();
     _sendingState = false;
     _sendIsDue = false;
     _isAwaitingEcho = false;
