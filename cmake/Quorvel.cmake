@@ -51,6 +51,13 @@ function(quorvel_library name)
     endif()
 endfunction()
 
+# The toolkit's newer macros that wait count their milliseconds in an int. What is linked last has
+# the last word among the options.
+add_library(quorvel-test-flags INTERFACE)
+if(Qt6_VERSION VERSION_GREATER_EQUAL 6.5)
+    target_compile_options(quorvel-test-flags INTERFACE -Wno-conversion)
+endif()
+
 # What the thread sanitizer's run builds.
 add_custom_target(thread-tests)
 
@@ -68,11 +75,7 @@ function(quorvel_tests program)
     set_target_properties(${program} PROPERTIES AUTOMOC ON UNITY_BUILD OFF
         RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests)
     target_link_libraries(${program} PRIVATE ${arg_LINK} tests-main-${QUORVEL_PRECOMPILED}
-        Qt6::Test quorvel-flags)
-    # The toolkit's newer macros that wait count their milliseconds in an int.
-    if(Qt6_VERSION VERSION_GREATER_EQUAL 6.5)
-        target_compile_options(${program} PRIVATE -Wno-conversion)
-    endif()
+        Qt6::Test quorvel-flags quorvel-test-flags)
     target_precompile_headers(${program} REUSE_FROM precompiled-${QUORVEL_PRECOMPILED}-test)
     list(TRANSFORM arg_WRAP PREPEND -Wl,--wrap= OUTPUT_VARIABLE wrapped)
     target_link_options(${program} PRIVATE ${wrapped})
