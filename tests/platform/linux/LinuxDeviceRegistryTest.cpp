@@ -109,6 +109,7 @@ class LinuxDeviceRegistryTest : public QObject {
     void aContextThatHasGoneHearsNothing();
     void aLateRegistrationHearsOnlyWhatComesLater();
     void heldAnnouncementsComeInOrderAfterwards();
+    void whatCameAndWentDuringAHoldIsNotAnnounced();
     void holdsCount();
     void anEventLoopInAHandlerDoesNotOvertakeIt();
 
@@ -343,18 +344,38 @@ void LinuxDeviceRegistryTest::aLateRegistrationHearsOnlyWhatComesLater() {
 }
 
 void LinuxDeviceRegistryTest::heldAnnouncementsComeInOrderAfterwards() {
-    Listener listener(*_registry);
-    _registry->holdAnnouncements();
     _first->become({device(u"a"_s, u"/dev/a"_s)});
     QTRY_COMPARE(names().size(), 1);
+    Listener listener(*_registry);
+    _registry->holdAnnouncements();
     _first->become({});
     QTRY_COMPARE(names().size(), 0);
     _first->become({device(u"b"_s, u"/dev/b"_s)});
     QTRY_COMPARE(names().size(), 1);
+    _first->become({device(u"b"_s, u"/dev/b"_s), device(u"a"_s, u"/dev/a"_s)});
+    QTRY_COMPARE(names().size(), 2);
     QVERIFY(listener.heard.isEmpty());
     _registry->resumeAnnouncements();
     QVERIFY(listener.heard.isEmpty());
-    QTRY_COMPARE(listener.heard, QStringList({u"+a"_s, u"-a"_s, u"+b"_s}));
+    QTRY_COMPARE(listener.heard, QStringList({u"-a"_s, u"+b"_s, u"+a"_s}));
+}
+
+/// Whoever would be told of it could do nothing but ask about a device that has gone.
+void LinuxDeviceRegistryTest::whatCameAndWentDuringAHoldIsNotAnnounced() {
+    _first->become({device(u"a"_s, u"/dev/a"_s)});
+    QTRY_COMPARE(names().size(), 1);
+    Listener listener(*_registry);
+    _registry->holdAnnouncements();
+    for (int i = 0; i < 3; ++i) {
+        _first->become({});
+        QTRY_COMPARE(names().size(), 0);
+        _first->become({device(u"a"_s, u"/dev/a"_s), device(u"b"_s, u"/dev/b"_s)});
+        QTRY_COMPARE(names().size(), 2);
+    }
+    _first->become({device(u"b"_s, u"/dev/b"_s)});
+    QTRY_COMPARE(names().size(), 1);
+    _registry->resumeAnnouncements();
+    QTRY_COMPARE(listener.heard, QStringList({u"-a"_s, u"+b"_s}));
 }
 
 void LinuxDeviceRegistryTest::holdsCount() {
