@@ -272,7 +272,6 @@ void VirtualKeyerProgramTest::itCanBePluggedInAgainAfterACrash() {
     KeyerProcess crashing(*_runtime);
     QVERIFY(crashing.plugIn());
     crashing.end(SIGKILL);
-    QVERIFY(QFileInfo(crashing.linkPath()).isSymLink());
     KeyerProcess keyer(*_runtime);
     QVERIFY2(keyer.plugIn(), qPrintable(keyer.errors()));
     const Port port(keyer.linkPath());
