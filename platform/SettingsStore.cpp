@@ -104,8 +104,11 @@ SettingsStore::SettingsStore(const QString& path, std::chrono::milliseconds retr
 }
 
 SettingsStore::~SettingsStore() {
-    if (_handOverSoon.isActive()) {
-        handOver();
+    if (_handOverSoon.isActive() || !_changes.isEmpty()) {
+        if (!synchronize()) {
+            logLine(u"Settings are lost, for %1 cannot be written: %2"_s.arg(
+                _fileName, keysNotStored().join(u", ")));
+        }
     }
     _writer.reset();
     _reports->shutDown();

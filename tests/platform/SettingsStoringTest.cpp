@@ -77,6 +77,7 @@ class SettingsStoringTest : public QObject {
     void aFileThatGoesTakesItsValuesAlong();
     void aFileThatIsDamagedMeanwhileIsPutAside();
     void theLastChangeIsStoredAtTheEnd();
+    void whatIsLostAtTheEndIsLogged();
 
   private:
     [[nodiscard]] QString path() const { return _directory->filePath(u"quorvel/quorvel.conf"_s); }
@@ -433,6 +434,18 @@ void SettingsStoringTest::theLastChangeIsStoredAtTheEnd() {
         store.setObject(2, u"k"_s);
     }
     QCOMPARE(content(), "[General]\nk=2\n"_ba);
+}
+
+void SettingsStoringTest::whatIsLostAtTheEndIsLogged() {
+    QVERIFY(QDir().mkdir(path()));
+    const LogKeeper log;
+    {
+        SettingsStore store(path());
+        store.setObject(1, u"k"_s);
+        store.setObject(1, u"a"_s);
+    }
+    QCOMPARE(log.lines(),
+             QStringList{u"Settings are lost, for %1 cannot be written: a, k"_s.arg(path())});
 }
 
 static const RegisteredTest<SettingsStoringTest> registered;
