@@ -10,11 +10,39 @@
 
 using namespace std::chrono_literals;
 
+DesktopApplication::DesktopApplication() {
+    _showSoon.setSingleShot(true);
+    _showSoon.setInterval(0);
+    QObject::connect(&_showSoon, &QTimer::timeout, &_showSoon, [this] { showWaiting(); });
+}
+
 AlertAnswer DesktopApplication::runModal(const Alert& alert) {
     if (_limit && *_limit == std::chrono::milliseconds::zero()) {
         logLine(alert.messageText);
         return alert.alternateButton.isNull() ? AlertAnswer::Default : AlertAnswer::Alternate;
     }
+    ++_alertsUp;
+    const auto answer = show(alert);
+    --_alertsUp;
+    _showSoon.start();
+    return answer;
+}
+
+void DesktopApplication::runModalWhenFree(const LateAlert& alert) {
+    _waiting.append(alert);
+    _showSoon.start();
+}
+
+void DesktopApplication::showWaiting() {
+    if (_alertsUp == 0 && !_waiting.isEmpty()) {
+        if (const auto alert = _waiting.takeFirst()()) {
+            runModal(*alert);
+        }
+        _showSoon.start();
+    }
+}
+
+AlertAnswer DesktopApplication::show(const Alert& alert) {
     AlertBox box(alert, windowInUse());
     // Devices that come and go meanwhile wait, so that no alert ever stands on another.
     auto& devices = Platform::current().devices();

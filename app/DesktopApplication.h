@@ -2,16 +2,27 @@
 
 #include "platform/Application.h"
 
+#include <QList>
 #include <QPointer>
+#include <QTimer>
 #include <QWidget>
 
 #include <chrono>
+#include <functional>
 #include <optional>
 
 /// The application on the desktop: shows alerts as modal windows.
 class DesktopApplication final : public Application {
   public:
+    /// What there is to tell by the time it can be told; nothing when it is over.
+    using LateAlert = std::function<std::optional<Alert>()>;
+
+    DesktopApplication();
+
     AlertAnswer runModal(const Alert& alert) override;
+
+    /// Shows an alert from the event loop, and not before any other has been answered.
+    void runModalWhenFree(const LateAlert& alert);
 
     /// The window that alerts belong to while none of the application's is active; nullptr for
     /// none.
@@ -23,7 +34,12 @@ class DesktopApplication final : public Application {
 
   private:
     [[nodiscard]] QWidget* windowInUse() const;
+    AlertAnswer show(const Alert& alert);
+    void showWaiting();
 
     QPointer<QWidget> _alertParent;
     std::optional<std::chrono::milliseconds> _limit;
+    int _alertsUp = 0;
+    QList<LateAlert> _waiting;
+    QTimer _showSoon;
 };

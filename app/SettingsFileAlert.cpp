@@ -74,6 +74,10 @@ std::optional<Alert> settingsFileAlert(const SettingsStore& settings) {
                  .informativeText = Texts::informativeText(settings)};
 }
 
-Alert settingsNotStoredAlert(const SettingsStore& settings) {
-    return {.messageText = Texts::notStoredText(), .informativeText = Texts::notStored(settings)};
+std::optional<Alert> settingsNotStoredAlert(const SettingsStore& settings) {
+    if (settings.problem().isNull()) {
+        return {};
+    }
+    return Alert{.messageText = Texts::notStoredText(),
+                 .informativeText = Texts::notStored(settings)};
 }

@@ -11,5 +11,5 @@ class SettingsStore;
 [[nodiscard]] std::optional<Alert> settingsFileAlert(const SettingsStore& settings);
 
 /// What the operator has to be told when settings cannot be stored: what will be lost, where they
-/// should have gone, and why not.
-[[nodiscard]] Alert settingsNotStoredAlert(const SettingsStore& settings);
+/// should have gone, and why not. Nothing once they have been stored.
+[[nodiscard]] std::optional<Alert> settingsNotStoredAlert(const SettingsStore& settings);

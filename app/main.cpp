@@ -127,8 +127,9 @@ int run(SingleInstance& instance) {
     QObject::connect(&terminationSignals, &TerminationSignals::requested, &termination,
                      [&] { termination.terminate(Termination::Cause::System); });
 
-    QObject::connect(&platform.settings(), &SettingsStore::storingFailed, &window,
-                     [&] { alerts.runModal(settingsNotStoredAlert(platform.settings())); });
+    QObject::connect(&platform.settings(), &SettingsStore::storingFailed, &window, [&] {
+        alerts.runModalWhenFree([&] { return settingsNotStoredAlert(platform.settings()); });
+    });
 
     window.show();
     QTimer::singleShot(0, &delegate, [&] {

@@ -14,7 +14,6 @@
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
-using namespace std::chrono_literals;
 
 class DesktopApplicationTest : public QObject {
     Q_OBJECT
@@ -28,6 +27,8 @@ class DesktopApplicationTest : public QObject {
     void textIsShownAsItStands();
     void anAlertStandsAboveTheWindowInUse();
     void devicesThatComeMeanwhileAreAnnouncedAfterwards();
+    void whatCanWaitStandsOnNoOtherAlert();
+    void whatIsOverByThenIsNotTold();
     void onceItEndsNothingIsAsked();
     void anAlertWithALimitClosesByItself();
 
@@ -164,6 +165,40 @@ void DesktopApplicationTest::devicesThatComeMeanwhileAreAnnouncedAfterwards() {
     QTRY_COMPARE(announced, QStringList{ORSSerialPortWasConnectedNotification});
     QCOMPARE(manager.countOfAvailablePorts(), 1);
     QCOMPARE(manager.objectInAvailablePortsAtIndex(0)->name(), u"b"_s);
+}
+
+void DesktopApplicationTest::whatCanWaitStandsOnNoOtherAlert() {
+    QStringList shown;
+    QTimer answerer;
+    QObject::connect(&answerer, &QTimer::timeout, &answerer, [&shown] {
+        if (auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+            shown.append(box->text());
+            box->accept();
+        }
+    });
+    whileShown([&](QMessageBox& box) {
+        for (const auto& text : {u"Second."_s, u"Third."_s}) {
+            _application.runModalWhenFree(
+                [text] { return Alert{.messageText = text, .informativeText = {}}; });
+        }
+        QTest::qWait(50);
+        QCOMPARE(QApplication::activeModalWidget(), &box);
+        answerer.start(1);
+    });
+    _application.runModal({.messageText = u"First."_s, .informativeText = {}});
+    QTRY_COMPARE(shown, (QStringList{u"First."_s, u"Second."_s, u"Third."_s}));
+    QVERIFY(QApplication::activeModalWidget() == nullptr);
+}
+
+void DesktopApplicationTest::whatIsOverByThenIsNotTold() {
+    bool wasAsked = false;
+    _application.runModalWhenFree([&] {
+        wasAsked = true;
+        return std::optional<Alert>();
+    });
+    QVERIFY(!wasAsked);
+    QTRY_VERIFY(wasAsked);
+    QVERIFY(QApplication::activeModalWidget() == nullptr);
 }
 
 void DesktopApplicationTest::onceItEndsNothingIsAsked() {

@@ -4,6 +4,7 @@
 #include "tests/support/OrdinaryUser.h"
 #include "tests/support/RegisteredTest.h"
 
+#include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
@@ -12,6 +13,7 @@
 #include <sys/stat.h>
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
 class SettingsFileAlertTest : public QObject {
     Q_OBJECT
@@ -25,6 +27,7 @@ class SettingsFileAlertTest : public QObject {
     void namesWhereTheFileIsNow();
     void saysThatAFileWasLeftInPlace();
     void saysThatAFileMayNotBeRead();
+    void namesWhatWillBeLost();
 
   private:
     void write(const QByteArray& content) const;
@@ -94,6 +97,22 @@ void SettingsFileAlertTest::saysThatAFileMayNotBeRead() {
     QVERIFY(alert.has_value());
     QVERIFY(alert->informativeText.startsWith(u"You may not read "_s + path()));
     QVERIFY(alert->informativeText.contains(path() + u".new"_s));
+}
+
+void SettingsFileAlertTest::namesWhatWillBeLost() {
+    SettingsStore store(path(), 20ms);
+    QVERIFY(!settingsNotStoredAlert(store));
+    QVERIFY(QDir().mkdir(path()));
+    store.setObject(u"N0CALL"_s, u"MyCall"_s);
+    store.setObject(25, u"Speed"_s);
+    QTRY_VERIFY(settingsNotStoredAlert(store));
+    const auto alert = settingsNotStoredAlert(store);
+    QCOMPARE(alert->messageText, u"Your settings cannot be stored."_s);
+    QCOMPARE(alert->informativeText,
+             u"%1 cannot be written: Is a directory. What you have changed holds until you quit, "
+             "and is lost then unless it can be stored before: MyCall, Speed."_s.arg(path()));
+    QVERIFY(QDir().rmdir(path()));
+    QTRY_VERIFY(!settingsNotStoredAlert(store));
 }
 
 static const RegisteredTest<SettingsFileAlertTest> registered;

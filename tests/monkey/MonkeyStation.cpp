@@ -68,8 +68,9 @@ void MonkeyStation::connectParts() {
         &*_delegate, &QuorvelDelegate::serialPortNameArrayChanged, &*_preferences,
         [this] { _preferences->setSerialPortNames(_delegate->serialPortNameArray()); });
     QObject::connect(&*_escape, &ApplicationKey::pressed, &*_window, &MainWindow::stop);
-    QObject::connect(&settings(), &SettingsStore::storingFailed, &*_window,
-                     [this] { _alerts->runModal(settingsNotStoredAlert(settings())); });
+    QObject::connect(&settings(), &SettingsStore::storingFailed, &*_window, [this] {
+        _alerts->runModalWhenFree([this] { return settingsNotStoredAlert(settings()); });
+    });
 }
 
 void MonkeyStation::plug(int number) {
