@@ -68,7 +68,7 @@ void Termination::terminateWithoutDesktop() {
         // The windows have nothing left to show it on.
         const QSignalBlocker silence(engine);
         engine.setTuneState(0);
-        engine.tune(nullptr);
+        engine.silence();
         static_cast<void>(engine.disconnect(nullptr));
         Q_EMIT hasLeftKeyer();
     }

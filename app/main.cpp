@@ -20,6 +20,7 @@
 #include "platform/linux/KeyGuardProcess.h"
 #include "platform/linux/LinuxDeviceRegistry.h"
 #include "platform/linux/LogindPower.h"
+#include "platform/linux/SessionBus.h"
 #include "platform/linux/SingleInstance.h"
 #include "preferences/MBPreferencesController.h"
 #include "preferences/PreferencesController.h"
@@ -123,9 +124,12 @@ int run(SingleInstance& instance) {
     // By the time the event loop comes round again, in an alert of the way out, the port is free.
     QObject::connect(&termination, &Termination::begun, &instance, &SingleInstance::leave,
                      Qt::QueuedConnection);
+    const auto endWithTheSession = [&] { termination.terminate(Termination::Cause::System); };
     const TerminationSignals terminationSignals;
     QObject::connect(&terminationSignals, &TerminationSignals::requested, &termination,
-                     [&] { termination.terminate(Termination::Cause::System); });
+                     endWithTheSession);
+    const SessionBus sessionBus;
+    QObject::connect(&sessionBus, &SessionBus::hasGone, &termination, endWithTheSession);
 
     QObject::connect(&platform.settings(), &SettingsStore::storingFailed, &window, [&] {
         alerts.runModalWhenFree([&] { return settingsNotStoredAlert(platform.settings()); });

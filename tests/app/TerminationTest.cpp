@@ -144,7 +144,7 @@ void TerminationTest::anExitWithoutTheDesktopLeavesTheKeyer() {
     const QSignalSpy partings(&*_termination, &Termination::hasLeftKeyer);
     _termination->terminateWithoutDesktop();
     QCOMPARE(partings.size(), 1);
-    QCOMPARE(_bench->written(), "0b 00 00 03");
+    QCOMPARE(_bench->written(), "0b 00 0a 00 03");
     QVERIFY(!_bench->engine().isConnected());
     QCOMPARE(changes.size(), 0);
     QCOMPARE(_tellings, 0);
