@@ -3,7 +3,7 @@
 import gi
 
 gi.require_version("Atspi", "2.0")
-from gi.repository import Atspi, GLib  # noqa: E402
+from gi.repository import Atspi, Gio, GLib  # noqa: E402
 
 
 def _reading(operation, otherwise):
@@ -24,6 +24,14 @@ class Accessible:
     def begin():
         Atspi.init()
         Atspi.set_timeout(2000, 15000)
+
+    @staticmethod
+    def bus():
+        """The address of the bus on which screen readers read."""
+        answer = Gio.bus_get_sync(Gio.BusType.SESSION).call_sync(
+            "org.a11y.Bus", "/org/a11y/bus", "org.a11y.Bus", "GetAddress", None, None,
+            Gio.DBusCallFlags.NONE, -1)
+        return answer.unpack()[0]
 
     @staticmethod
     def application(pid):

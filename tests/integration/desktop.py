@@ -32,8 +32,7 @@ class Desktop:
         try:
             _, self.environment["DISPLAY"] = self.start_screen()
             self._start_bus()
-            self._start(["openbox"])
-            wait_for("the window manager", lambda: self.xdotool("get_desktop") is not None)
+            self._manage_windows()
             self._begin_reading()
         except BaseException:
             self.close()
@@ -84,12 +83,33 @@ class Desktop:
         from accessible import Accessible
         return Accessible.application(pid)
 
+    def reading_bus(self):
+        """The address of the bus on which the screen reader reads."""
+        from accessible import Accessible
+        return Accessible.bus()
+
     def start_screen(self):
         """One more screen, without a window manager; its process and the name of its display."""
         process, number = self._start_and_ask(
             ["Xvfb", "-displayfd", "{descriptor}", "-screen", "0", "1280x960x24", "-nolisten",
              "tcp", "-noreset", "-ardelay", REPEAT_DELAY, "-arinterval", REPEAT_INTERVAL])
         return process, f":{number}"
+
+    @contextlib.contextmanager
+    def other_screen(self):
+        """Has the desktop on one more screen for as long as the block runs; the screen's process."""
+        usual = self.environment["DISPLAY"]
+        screen, self.environment["DISPLAY"] = self.start_screen()
+        try:
+            self._manage_windows()
+            yield screen
+        finally:
+            screen.end()
+            self.environment["DISPLAY"] = usual
+
+    def _manage_windows(self):
+        self._start(["openbox"])
+        wait_for("the window manager", lambda: self.xdotool("get_desktop") is not None)
 
     def _start(self, command, pass_fds=()):
         process = Process(command, self.environment, self._logs, pass_fds)
@@ -108,10 +128,13 @@ class Desktop:
         assert answer, f"{command[0]} does not start"
         return process, answer
 
+    def start_bus(self):
+        """One more bus; its process and its address."""
+        return self._start_and_ask(["dbus-daemon", "--session", "--nofork", "--nopidfile",
+                                    "--print-address={descriptor}"])
+
     def _start_bus(self):
-        _, address = self._start_and_ask(["dbus-daemon", "--session", "--nofork", "--nopidfile",
-                                          "--print-address={descriptor}"])
-        self.environment["DBUS_SESSION_BUS_ADDRESS"] = address
+        _, self.environment["DBUS_SESSION_BUS_ADDRESS"] = self.start_bus()
 
     def _begin_reading(self):
         # The library reads the environment once, when it is loaded.

@@ -1,5 +1,6 @@
 """A program that runs beside the test."""
 
+import os
 import pathlib
 import signal
 import subprocess
@@ -29,6 +30,15 @@ class Process:
 
     def is_running(self):
         return self._process.poll() is None
+
+    def has_ended(self):
+        """As is_running(), but leaves what the system knows of it where it is."""
+        return os.waitid(os.P_PID, self.pid, os.WEXITED | os.WNOHANG | os.WNOWAIT) is not None
+
+    def held_up(self):
+        """For how many seconds its main thread has been ready to run, and had to wait for a
+        processor. Until status() is asked for."""
+        return int(pathlib.Path(f"/proc/{self.pid}/schedstat").read_text().split()[1]) / 1e9
 
     def wait_for(self, what, condition):
         """As wait_for(), but fails at once when the program has ended."""
