@@ -283,6 +283,7 @@ void MBPreferencesController::takeViewOut() {
             focused->clearFocus(); // else the toolbar had it next
         }
         view->removeEventFilter(this);
+        view->hide(); // the layout may be about to show it, which by then is a window of its own
         _contentView->layout()->removeWidget(view);
         view->setParent(nullptr);
     }

@@ -43,6 +43,7 @@ class MBPreferencesControllerTest : public QObject, private PreferencesWindowBen
     void aNewListLeavesTheFirstItem();
     void anEmptyListKeepsWhatIsShown();
     void anItemSelectsItsModule();
+    void aViewThatIsLeftAtOnceIsNoWindow();
     void aScreenReaderSelectsAModule();
     void theShownModuleCanBeSelectedAgain();
     void otherSendersSelectNothing();
@@ -215,6 +216,18 @@ void MBPreferencesControllerTest::anItemSelectsItsModule() {
     QVERIFY(_two->view()->isVisible());
     QVERIFY(!_one->view()->isVisible());
     QVERIFY(_one->view()->parent() == nullptr);
+}
+
+/// As by keys that came faster than the window was painted.
+void MBPreferencesControllerTest::aViewThatIsLeftAtOnceIsNoWindow() {
+    controller().setModules(list({_one, _two}));
+    show(0);
+    controller().changeToModule(_two);
+    controller().changeToModule(_one);
+    QCoreApplication::processEvents();
+    QVERIFY(!_two->view()->isVisible());
+    QVERIFY(_one->view()->isVisible());
+    QVERIFY(controller().window().isActiveWindow());
 }
 
 void MBPreferencesControllerTest::aScreenReaderSelectsAModule() {
