@@ -5,13 +5,14 @@
 #include <QEvent>
 #include <QTextDocumentFragment>
 
+#include <algorithm>
 #include <utility>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Enough for the longest explanation there is, in the narrowest pane.
+/// Enough for what most controls have to tell, in the narrowest pane.
 constexpr int lines = 2;
 
 QString explanationOf(const QWidget* widget) {
@@ -25,7 +26,7 @@ ExplanationLine::ExplanationLine(QWidget* parent) : QLabel(parent) {
     setTextFormat(Qt::PlainText);
     setWordWrap(true);
     setAlignment(Qt::AlignLeading | Qt::AlignTop);
-    setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Minimum);
 }
 
 void ExplanationLine::follow(const SettingBinder& binder) {
@@ -40,6 +41,10 @@ QSize ExplanationLine::sizeHint() const {
     const auto text = QStringList(lines, u"X"_s).join(u'\n');
     return {0,
             fontMetrics().boundingRect(QRect(0, 0, 1000, 1000), Qt::TextWordWrap, text).height()};
+}
+
+int ExplanationLine::heightForWidth(int width) const {
+    return std::max(sizeHint().height(), QLabel::heightForWidth(width));
 }
 
 void ExplanationLine::showEvent(QShowEvent* event) {

@@ -7,7 +7,9 @@ class SettingBinder;
 
 /// A line of a pane that tells what the control does that has the focus, so that nobody needs a
 /// mouse for it, or the one that the mouse rests on: its tool tip stands here, where it covers
-/// nothing. It watches all that its parent holds when it is first shown. Main thread only.
+/// nothing. It always has the height of two lines, so that the pane keeps still, and asks for more
+/// where that is not enough, as for a stored number out of range. It watches all that its parent
+/// holds when it is first shown. Main thread only.
 class ExplanationLine final : public QLabel {
     Q_OBJECT
   public:
@@ -19,7 +21,7 @@ class ExplanationLine final : public QLabel {
 
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
-    [[nodiscard]] int heightForWidth(int) const override { return sizeHint().height(); }
+    [[nodiscard]] int heightForWidth(int width) const override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   protected:

@@ -1,14 +1,18 @@
 #include "preferences/PreferencesController.h"
 
+#include "keyer/KeyerSettings.h"
+#include "keyer/MessageSettings.h"
 #include "preferences/MBPreferencesController.h"
 #include "preferences/PreferencesGeneral.h"
 #include "preferences/PreferencesMessagesViewController.h"
 #include "preferences/PreferencesWinKeyer.h"
+#include "preferences/binding/ExplanationLine.h"
 #include "tests/support/RegisteredTest.h"
 #include "tests/support/TestPlatform.h"
 
 #include <QComboBox>
 #include <QLabel>
+#include <QTabWidget>
 #include <QTest>
 
 #include <optional>
@@ -27,6 +31,8 @@ class PreferencesControllerTest : public QObject {
     void thePaneShownLastIsShownAtTheNextLaunch();
     void showingOpensTheOneWindow();
     void eachPaneFitsASmallScreen();
+    void nothingOfAPaneCoversAnother();
+    void everyExplanationIsSeenWhole();
     void theLinkToAnOrdinaryAdapterIsToldInFull();
     void thePortsReachTheirPane();
     void portsBeforeThePanesAreNoMatter();
@@ -40,6 +46,15 @@ class PreferencesControllerTest : public QObject {
         PreferencesWinKeyer::initialize();
         PreferencesMessagesViewController::initialize();
         PreferencesGeneral::initialize();
+    }
+
+    /// Turns to the page that holds the control.
+    static void bringToFront(QWidget& control) {
+        for (auto* each = &control; each->parentWidget() != nullptr; each = each->parentWidget()) {
+            if (auto* pages = qobject_cast<QTabWidget*>(each->parentWidget()->parentWidget())) {
+                pages->setCurrentWidget(each);
+            }
+        }
     }
 
     std::optional<TestPlatform> _platform;
@@ -98,6 +113,56 @@ void PreferencesControllerTest::eachPaneFitsASmallScreen() {
         QVERIFY2(size.width() <= 800 && size.height() <= 600, qPrintable(pane->title()));
         QVERIFY2(pane->view()->minimumSizeHint().width() <= pane->view()->width(),
                  qPrintable(pane->title()));
+    }
+}
+
+void PreferencesControllerTest::nothingOfAPaneCoversAnother() {
+    PreferencesController controller;
+    controller.awakeFromNib();
+    controller.showPreferences(this);
+    for (const auto& pane : *window().modules()) {
+        window().changeToModule(pane);
+        QTest::qWait(0);
+        const auto widgets =
+            pane->view()->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
+        for (const auto* one : widgets) {
+            for (const auto* other : widgets) {
+                const bool bothAreSeen = one->isVisible() && other->isVisible();
+                QVERIFY2(one == other || !bothAreSeen ||
+                             !one->geometry().intersects(other->geometry()),
+                         qPrintable(one->objectName() + u" and "_s + other->objectName()));
+            }
+        }
+    }
+}
+
+/// Also where there is more to tell than usual: of numbers that nobody could have chosen here.
+void PreferencesControllerTest::everyExplanationIsSeenWhole() {
+    for (const auto& setting : keyerSettings) {
+        if (setting.range) {
+            _platform->settings().setObject(setting.range->maximum + 100, setting.key);
+        }
+    }
+    _platform->settings().setObject(4000.0, BeaconInterval.key);
+    PreferencesController controller;
+    controller.awakeFromNib();
+    controller.showPreferences(this);
+    QVERIFY(QTest::qWaitForWindowActive(&window().window()));
+    for (const auto& pane : *window().modules()) {
+        window().changeToModule(pane);
+        auto& line = *pane->view()->findChild<ExplanationLine*>();
+        for (auto* control : pane->view()->findChildren<QWidget*>()) {
+            if (!control->property("setting").isValid() || !control->isEnabled()) {
+                continue;
+            }
+            bringToFront(*control);
+            control->setFocus();
+            const auto name = control->objectName().toUtf8();
+            QVERIFY2(control->hasFocus(), name);
+            QVERIFY2(line.text().contains(u"efault"), name);
+            QTRY_VERIFY2(line.height() >= line.heightForWidth(line.width()), name);
+            QVERIFY2(pane->view()->rect().contains(line.geometry()), name);
+        }
     }
 }
 

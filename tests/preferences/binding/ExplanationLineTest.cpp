@@ -25,7 +25,8 @@ class ExplanationLineTest : public QObject {
     void itFollowsTheExplanation();
     void itTellsWhatTheMouseRestsOn();
     void aToolTipOfAPartIsThatOfTheWhole();
-    void itHasRoomWhateverItTells();
+    void itKeepsItsHeightWhateverFewWordsItTells();
+    void itHasRoomForManyWords();
 
   private:
     void restMouseOn(QWidget& widget) {
@@ -91,13 +92,24 @@ void ExplanationLineTest::aToolTipOfAPartIsThatOfTheWhole() {
     QCOMPARE(_view->line.text(), u"Does another."_s);
 }
 
-void ExplanationLineTest::itHasRoomWhateverItTells() {
+void ExplanationLineTest::itKeepsItsHeightWhateverFewWordsItTells() {
     const auto size = _view->line.sizeHint();
-    explain(_view->one, u"Does more than can be told in few words. "_s.repeated(3));
-    QCOMPARE(_view->line.sizeHint(), size);
-    QCOMPARE(_view->line.heightForWidth(50), size.height());
-    explain(_view->one, {});
-    QCOMPARE(_view->line.sizeHint(), size);
+    const auto height = _view->line.heightForWidth(400);
+    QCOMPARE(height, size.height());
+    for (const auto& text : {u"Does something else."_s, QString()}) {
+        explain(_view->one, text);
+        QCOMPARE(_view->line.sizeHint(), size);
+        QCOMPARE(_view->line.heightForWidth(400), height);
+    }
+}
+
+void ExplanationLineTest::itHasRoomForManyWords() {
+    _view->window.resize(200, 400);
+    explain(_view->one, u"Does more than can be told in few words. "_s.repeated(5));
+    QTRY_VERIFY(_view->line.height() > _view->line.sizeHint().height());
+    const auto text = _view->line.fontMetrics().boundingRect(QRect(0, 0, _view->line.width(), 1000),
+                                                             Qt::TextWordWrap, _view->line.text());
+    QVERIFY(_view->line.height() >= text.height());
 }
 
 static const RegisteredTest<ExplanationLineTest> registered;
