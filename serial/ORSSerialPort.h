@@ -104,9 +104,10 @@ class ORSSerialPort final : public QObject, public std::enable_shared_from_this<
     /// reported to the delegate later; of another program that has it open, the log tells which.
     /// What came in before is thrown away. Nothing happens to an open port.
     void open();
-    /// Puts the device's old settings back and closes it, once what was written has gone out. Bytes
-    /// received and not yet handed to the delegate are dropped. True when the port is closed
-    /// afterwards.
+    /// Puts the device's old settings back and closes it, once what was written has gone out; what
+    /// has not within a tenth of a second goes on without the port, and the device stays taken
+    /// until then. Bytes received and not yet handed to the delegate are dropped. True when the
+    /// port is closed afterwards.
     bool close();
     /// Closes an open port over its user's head: tells the delegate before. True as of close().
     bool closeForeseen();
@@ -201,6 +202,7 @@ class ORSSerialPort final : public QObject, public std::enable_shared_from_this<
     [[nodiscard]] bool closeOpening();
     void queueErrorReport();
     bool writeOut();
+    [[nodiscard]] bool wasFull(qsizetype attempted) const;
     void watchForRoom();
     void endWatchForRoom();
     void setFlowControl(bool& setting, bool uses, void (ORSSerialPort::*changed)());

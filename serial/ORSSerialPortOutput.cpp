@@ -7,6 +7,11 @@
 #include <algorithm>
 #include <cerrno>
 
+namespace {
+/// Bytes; the image of a keyer's memory is one.
+constexpr qsizetype smallWrite = 256;
+} // namespace
+
 bool ORSSerialPort::sendData(const QByteArray& data) {
     if (!isOpen()) {
         return false;
@@ -18,11 +23,12 @@ bool ORSSerialPort::sendData(const QByteArray& data) {
 // One attempt a call: what a short or failed write left waits for the next one. Only what a full
 // line has no room for goes out by itself, as if the write had waited for it.
 bool ORSSerialPort::writeOut() {
+    const auto size = _writeBuffer.size();
     const auto count = LineOutput::write(_fileDescriptor, _writeBuffer);
     const int number = errno;
-    const bool isCutShort = count < 0 ? number == EAGAIN : count < _writeBuffer.size();
     _writeBuffer.remove(0, std::max<qsizetype>(count, 0));
-    if (isCutShort && !LineOutput::hasRoom(_fileDescriptor)) {
+    const bool isCutShort = count < 0 ? number == EAGAIN : count < size;
+    if (isCutShort && wasFull(size)) {
         watchForRoom();
         return true;
     }
@@ -32,6 +38,12 @@ bool ORSSerialPort::writeOut() {
         notifyDelegateOfPosixError();
     }
     return count >= 0;
+}
+
+// There may be room again by the time it is looked for. A line that was watched had been full, and
+// one with nothing to do takes a small write whole, unless something interrupts it.
+bool ORSSerialPort::wasFull(qsizetype attempted) const {
+    return _roomWatch || attempted > smallWrite || !LineOutput::hasRoom(_fileDescriptor);
 }
 
 void ORSSerialPort::watchForRoom() {
