@@ -1,9 +1,22 @@
 #include "app/KeyRepeat.h"
 
 #include <QCoreApplication>
-#include <QKeyEvent>
+
+#include <algorithm>
+#include <array>
 
 namespace {
+
+/// Those that make a shortcut of a letter.
+constexpr auto shortcutModifiers = Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
+
+/// Pressed and let go of while another key is held, which goes on repeating.
+bool isModifier(int key) {
+    constexpr std::array modifiers{Qt::Key_Shift,   Qt::Key_Control,   Qt::Key_Alt,
+                                   Qt::Key_Meta,    Qt::Key_AltGr,     Qt::Key_CapsLock,
+                                   Qt::Key_NumLock, Qt::Key_ScrollLock};
+    return std::find(modifiers.begin(), modifiers.end(), key) != modifiers.end();
+}
 
 void handOnAsRepeat(QKeyEvent& press, QObject& receiver) {
     QKeyEvent repeat(press.type(), press.key(), press.modifiers(), press.nativeScanCode(),
@@ -30,18 +43,39 @@ bool KeyRepeat::eventFilter(QObject* watched, QEvent* event) {
         _releasedKey = release.key();
         _releasedCode = release.nativeScanCode();
         _releasedAt = release.timestamp();
-    } else if (event->type() == QEvent::ShortcutOverride &&
-               isRepeat(*static_cast<QKeyEvent*>(event))) {
-        event->accept(); // so it is none
-        return true;
-    } else if (event->type() == QEvent::KeyPress && isRepeat(*static_cast<QKeyEvent*>(event))) {
-        handOnAsRepeat(*static_cast<QKeyEvent*>(event), *watched);
-        return true;
+    } else if (event->type() == QEvent::ShortcutOverride || event->type() == QEvent::KeyPress) {
+        return filterPress(*watched, *static_cast<QKeyEvent*>(event));
     }
     return QObject::eventFilter(watched, event);
 }
 
+bool KeyRepeat::filterPress(QObject& receiver, QKeyEvent& press) {
+    if (!press.isAutoRepeat() && !isRepeat(press)) {
+        if (!isModifier(press.key())) {
+            _held = {press.key(), press.nativeScanCode(), press.modifiers() & shortcutModifiers};
+        }
+        return false;
+    }
+    const bool isDropped = !isOfHeldKey(press);
+    if (press.isAutoRepeat() && !isDropped) {
+        return false;
+    }
+    if (press.type() == QEvent::ShortcutOverride || isDropped) {
+        press.accept(); // so it is no shortcut
+    } else {
+        handOnAsRepeat(press, receiver);
+    }
+    return true;
+}
+
 bool KeyRepeat::isRepeat(const QKeyEvent& press) const {
-    return !press.isAutoRepeat() && press.timestamp() != 0 && press.timestamp() == _releasedAt &&
+    return press.timestamp() != 0 && press.timestamp() == _releasedAt &&
            press.key() == _releasedKey && press.nativeScanCode() == _releasedCode;
+}
+
+/// Shift may make another key of the same piece of plastic.
+bool KeyRepeat::isOfHeldKey(const QKeyEvent& repeat) const {
+    const bool isSameKey = repeat.nativeScanCode() != 0 ? repeat.nativeScanCode() == _held.code
+                                                        : repeat.key() == _held.key;
+    return isSameKey && (repeat.modifiers() & shortcutModifiers) == _held.modifiers;
 }

@@ -31,6 +31,11 @@ class KeyRepeatTest : public QObject {
     void anotherKeyAtTheSameMomentIsNoRepeat();
     void aHeldLetterRepeatsAsText();
     void repeatsThatTheToolkitTellsStayRepeats();
+    void aShortcutWhoseModifierGoesFirstIsNoText_data();
+    void aShortcutWhoseModifierGoesFirstIsNoText();
+    void aLetterThatBecomesAShortcutDoesNothing();
+    void shiftInMidRepeatLetsTheTextGoOn();
+    void aKeyHeldSinceAnotherWindowDoesNothing();
 
   private:
     void press(Qt::Key key, quint64 at, Qt::KeyboardModifiers modifiers = Qt::NoModifier,
@@ -163,6 +168,55 @@ void KeyRepeatTest::repeatsThatTheToolkitTellsStayRepeats() {
     const auto text = _bench->engine().keyboardBuffer();
     press(Qt::Key_F2, 2500, Qt::NoModifier, true);
     QCOMPARE(_bench->engine().keyboardBuffer(), text);
+}
+
+void KeyRepeatTest::aShortcutWhoseModifierGoesFirstIsNoText_data() {
+    QTest::addColumn<bool>("isTold");
+    QTest::newRow("told by the toolkit") << true;
+    QTest::newRow("told by the time stamp") << false;
+}
+
+void KeyRepeatTest::aShortcutWhoseModifierGoesFirstIsNoText() {
+    QFETCH(bool, isTold);
+    press(Qt::Key_Control, 900);
+    press(Qt::Key_T, 1000, Qt::ControlModifier);
+    QCOMPARE(_bench->engine().tuneState(), 1);
+    release(Qt::Key_Control, 1490);
+    for (quint64 at = 1500; at < 1700; at += 40) {
+        release(Qt::Key_T, at);
+        press(Qt::Key_T, at, Qt::NoModifier, isTold);
+    }
+    QCOMPARE(_bench->engine().tuneState(), 1);
+    QCOMPARE(_bench->written(), "0b 01");
+    release(Qt::Key_T, 1700);
+    press(Qt::Key_T, 1800);
+    QCOMPARE(_bench->written(), "0b 00 54");
+}
+
+void KeyRepeatTest::aLetterThatBecomesAShortcutDoesNothing() {
+    press(Qt::Key_T, 1000);
+    QCOMPARE(_bench->written(), "54");
+    press(Qt::Key_Control, 1490);
+    release(Qt::Key_T, 1500, Qt::ControlModifier);
+    press(Qt::Key_T, 1500, Qt::ControlModifier);
+    QCOMPARE(_bench->engine().tuneState(), 0);
+    QCOMPARE(_bench->engine().keyboardBuffer(), u"T"_s);
+}
+
+void KeyRepeatTest::shiftInMidRepeatLetsTheTextGoOn() {
+    press(Qt::Key_E, 1000);
+    press(Qt::Key_Shift, 1490);
+    release(Qt::Key_E, 1500, Qt::ShiftModifier);
+    press(Qt::Key_E, 1500, Qt::ShiftModifier);
+    QCOMPARE(_bench->engine().keyboardBuffer(), u"EE"_s);
+}
+
+void KeyRepeatTest::aKeyHeldSinceAnotherWindowDoesNothing() {
+    press(Qt::Key_E, 1500, Qt::NoModifier, true);
+    release(Qt::Key_T, 1540);
+    press(Qt::Key_T, 1540);
+    QCOMPARE(_bench->engine().keyboardBuffer(), u""_s);
+    QCOMPARE(_bench->written(), "");
 }
 
 static const RegisteredTest<KeyRepeatTest> registered;

@@ -48,6 +48,17 @@ class HeldKeyTest(ProgramTest):
         self.assertEqual([word for _, word in keyer.events("key")], ["down", "up"])
         self.terminate(keyer, quorvel)
 
+    def test_a_shortcut_whose_modifier_goes_first_is_no_text(self):
+        keyer, quorvel, window = self.start_connected()
+        with self.desktop.hold("ctrl+t"):
+            self.expect_switch(quorvel, window, "Tune", True)
+            self.desktop.xdotool("keyup", "ctrl")
+            time.sleep(HELD)
+        self.expect_switch(quorvel, window, "Tune", True)
+        self.assertEqual(window.find("Keyboard").text(), "")
+        self.assertEqual([word for _, word in keyer.events("key")], ["down"])
+        self.terminate(keyer, quorvel)
+
     def test_a_message_is_sent_once(self):
         keyer, quorvel, window = self.start_connected(SETTINGS + "Message2=TEST\n")
         self.hold("F2")
