@@ -10,6 +10,7 @@
 #include <QString>
 
 #include <atomic>
+#include <chrono>
 #include <memory>
 
 class LivePorts;
@@ -202,6 +203,8 @@ class ORSSerialPort final : public QObject, public std::enable_shared_from_this<
     [[nodiscard]] bool closeOpening();
     void queueErrorReport();
     bool writeOut();
+    void noteWritten(qsizetype bytes);
+    [[nodiscard]] bool isSending() const;
     [[nodiscard]] bool wasFull(qsizetype attempted) const;
     void watchForRoom();
     void endWatchForRoom();
@@ -220,6 +223,7 @@ class ORSSerialPort final : public QObject, public std::enable_shared_from_this<
     QString _path;
     QString _name;
     QByteArray _writeBuffer;
+    std::chrono::steady_clock::time_point _lineIsFree;
     std::unique_ptr<QSocketNotifier> _roomWatch;
 
     unsigned long _baudRate = 19200;

@@ -108,7 +108,7 @@ bool ORSSerialPort::close() {
 // A device that is not let go of is closed all the same: held open, it would stay locked too, with
 // its lines raised. The log says why the next one to open it finds it busy.
 bool ORSSerialPort::closeOpening() {
-    const bool isClosed = _opening->close();
+    const bool isClosed = _opening->close(isSending());
     if (_opening->staysLocked()) {
         logLine(u"Unable to leave exclusive mode on %1"_s.arg(description()));
     }

@@ -6,10 +6,19 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <chrono>
+
+using namespace std::chrono_literals;
+using std::chrono::steady_clock;
 
 namespace {
 /// Bytes; the image of a keyer's memory is one.
 constexpr qsizetype smallWrite = 256;
+
+/// Bits, with parity and two stop bits.
+constexpr double longestByte = 12;
+
+constexpr auto adapterTime = 20ms;
 } // namespace
 
 bool ORSSerialPort::sendData(const QByteArray& data) {
@@ -26,7 +35,7 @@ bool ORSSerialPort::writeOut() {
     const auto size = _writeBuffer.size();
     const auto count = LineOutput::write(_fileDescriptor, _writeBuffer);
     const int number = errno;
-    _writeBuffer.remove(0, std::max<qsizetype>(count, 0));
+    noteWritten(std::max<qsizetype>(count, 0));
     const bool isCutShort = count < 0 ? number == EAGAIN : count < size;
     if (isCutShort && wasFull(size)) {
         watchForRoom();
@@ -38,6 +47,21 @@ bool ORSSerialPort::writeOut() {
         notifyDelegateOfPosixError();
     }
     return count >= 0;
+}
+
+void ORSSerialPort::noteWritten(qsizetype bytes) {
+    _writeBuffer.remove(0, bytes);
+    const auto rate = std::max<double>(static_cast<double>(_baudRate), 1);
+    const std::chrono::duration<double> time(longestByte * static_cast<double>(bytes) / rate);
+    _lineIsFree = std::max(_lineIsFree, steady_clock::now()) +
+                  std::chrono::duration_cast<steady_clock::duration>(time);
+}
+
+/// Whether what was written may still be on its way. A driver does not know what an adapter has
+/// taken and not sent.
+bool ORSSerialPort::isSending() const {
+    return LineOutput::waiting(_fileDescriptor) > 0 ||
+           steady_clock::now() < _lineIsFree + adapterTime;
 }
 
 // There may be room again by the time it is looked for. A line that was watched had been full, and

@@ -1,6 +1,16 @@
 #include "serial/PortOpening.h"
 
+#include "serial/PortClosing.h"
+
 #include <system_error>
+#include <utility>
+
+using namespace std::chrono_literals;
+
+namespace {
+/// What is sent last is out by then, unless a block is ahead of it or the device takes nothing.
+constexpr auto longestClose = 100ms;
+} // namespace
 
 PortOpening::PortOpening(ExclusiveDevice::Device device, FileDescriptor wakeUp)
     : _device(std::move(device)), _wakeUp(std::move(wakeUp)), _savedSettings(descriptor()) {}
@@ -18,10 +28,15 @@ bool PortOpening::startWorkers(const std::shared_ptr<ORSSerialPort>& port,
 }
 
 // The workers end first, for a closed descriptor's number may be somebody else's at once.
-bool PortOpening::close() {
+bool PortOpening::close(bool hasOutput) {
     _reader.reset();
     _pinPoller.reset();
-    _savedSettings.restore(descriptor());
-    _staysLocked = !ExclusiveDevice::release(_device.descriptor);
-    return _device.descriptor.close();
+    auto outcome =
+        hasOutput ? PortClosing::close(std::move(_device.descriptor), _savedSettings, longestClose)
+                  : PortClosing::closeIdle(std::move(_device.descriptor), _savedSettings);
+    if (outcome) {
+        _device.descriptor = std::move(outcome->descriptor);
+        _staysLocked = outcome->staysLocked;
+    }
+    return !_device.isValid();
 }

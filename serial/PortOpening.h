@@ -25,7 +25,8 @@ class PortOpening {
 
     /// Ends the workers, puts the old line settings back, and closes the descriptor. When that
     /// last step is refused it returns false, and the descriptor is still held, without workers.
-    [[nodiscard]] bool close();
+    /// With output on its way, a device that takes its time is closed behind the caller's back.
+    [[nodiscard]] bool close(bool hasOutput);
     /// Whether close() was refused to let others in again.
     [[nodiscard]] bool staysLocked() const { return _staysLocked; }
 

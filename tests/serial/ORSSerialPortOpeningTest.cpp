@@ -2,6 +2,8 @@
 #include "tests/support/RegisteredTest.h"
 
 #include <QDir>
+#include <QElapsedTimer>
+#include <QSemaphore>
 #include <QSignalSpy>
 
 #include <cerrno>
@@ -416,6 +418,33 @@ class ORSSerialPortOpeningTest : public QObject {
         QCOMPARE(records[0].actions, TCSANOW);
         QCOMPARE(records[0].record.c_cflag & CRTSCTS, 0U);
         QCOMPARE(records[1].actions, TCSADRAIN);
+    }
+
+    void aDeviceThatTakesNothingMoreHoldsNobodyUp() {
+        QSemaphore taken;
+        PortBench bench;
+        QVERIFY(bench.open());
+        bench.faults.beforeEach(SystemCall::TcSetAttr,
+                                [&taken, main = std::this_thread::get_id()](int) {
+                                    if (std::this_thread::get_id() != main) {
+                                        taken.acquire();
+                                    }
+                                });
+        QVERIFY(bench.port->sendData("y"));
+        bench.faults.setOutputWaiting(1);
+        QElapsedTimer time;
+        time.start();
+        QVERIFY(bench.port->close());
+        QVERIFY(time.elapsed() < 2000);
+        QVERIFY(!bench.port->isOpen());
+        QCOMPARE(bench.delegate.count(u"closed"_s), 1);
+        // It stays taken until its output has gone.
+        bench.port->open();
+        QVERIFY(!bench.port->isOpen());
+        taken.release(1000);
+        QTRY_VERIFY((bench.port->open(), bench.port->isOpen()));
+        QVERIFY(bench.port->sendData("x"));
+        QCOMPARE(bench.line.read(2), "yx"_ba);
     }
 };
 
