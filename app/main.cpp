@@ -46,7 +46,7 @@ namespace {
 constexpr auto lastWord = 10s;
 
 /// Bytes: a stop behind them is at the keyer within a tenth of a second.
-constexpr int runLimit = 6;
+constexpr int runLimit = 5;
 
 /// What the desktop gave this start, so that a window may come to the front.
 QString activationToken() {

@@ -165,6 +165,8 @@ class WinKeyerUsb final : public QObject, public ORSSerialPortDelegate {
 
     /// Keys the transmitter steadily while the control is on.
     void tune(const QObject* sender);
+    /// Keys up, ahead of the output that waits, whatever any control shows.
+    void keyUp();
     /// High-speed CW while the control is on, else the speed of the pot. Leaves hscwState alone.
     void changeHSCWMode(const QObject* sender);
 
@@ -273,6 +275,7 @@ class WinKeyerUsb final : public QObject, public ORSSerialPortDelegate {
     void appendSendableText(const QString& text);
     void announceActivity();
     void makeWay();
+    void keepWhole(qsizetype bytes);
     void beginHostMode();
     void completeHostMode();
 
@@ -285,6 +288,7 @@ class WinKeyerUsb final : public QObject, public ORSSerialPortDelegate {
 
     void continueRun();
     [[nodiscard]] bool isRunUnderWay() const;
+    [[nodiscard]] Clock::Duration runAhead() const;
     void writeAhead(const QByteArray& bytes);
     [[nodiscard]] Step sendNext();
     [[nodiscard]] Step sendNextOfHisCallsign();
@@ -303,8 +307,9 @@ class WinKeyerUsb final : public QObject, public ORSSerialPortDelegate {
     bool _hasHeardFromKeyer = false;
     bool _mayBeKeying = false;
     bool _isToBeGreetedAgain = false;
-    Clock::Duration _greetingEnd{0};
+    Clock::Duration _uncutUntil{0};
     std::shared_ptr<Timer> _memoryLoad;
+    Clock::Duration _memoryLoadEnd{0};
     std::optional<std::uint8_t> _lastStatus;
     KeyerActivity _announcedActivity = KeyerActivity::NotConnected;
     QString _announcedPortName;
@@ -316,7 +321,7 @@ class WinKeyerUsb final : public QObject, public ORSSerialPortDelegate {
     bool _sendIsDue = false;
     bool _isAwaitingEcho = false;
     int _runLimit = 0;
-    qsizetype _bytesAhead = 0;
+    Clock::Duration _runIsOut{0};
     std::shared_ptr<Timer> _runTimer;
     qint64 _serialNumber = 1;
 

@@ -67,11 +67,17 @@ bool WinKeyerUsb::writeEeprom(Error*) {
     return true;
 }
 
+/// A second load queues behind the first.
 void WinKeyerUsb::beginMemoryLoad() {
-    endMemoryLoad();
+    auto& clock = Platform::current().clock();
+    const bool isSecond = isLoadingMemory();
+    if (isSecond) {
+        _memoryLoad->invalidate();
+    }
     const auto size = KeyerCommand::adminLoadEeprom().size() + qsizetype(Image().size());
-    _memoryLoad = Platform::current().clock().scheduleTimer(lineTime(size), this,
-                                                            [this] { endMemoryLoad(); });
+    _memoryLoadEnd = (isSecond ? _memoryLoadEnd : clock.now()) + lineTime(size);
+    _memoryLoad =
+        clock.scheduleTimer(_memoryLoadEnd - clock.now(), this, [this] { endMemoryLoad(); });
     Q_EMIT isLoadingMemoryChanged();
 }
 
@@ -87,6 +93,7 @@ void WinKeyerUsb::endMemoryLoad() {
 }
 
 void WinKeyerUsb::sendStandaloneMessage(int number) {
+    Q_EMIT willSend();
     _mayBeKeying = true;
     static_cast<void>(
         sendToPort(KeyerCommand::adminSendStandaloneMessage(KeyerEncoding::lowByte(number))));

@@ -9,12 +9,17 @@ using namespace Qt::StringLiterals;
 
 void WinKeyerUsb::tune(const QObject* sender) {
     using KeyerCommand::KeyLine;
-    const auto isOn = Action::state(sender) == 1;
-    _mayBeKeying = _mayBeKeying || isOn;
-    if (!isOn) {
-        makeWay();
+    if (Action::state(sender) != 1) {
+        keyUp();
+        return;
     }
-    putToWinKeyer(KeyerCommand::keyImmediate(isOn ? KeyLine::Down : KeyLine::Up));
+    _mayBeKeying = true;
+    putToWinKeyer(KeyerCommand::keyImmediate(KeyLine::Down));
+}
+
+void WinKeyerUsb::keyUp() {
+    makeWay();
+    putToWinKeyer(KeyerCommand::keyImmediate(KeyerCommand::KeyLine::Up));
 }
 
 void WinKeyerUsb::silence() {

@@ -11,6 +11,8 @@
 #include "platform/Log.h"
 #include "platform/Platform.h"
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -90,21 +92,26 @@ void WinKeyerUsb::send() {
         return; // it goes on by itself, up to the next character
     }
     _text.acknowledge();
+    _runIsOut = {};
     continueRun();
 }
 
 /// Up to the next character whose echo is waited for, or until so much is written that the line has
-/// to send it first.
+/// to send it first. It goes on before the line is through, which stays busy so.
 void WinKeyerUsb::continueRun() {
-    _bytesAhead = 0;
     while (sendNext() == Step::GoOn) {
-        if (_runLimit > 0 && _bytesAhead >= _runLimit) {
-            _runTimer = Platform::current().clock().scheduleTimer(lineTime(_bytesAhead), this,
+        if (_runLimit > 0 && runAhead() > lineTime(_runLimit - 1)) {
+            _runTimer = Platform::current().clock().scheduleTimer(runAhead() / 2, this,
                                                                   [this] { continueRun(); });
             break;
         }
     }
     Q_EMIT sendingProgressed();
+}
+
+/// How long the line has to send what was written of the run.
+Clock::Duration WinKeyerUsb::runAhead() const {
+    return std::max(_runIsOut - Platform::current().clock().now(), Clock::Duration(0));
 }
 
 bool WinKeyerUsb::isRunUnderWay() const {
@@ -206,7 +213,7 @@ void WinKeyerUsb::sendText(const QByteArray& bytes) {
 
 void WinKeyerUsb::writeAhead(const QByteArray& bytes) {
     Q_EMIT willSend();
-    _bytesAhead += bytes.size();
+    _runIsOut = Platform::current().clock().now() + runAhead() + lineTime(bytes.size());
     putToWinKeyer(bytes);
 }
 

@@ -16,12 +16,10 @@ constexpr Clock::Duration longestReport = std::chrono::milliseconds(250);
 TuneSwitch::TuneSwitch(WinKeyerUsb& engine, QAbstractButton& button, QObject* parent)
     : QObject(parent), _engine(engine), _button(button) {
     QObject::connect(&_button, &QAbstractButton::toggled, this, [this](bool isOn) {
-        if (isOn != (_engine.tuneState() != 0)) {
-            if (isOn && _engine.isSending()) {
-                _engine.stopMessageSending(&_button);
-            }
-            _engine.setTuneState(isOn ? 1 : 0);
-            _engine.tune(&_button);
+        if (!isOn) {
+            letGo();
+        } else if (_engine.tuneState() == 0) {
+            keyDown();
         }
     });
     QObject::connect(&_engine, &WinKeyerUsb::tuneStateChanged, this, &TuneSwitch::follow);
@@ -30,6 +28,8 @@ TuneSwitch::TuneSwitch(WinKeyerUsb& engine, QAbstractButton& button, QObject* pa
     QObject::connect(&_engine, &WinKeyerUsb::messageSendingStopped, this, &TuneSwitch::letGo);
     QObject::connect(&_engine, &WinKeyerUsb::silenced, this, [this] { _engine.setTuneState(0); });
     QObject::connect(&_engine, &WinKeyerUsb::willLoadMemory, this, &TuneSwitch::letGo);
+    // One that was greeted again may have started anew, its key up.
+    QObject::connect(&_engine, &WinKeyerUsb::greeted, this, &TuneSwitch::letGo);
     QObject::connect(&_engine, &WinKeyerUsb::activityChanged, this, &TuneSwitch::followLink);
     QObject::connect(&_engine, &WinKeyerUsb::isLoadingMemoryChanged, this, &TuneSwitch::followLink);
     follow();
@@ -42,10 +42,18 @@ void TuneSwitch::follow() {
     _button.setChecked(_engine.tuneState() != 0);
 }
 
+void TuneSwitch::keyDown() {
+    if (_engine.isSending()) {
+        _engine.stopMessageSending(&_button);
+    }
+    _engine.setTuneState(1);
+    _engine.tune(&_button);
+}
+
 void TuneSwitch::letGo() {
     if (_engine.tuneState() != 0) {
         _engine.setTuneState(0);
-        _engine.tune(&_button);
+        _engine.keyUp();
     }
 }
 

@@ -11,9 +11,9 @@ class WinKeyerUsb;
 ///
 /// A keyer holds the key until it is told otherwise, so the switch falls, and the keyer is told,
 /// on every way out: when sending is stopped, when something is to be sent, when the keyer tells
-/// that the paddle is used or that it keys no more, and when the link goes, be it for a sleep.
-/// Switched on, it stops what is being sent. It can be switched on only while there is a keyer
-/// whose memory is not being loaded.
+/// that the paddle is used or that it keys no more, when it is greeted anew, and when the link
+/// goes, be it for a sleep. Switched on, it stops what is being sent. It can be switched on only
+/// while there is a keyer whose memory is not being loaded.
 class TuneSwitch final : public QObject {
     Q_OBJECT
   public:
@@ -24,6 +24,7 @@ class TuneSwitch final : public QObject {
     void letGo();
 
   private:
+    void keyDown();
     void follow();
     void followLink();
     void followStatus(std::uint8_t status);

@@ -43,6 +43,8 @@ class WireSendingTest : public QObject {
     void thePaddleTakesOver();
     void stopSilencesTheKeyer();
     void stopOvertakesWhatHasNoEcho();
+    void aRunIsKeyedAlikeHoweverItIsWritten_data();
+    void aRunIsKeyedAlikeHoweverItIsWritten();
     void aFullKeyerPausesUntilTheOperatorGoesOn();
 
   private:
@@ -225,6 +227,35 @@ void WireSendingTest::stopOvertakesWhatHasNoEcho() {
     _station->type(u"K"_s);
     QVERIFY(_station->waitForQuiet());
     QCOMPARE(_station->keyed(), u"K"_s);
+}
+
+void WireSendingTest::aRunIsKeyedAlikeHoweverItIsWritten_data() {
+    QTest::addColumn<int>("speed");
+    QTest::newRow("slow") << 13;
+    // A half space takes the keyer hardly longer than the line.
+    QTest::newRow("fast") << 45;
+}
+
+void WireSendingTest::aRunIsKeyedAlikeHoweverItIsWritten() {
+    QFETCH(int, speed);
+    const auto keyedAt = [speed](int limit) {
+        Station station;
+        static_cast<void>(station.setUp());
+        station.setPot(speed);
+        static_cast<void>(station.waitForQuiet());
+        station.engine().setRunLimit(limit);
+        station.type(u'E' + QString(40, u'|') + u"{AR{SKT"_s + QString(20, u'|') + u'E');
+        static_cast<void>(station.waitForQuiet());
+        QList<Station::Time> edges;
+        for (const auto& edge : station.edges()) {
+            edges.append(edge.at);
+        }
+        return edges;
+    };
+    _station.reset();
+    const auto atOnce = keyedAt(0);
+    QCOMPARE(atOnce.size(), 28);
+    QCOMPARE(keyedAt(5), atOnce);
 }
 
 void WireSendingTest::aFullKeyerPausesUntilTheOperatorGoesOn() {

@@ -34,6 +34,7 @@ class WinKeyerUsbMemoryTest : public QObject {
     void theEndOfALoadSendsNothingUnasked();
     void aLoadEndsWithTheLink();
     void aLoadIsForeseen();
+    void aSecondLoadQueuesBehindTheFirst();
     void standaloneMessagesAreSentByNumber_data();
     void standaloneMessagesAreSentByNumber();
 
@@ -222,6 +223,21 @@ void WinKeyerUsbMemoryTest::aLoadEndsWithTheLink() {
     QVERIFY(!_bench->engine().isLoadingMemory());
     QVERIFY(_bench->connect());
     _bench->type(u"E"_s);
+    QCOMPARE(_bench->written(), "45");
+}
+
+void WinKeyerUsbMemoryTest::aSecondLoadQueuesBehindTheFirst() {
+    auto& engine = _bench->engine();
+    QVERIFY(engine.writeEeprom(nullptr));
+    _bench->clock().advance(1s);
+    QVERIFY(engine.writeEeprom(nullptr));
+    static_cast<void>(_bench->written());
+    _bench->type(u"E"_s);
+    _bench->clock().advance(3729ms);
+    QVERIFY(engine.isLoadingMemory());
+    QCOMPARE(_bench->written(), "");
+    _bench->clock().advance(1ms);
+    QVERIFY(!engine.isLoadingMemory());
     QCOMPARE(_bench->written(), "45");
 }
 

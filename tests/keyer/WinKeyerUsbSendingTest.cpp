@@ -60,6 +60,7 @@ class WinKeyerUsbSendingTest : public QObject {
     void aPauseHoldsARun();
     void whatEndsTheKeyingOvertakesWhatWaits_data();
     void whatEndsTheKeyingOvertakesWhatWaits();
+    void aStopLeavesTheKeyUpAheadOfItAlone();
     void nothingIsCutFromABlock_data();
     void nothingIsCutFromABlock();
 
@@ -318,12 +319,13 @@ void WinKeyerUsbSendingTest::aLongRunIsWrittenAsTheLineSendsIt() {
     QCOMPARE(_bench->written(), "41");
     _bench->receive({'A'});
     QCOMPARE(_bench->written(), "7c 7c 7c 7c 7c 7c");
-    _bench->clock().advance(54ms);
+    // Ahead of the moment at which the line would fall idle.
+    _bench->clock().advance(27ms);
     QCOMPARE(_bench->written(), "");
     _bench->clock().advance(1ms);
-    QCOMPARE(_bench->written(), "1b 41 52 1d 0a 7c");
+    QCOMPARE(_bench->written(), "1b 41 52");
     _bench->clock().advance(1h);
-    QCOMPARE(_bench->written(), "7c 7c 45");
+    QCOMPARE(_bench->written(), "1d 0a 7c 7c 7c 45");
     _bench->receive({'E'});
     QCOMPARE(_bench->written(), "7c");
 }
@@ -335,7 +337,7 @@ void WinKeyerUsbSendingTest::aRunIsNotHurried() {
     _bench->receive({'U'});
     _bench->engine().appendMessage(u"C"_s);
     QCOMPARE(_bench->written(), "7c 7c 7c 7c 7c 7c");
-    _bench->clock().advance(55ms);
+    _bench->clock().advance(28ms);
     QCOMPARE(_bench->written(), "7c 7c 41");
     _bench->receive({'A'});
     QCOMPARE(_bench->written(), "42");
@@ -394,6 +396,20 @@ void WinKeyerUsbSendingTest::whatEndsTheKeyingOvertakesWhatWaits() {
         QVERIFY(engine.closeHostMode(nullptr));
     }
     QCOMPARE(_bench->written(), written);
+}
+
+void WinKeyerUsbSendingTest::aStopLeavesTheKeyUpAheadOfItAlone() {
+    auto& engine = _bench->engine();
+    _bench->clock().advance(1s);
+    SystemCallFaults faults;
+    faults.setOutputWaiting(20);
+    engine.keyUp();
+    engine.stopMessageSending(nullptr);
+    QCOMPARE(_bench->written(), "13 13 13 13 0b 00 0a");
+    // A line that has not moved since is stuck.
+    _bench->clock().advance(100ms);
+    engine.stopMessageSending(nullptr);
+    QCOMPARE(_bench->written(), "13 13 13 13 0a");
 }
 
 void WinKeyerUsbSendingTest::nothingIsCutFromABlock_data() {

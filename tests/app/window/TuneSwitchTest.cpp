@@ -10,6 +10,7 @@
 #include <QAccessible>
 #include <QLabel>
 #include <QPushButton>
+#include <QSignalBlocker>
 #include <QTest>
 
 #include <cerrno>
@@ -36,6 +37,8 @@ class TuneSwitchTest : public QObject {
     void anotherChoiceOfPortKeysUpBeforeItDisconnects();
     void quittingKeysUpBeforeItDisconnects();
     void closingTheWindowLetsGo();
+    void letsGoWhateverTheButtonShows();
+    void aKeyerThatIsGreetedAgainIsKeyedUp();
     void sleepLetsGo();
     void theSecondsAreShown();
     void theLimitLetsGoAndSaysSo();
@@ -44,6 +47,7 @@ class TuneSwitchTest : public QObject {
     void thereIsNoTuneWhileTheKeyersMemoryIsLoaded();
     void whateverIsSentLetsGoFirst_data();
     void whateverIsSentLetsGoFirst();
+    void aMessageOfTheKeyersOwnLetsGoFirst();
     void textThatIsHeldBackLetsGoOnlyWhenItGoes();
     void stopsWhatIsBeingSent();
     void thePaddleEndsIt();
@@ -71,6 +75,8 @@ void TuneSwitchTest::init() {
     QObject::connect(&*_delegate, &QuorvelDelegate::willDisconnect, &*_window,
                      &MainWindow::silenceKeyer);
     QVERIFY(_bench->connect());
+    // A keyer that says nothing is greeted again.
+    _bench->receive({0xC8});
     _window->show();
     QVERIFY(QTest::qWaitForWindowActive(&*_window));
     _button = _window->findChild<QPushButton*>(u"tuneButton"_s);
@@ -195,6 +201,23 @@ void TuneSwitchTest::closingTheWindowLetsGo() {
     QCOMPARE(_bench->engine().tuneState(), 0);
 }
 
+void TuneSwitchTest::letsGoWhateverTheButtonShows() {
+    tune();
+    const QSignalBlocker nobodyFollows(_bench->engine());
+    _window->close();
+    QVERIFY(_button->isChecked());
+    QCOMPARE(_bench->written(), "0b 00");
+}
+
+void TuneSwitchTest::aKeyerThatIsGreetedAgainIsKeyedUp() {
+    tune();
+    _bench->engine().greetAgain();
+    const auto written = _bench->written();
+    QVERIFY2(written.startsWith("13 13 13 13 00 04 55 00 02"), written);
+    QVERIFY2(written.endsWith("07 0b 00"), written);
+    QVERIFY(!isTransmittingShown());
+}
+
 void TuneSwitchTest::sleepLetsGo() {
     tune();
     _bench->platform().notifications().post(NSWorkspaceWillSleepNotification, nullptr);
@@ -295,6 +318,13 @@ void TuneSwitchTest::whateverIsSentLetsGoFirst() {
         _bench->clock().advance(std::chrono::hours(1));
     }
     QCOMPARE(_bench->written(), "0b 00 45");
+    QVERIFY(!isTransmittingShown());
+}
+
+void TuneSwitchTest::aMessageOfTheKeyersOwnLetsGoFirst() {
+    tune();
+    _bench->engine().sendStandaloneMessage(2);
+    QCOMPARE(_bench->written(), "0b 00 00 0e 02");
     QVERIFY(!isTransmittingShown());
 }
 
