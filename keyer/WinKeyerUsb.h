@@ -274,6 +274,7 @@ class WinKeyerUsb final : public QObject, public ORSSerialPortDelegate {
     void setSpeedString(const QString& speed);
     void appendSendableText(const QString& text);
     void announceActivity();
+    void clearKeyer();
     void makeWay();
     void keepWhole(qsizetype bytes);
     void beginHostMode();
@@ -306,6 +307,7 @@ class WinKeyerUsb final : public QObject, public ORSSerialPortDelegate {
     std::uint8_t _wkStatus = 0;
     bool _hasHeardFromKeyer = false;
     bool _mayBeKeying = false;
+    bool _isKeyerPlaying = false;
     bool _isToBeGreetedAgain = false;
     Clock::Duration _uncutUntil{0};
     std::shared_ptr<Timer> _memoryLoad;

@@ -192,6 +192,7 @@ void WinKeyerUsb::beginHostMode() {
     _isToBeGreetedAgain = false;
     _hasHeardFromKeyer = false;
     _mayBeKeying = false;
+    _isKeyerPlaying = false;
     _lastStatus.reset();
 }
 

@@ -59,6 +59,10 @@ bool WinKeyerUsb::writeEeprom(Error*) {
     auto image = imageOf(StoredSettings());
     store(layout, image);
     Q_EMIT willLoadMemory();
+    if (_isKeyerPlaying) {
+        // Nothing could stop its message until the image is out.
+        clearKeyer();
+    }
     if (!sendToPort(KeyerCommand::adminLoadEeprom()) || !sendToPort(bytesOf(image))) {
         Q_EMIT isLoadingMemoryChanged();
         return false;
@@ -95,6 +99,7 @@ void WinKeyerUsb::endMemoryLoad() {
 void WinKeyerUsb::sendStandaloneMessage(int number) {
     Q_EMIT willSend();
     _mayBeKeying = true;
+    _isKeyerPlaying = true;
     static_cast<void>(
         sendToPort(KeyerCommand::adminSendStandaloneMessage(KeyerEncoding::lowByte(number))));
 }

@@ -68,6 +68,7 @@ void WinKeyerUsb::handleStatus(std::uint8_t status) {
     }
     _lastStatus = status;
     _mayBeKeying = (status & KeyerStatus::anything) != 0;
+    _isKeyerPlaying = _isKeyerPlaying && _mayBeKeying;
     if ((status & KeyerStatus::anything) == 0) {
         handleIdle();
     }

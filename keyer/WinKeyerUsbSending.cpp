@@ -234,10 +234,15 @@ void WinKeyerUsb::clearSending() {
     setBeaconState(0);
 }
 
+void WinKeyerUsb::clearKeyer() {
+    _isKeyerPlaying = false;
+    putToWinKeyer(KeyerCommand::clearBuffer());
+}
+
 void WinKeyerUsb::stopMessageSending(const QObject*) {
     if (isConnected() && _winKeyerSerialPort->isOpen()) {
         makeWay();
-        putToWinKeyer(KeyerCommand::clearBuffer());
+        clearKeyer();
     }
     clearSending();
     Q_EMIT messageSendingStopped();

@@ -35,6 +35,7 @@ class WinKeyerUsbMemoryTest : public QObject {
     void aLoadEndsWithTheLink();
     void aLoadIsForeseen();
     void aSecondLoadQueuesBehindTheFirst();
+    void aLoadEndsAMessageOfTheKeyersOwn();
     void standaloneMessagesAreSentByNumber_data();
     void standaloneMessagesAreSentByNumber();
 
@@ -239,6 +240,23 @@ void WinKeyerUsbMemoryTest::aSecondLoadQueuesBehindTheFirst() {
     _bench->clock().advance(1ms);
     QVERIFY(!engine.isLoadingMemory());
     QCOMPARE(_bench->written(), "45");
+}
+
+void WinKeyerUsbMemoryTest::aLoadEndsAMessageOfTheKeyersOwn() {
+    auto& engine = _bench->engine();
+    engine.sendStandaloneMessage(1);
+    _bench->receive({0xC4});
+    QVERIFY(engine.writeEeprom(nullptr));
+    auto written = _bench->written();
+    QVERIFY2(written.startsWith("00 0e 01 0a 00 0d a5"), written);
+    // One that has ended by itself.
+    _bench->clock().advance(3s);
+    engine.sendStandaloneMessage(1);
+    _bench->receive({0xC4});
+    _bench->receive({0xC0});
+    QVERIFY(engine.writeEeprom(nullptr));
+    written = _bench->written();
+    QVERIFY2(written.startsWith("00 0e 01 00 0d a5"), written);
 }
 
 void WinKeyerUsbMemoryTest::aLoadIsForeseen() {
