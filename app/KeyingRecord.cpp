@@ -1,6 +1,5 @@
 #include "app/KeyingRecord.h"
 
-#include "keyer/KeyerCommand.h"
 #include "keyer/WinKeyerUsb.h"
 #include "platform/Log.h"
 
@@ -96,7 +95,7 @@ void KeyingRecord::linkIsUp() {
     if (_owed == Keying::None) {
         return;
     }
-    _engine.putToWinKeyer(KeyerCommand::keyImmediate(KeyerCommand::KeyLine::Up));
+    _engine.keyUp();
     const auto notice = noticeFor(_owed);
     keep(Keying::None, _now);
     logLine(notice);
