@@ -7,7 +7,8 @@ import contextlib
 import subprocess
 import time
 
-from program import SETTINGS, ProgramTest, run_tests
+from far_end import FarEndTest
+from program import SETTINGS, run_tests
 
 LOAD = 20
 # Some fifty repeats.
@@ -27,7 +28,7 @@ def busy_machine():
             each.wait()
 
 
-class HeldKeyTest(ProgramTest):
+class HeldKeyTest(FarEndTest):
     def hold(self, keys):
         with busy_machine(), self.desktop.hold(keys):
             time.sleep(HELD)
@@ -58,6 +59,21 @@ class HeldKeyTest(ProgramTest):
         self.assertEqual(window.find("Keyboard").text(), "")
         self.assertEqual([word for _, word in keyer.events("key")], ["down"])
         self.terminate(keyer, quorvel)
+
+    def test_every_switch_and_the_stop_act_once(self):
+        quorvel, _, far_end = self.start_on_far_end(SETTINGS + "WKHSCWSpeed=1000 lpm\n")
+        greeting = len(far_end.received())
+        with busy_machine():
+            for keys in ("ctrl+p", "ctrl+p", "ctrl+h", "ctrl+h", "ctrl+t", "ctrl+t", "Escape"):
+                with self.desktop.hold(keys):
+                    time.sleep(HELD)
+        # Behind all that was held.
+        self.desktop.press("ctrl+p")
+        expected = bytes.fromhex("0601 0600 1d0a 0200 0b01 0b00 0a 0601")
+        quorvel.wait_for("the last switch",
+                         lambda: len(far_end.received()) >= greeting + len(expected))
+        self.assertEqual(far_end.received()[greeting:].hex(" "), expected.hex(" "))
+        self.assertEqual(quorvel.end(), 0)
 
     def test_a_message_is_sent_once(self):
         keyer, quorvel, window = self.start_connected(SETTINGS + "Message2=TEST\n")

@@ -1,0 +1,52 @@
+"""The far end of the keyer's port in the test's own hands."""
+
+import os
+import select
+import tty
+
+from program import PORT, SETTINGS, SPEED, ProgramTest
+
+# Echo, version, no button, and the speed pot as the SETTINGS have it.
+ANSWERS = bytes([0x55, 23, 0xC8, 0x80 + SPEED - 60])
+
+
+class FarEnd:
+    """A terminal that is plugged in as a port; what the application sends to it, as it is."""
+
+    def __init__(self, link):
+        self._master, slave = os.openpty()
+        tty.setraw(slave)
+        link.parent.mkdir(mode=0o700, parents=True, exist_ok=True)
+        link.symlink_to(os.ttyname(slave))
+        # A port that somebody else has open is refused.
+        os.close(slave)
+        self._received = b""
+
+    def received(self):
+        """All of it until now."""
+        while select.select([self._master], [], [], 0)[0]:
+            try:
+                self._received += os.read(self._master, 4096)
+            except OSError:
+                break  # nobody has the port open
+        return self._received
+
+    def say(self, data):
+        assert os.write(self._master, data) == len(data)
+
+    def close(self):
+        os.close(self._master)
+
+
+class FarEndTest(ProgramTest):
+    def start_on_far_end(self, settings=SETTINGS):
+        """The application, its window and the far end, whose keyer has answered."""
+        far_end = FarEnd(self.runtime / "quorvel/ports" / PORT)
+        self.addCleanup(far_end.close)
+        self.write_settings(settings)
+        quorvel = self.start_quorvel()
+        window = self.active_window(quorvel)
+        quorvel.wait_for("the greeting", lambda: far_end.received().endswith(b"\x07"))
+        far_end.say(ANSWERS)
+        self.wait_for_speed(quorvel, window)
+        return quorvel, window, far_end
