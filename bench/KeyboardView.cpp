@@ -43,7 +43,6 @@ class Station {
         font.setPointSize(16);
         _view.setFont(font);
         _view.resize(700, 300);
-        _view.setEngine(_bench.engine());
         _view.show();
         static_cast<void>(QTest::qWaitForWindowExposed(&_view));
         startOver();
@@ -88,7 +87,7 @@ class Station {
     qsizetype _length;
     QString _text;
     EngineBench _bench;
-    KeyboardView _view;
+    KeyboardView _view{_bench.engine()};
 };
 
 double at(std::vector<double>& sorted, double part) {

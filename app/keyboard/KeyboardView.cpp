@@ -13,8 +13,12 @@
 
 #include <algorithm>
 
-KeyboardView::KeyboardView(QWidget* parent)
-    : QPlainTextEdit(parent), _text(*document()), _sentCalls(*document()), _scrollRest(this) {
+KeyboardView::KeyboardView(WinKeyerUsb& engine, QWidget* parent)
+    : QPlainTextEdit(parent),
+      _engine(engine),
+      _text(*document()),
+      _sentCalls(*document()),
+      _scrollRest(this) {
     // The document knows nothing of what has been sent, and its own undo would key text twice.
     setUndoRedoEnabled(false);
     setTabChangesFocus(true);
@@ -27,35 +31,35 @@ KeyboardView::KeyboardView(QWidget* parent)
     QObject::connect(verticalScrollBar(), &QScrollBar::actionTriggered, &_scrollRest,
                      &ScrollRest::noteUse);
     QObject::connect(&_scrollRest, &ScrollRest::over, this, &KeyboardView::followSending);
+    followEngine();
 }
 
-void KeyboardView::setEngine(WinKeyerUsb& engine) {
-    _engine = &engine;
-    QObject::connect(_engine, &WinKeyerUsb::keyboardBufferChanged, this,
+void KeyboardView::followEngine() {
+    QObject::connect(&_engine, &WinKeyerUsb::keyboardBufferChanged, this,
                      &KeyboardView::showEnginesText);
-    QObject::connect(_engine, &WinKeyerUsb::sendingProgressed, this, &KeyboardView::takeProgress);
-    QObject::connect(_engine, &WinKeyerUsb::activityChanged, this, &KeyboardView::takeProgress);
-    QObject::connect(_engine, &WinKeyerUsb::messageSendingStopped, this,
+    QObject::connect(&_engine, &WinKeyerUsb::sendingProgressed, this, &KeyboardView::takeProgress);
+    QObject::connect(&_engine, &WinKeyerUsb::activityChanged, this, &KeyboardView::followLink);
+    QObject::connect(&_engine, &WinKeyerUsb::messageSendingStopped, this,
                      &KeyboardView::dropHeldText);
-    showChange(TextChange::between(text(), _engine->keyboardBuffer()));
+    showChange(TextChange::between(text(), _engine.keyboardBuffer()));
     showProgress();
 }
 
 // The operator's changes.
 
 void KeyboardView::takeOperatorsText() {
-    if (_engine == nullptr || _isChangingDocument) {
+    if (_isChangingDocument) {
         return;
     }
-    const auto before = _engine->keyboardBuffer();
+    const auto before = _engine.keyboardBuffer();
     const auto typed = text();
     if (typed == before) {
         return; // a composition goes on, and is no text yet
     }
-    const auto handedOver = _engine->outputBufferIndex();
+    const auto handedOver = _engine.outputBufferIndex();
     giveToEngine(typed);
     breakParagraphs();
-    const auto change = TextChange::between(before, _engine->keyboardBuffer());
+    const auto change = TextChange::between(before, _engine.keyboardBuffer());
     if (!change.isEmpty()) {
         const auto isTyped =
             change.removed.size() + change.inserted.size() == 1 || isBeginOfWord(change);
@@ -70,8 +74,8 @@ void KeyboardView::takeOperatorsText() {
 
 void KeyboardView::giveToEngine(const QString& text) {
     const QScopedValueRollback guard(_isEngineTakingText, true);
-    _engine->setKeyboardBuffer(text);
-    _engine->textDidChange();
+    _engine.setKeyboardBuffer(text);
+    _engine.textDidChange();
 }
 
 /// The space that was put behind a message, and the first character of the word.
@@ -108,16 +112,16 @@ void KeyboardView::travel(const std::optional<TextChange>& change) {
     if (!change) {
         return;
     }
-    const auto wanted = change->appliedTo(_engine->keyboardBuffer());
+    const auto wanted = change->appliedTo(_engine.keyboardBuffer());
     giveToEngine(wanted);
-    if (_engine->keyboardBuffer() != wanted) {
+    if (_engine.keyboardBuffer() != wanted) {
         // The engine let something else pass this time; the other changes do not fit any more.
         _history.clear();
     }
     showProgress();
     auto caret = textCursor();
     const auto end = change->position + change->inserted.size();
-    caret.setPosition(static_cast<int>(std::min(end, _engine->keyboardBuffer().size())));
+    caret.setPosition(static_cast<int>(std::min(end, _engine.keyboardBuffer().size())));
     setTextCursor(caret);
     ensureCursorVisible();
 }
@@ -136,12 +140,12 @@ void KeyboardView::announceHistory() {
 // The engine's changes.
 
 void KeyboardView::showEnginesText() {
-    const auto change = TextChange::between(text(), _engine->keyboardBuffer());
+    const auto change = TextChange::between(text(), _engine.keyboardBuffer());
     if (change.isEmpty()) {
         return;
     }
     if (!_isEngineTakingText) {
-        _history.record(change, _engine->outputBufferIndex(), EditHistory::Kind::Whole);
+        _history.record(change, _engine.outputBufferIndex(), EditHistory::Kind::Whole);
         noteMessage(change);
     }
     showChange(change);
@@ -152,7 +156,7 @@ void KeyboardView::showEnginesText() {
 
 void KeyboardView::noteMessage(const TextChange& change) {
     const auto end = change.position + change.inserted.size();
-    const bool isAdded = change.removed.isEmpty() && end == _engine->keyboardBuffer().size();
+    const bool isAdded = change.removed.isEmpty() && end == _engine.keyboardBuffer().size();
     _messageEnd = isAdded ? end : -1;
 }
 
@@ -191,11 +195,11 @@ void KeyboardView::keepSelection(int begin, int end, bool isReversed) {
 // How far the sending is.
 
 SendingMarks::State KeyboardView::sendingState() const {
-    return {_engine->inFlightIndex(), _engine->outputBufferIndex(), isLinked()};
+    return {_engine.inFlightIndex(), _engine.outputBufferIndex(), isLinked()};
 }
 
 bool KeyboardView::isLinked() const {
-    return _engine != nullptr && _engine->activity() != KeyerActivity::NotConnected;
+    return _engine.activity() != KeyerActivity::NotConnected;
 }
 
 qsizetype KeyboardView::waitingCount() const {
@@ -203,21 +207,30 @@ qsizetype KeyboardView::waitingCount() const {
         return 0;
     }
     const auto held = _isHoldingText ? _kept.all().size() : 0;
-    return _engine->keyboardBuffer().size() - _engine->inFlightIndex() + held;
+    return _engine.keyboardBuffer().size() - _engine.inFlightIndex() + held;
+}
+
+/// Text that was typed while it went nowhere is not sent later on, of itself, as it would be by a
+/// keyer that is back after a sleep.
+void KeyboardView::followLink() {
+    if (!_shownState.isLinked && isLinked() && !_engine.keyboardBuffer().isEmpty()) {
+        _engine.clearSending();
+    }
+    takeProgress();
 }
 
 void KeyboardView::takeProgress() {
     if (_isEngineTakingText) {
         return; // there is more to come
     }
-    if (_engine->keyboardBuffer().isEmpty()) {
+    if (_engine.keyboardBuffer().isEmpty()) {
         _history.clear(); // stopped, or broken in on
     }
     showProgress();
 }
 
 void KeyboardView::showProgress() {
-    _history.handOver(_engine->outputBufferIndex());
+    _history.handOver(_engine.outputBufferIndex());
     announceHistory();
     noteSentCalls();
     if (_shownState != sendingState()) {
@@ -230,12 +243,12 @@ void KeyboardView::showProgress() {
 }
 
 void KeyboardView::noteSentCalls() {
-    const auto sent = _engine->inFlightIndex();
-    const auto text = _engine->keyboardBuffer();
+    const auto sent = _engine.inFlightIndex();
+    const auto text = _engine.keyboardBuffer();
     const QScopedValueRollback guard(_isChangingDocument, true);
     for (auto i = std::min(_callsSeen, sent); isLinked() && i < sent; ++i) {
         if (text.at(i) == u'~') {
-            _sentCalls.note(static_cast<int>(i), _engine->hisCallsign().toUpper(), font());
+            _sentCalls.note(static_cast<int>(i), _engine.hisCallsign().toUpper(), font());
         }
     }
     _callsSeen = sent;
@@ -243,8 +256,8 @@ void KeyboardView::noteSentCalls() {
 
 /// The caret is a block where typing has the keyer send again what it has been given.
 void KeyboardView::followCaret() {
-    const bool isInSentText = _engine != nullptr && hasFocus() &&
-                              textCursor().selectionStart() < _engine->outputBufferIndex();
+    const bool isInSentText =
+        hasFocus() && textCursor().selectionStart() < _engine.outputBufferIndex();
     if (_isCaretInSentText == isInSentText) {
         return;
     }
@@ -259,10 +272,10 @@ bool KeyboardView::isInUse() const {
 }
 
 void KeyboardView::followSending() {
-    if (_engine == nullptr || isInUse()) {
+    if (isInUse()) {
         return;
     }
-    const auto line = lineOf(static_cast<int>(_engine->inFlightIndex()));
+    const auto line = lineOf(static_cast<int>(_engine.inFlightIndex()));
     auto* bar = verticalScrollBar();
     if (line < bar->value() || line >= bar->value() + linesInSight()) {
         bar->setValue(line - linesInSight() / 3);
@@ -289,9 +302,6 @@ int KeyboardView::lineOf(int position) const {
 
 void KeyboardView::paintEvent(QPaintEvent* event) {
     QPlainTextEdit::paintEvent(event);
-    if (_engine == nullptr) {
-        return;
-    }
     auto colors = palette();
     colors.setCurrentColorGroup(hasFocus() ? QPalette::Active : QPalette::Inactive);
     const auto cursor = textCursor();

@@ -25,10 +25,8 @@ class WinKeyerUsb;
 class KeyboardView final : public QPlainTextEdit {
     Q_OBJECT
   public:
-    explicit KeyboardView(QWidget* parent = nullptr);
-
-    /// Binds the view to `engine`, which must outlive it. Call it once.
-    void setEngine(WinKeyerUsb& engine);
+    /// Binds the view to `engine`, which must outlive it.
+    explicit KeyboardView(WinKeyerUsb& engine, QWidget* parent = nullptr);
 
     /// What the view shows, with all its spaces. Equal to the engine's text between two events.
     [[nodiscard]] QString text() const { return _text.text(); }
@@ -87,6 +85,7 @@ class KeyboardView final : public QPlainTextEdit {
     void insertFromMimeData(const QMimeData* source) override;
 
   private:
+    void followEngine();
     void takeOperatorsText();
     void giveToEngine(const QString& text);
     void enterKey(const QKeyEvent& event);
@@ -109,6 +108,7 @@ class KeyboardView final : public QPlainTextEdit {
 
     void noteMessage(const TextChange& change);
     void followCaret();
+    void followLink();
     void takeProgress();
     void showProgress();
     void noteSentCalls();
@@ -118,7 +118,7 @@ class KeyboardView final : public QPlainTextEdit {
     [[nodiscard]] int lineOf(int position) const;
     [[nodiscard]] SendingMarks::State sendingState() const;
 
-    WinKeyerUsb* _engine = nullptr;
+    WinKeyerUsb& _engine;
     KeyboardText _text;
     EditHistory _history;
     KeptText _kept;

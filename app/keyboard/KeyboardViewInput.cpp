@@ -51,7 +51,7 @@ QString KeyboardView::readied(const QString& typed, const QTextCursor& place) {
 }
 
 bool KeyboardView::isPaddleInUse() const {
-    return _engine != nullptr && _engine->activity() == KeyerActivity::BreakIn;
+    return _engine.activity() == KeyerActivity::BreakIn;
 }
 
 void KeyboardView::handOverHeldText() {
@@ -232,15 +232,15 @@ void KeyboardView::dropEvent(QDropEvent* event) {
 
 void KeyboardView::focusInEvent(QFocusEvent* event) {
     QPlainTextEdit::focusInEvent(event);
-    if (_engine != nullptr && _engine->textShouldBeginEditing(this)) {
-        _engine->textDidBeginEditing(this);
+    if (_engine.textShouldBeginEditing(this)) {
+        _engine.textDidBeginEditing(this);
     }
     followCaret();
 }
 
 void KeyboardView::focusOutEvent(QFocusEvent* event) {
-    if (_engine != nullptr && _engine->textShouldEndEditing(this)) {
-        _engine->textDidEndEditing(this);
+    if (_engine.textShouldEndEditing(this)) {
+        _engine.textDidEndEditing(this);
     }
     QPlainTextEdit::focusOutEvent(event);
     followCaret();

@@ -1,5 +1,6 @@
 #include "app/window/MainWindow.h"
 
+#include "app/keyboard/KeyboardView.h"
 #include "app/window/AboutBox.h"
 #include "app/window/AnswerNotice.h"
 #include "app/window/BeaconCountdown.h"
@@ -37,6 +38,15 @@ void join(QAction& action, SwitchButton& button) {
     action.setEnabled(button.isEnabled());
 }
 
+QString withKey(const QString& text, const QAction& action) {
+    return MainWindow::tr("%1 (%2)").arg(text,
+                                         action.shortcut().toString(QKeySequence::NativeText));
+}
+
+void tellKey(QWidget& control, const QAction& action) {
+    control.setToolTip(withKey(control.toolTip(), action));
+}
+
 /// Of the beacon, as the widest that is expected.
 constexpr int longestShownSeconds = 999;
 
@@ -60,10 +70,10 @@ MainWindow::MainWindow(WinKeyerUsb& engine)
     Q_INIT_RESOURCE(resources);
     _ui->setupUi(this);
     QGuiApplication::setWindowIcon(QIcon(u":/icon.png"_s)); // of every window
+    setUpKeyboardView();
     enlargeFonts();
+    setUpKeys();
     setUpMessages();
-    _ui->keyboardView->setEngine(_engine);
-    _ui->keyboardView->setFocus();
     setUpNotices();
     setUpContact();
     setUpSwitches();
@@ -75,9 +85,9 @@ MainWindow::MainWindow(WinKeyerUsb& engine)
                      &MainWindow::portRequested);
     _ui->keyerStatusLabel->follow(_engine, *_beaconCountdown);
     QObject::connect(_heldMessages, &HeldMessages::changed, this, &MainWindow::showNotice);
-    QObject::connect(_ui->keyboardView, &KeyboardView::caretInSentTextChanged, this,
+    QObject::connect(_keyboardView, &KeyboardView::caretInSentTextChanged, this,
                      &MainWindow::showNotice);
-    QObject::connect(_ui->keyboardView, &KeyboardView::waitingCountChanged, this,
+    QObject::connect(_keyboardView, &KeyboardView::waitingCountChanged, this,
                      &MainWindow::showWaiting);
     showWaiting();
     QObject::connect(&_engine, &WinKeyerUsb::speedStringChanged, this, &MainWindow::showSpeed);
@@ -89,8 +99,43 @@ MainWindow::MainWindow(WinKeyerUsb& engine)
 
 MainWindow::~MainWindow() = default;
 
+void MainWindow::setUpKeyboardView() {
+    _keyboardView = new KeyboardView(_engine, _ui->keyboardPlace);
+    _keyboardView->setObjectName(u"keyboardView"_s);
+    _keyboardView->setAccessibleName(tr("Keyboard"));
+    _keyboardView->setToolTip(tr("What is typed here is sent"));
+    _ui->keyboardLayout->addWidget(_keyboardView);
+    setUpTabOrder();
+    _keyboardView->setFocus();
+}
+
+/// The view was made last, and comes ahead of what stands below it.
+void MainWindow::setUpTabOrder() {
+    QWidget* former = _keyboardView;
+    for (QWidget* each : std::initializer_list<QWidget*>{
+             _ui->hisCallsignTextField, _ui->decrementSerialNumberButton, _ui->serialNumberBox,
+             _ui->incrementSerialNumberButton, _ui->stopButton, _ui->tuneButton, _ui->pauseButton,
+             _ui->hscwButton, _ui->beaconButton}) {
+        setTabOrder(former, each);
+        former = each;
+    }
+}
+
+/// What the keys are is told by the actions alone.
+void MainWindow::setUpKeys() {
+    tellKey(*_keyboardView, *_ui->keyboardAction);
+    tellKey(*_ui->hisCallsignTextField, *_ui->hisCallsignAction);
+    tellKey(*_ui->incrementSerialNumberButton, *_ui->incrementSerialNumberAction);
+    tellKey(*_ui->decrementSerialNumberButton, *_ui->decrementSerialNumberAction);
+    tellKey(*_ui->tuneButton, *_ui->tuneAction);
+    tellKey(*_ui->pauseButton, *_ui->pauseAction);
+    tellKey(*_ui->hscwButton, *_ui->hscwAction);
+    tellKey(*_ui->beaconButton, *_ui->beaconAction);
+    _ui->stopButton->setText(withKey(_ui->stopButton->text(), *_ui->stopAction));
+}
+
 void MainWindow::setUpMessages() {
-    _heldMessages = new HeldMessages(_engine, *_ui->keyboardView, this);
+    _heldMessages = new HeldMessages(_engine, *_keyboardView, this);
     new MessageButtons(_engine, *_heldMessages,
                        {{_ui->message1Button, _ui->message1Action},
                         {_ui->message2Button, _ui->message2Action},
@@ -105,8 +150,8 @@ void MainWindow::setUpMessages() {
 
 void MainWindow::setUpNotices() {
     for (const auto* strip : {_ui->noticeStrip, _ui->answerStrip}) {
-        QObject::connect(strip, &NoticeStrip::hasGivenUpFocus, _ui->keyboardView,
-                         [this] { _ui->keyboardView->setFocus(); });
+        QObject::connect(strip, &NoticeStrip::hasGivenUpFocus, _keyboardView,
+                         [this] { _keyboardView->setFocus(); });
     }
     new SleepNotice(_engine, *_ui->noticeStrip, this);
     auto* watch = new KeyerWatch(_engine, this);
@@ -158,8 +203,8 @@ void MainWindow::setUpMenus() {
                      &ContactFields::wipeCallsign);
     QObject::connect(_ui->nextContactAction, &QAction::triggered, _contact,
                      &ContactFields::goToNextContact);
-    QObject::connect(_ui->keyboardAction, &QAction::triggered, _ui->keyboardView,
-                     [this] { _ui->keyboardView->setFocus(Qt::ShortcutFocusReason); });
+    QObject::connect(_ui->keyboardAction, &QAction::triggered, _keyboardView,
+                     [this] { _keyboardView->setFocus(Qt::ShortcutFocusReason); });
     QObject::connect(_ui->incrementSerialNumberAction, &QAction::triggered,
                      _ui->incrementSerialNumberButton, &QToolButton::click);
     QObject::connect(_ui->decrementSerialNumberAction, &QAction::triggered,
@@ -167,7 +212,7 @@ void MainWindow::setUpMenus() {
     new QShortcut(Qt::Key_F10, this,
                   [this] { menuBar()->setActiveAction(menuBar()->actions().constFirst()); });
     _editActions =
-        std::make_unique<EditActions>(*this, *_ui->keyboardView,
+        std::make_unique<EditActions>(*this, *_keyboardView,
                                       EditActions::Actions{.undo = _ui->undoAction,
                                                            .redo = _ui->redoAction,
                                                            .cut = _ui->cutAction,
@@ -236,7 +281,7 @@ void MainWindow::changeEvent(QEvent* event) {
 /// desktop does not multiply.
 void MainWindow::enlargeFonts() {
     enlarge(*_ui->tuneWarning, 3, QFont::Bold);
-    enlarge(*_ui->keyboardView, 6);
+    enlarge(*_keyboardView, 6);
     enlarge(*_ui->hisCallsignTextField, 6);
     enlarge(*_ui->decrementSerialNumberButton, 6);
     enlarge(*_ui->serialNumberBox, 6);
@@ -260,11 +305,10 @@ void MainWindow::showSpeed() {
 }
 
 void MainWindow::showWaiting() {
-    const auto count = static_cast<int>(_ui->keyboardView->waitingCount());
+    const auto count = static_cast<int>(_keyboardView->waitingCount());
     _ui->waitingLabel->setText(count == 0 ? QString() : tr("%1 waiting").arg(count));
-    _ui->keyboardView->setPlaceholderText(_ui->keyboardView->isLinked()
-                                              ? tr("Type here to send")
-                                              : tr("Not connected: nothing is sent"));
+    _keyboardView->setPlaceholderText(
+        _keyboardView->isLinked() ? tr("Type here to send") : tr("Not connected: nothing is sent"));
 }
 
 /// What the operator has to know before the next key.
@@ -273,7 +317,7 @@ void MainWindow::showNotice() {
     if (!_heldMessages->isEmpty()) {
         notices.append(tr("What you send waits for the paddle to be free: Esc drops it"));
     }
-    if (_ui->keyboardView->isCaretInSentText()) {
+    if (_keyboardView->isCaretInSentText()) {
         notices.append(tr("Typing here sends again: End goes to the end"));
     }
     _ui->keyerStatusLabel->setNotice(notices.join(u". "_s));

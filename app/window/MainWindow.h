@@ -11,6 +11,7 @@ class BeaconCountdown;
 class ContactFields;
 class GuideWindow;
 class HeldMessages;
+class KeyboardView;
 class QLineEdit;
 class TuneSwitch;
 class WinKeyerUsb;
@@ -54,6 +55,9 @@ class MainWindow final : public QMainWindow {
     void closeEvent(QCloseEvent* event) override;
 
   private:
+    void setUpKeyboardView();
+    void setUpTabOrder();
+    void setUpKeys();
     void setUpMessages();
     void setUpNotices();
     void setUpContact();
@@ -69,6 +73,7 @@ class MainWindow final : public QMainWindow {
 
     WinKeyerUsb& _engine;
     std::unique_ptr<Ui::MainWindow> _ui;
+    KeyboardView* _keyboardView = nullptr;
     std::unique_ptr<EditActions> _editActions;
     HeldMessages* _heldMessages = nullptr;
     BeaconCountdown* _beaconCountdown = nullptr;

@@ -75,7 +75,8 @@ void MessageButtons::show() {
         button->setAccessibleDescription(isHeld ? tr("Waits for the paddle: %1").arg(text) : text);
         button->setPreview(text);
         button->setToolTip(toolTipOf(text));
-        button->setText(tr("F%1  %2").arg(i + 1).arg(withoutMnemonic(label)));
+        const auto key = action->shortcut().toString(QKeySequence::NativeText);
+        button->setText(tr("%1  %2").arg(key, withoutMnemonic(label)));
         action->setText(tr("&%1  %2").arg(i + 1).arg(withoutMnemonic(shortened(label))));
     }
 }

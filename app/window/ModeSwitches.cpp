@@ -7,7 +7,7 @@
 #include <algorithm>
 
 ModeSwitches::ModeSwitches(WinKeyerUsb& engine, const Buttons& buttons, QObject* parent)
-    : QObject(parent), _engine(engine) {
+    : QObject(parent), _engine(engine), _hscwToolTip(buttons.hscw->toolTip()) {
     setUpPause(*buttons.pause);
     setUpHSCW(*buttons.hscw);
     setUpBeacon(*buttons.beacon);
@@ -55,7 +55,7 @@ void ModeSwitches::followKeyer(QAbstractButton& hscw) {
         noteKnobsSpeed();
     }
     hscw.setEnabled(isConnected);
-    hscw.setToolTip(isConnected ? tr("Send at the high speed of the preferences (Ctrl+H)")
+    hscw.setToolTip(isConnected ? _hscwToolTip
                                 : tr("High-speed CW needs a keyer, and none is connected"));
 }
 

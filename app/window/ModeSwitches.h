@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QObject>
+#include <QString>
 
 class QAbstractButton;
 class WinKeyerUsb;
@@ -31,6 +32,7 @@ class ModeSwitches final : public QObject {
     void noteKnobsSpeed();
 
     WinKeyerUsb& _engine;
+    const QString _hscwToolTip;
     /// How far the text has been looked through for the begin of high-speed CW.
     qsizetype _textSeen = 0;
 };

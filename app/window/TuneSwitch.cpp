@@ -14,7 +14,7 @@ constexpr Clock::Duration longestReport = std::chrono::milliseconds(250);
 } // namespace
 
 TuneSwitch::TuneSwitch(WinKeyerUsb& engine, QAbstractButton& button, QObject* parent)
-    : QObject(parent), _engine(engine), _button(button) {
+    : QObject(parent), _engine(engine), _button(button), _toolTip(button.toolTip()) {
     QObject::connect(&_button, &QAbstractButton::toggled, this, [this](bool isOn) {
         if (!isOn) {
             letGo();
@@ -78,5 +78,5 @@ void TuneSwitch::followLink() {
     _button.setEnabled(isConnected && !isLoading);
     _button.setToolTip(!isConnected ? tr("Tune needs a keyer, and none is connected")
                        : isLoading  ? tr("The keyer's memory is being loaded")
-                                    : tr("Key the transmitter steadily (Ctrl+T)"));
+                                    : _toolTip);
 }

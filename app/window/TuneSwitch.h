@@ -3,6 +3,7 @@
 #include "platform/Clock.h"
 
 #include <QObject>
+#include <QString>
 
 class QAbstractButton;
 class WinKeyerUsb;
@@ -31,6 +32,7 @@ class TuneSwitch final : public QObject {
 
     WinKeyerUsb& _engine;
     QAbstractButton& _button;
+    const QString _toolTip;
     Clock::Duration _since{0};
     /// Whether the keyer has told that it keys, since then.
     bool _isReported = false;

@@ -12,7 +12,6 @@ class KeyboardStation {
     explicit KeyboardStation(QSize size = {400, 200}) {
         bench.settings().setObject(QStringLiteral("N0CALL"), MyCall);
         isReady = bench.connect();
-        view.setEngine(bench.engine());
         view.resize(size);
         view.show();
         view.setFocus();
@@ -42,6 +41,6 @@ class KeyboardStation {
     void keys(QKeySequence::StandardKey sequence) { QTest::keySequence(&view, sequence); }
 
     EngineBench bench;
-    KeyboardView view;
+    KeyboardView view{bench.engine()};
     bool isReady = false;
 };

@@ -337,11 +337,10 @@ void KeyboardViewInputTest::aKeyWithAltTypesNothing() {
 void KeyboardViewInputTest::tabLeavesTheView() {
     QWidget window;
     auto* layout = new QVBoxLayout(&window);
-    auto* view = new KeyboardView;
+    auto* view = new KeyboardView(_station->engine());
     auto* next = new QLineEdit;
     layout->addWidget(view);
     layout->addWidget(next);
-    view->setEngine(_station->engine());
     window.show();
     QVERIFY(QTest::qWaitForWindowActive(&window));
     view->setFocus();

@@ -40,8 +40,7 @@ void KeyboardViewTest::init() {
     _bench.emplace();
     _bench->settings().setObject(u"N0CALL"_s, MyCall);
     QVERIFY(_bench->connect());
-    _view.emplace();
-    _view->setEngine(_bench->engine());
+    _view.emplace(_bench->engine());
     _view->show();
     _view->setFocus();
 }
@@ -122,8 +121,7 @@ void KeyboardViewTest::deletingEverythingStartsOver() {
 
 void KeyboardViewTest::theEnginesTextShowsFromTheStart() {
     _bench->engine().appendMessage(u"test"_s);
-    KeyboardView second;
-    second.setEngine(_bench->engine());
+    const KeyboardView second(_bench->engine());
     QCOMPARE(second.toPlainText(), u"TEST"_s);
 }
 

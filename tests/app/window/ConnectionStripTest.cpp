@@ -1,5 +1,6 @@
 #include "app/window/ConnectionStrip.h"
 
+#include "platform/NotificationCenter.h"
 #include "tests/app/window/MainWindowFixture.h"
 #include "tests/support/RegisteredTest.h"
 
@@ -20,6 +21,7 @@ class ConnectionStripTest : public QObject, private MainWindowFixture {
 
     void itIsThereWhileNothingIsConnected();
     void itSaysWhatBecomesOfTheText();
+    void afterASleepToo();
     void itLeadsToTheChoiceOfPort();
     void nothingIsCountedAsWaiting();
 
@@ -53,6 +55,23 @@ void ConnectionStripTest::itSaysWhatBecomesOfTheText() {
     QCOMPARE(_bench->engine().keyboardBuffer(), u""_s);
     _bench->receive({0xC0});
     QCOMPARE(_bench->written(), "");
+}
+
+/// The engine keeps its text for the keyer that is to come back.
+void ConnectionStripTest::afterASleepToo() {
+    auto& notifications = _bench->platform().notifications();
+    notifications.post(NSWorkspaceWillSleepNotification, nullptr);
+    QVERIFY(strip().isVisible());
+    type(u"cq"_s);
+    press(Qt::Key_F2);
+    notifications.post(NSWorkspaceDidWakeNotification, nullptr);
+    QTRY_VERIFY(!strip().isVisible());
+    static_cast<void>(_bench->written());
+    _bench->receive({0xC0});
+    QCOMPARE(_bench->engine().keyboardBuffer(), u""_s);
+    QCOMPARE(_bench->written(), "");
+    type(u"k"_s);
+    QCOMPARE(_bench->written(), "4b");
 }
 
 void ConnectionStripTest::itLeadsToTheChoiceOfPort() {

@@ -44,6 +44,7 @@ class MainWindowTest : public QObject, private MainWindowFixture {
     void aNoticeClosedByKeyGivesTheKeyboardToTheText();
     void pauseFollowsTheEngineBothWays();
     void aToolTipTellsWhatWouldBeSent();
+    void theKeysAreThoseOfTheMenus();
     void aLongLabelDoesNotWidenTheWindow();
     void theWindowComesBackWhereItWas();
     void theStatusLineSaysWhereTypingWouldSendAgain();
@@ -291,6 +292,22 @@ void MainWindowTest::aToolTipTellsWhatWouldBeSent() {
     QCOMPARE(told(), u"W9XYZ UR 12T DE N0CALL <B>"_s);
     _bench->settings().setObject(u"K1A"_s, MyCall);
     QCOMPARE(told(), u"W9XYZ UR 12T DE K1A <B>"_s);
+}
+
+void MainWindowTest::theKeysAreThoseOfTheMenus() {
+    const auto key = [this](const QString& name) {
+        return find<QAction>(name + u"Action"_s)->shortcut().toString(QKeySequence::NativeText);
+    };
+    QCOMPARE(key(u"tune"_s), u"Ctrl+T"_s);
+    for (const auto* name :
+         {"tune", "pause", "hscw", "beacon", "incrementSerialNumber", "decrementSerialNumber"}) {
+        const auto told = find<QAbstractButton>(QLatin1StringView(name) + u"Button"_s)->toolTip();
+        QVERIFY2(told.endsWith(u" (%1)"_s.arg(key(QLatin1StringView(name)))), qPrintable(told));
+    }
+    const auto text = find<QWidget>(u"keyboardView"_s)->toolTip();
+    QVERIFY2(text.endsWith(u" (%1)"_s.arg(key(u"keyboard"_s))), qPrintable(text));
+    QCOMPARE(find<QAbstractButton>(u"stopButton"_s)->text(), u"Stop (Esc)"_s);
+    QCOMPARE(find<QAbstractButton>(u"message8Button"_s)->text(), u"F8  Again"_s);
 }
 
 void MainWindowTest::aLongLabelDoesNotWidenTheWindow() {
