@@ -5,6 +5,10 @@
 #include <QGridLayout>
 #include <QLabel>
 #include <QPushButton>
+#include <QScreen>
+
+#include <algorithm>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -32,6 +36,40 @@ AlertBox::AlertBox(const Alert& alert, QWidget* parent) : QMessageBox(parent) {
     setInformativeText(alert.informativeText);
     addButtons(alert);
     addHint();
+    if (parent != nullptr) {
+        parent->window()->installEventFilter(this);
+    }
+}
+
+/// A window manager gives the box its frame when it shows it.
+bool AlertBox::event(QEvent* event) {
+    if (event->type() == QEvent::WindowActivate && !std::exchange(_hasBeenActive, true)) {
+        center();
+    }
+    return QMessageBox::event(event);
+}
+
+/// The window of the first alert of all has only just been opened, and gets its place afterwards.
+bool AlertBox::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::Move || event->type() == QEvent::Resize) {
+        center();
+    }
+    return QMessageBox::eventFilter(watched, event);
+}
+
+void AlertBox::center() {
+    if (parentWidget() == nullptr || !isVisible()) {
+        return;
+    }
+    const auto& window = *parentWidget()->window();
+    const auto room = window.screen()->availableGeometry();
+    auto frame = frameGeometry();
+    frame.moveCenter(window.frameGeometry().center());
+    frame.moveRight(std::min(frame.right(), room.right()));
+    frame.moveBottom(std::min(frame.bottom(), room.bottom()));
+    frame.moveLeft(std::max(frame.left(), room.left()));
+    frame.moveTop(std::max(frame.top(), room.top()));
+    move(frame.topLeft());
 }
 
 void AlertBox::addButtons(const Alert& alert) {

@@ -5,7 +5,8 @@
 #include <QMessageBox>
 
 /// An alert of the application, which comes when it comes: it takes no key before the keyboard has
-/// been still, and says so in a line of its own at the bottom.
+/// been still, and says so in a line of its own at the bottom. It stands in the middle of its
+/// window, also of one that is about to be put in its place.
 class AlertBox final : public QMessageBox {
     Q_OBJECT
   public:
@@ -14,9 +15,15 @@ class AlertBox final : public QMessageBox {
     /// What the operator chose. For a box that has been closed.
     [[nodiscard]] AlertAnswer answer() const;
 
+  protected:
+    bool event(QEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
   private:
+    void center();
     void addButtons(const Alert& alert);
     void addHint();
 
     QAbstractButton* _defaultButton = nullptr;
+    bool _hasBeenActive = false;
 };

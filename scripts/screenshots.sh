@@ -1,5 +1,7 @@
 #!/usr/bin/env bash
-# Makes the pictures of the guide and the README, in light and dark, on a screen in memory
+# Makes pictures of every window in build/screenshots, and from them those of the guide and the README
+#
+# In light and dark, on a small screen, and on a larger one where everything is twice the size.
 set -euo pipefail
 source scripts/lib/packages.sh
 source scripts/lib/processes.sh
@@ -7,16 +9,23 @@ require_packages build screen
 source scripts/lib/build.sh
 
 bin=build/release/bin
-images=docs/images
+images=build/screenshots
 
+# start_screen WIDTHxHEIGHT
 start_screen() {
-    start screen Xvfb -displayfd 3 -screen 0 1280x960x24 -nolisten tcp \
+    rm -f "$private_directory/display"
+    start screen Xvfb -displayfd 3 -screen 0 "${1}x24" -nolisten tcp \
         3>"$private_directory/display" 2>"$private_directory/screen.log"
     wait_while screen 20 test -s "$private_directory/display" || return 1
     DISPLAY=:$(<"$private_directory/display")
     export DISPLAY
     start windows openbox >"$private_directory/windows.log" 2>&1
     wait_while windows 20 xdotool get_desktop
+}
+
+stop_screen() {
+    stop windows
+    stop screen
 }
 
 start_keyer() {
@@ -30,11 +39,16 @@ active_window_is() {
     [[ $(xdotool getactivewindow getwindowname) == *"$1"* ]]
 }
 
-# open_window NAME COMMAND...: starts Quorvel and waits until it has the speed of the keyer's pot.
+# windows_are COUNT: so many windows of Quorvel can be seen.
+windows_are() {
+    [[ $(xdotool search --onlyvisible --pid "${pids[quorvel]}" 2>/dev/null | wc -l) == "$1" ]]
+}
+
+# open_window: starts Quorvel and waits until it has the speed of the keyer's pot.
 open_window() {
-    start "$@" >"$private_directory/quorvel.log" 2>&1
-    wait_while "$1" 30 active_window_is Quorvel &&
-        wait_while "$1" 30 grep -q ' host [89AB].$' "$transcript"
+    start quorvel "$bin/quorvel" >"$private_directory/quorvel.log" 2>&1
+    wait_while quorvel 30 active_window_is Quorvel &&
+        wait_while quorvel 30 grep -q ' host [89AB].$' "$transcript"
 }
 
 # keyed TEXT: the keyer has keyed it.
@@ -42,79 +56,124 @@ keyed() {
     [[ $(tr -d ' \n' <"$private_directory/keyed") == *"$1"* ]]
 }
 
-# picture NAME: of the active window with its frame, once it has come to rest.
+# picture NAME [WINDOW]: of the active window with its frame, or of that one, once it has come to
+# rest.
 picture() {
     local former="" now=""
     for _ in {1..50}; do
-        import -frame -window "$(xdotool getactivewindow)" "$private_directory/picture.png"
+        import -frame -window "${2:-$(xdotool getactivewindow)}" "$private_directory/picture.png"
         now=$(sha256sum <"$private_directory/picture.png")
         [[ $now != "$former" ]] || break
         former=$now
         sleep 0.3
     done
-    mv "$private_directory/picture.png" "$images/$1.png"
-    echo "$images/$1.png"
+    mv "$private_directory/picture.png" "$directory/$1$theme.png"
+    echo "$directory/$1$theme.png"
 }
 
 # write_settings [LINE...]: what Quorvel finds at its next start.
 write_settings() {
-    printf '%s\n' "[General]" WKPortName=usbserial-virtual MyCall=N0CALL "$@" \
-        >"$XDG_CONFIG_HOME/quorvel/quorvel.conf"
+    printf '%s\n' "[General]" MyCall=N0CALL "$@" >"$XDG_CONFIG_HOME/quorvel/quorvel.conf"
 }
 
-# shoot_window SUFFIX [VARIABLE=VALUE...]: the main window while it sends, and while it tunes.
-shoot_window() {
-    local suffix=$1
-    shift
+# shoot_first_start: without a port, the alert where it is on the screen, and what is behind it.
+shoot_first_start() {
     write_settings
-    open_window quorvel env "$@" "$bin/quorvel"
+    start quorvel "$bin/quorvel" >"$private_directory/quorvel.log" 2>&1
+    wait_while quorvel 30 windows_are 2
+    picture first-alert root
+    wait_while quorvel 20 closes_alert
+    xdotool type --delay 40 "cq test"
+    picture not-connected
+    stop quorvel
+}
+
+closes_alert() {
+    windows_are 1 || {
+        xdotool key Escape
+        sleep 1.5 # an alert takes no key within a second of the last
+        windows_are 1
+    }
+}
+
+# shoot_window: the main window while it sends, and while it tunes, and the windows of its help.
+shoot_window() {
+    write_settings "WKPortName=$port"
+    open_window
     xdotool key F1
     xdotool key ctrl+l type --delay 40 w9xyz
     xdotool key ctrl+m
     wait_while quorvel 60 keyed CQTESTN0CALLN0
-    picture "main-window$suffix"
+    picture main-window
     xdotool key Escape key ctrl+t
     wait_while quorvel 20 active_window_is TRANSMITTING
-    picture "tune$suffix"
+    picture tune
     xdotool key Escape
     wait_while quorvel 20 active_window_is Quorvel
+    local letter
+    for letter in g a; do
+        xdotool key alt+h
+        sleep 0.5
+        xdotool key "$letter"
+        wait_while quorvel 20 windows_are 2
+        picture "help-$letter"
+        xdotool key Escape
+        wait_while quorvel 20 windows_are 1
+    done
     stop quorvel
 }
 
-# shoot_pane PANE SUFFIX [VARIABLE=VALUE...]: a pane of the preferences, opened as it was left.
+# shoot_pane PANE: a pane of the preferences, opened as it was left.
 shoot_pane() {
-    local pane=$1 suffix=$2
-    shift 2
-    write_settings "MBPreferencesSelection=Preferences${pane}Pane"
-    open_window quorvel env "$@" "$bin/quorvel"
+    write_settings "WKPortName=$port" "MBPreferencesSelection=Preferences${1}Pane"
+    open_window
     xdotool key ctrl+comma
-    wait_while quorvel 20 active_window_is "$pane"
-    picture "preferences-${pane,,}$suffix"
+    wait_while quorvel 20 active_window_is "$1"
+    picture "preferences-${1,,}"
     stop quorvel
 }
 
-# shoot SUFFIX [VARIABLE=VALUE...]: all pictures of one theme, which the variables choose.
+# shoot SIZE SCALE: all pictures in the present theme, in a directory of the size and scale.
 shoot() {
-    local suffix=$1 pane
-    transcript=$private_directory/transcript$suffix
+    local pane
+    directory=$images/$1-scale-$2
+    transcript=$private_directory/transcript$theme-$2
+    mkdir -p "$directory"
+    export QT_SCALE_FACTOR=$2
+    start_screen "$1"
+    shoot_first_start
     start_keyer
-    shoot_window "$@"
+    shoot_window
     for pane in General Messages WinKeyer; do
-        shoot_pane "$pane" "$@"
+        shoot_pane "$pane"
     done
     stop keyer
+    stop_screen
 }
 
+shoot_screens() {
+    shoot 1024x600 1
+    shoot 1920x1080 2
+}
+
+port=usbserial-virtual
 make_private_directory
 mkdir -m 700 "$private_directory/runtime"
-mkdir -p "$private_directory/config/quorvel" "$images"
+mkdir -p "$private_directory/config/quorvel"
 export XDG_RUNTIME_DIR=$private_directory/runtime
 export XDG_CONFIG_HOME=$private_directory/config
+export XDG_STATE_HOME=$private_directory/state
 export DBUS_SESSION_BUS_ADDRESS=disabled:
 export QT_QPA_PLATFORM=xcb
 
 build_preset release
-start_screen
-shoot ""
+rm -rf "$images"
+theme=""
+shoot_screens
 cp scripts/lib/dark-kdeglobals "$XDG_CONFIG_HOME/kdeglobals"
-shoot -dark QT_QPA_PLATFORMTHEME=kde XDG_CURRENT_DESKTOP=KDE KDE_SESSION_VERSION=5
+export QT_QPA_PLATFORMTHEME=kde XDG_CURRENT_DESKTOP=KDE KDE_SESSION_VERSION=5
+theme=-dark
+shoot_screens
+for each in docs/images/*.png; do
+    cp "$images/1024x600-scale-1/$(basename "$each")" "$each"
+done

@@ -206,8 +206,7 @@ qsizetype KeyboardView::waitingCount() const {
     if (!isLinked()) {
         return 0;
     }
-    const auto held = _isHoldingText ? _kept.all().size() : 0;
-    return _engine.keyboardBuffer().size() - _engine.inFlightIndex() + held;
+    return _engine.keyboardBuffer().size() - _engine.inFlightIndex() + heldText().size();
 }
 
 /// Text that was typed while it went nowhere is not sent later on, of itself, as it would be by a

@@ -43,6 +43,8 @@ class KeyboardView final : public QPlainTextEdit {
 
     /// Whether typed text is kept back because the paddle was in use when it was typed.
     [[nodiscard]] bool isHoldingText() const { return _isHoldingText; }
+    /// That text.
+    [[nodiscard]] QString heldText() const { return _isHoldingText ? _kept.all() : QString(); }
     /// Has such text sent, unless the paddle is in use yet.
     void handOverHeldText();
     /// Forgets it, and a "{" that waits for its letters.

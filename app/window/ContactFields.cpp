@@ -1,5 +1,6 @@
 #include "app/window/ContactFields.h"
 
+#include "app/window/HeldMessages.h"
 #include "keyer/WinKeyerUsb.h"
 
 #include <QLineEdit>
@@ -7,14 +8,15 @@
 
 #include <algorithm>
 
-ContactFields::ContactFields(WinKeyerUsb& engine, QLineEdit& callsign, QSpinBox& number,
-                             QObject* parent)
-    : QObject(parent), _engine(engine), _callsign(callsign), _number(number) {
+ContactFields::ContactFields(WinKeyerUsb& engine, const HeldMessages& held, QLineEdit& callsign,
+                             QSpinBox& number, QObject* parent)
+    : QObject(parent), _engine(engine), _held(held), _callsign(callsign), _number(number) {
     QObject::connect(&_callsign, &QLineEdit::textChanged, &_engine, &WinKeyerUsb::setHisCallsign);
     QObject::connect(&_callsign, &QLineEdit::textChanged, this, [this] { _isWipeDue = false; });
     QObject::connect(&_engine, &WinKeyerUsb::hisCallsignChanged, this,
                      &ContactFields::followCallsign);
     QObject::connect(&_engine, &WinKeyerUsb::sendingProgressed, this, &ContactFields::wipeIfDue);
+    QObject::connect(&_held, &HeldMessages::changed, this, &ContactFields::wipeIfDue);
     QObject::connect(&_number, &QSpinBox::valueChanged, &_engine, &WinKeyerUsb::setSerialNumber);
     QObject::connect(&_engine, &WinKeyerUsb::serialNumberChanged, this,
                      &ContactFields::followNumber);
@@ -58,5 +60,6 @@ void ContactFields::wipeIfDue() {
 }
 
 bool ContactFields::isCallsignToBeSent() const {
-    return _engine.keyboardBuffer().indexOf(u'~', _engine.inFlightIndex()) >= 0;
+    return _held.needsCallsign() ||
+           _engine.keyboardBuffer().indexOf(u'~', _engine.inFlightIndex()) >= 0;
 }

@@ -2,6 +2,7 @@
 
 #include <QObject>
 
+class HeldMessages;
 class QLineEdit;
 class QSpinBox;
 class WinKeyerUsb;
@@ -10,8 +11,9 @@ class WinKeyerUsb;
 class ContactFields final : public QObject {
     Q_OBJECT
   public:
-    /// The fields and `engine` must outlive this.
-    ContactFields(WinKeyerUsb& engine, QLineEdit& callsign, QSpinBox& number, QObject* parent);
+    /// All of them must outlive this.
+    ContactFields(WinKeyerUsb& engine, const HeldMessages& held, QLineEdit& callsign,
+                  QSpinBox& number, QObject* parent);
 
     /// Has the operator type the call sign anew.
     void goToCallsign();
@@ -28,6 +30,7 @@ class ContactFields final : public QObject {
     [[nodiscard]] bool isCallsignToBeSent() const;
 
     WinKeyerUsb& _engine;
+    const HeldMessages& _held;
     QLineEdit& _callsign;
     QSpinBox& _number;
     bool _isWipeDue = false;

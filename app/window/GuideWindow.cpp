@@ -6,8 +6,18 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-constexpr QSize preferredSize(760, 640);
+
+/// The width is that of its pictures.
+constexpr QSize preferredSize(820, 640);
+constexpr int margin = 12;
+
+/// What a window manager puts around a window, as told by one that is open.
+QSize frameOf(const QWidget* widget) {
+    const auto& window = *widget->window();
+    return window.frameGeometry().size() - window.size();
 }
+
+} // namespace
 
 GuideWindow::GuideWindow(QWidget* parent) : QTextBrowser(parent) {
     setWindowFlag(Qt::Window);
@@ -15,7 +25,8 @@ GuideWindow::GuideWindow(QWidget* parent) : QTextBrowser(parent) {
     setAccessibleName(tr("Guide"));
     setOpenExternalLinks(true);
     setSource(QUrl(u"qrc:/guide.md"_s), QTextDocument::MarkdownResource);
-    resize(preferredSize.boundedTo(screen()->availableSize()));
+    document()->setDocumentMargin(margin);
+    resize(preferredSize.boundedTo(screen()->availableSize() - frameOf(parent)));
 }
 
 void GuideWindow::keyPressEvent(QKeyEvent* event) {

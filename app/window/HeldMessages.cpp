@@ -1,8 +1,12 @@
 #include "app/window/HeldMessages.h"
 
 #include "app/keyboard/KeyboardView.h"
+#include "keyer/Action.h"
+#include "keyer/MessageSettings.h"
 #include "keyer/WinKeyerUsb.h"
+#include "platform/SettingsStore.h"
 
+#include <algorithm>
 #include <utility>
 
 HeldMessages::HeldMessages(WinKeyerUsb& engine, KeyboardView& view, QObject* parent)
@@ -16,20 +20,37 @@ void HeldMessages::send(const QObject* control) {
     // Behind something that waits a message waits, too, or they would change places.
     if (_waiting.isEmpty() && _engine.activity() != KeyerActivity::BreakIn) {
         _engine.sendMessage(control);
-    } else if (!_waiting.contains(control)) {
-        _waiting.append(control);
+    } else if (!isHeld(control)) {
+        _waiting.append(Waiting{control, messageOf(*control)});
         Q_EMIT changed();
     }
 }
 
+QString HeldMessages::messageOf(const QObject& control) const {
+    const auto& message = messageSettings.at(static_cast<std::size_t>(Action::tag(&control)));
+    return _engine.substituteTokens(
+        SettingsStore::standardUserDefaults().stringForKey(message.textKey));
+}
+
+bool HeldMessages::isHeld(const QObject* control) const {
+    return std::any_of(_waiting.begin(), _waiting.end(),
+                       [control](const Waiting& each) { return each.control == control; });
+}
+
+bool HeldMessages::needsCallsign() const {
+    return _view.heldText().contains(u'~') ||
+           std::any_of(_waiting.begin(), _waiting.end(),
+                       [](const Waiting& each) { return each.message.contains(u'~'); });
+}
+
 void HeldMessages::followView() {
-    if (_view.isHoldingText() == _waiting.contains(&_view)) {
+    if (_view.isHoldingText() == isHeld(&_view)) {
         return;
     }
     if (_view.isHoldingText()) {
-        _waiting.append(&_view);
+        _waiting.append(Waiting{&_view, {}});
     } else {
-        _waiting.removeOne(&_view);
+        _waiting.removeIf([this](const Waiting& each) { return each.control == &_view; });
     }
     Q_EMIT changed();
 }
@@ -41,11 +62,11 @@ void HeldMessages::followKeyer() {
     if (_waiting.isEmpty() || _engine.activity() != KeyerActivity::Idle) {
         return;
     }
-    for (const auto* each : std::exchange(_waiting, {})) {
-        if (each == &_view) {
+    for (const auto& [control, message] : std::exchange(_waiting, {})) {
+        if (control == &_view) {
             _view.handOverHeldText();
         } else {
-            _engine.sendMessage(each);
+            _engine.appendMessage(message);
         }
     }
     Q_EMIT changed();

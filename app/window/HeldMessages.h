@@ -2,6 +2,7 @@
 
 #include <QList>
 #include <QObject>
+#include <QString>
 
 class KeyboardView;
 class WinKeyerUsb;
@@ -9,7 +10,8 @@ class WinKeyerUsb;
 /// Messages that are pressed while the paddle is in use, when the keyer drops what it is sent: they
 /// are held until it reports that it is idle, and then go out in the order in which they were
 /// pressed, each once. The text that the keyboard view holds takes its turn among them. Whatever
-/// stops the sending drops them.
+/// stops the sending drops them. The number of a message is that of the moment at which it was
+/// pressed, as it is for one that goes out at once.
 class HeldMessages final : public QObject {
     Q_OBJECT
   public:
@@ -19,20 +21,27 @@ class HeldMessages final : public QObject {
     /// Sends the message of `control`, which must outlive this, now or once the paddle is free.
     void send(const QObject* control);
 
-    [[nodiscard]] bool isHeld(const QObject* control) const { return _waiting.contains(control); }
+    [[nodiscard]] bool isHeld(const QObject* control) const;
     [[nodiscard]] bool isEmpty() const { return _waiting.isEmpty(); }
+    /// Whether anything that is held is to be sent with the other station's call sign.
+    [[nodiscard]] bool needsCallsign() const;
 
   Q_SIGNALS:
     /// What is held is something else now.
     void changed();
 
   private:
+    [[nodiscard]] QString messageOf(const QObject& control) const;
     void followKeyer();
     void followView();
     void drop();
 
     WinKeyerUsb& _engine;
     KeyboardView& _view;
-    /// Controls of messages, and the view.
-    QList<const QObject*> _waiting;
+    /// The control of a message, and what is to be sent; or the view, whose text it has itself.
+    struct Waiting {
+        const QObject* control;
+        QString message;
+    };
+    QList<Waiting> _waiting;
 };

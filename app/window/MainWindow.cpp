@@ -160,7 +160,8 @@ void MainWindow::setUpNotices() {
 }
 
 void MainWindow::setUpContact() {
-    _contact = new ContactFields(_engine, *_ui->hisCallsignTextField, *_ui->serialNumberBox, this);
+    _contact = new ContactFields(_engine, *_heldMessages, *_ui->hisCallsignTextField,
+                                 *_ui->serialNumberBox, this);
     auto* increment = _ui->incrementSerialNumberButton;
     QObject::connect(increment, &QToolButton::clicked, this,
                      [this, increment] { _engine.incrementSerialNumber(increment); });

@@ -13,9 +13,7 @@ constexpr QColor danger(0xB3, 0x00, 0x1E);
 } // namespace
 
 TuneWarning::TuneWarning(QWidget* parent) : QLabel(parent) {
-    setFrameStyle(QFrame::Box | QFrame::Plain);
-    setLineWidth(3);
-    setMargin(4);
+    setMargin(7);
     setAlignment(Qt::AlignCenter);
     setWordWrap(true);
     setTextFormat(Qt::PlainText);

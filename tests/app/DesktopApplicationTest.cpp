@@ -9,6 +9,7 @@
 #include <QApplication>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScreen>
 #include <QTest>
 #include <QTimer>
 
@@ -26,6 +27,7 @@ class DesktopApplicationTest : public QObject {
     void anErrorShowsItsMessageAndSuggestion();
     void textIsShownAsItStands();
     void anAlertStandsAboveTheWindowInUse();
+    void anAlertStandsInTheMiddleOfItsWindow();
     void devicesThatComeMeanwhileAreAnnouncedAfterwards();
     void whatCanWaitStandsOnNoOtherAlert();
     void whatIsOverByThenIsNotTold();
@@ -138,6 +140,27 @@ void DesktopApplicationTest::anAlertStandsAboveTheWindowInUse() {
     preferences.activateWindow();
     QVERIFY(QTest::qWaitForWindowActive(&preferences));
     QCOMPARE(parentOfAnAlert(), &preferences);
+}
+
+/// Wherever that is put, and on the screen.
+void DesktopApplicationTest::anAlertStandsInTheMiddleOfItsWindow() {
+    QWidget window;
+    window.setGeometry(0, 0, 500, 400);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    whileShown([&window](QMessageBox& box) {
+        for (const auto place : {QPoint(0, 0), QPoint(120, 90), QPoint(60, 40)}) {
+            window.move(place);
+            const auto off = box.frameGeometry().center() - window.frameGeometry().center();
+            QVERIFY2(off.manhattanLength() <= 2, qPrintable(QString::number(off.x())));
+        }
+        const auto screen = window.screen()->availableGeometry();
+        window.move(screen.bottomRight() - QPoint(50, 50));
+        QVERIFY(screen.contains(box.frameGeometry()));
+        QTest::keyClick(box.windowHandle(), Qt::Key_Return);
+    });
+    static_cast<void>(_application.runModal({.messageText = u"Ready?"_s, .informativeText = {}}));
+    QVERIFY(_wasShown);
 }
 
 void DesktopApplicationTest::devicesThatComeMeanwhileAreAnnouncedAfterwards() {

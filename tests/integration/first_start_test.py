@@ -41,6 +41,21 @@ class FirstStartTest(ProgramTest):
         self.terminate(keyer, quorvel)
         self.assertIn(f"WKPortName={PORT}", self.settings.read_text())
 
+    def test_the_first_alert_stands_in_the_middle_of_the_window(self):
+        """Though the window gets its place only after the alert has been made."""
+        quorvel = self.start_quorvel()
+        alert = self.wait_for_alert(quorvel, NO_PORT)
+        window = next(each for each in self.desktop.application(quorvel.pid).children()
+                      if each.role() == "frame")
+
+        def is_centred():
+            return all(abs(its - other) <= 2
+                       for its, other in zip(alert.centre(), window.centre()))
+        self.assertGreater(min(window.centre()), 300, "a window that has been put in its place")
+        quorvel.wait_for("an alert in the middle", is_centred)
+        self.answer_alert(quorvel, NO_PORT)
+        self.assertEqual(quorvel.end(), 0)
+
     def click_in_alert(self, quorvel, text, button):
         alert = self.wait_for_alert(quorvel, text)
         self.desktop.click(alert.find(button))

@@ -25,6 +25,9 @@ class HeldMessagesTest : public QObject, private MainWindowFixture {
     void whatStopsTheSendingDropsThem_data();
     void whatStopsTheSendingDropsThem();
     void laterMessagesAreNotHeld();
+    void theNumberIsThatOfTheMomentOfThePress();
+    void theCallOfAHeldMessageIsNotWipedBefore_data();
+    void theCallOfAHeldMessageIsNotWipedBefore();
     void typedTextIsHeldToo();
     void heldTextCanBeCorrected();
     void textAndMessagesKeepTheirOrder_data();
@@ -124,6 +127,48 @@ void HeldMessagesTest::laterMessagesAreNotHeld() {
     _bench->receive({0xC0});
     press(Qt::Key_F7);
     QCOMPARE(_bench->written(), "3f");
+}
+
+/// The operator is at the next contact by then.
+void HeldMessagesTest::theNumberIsThatOfTheMomentOfThePress() {
+    _bench->settings().setObject(u"5nn # `"_s, u"Message2"_s);
+    _bench->engine().setSerialNumber(7);
+    press(Qt::Key_F2);
+    press(Qt::Key_F11);
+    QCOMPARE(_bench->engine().serialNumber(), 8);
+    _bench->receive({0xC0});
+    QCOMPARE(text(), u"5NN TT7 N0CALL"_s);
+}
+
+void HeldMessagesTest::theCallOfAHeldMessageIsNotWipedBefore_data() {
+    QTest::addColumn<bool>("isTyped");
+    QTest::addRow("a message") << false;
+    QTest::addRow("typed text") << true;
+}
+
+void HeldMessagesTest::theCallOfAHeldMessageIsNotWipedBefore() {
+    QFETCH(const bool, isTyped);
+    _bench->engine().setHisCallsign(u"W9"_s);
+    if (isTyped) {
+        type(u"~"_s);
+    } else {
+        press(Qt::Key_F5);
+    }
+    press(Qt::Key_F11);
+    QCOMPARE(_bench->engine().hisCallsign(), u"W9"_s);
+    _bench->receive({0xC0});
+    _bench->receive({'W'});
+    _bench->receive({'9'});
+    QCOMPARE(_bench->written(), "57 39");
+    QCOMPARE(_bench->engine().hisCallsign(), u""_s);
+    // One that is dropped needs no call.
+    _bench->engine().setHisCallsign(u"W9"_s);
+    _bench->receive({0xC6});
+    press(Qt::Key_F5);
+    press(Qt::Key_W, Qt::AltModifier);
+    QCOMPARE(_bench->engine().hisCallsign(), u"W9"_s);
+    press(Qt::Key_Escape);
+    QCOMPARE(_bench->engine().hisCallsign(), u""_s);
 }
 
 void HeldMessagesTest::typedTextIsHeldToo() {

@@ -41,6 +41,7 @@ class MainWindowLayoutTest : public QObject {
 
     void nothingIsCutOff_data();
     void nothingIsCutOff();
+    void theFirstWindowFitsASmallScreen();
     void theButtonsStayPutWhenTuneIsSwitchedOn();
     void theRowsAreMirrored();
     void aFontThatChangesIsFollowed();
@@ -150,6 +151,19 @@ void MainWindowLayoutTest::expectNothingCutOff() {
     QVERIFY(view->viewport()->height() >= 2 * view->fontMetrics().lineSpacing());
     const auto lastMenu = _window->menuBar()->actionGeometry(_window->menuBar()->actions().last());
     QVERIFY(_window->menuBar()->rect().contains(lastMenu));
+}
+
+/// With whatever it has to say, and its frame: on 1024 by 600, and on 1920 by 1080 at twice the
+/// scale.
+void MainWindowLayoutTest::theFirstWindowFitsASmallScreen() {
+    constexpr QSize room(950, 500);
+    open();
+    QVERIFY(_window->width() <= room.width() && _window->height() <= room.height());
+    QVERIFY(_bench->engine().disconnect(nullptr));
+    _window->say(longNotice);
+    QCoreApplication::processEvents();
+    QVERIFY(_window->width() <= room.width() && _window->height() <= room.height());
+    expectNothingCutOff();
 }
 
 /// Somebody who has switched it on may want it off in a hurry.
