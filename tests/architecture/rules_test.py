@@ -173,6 +173,8 @@ class RulesTest(unittest.TestCase):
                 self.write(path, "\n" * 501)
                 self.assertOne(rules.long_files(self.tree()), f"{path}: 501 lines")
             (self.root / path).unlink()
+        self.write("guard/main.cpp", "\n" * 201)
+        self.assertOne(rules.long_files(self.tree()), "guard/main.cpp: 201 lines, 200 at most")
 
     def test_macros(self):
         """A macro in a header is found, one in a source is not"""

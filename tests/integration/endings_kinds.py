@@ -26,6 +26,11 @@ KEY_UP_BYTES = "0b 00"
 GREETING = "13 13 13 13 00 04 55 00 02 .* 07"
 
 
+# What the next start says of a death, by what was kept.
+DEATHS = {"tune\n": "Quorvel ended while tune was on",
+          "sending\n": "Quorvel ended while it was sending"}
+
+
 class Ending:
     """In order: key up, host closed, and gone."""
 
@@ -109,6 +114,16 @@ class Killed(Signal):
         station.expect_written(f"{TEXT}{GUARDS_WORDS}")
         station.expect_guards(0)
         station.assertEqual(station.record(), RECORDS.get(state, ""))
+        if state in RECORDS:
+            self._expect_told_of(station, DEATHS[station.record()])
+
+    def _expect_told_of(self, station, words):
+        """The next start keys up first of all, and says why."""
+        began = time.monotonic()
+        station.start_and_connect(began)
+        station.wait_for_silence()
+        station.assertRegex(station.written(began), f"^{GREETING} {KEY_UP_BYTES}$")
+        station.expect_ready(words)
 
 
 class ScreenGone(Ending):

@@ -71,8 +71,8 @@ def words(result):
     if not result.get("is green"):
         return "FAIL"
     up = f"{result['key up']:.2f}"
-    return f"{up} goes on" if result.get("goes on") else \
-        f"{up} {result['status']}/{result['time']:.1f} s"
+    return f"{up} {result['status']}/{result['time']:.1f} s" if "status" in result else \
+        f"{up} goes on"
 
 
 def show(found, cells):

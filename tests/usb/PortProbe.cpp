@@ -1,3 +1,4 @@
+#include "app/KeyGuard.h"
 #include "app/QuorvelDelegate.h"
 #include "keyer/GeneralSettings.h"
 #include "keyer/KeyerSettings.h"
@@ -5,6 +6,7 @@
 #include "keyer/WinKeyerUsb.h"
 #include "platform/Platform.h"
 #include "platform/SystemClock.h"
+#include "platform/linux/KeyGuardProcess.h"
 #include "platform/linux/LinuxDeviceRegistry.h"
 #include "serial/ORSSerialPortManager.h"
 
@@ -37,6 +39,7 @@ class TalkingApplication final : public Application {
 ///
 ///     choose NAME    chooses the keyer's port, as the preferences do
 ///     type TEXT      types into the keyboard view
+///     tune           keys the transmitter down
 ///     quit           ends, also when the input ends
 class PortProbe final : public QObject {
   public:
@@ -128,11 +131,20 @@ class PortProbe final : public QObject {
         } else if (command == "type"_L1) {
             engine().setKeyboardBuffer(argument);
             engine().textDidChange();
+        } else if (command == "tune"_L1) {
+            tune();
         } else if (command == "quit"_L1) {
             quit();
         } else {
             say(u"unknown "_s + command);
         }
+    }
+
+    static void tune() {
+        QObject sender;
+        sender.setProperty("state", 1);
+        engine().setTuneState(1);
+        engine().tune(&sender);
     }
 
     void quit() {
@@ -161,6 +173,7 @@ int main(int argc, char* argv[]) {
     platform.settings().registerDefaults(defaultsOf(generalSettings));
 
     QuorvelDelegate delegate;
+    const KeyGuard guard(WinKeyerUsb::sharedInstance(), KeyGuardProcess::standardProgram());
     PortProbe probe(delegate);
     delegate.applicationDidFinishLaunching();
     probe.start();

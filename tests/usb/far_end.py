@@ -38,6 +38,14 @@ class FarEnd:
         codes = (int(line.split()[2], 16) for line in lines if line.split()[1] == "host")
         return "".join(chr(each) for each in codes if 0x20 < each < 0x7F)
 
+    def wait_for_key(self, is_down):
+        """Until the key line is down, or up, for all that the transcript says."""
+        def is_so():
+            changes = [line.split()[2] for line in self._transcript.read_text().splitlines()
+                       if line.split()[1] == "key"]
+            return changes[-1:] == (["down"] if is_down else ["up"])
+        self._wire.wait_for(f"the key to {'fall' if is_down else 'rise'}", is_so)
+
     def wait_until_keyed(self, text):
         """Until the text is the last that was keyed and echoed."""
         self._wire.wait_for(f"{text} on the key line", lambda: self.keyed().endswith(text))

@@ -33,6 +33,17 @@ class Probe:
     def type(self, text):
         self._guest.probe.send(f"type {text}")
 
+    def tune(self):
+        """Keys the transmitter down."""
+        self._guest.probe.send("tune")
+
+    def kill(self):
+        self._guest.read(f"kill -KILL {self._pid}")
+
+    def guards(self):
+        """The processes of key guards, whose names the kernel cuts short."""
+        return self._guest.read("pgrep -x quorvel-key-gua || :").split()
+
     def expect(self, pattern):
         """What the probe tells, up to and with the first line that the pattern fits."""
         return self._guest.probe.expect(f'"{pattern}" of the probe',

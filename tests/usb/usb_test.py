@@ -77,12 +77,15 @@ class AdapterTest(unittest.TestCase):
     def test_5_survives_the_pulled_cable(self):
         """pulled out while it sends, the port is closed, nothing spins, and it comes back"""
         self.connect()
+        self.assertEqual(len(self.probe.guards()), 1)
         self.start_long_text()
         with self.guest.udev_held():
             self.guest.pull()
             self.expect_idle("before udev told of it")
         self.expect_removed()
         self.expect_idle("without the adapter")
+        # One that held the node would have the adapter come back on another.
+        self.assertEqual(self.probe.guards(), [])
         self.plug("/dev/ttyUSB0")
         self.type("TEST AGAIN")
 
@@ -95,6 +98,16 @@ class AdapterTest(unittest.TestCase):
         self.expect_removed()
         self.plug("/dev/ttyUSB1")
         self.type("TEST ON THE OTHER")
+
+    def test_7_lets_go_of_the_key_when_it_is_killed(self):
+        """killed in tune, the key goes up, and the port is free for the next one"""
+        self.connect()
+        self.probe.tune()
+        self.far_end.wait_for_key(True)
+        self.probe.kill()
+        self.far_end.wait_for_key(False)
+        self.guest.read("while pgrep -x quorvel-key-gua; do sleep 0.1; done")
+        self.assertEqual(self.guest.run(f"{AS_USER} stty -F /dev/ttyUSB0")[0], 0)
 
     def connect(self):
         self.assertEqual(self.probe.choose(NAME),

@@ -113,6 +113,7 @@ class KeyGuardProcessTest : public QObject {
     void aProgramThatIsNotThereCannotBeStarted();
     void itRefusesWhatIsNoTerminal();
     void itNeedsLittle();
+    void itSleepsWhileAllIsWell();
     void nothingIsLeftOfManyLinks();
 
   private:
@@ -334,6 +335,28 @@ void KeyGuardProcessTest::itNeedsLittle() {
     qInfo("The guard's resident set: %s kB", qPrintable(kilobytes));
     QVERIFY(kilobytes.toInt() > 0 && kilobytes.toInt() < 2048);
 #endif
+}
+
+/// A process that wakes up, for whatever it is, has given up the processor once more afterwards.
+void KeyGuardProcessTest::itSleepsWhileAllIsWell() {
+    KeyGuardProcess guard(program, _port);
+    QSignalSpy ends(&guard, &KeyGuardProcess::ended);
+    guard.tell(GuardMessage::Tuning);
+    guard.tell(GuardMessage::NotTuning);
+    const auto status = [&guard](const QString& what) {
+        QFile file(u"/proc/%1/status"_s.arg(guard.processIdentifier()));
+        static_cast<void>(file.open(QIODevice::ReadOnly));
+        const auto text = QString::fromLatin1(file.readAll());
+        return text.mid(text.indexOf(u'\n' + what) + 1).section(u'\n', 0, 0).section(u'\t', 1);
+    };
+    const auto sleepsThroughout = [&] {
+        const auto before = status(u"voluntary_ctxt_switches:"_s);
+        return !ends.wait(silenceLimit.count() + 500) && !before.isEmpty() &&
+               status(u"voluntary_ctxt_switches:"_s) == before;
+    };
+    // A busy machine may be late with its start.
+    QTRY_VERIFY_WITH_TIMEOUT(sleepsThroughout(), 20000);
+    QVERIFY2(status(u"State:"_s).startsWith(u'S'), qPrintable(status(u"State:"_s)));
 }
 
 /// QUORVEL_SOAK_CYCLES is the number of links.
