@@ -23,8 +23,12 @@ const CharacterSet& WinKeyerUsb::morseKeyboardCharacterSet() {
     return morseKeyboardCharacters;
 }
 
-void WinKeyerUsb::setSpeedString(const QString& speed) {
-    if (replace(_speedString, speed)) {
+QString WinKeyerUsb::speedString() const {
+    return _speedOfPot ? tr("%1 WPM").arg(*_speedOfPot) : QString();
+}
+
+void WinKeyerUsb::setSpeedOfPot(std::optional<qint64> wpm) {
+    if (replace(_speedOfPot, wpm)) {
         Q_EMIT speedStringChanged();
     }
 }

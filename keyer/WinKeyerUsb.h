@@ -201,8 +201,10 @@ class WinKeyerUsb final : public QObject, public ORSSerialPortDelegate {
     [[nodiscard]] int beaconState() const { return _beaconState; }
     void setBeaconState(int state);
 
-    /// The speed pot's last reading, as "25 WPM"; null before the first.
-    [[nodiscard]] QString speedString() const { return _speedString; }
+    /// The speed pot's last reading, in wpm; nothing before the first.
+    [[nodiscard]] std::optional<qint64> speedOfPot() const { return _speedOfPot; }
+    /// The same as "25 WPM"; null before the first.
+    [[nodiscard]] QString speedString() const;
     /// The keyer's firmware version; nothing fills it by itself.
     [[nodiscard]] QString versionString() const { return _versionString; }
     void setVersionString(const QString& version);
@@ -271,7 +273,7 @@ class WinKeyerUsb final : public QObject, public ORSSerialPortDelegate {
     [[nodiscard]] bool refuse(Error* error, const Error& reason);
     void forgetPortName();
     void releasePort();
-    void setSpeedString(const QString& speed);
+    void setSpeedOfPot(std::optional<qint64> wpm);
     void appendSendableText(const QString& text);
     void announceActivity();
     void clearKeyer();
@@ -315,7 +317,7 @@ class WinKeyerUsb final : public QObject, public ORSSerialPortDelegate {
     std::optional<std::uint8_t> _lastStatus;
     KeyerActivity _announcedActivity = KeyerActivity::NotConnected;
     QString _announcedPortName;
-    QString _speedString;
+    std::optional<qint64> _speedOfPot;
     QString _versionString;
 
     SendingText _text;

@@ -82,7 +82,7 @@ bool WinKeyerUsb::isPortOpen() const {
 bool WinKeyerUsb::disconnect(Error* error) {
     clearSending();
     setVersionString({});
-    setSpeedString({});
+    setSpeedOfPot({});
     if (!isConnected()) {
         return true;
     }

@@ -46,7 +46,7 @@ void WinKeyerUsb::handleByte(std::uint8_t byte) {
         break;
     case ReceivedByte::SpeedPot: {
         const auto minimum = SettingsStore::standardUserDefaults().integerForKey(WKSpeedPotMinimum);
-        setSpeedString(tr("%1 WPM").arg((byte & 0x3F) + minimum));
+        setSpeedOfPot((byte & 0x3F) + minimum);
         break;
     }
     case ReceivedByte::Status:

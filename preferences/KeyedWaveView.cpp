@@ -2,7 +2,6 @@
 
 #include "keyer/StoredSettings.h"
 #include "keyer/WinKeyerUsb.h"
-#include "platform/LeadingNumber.h"
 #include "platform/SettingsStore.h"
 #include "preferences/KeyedWavePicture.h"
 
@@ -28,9 +27,9 @@ constexpr QLatin1StringView word{"AN"};
 /// What the keyer's speed pot says, in wpm, while there is a keyer that has told.
 std::optional<int> speedOfPot() {
     const auto& engine = WinKeyerUsb::sharedInstance();
-    const auto wpm = LeadingNumber::integer(engine.speedString());
+    const auto wpm = engine.speedOfPot();
     const bool isKnown = engine.activity() != KeyerActivity::NotConnected && wpm > 0;
-    return isKnown ? std::optional(static_cast<int>(wpm)) : std::nullopt;
+    return isKnown ? std::optional(static_cast<int>(*wpm)) : std::nullopt;
 }
 
 QString inMilliseconds(const QLocale& locale, KeyedWave::Milliseconds length) {

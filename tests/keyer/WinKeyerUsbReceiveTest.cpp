@@ -93,6 +93,7 @@ void WinKeyerUsbReceiveTest::speedPotBytesShowTheSpeed() {
                      [&changes] { ++changes; });
     _bench->receive({byte});
     QCOMPARE(_bench->engine().speedString(), speed);
+    QCOMPARE(u"%1 WPM"_s.arg(_bench->engine().speedOfPot().value()), speed);
     QCOMPARE(changes, 1);
     QCOMPARE(_bench->written(), "");
 }

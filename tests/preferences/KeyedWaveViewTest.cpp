@@ -8,10 +8,29 @@
 #include <QLabel>
 #include <QSpinBox>
 #include <QTest>
+#include <QTranslator>
 
 #include <optional>
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+/// A language that has the unit before the number.
+class UnitFirst final : public QTranslator {
+  public:
+    UnitFirst() { QCoreApplication::installTranslator(this); }
+    ~UnitFirst() override { QCoreApplication::removeTranslator(this); }
+
+    [[nodiscard]] QString translate(const char* context, const char* text, const char*,
+                                    int) const override {
+        return qstrcmp(context, "WinKeyerUsb") == 0 && qstrcmp(text, "%1 WPM") == 0 ? u"WPM: %1"_s
+                                                                                    : QString();
+    }
+    [[nodiscard]] bool isEmpty() const override { return false; }
+};
+
+} // namespace
 
 class KeyedWaveViewTest : public QObject {
     Q_OBJECT
@@ -28,6 +47,7 @@ class KeyedWaveViewTest : public QObject {
     void theChoiceIsFreeAgainWithoutAKeyer();
     void theChoiceIsFreeAgainOnceTheKeyerIsPulledOut();
     void aPotBeyondTheChoiceIsShownToo();
+    void theLanguageOfTheSpeedDoesNotMatter();
 
   private:
     [[nodiscard]] QString words() const { return _view->findChild<QLabel*>(u"lengths"_s)->text(); }
@@ -128,6 +148,14 @@ void KeyedWaveViewTest::aPotBeyondTheChoiceIsShownToo() {
     _bench->receive({0x80 + 21});
     QCOMPARE(speed().value(), 120);
     QCOMPARE(words(), u"Dit 10 ms, dah 30 ms, gap 10 ms, letter space 30 ms"_s);
+}
+
+void KeyedWaveViewTest::theLanguageOfTheSpeedDoesNotMatter() {
+    const UnitFirst language;
+    QVERIFY(_bench->connect());
+    _bench->receive({0x80 + 12});
+    QCOMPARE(_bench->engine().speedString(), u"WPM: 25"_s);
+    QCOMPARE(speed().value(), 25);
 }
 
 static const RegisteredTest<KeyedWaveViewTest> registered;
