@@ -20,6 +20,10 @@ bool MessageFormatter::isPartialStringValid(QString* partialString,
     return false;
 }
 
+void MessageFormatter::fixup(QString& input) const {
+    input = stringForObjectValue(input);
+}
+
 void MessageFormatter::replace(QString& input, int& position) const {
     TextRange proposed{position, 0};
     isPartialStringValid(&input, &proposed, {}, {}, nullptr);

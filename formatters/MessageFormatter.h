@@ -21,6 +21,10 @@ class MessageFormatter final : public UpperCaseFormatter {
                               const QString& originalString, TextRange originalSelectedRange,
                               QString* errorDescription) const;
 
+    /// A stored message reads as it will be sent. A call sign stays as it is, so that the "your
+    /// call" that the program comes with reads as the request that it is.
+    void fixup(QString& input) const override;
+
   protected:
     void replace(QString& input, int& position) const override;
 };

@@ -1,6 +1,6 @@
 #include "preferences/binding/BoundLineEdit.h"
 
-#include "formatters/MessageFormatter.h"
+#include <QValidator>
 
 BoundLineEdit::BoundLineEdit(QLineEdit& field, const Setting& setting, QObject& controller)
     : BoundControl(field, setting, controller), _field(field) {
@@ -9,11 +9,12 @@ BoundLineEdit::BoundLineEdit(QLineEdit& field, const Setting& setting, QObject& 
     connect(&field, &QLineEdit::editingFinished, this, &BoundLineEdit::settle);
 }
 
-/// A message reads as it will be sent. Other texts stay as they are, so that the "your call" that
-/// the program comes with reads as the request that it is.
 QString BoundLineEdit::shown(const QString& stored) const {
-    const auto* formatter = qobject_cast<const MessageFormatter*>(_field.validator());
-    return formatter != nullptr ? formatter->stringForObjectValue(stored) : stored;
+    auto text = stored;
+    if (const auto* validator = _field.validator()) {
+        validator->fixup(text);
+    }
+    return text;
 }
 
 void BoundLineEdit::showStored() {

@@ -34,9 +34,9 @@ class QWidget;
 /// trouble() tells in words, until another one is typed or the view is hidden. What an assistive
 /// tool sets is stored like what is typed; a disabled control keeps its value.
 ///
-/// Put validators on text fields before binding them; plain tool tips get range, unit and default
-/// appended. Make the binder the last member of the controller, so that what waits still finds it
-/// whole. Main thread only.
+/// Put validators on text fields before binding them: a stored text is shown as their fixup() has
+/// it. Plain tool tips get range, unit and default appended. Make the binder the last member of the
+/// controller, so that what waits still finds it whole. Main thread only.
 class SettingBinder final : public QObject {
     Q_OBJECT
   public:

@@ -19,6 +19,7 @@ class MessageFormatterTest : public QObject {
     void replacesText();
     void theSelectionMovesBackWithADeletion();
     void objectValues();
+    void aStoredMessageReadsAsItIsSent();
     void aFieldShowsTheReplacement();
     void theInsertionPointStays();
     void pastedTextLosesOneCharacterAPass();
@@ -78,6 +79,12 @@ void MessageFormatterTest::objectValues() {
     QVariant object;
     QVERIFY(formatter.getObjectValue(&object, u"cq!"_s, nullptr));
     QCOMPARE(object, QVariant(u"CQ!"_s));
+}
+
+void MessageFormatterTest::aStoredMessageReadsAsItIsSent() {
+    auto stored = u"cq test & `"_s;
+    MessageFormatter().fixup(stored);
+    QCOMPARE(stored, u"CQ TEST & `"_s); // nothing is lost by looking at it
 }
 
 void MessageFormatterTest::aFieldShowsTheReplacement() {

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "formatters/MessageFormatter.h"
 #include "preferences/binding/NumberBox.h"
 #include "preferences/binding/SettingBinder.h"
 #include "tests/support/TestPlatform.h"
@@ -12,6 +11,7 @@
 #include <QPushButton>
 #include <QTest>
 #include <QToolButton>
+#include <QValidator>
 
 #include <array>
 #include <optional>
@@ -53,6 +53,18 @@ class Controller final : public QObject {
     QStringList _calls;
 };
 
+/// Has texts read in capitals, typed or stored; some signs cannot be typed.
+class Capitals final : public QValidator {
+    Q_OBJECT
+  public:
+    State validate(QString& input, int&) const override {
+        fixup(input);
+        input.remove(QLatin1Char('!')).remove(QLatin1Char('&'));
+        return Acceptable;
+    }
+    void fixup(QString& input) const override { input = input.toUpper(); }
+};
+
 /// A window with a control of each kind.
 class View final : public QWidget {
   public:
@@ -92,7 +104,7 @@ class View final : public QWidget {
         send.setProperty("action", QStringLiteral("act"));
     }
 
-    MessageFormatter formatter;
+    Capitals formatter;
     QCheckBox swap;
     QComboBox mode;
     QComboBox pace;
