@@ -112,8 +112,7 @@ class PreferencesInputTest(PreferencesBench):
         self.open_pane()
         self.control("Weighting").focus()
         self.wait_for_words("Above 0 elements grow and the gaps after them shrink, for a heavier "
-                            "sound; below 0 it is lighter. 0 is an even dit and gap. "
-                            "-40 to 40 %, default 0 %")
+                            "sound; below 0 it is lighter. -40 to 40 %, default 0 %")
         self.desktop.press("Tab")
         self.wait_for_words("How many dits long a dah is: 3 is the standard, more gives a swing. "
                             "1.98 to 3.99 : 1, default 3 : 1")
@@ -123,8 +122,8 @@ class PreferencesInputTest(PreferencesBench):
         self.open_pane()
         windows = self.windows()
         self.desktop.point(self.control("Compensation"))
-        self.wait_for_words("Added to every element and taken from the gap after it, at every "
-                            "speed: makes up for a transmitter that clips elements. "
+        self.wait_for_words("Added to every element and taken from the gap after it, for a "
+                            "transmitter that clips elements. "
                             "0 to 250 ms, default 0 ms")
         self.assertEqual(self.windows(), windows)
 
