@@ -1,4 +1,5 @@
 #include "app/ApplicationKey.h"
+#include "app/CommandLine.h"
 #include "app/DesktopApplication.h"
 #include "app/KeyGuard.h"
 #include "app/KeyRepeat.h"
@@ -34,6 +35,7 @@
 #include <QTimer>
 
 #include <csignal>
+#include <cstdio>
 #include <cstdlib>
 #include <memory>
 
@@ -154,6 +156,12 @@ int main(int argc, char* argv[]) {
     QApplication::setApplicationDisplayName(u"Quorvel"_s);
     QApplication::setApplicationVersion(QStringLiteral(QUORVEL_VERSION));
     QApplication::setDesktopFileName(bundleIdentifier);
+    // Ahead of the toolkit, which does not start without a screen.
+    if (const auto answer =
+            commandLineAnswer(argc > 1 ? argv[1] : "", QApplication::applicationVersion())) {
+        std::fputs(qUtf8Printable(*answer), stdout);
+        return EXIT_SUCCESS;
+    }
     // The toolkit takes it out of the environment.
     const auto token = activationToken();
     const QApplication toolkit(argc, argv);

@@ -1,0 +1,65 @@
+#!/usr/bin/env bash
+# Makes the Debian packages of what is committed, in build/package; --check looks at them closely
+set -euo pipefail
+source scripts/lib/packages.sh
+
+check=false
+case ${1:-} in
+"") ;;
+--check) check=true ;;
+*)
+    echo "usage: ./dev package [--check]" >&2
+    exit 2
+    ;;
+esac
+
+require_packages build package
+version=$(dpkg-parsechangelog -S Version)
+upstream=${version%-*}
+out=$PWD/build/package
+# Somebody else's folder of the same name is not emptied for them.
+rm -rf "$out/first" "$out/second"
+
+# make_packages FOLDER: from the last commit, with the time of the changelog's entry in them.
+make_packages() {
+    local folder=$out/$1
+    mkdir -p "$folder/quorvel-$upstream"
+    git archive HEAD | tar --extract --directory "$folder/quorvel-$upstream"
+    (
+        cd "$folder"
+        tar --create --gzip --exclude="quorvel-$upstream/debian" --sort=name \
+            --mtime="@$(git -C "$OLDPWD" log -1 --format=%ct)" --owner=0 --group=0 \
+            --file "quorvel_$upstream.orig.tar.gz" "quorvel-$upstream"
+        cd "quorvel-$upstream"
+        dpkg-buildpackage --unsigned-source --unsigned-changes >"$folder/build.log" 2>&1
+    ) || {
+        tail -n 40 "$folder/build.log" >&2
+        return 1
+    }
+}
+
+# of_both_builds FOLDER: a line with the sum of each package.
+of_both_builds() {
+    (cd "$out/$1" && sha256sum ./*.deb)
+}
+
+check_packages() {
+    echo "== lintian"
+    lintian --fail-on error,warning --info "$out"/first/quorvel_*.changes
+    echo "== the menu's entry, the software centre's, the manual pages"
+    desktop-file-validate packaging/org.quorvel.Quorvel.desktop
+    appstreamcli validate --no-net packaging/org.quorvel.Quorvel.metainfo.xml
+    mandoc -T lint -W warning packaging/man/*.1
+    echo "== a second build has the same bytes"
+    make_packages second
+    diff <(of_both_builds first) <(of_both_builds second)
+}
+
+[[ -z $(git status --porcelain) ]] || echo "What is not committed is not in the packages." >&2
+grep -q "^project(quorvel VERSION $upstream " CMakeLists.txt || {
+    echo "debian/changelog says $upstream, CMakeLists.txt another version." >&2
+    exit 1
+}
+make_packages first
+"$check" && check_packages
+ls "$out"/first/*.deb
