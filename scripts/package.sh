@@ -49,7 +49,7 @@ check_packages() {
     echo "== the menu's entry, the software centre's, the manual pages"
     desktop-file-validate packaging/org.quorvel.Quorvel.desktop
     appstreamcli validate --no-net packaging/org.quorvel.Quorvel.metainfo.xml
-    mandoc -T lint -W warning packaging/man/*.1
+    mandoc -T lint -W warning packaging/man/*
     echo "== a second build has the same bytes"
     make_packages second
     diff <(of_both_builds first) <(of_both_builds second)

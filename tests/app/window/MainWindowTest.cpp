@@ -324,7 +324,7 @@ void MainWindowTest::aLongLabelDoesNotWidenTheWindow() {
 }
 
 void MainWindowTest::theWindowComesBackWhereItWas() {
-    const QRect place(20, 30, 790, 590);
+    const QRect place(5, 30, 790, 590);
     _window->setGeometry(place);
     _window->close();
     _window.emplace(_bench->engine());
@@ -332,7 +332,7 @@ void MainWindowTest::theWindowComesBackWhereItWas() {
     QCOMPARE(_window->geometry(), place);
 
     // The end of the application closes no window.
-    const QRect other(40, 50, 780, 580);
+    const QRect other(15, 50, 780, 580);
     _window->setGeometry(other);
     _bench->platform().notifications().post(NSApplicationWillTerminateNotification, nullptr);
     _window.emplace(_bench->engine());
