@@ -61,5 +61,7 @@ grep -q "^project(quorvel VERSION $upstream " CMakeLists.txt || {
     exit 1
 }
 make_packages first
-"$check" && check_packages
+if "$check"; then
+    check_packages
+fi
 ls "$out"/first/*.deb

@@ -89,5 +89,6 @@ make_guest() {
     local tree=$PWD/$guest/first-root
     cp tests/usb/init "$tree/init" && chmod 755 "$tree/init" &&
         realpath "$1" >"$tree/probe" &&
+        cp packaging/70-quorvel-keyers.rules "$tree/" &&
         (cd "$tree" && find . | bin/busybox cpio -o -H newc 2>/dev/null) >"$guest/initrd"
 }

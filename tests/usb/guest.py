@@ -12,6 +12,9 @@ ADAPTER = {"driver": "usb-serial", "id": "adapter", "bus": "usb.0", "chardev": "
            "serial": "WK0001", "always-plugged": "on"}
 # An ordinary user of serial ports, as far as the guest's kernel can tell.
 AS_USER = "setpriv --reuid=12345 --regid=12345 --groups=dialout --no-new-privs"
+# Two who are in no group.
+SEATED, ANOTHER = 12346, 12347
+AS_NO_MEMBER = "setpriv --reuid={0} --regid={0} --clear-groups --no-new-privs"
 
 BOOT_PATIENCE = 120  # seconds; a host with other work takes a few times as long as an idle one
 
@@ -78,6 +81,11 @@ class Guest:
         """Plugs the adapter in. The wire to it is free a moment after it was pulled out."""
         self._monitor.execute_soon("device_add", **ADAPTER)
         self.is_plugged = True
+
+    def seat(self, uid):
+        """Has the user sit at the machine, as the manager of the sessions would write it down."""
+        self.read("mkdir -p /run/systemd/seats && "
+                  f"printf 'IS_SEAT0=1\\nACTIVE=1\\nACTIVE_UID={uid}\\n' >/run/systemd/seats/seat0")
 
     @contextlib.contextmanager
     def udev_held(self):

@@ -15,7 +15,7 @@ import traceback
 import unittest
 
 from far_end import FarEnd
-from guest import AS_USER, Guest
+from guest import ANOTHER, AS_NO_MEMBER, AS_USER, SEATED, Guest
 from probe import PROBE_LOG, Probe
 from report import Report
 
@@ -108,6 +108,18 @@ class AdapterTest(unittest.TestCase):
         self.far_end.wait_for_key(False)
         self.guest.read("while pgrep -x quorvel-key-gua; do sleep 0.1; done")
         self.assertEqual(self.guest.run(f"{AS_USER} stty -F /dev/ttyUSB0")[0], 0)
+
+    def test_8_lets_in_who_sits_at_the_machine(self):
+        """who sits at the machine may open the adapter without a group, and no modem service asks it"""
+        look = "stty -F /dev/ttyUSB0"
+        self.assertNotEqual(self.guest.run(f"{AS_NO_MEMBER.format(SEATED)} {look}")[0], 0)
+        self.guest.seat(SEATED)
+        # As when somebody logs in.
+        self.guest.read("udevadm trigger --action=change --settle /dev/ttyUSB0")
+        self.guest.read(f"{AS_NO_MEMBER.format(SEATED)} {look}")
+        self.assertNotEqual(self.guest.run(f"{AS_NO_MEMBER.format(ANOTHER)} {look}")[0], 0)
+        told = self.guest.read("udevadm info --query=property /dev/ttyUSB0")
+        self.assertIn("ID_MM_DEVICE_IGNORE=1", told)
 
     def connect(self):
         self.assertEqual(self.probe.choose(NAME),
