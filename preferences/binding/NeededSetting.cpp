@@ -9,10 +9,6 @@
 
 namespace {
 
-SettingsStore& settings() {
-    return SettingsStore::standardUserDefaults();
-}
-
 bool isOffered(const Setting& setting, const QString& text) {
     return text.isNull() ? std::holds_alternative<bool>(setting.defaultValue)
                          : std::ranges::any_of(setting.choices, [&text](const Choice& each) {
@@ -33,15 +29,17 @@ NeededSetting::NeededSetting(QWidget& widget, const QString& need, std::span<con
     if (!isKnown) {
         throw std::logic_error(need.toStdString() + " is nothing that a control can need.");
     }
-    connect(&settings(), &SettingsStore::changed, this, [this](const QString& key) {
-        if (key == _key) {
-            follow();
-        }
-    });
+    connect(&SettingsStore::standardUserDefaults(), &SettingsStore::changed, this,
+            [this](const QString& key) {
+                if (key == _key) {
+                    follow();
+                }
+            });
     follow();
 }
 
 void NeededSetting::follow() {
-    _widget.setEnabled(_text.isNull() ? settings().boolForKey(_key)
-                                      : settings().stringForKey(_key) == _text);
+    const auto& settings = SettingsStore::standardUserDefaults();
+    _widget.setEnabled(_text.isNull() ? settings.boolForKey(_key)
+                                      : settings.stringForKey(_key) == _text);
 }
