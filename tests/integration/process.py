@@ -1,5 +1,6 @@
 """A program that runs beside the test."""
 
+import contextlib
 import os
 import pathlib
 import signal
@@ -21,6 +22,7 @@ class Process:
                 [str(each) for each in command], stdin=subprocess.DEVNULL, stdout=out, stderr=err,
                 env=environment, pass_fds=pass_fds)
         self.pid = self._process.pid
+        self._held_up = {}
 
     def output(self):
         return self._out.read_text(errors="replace")
@@ -36,9 +38,12 @@ class Process:
         return os.waitid(os.P_PID, self.pid, os.WEXITED | os.WNOHANG | os.WNOWAIT) is not None
 
     def held_up(self):
-        """For how many seconds its main thread has been ready to run, and had to wait for a
-        processor. Until status() is asked for."""
-        return int(pathlib.Path(f"/proc/{self.pid}/schedstat").read_text().split()[1]) / 1e9
+        """For how many seconds its threads, together, have been ready to run and had to wait for a
+        processor; of threads that have ended, what was known of them when this was last called."""
+        for each in pathlib.Path(f"/proc/{self.pid}/task").glob("*/schedstat"):
+            with contextlib.suppress(OSError):
+                self._held_up[each.parent.name] = int(each.read_text().split()[1])
+        return sum(self._held_up.values()) / 1e9
 
     def wait_for(self, what, condition):
         """As wait_for(), but fails at once when the program has ended."""
