@@ -131,6 +131,7 @@ class Desktop:
     def start_bus(self):
         """One more bus; its process and its address."""
         return self._start_and_ask(["dbus-daemon", "--session", "--nofork", "--nopidfile",
+                                    f"--address=unix:dir={self._directory}",
                                     "--print-address={descriptor}"])
 
     def _start_bus(self):
