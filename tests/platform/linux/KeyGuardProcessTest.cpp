@@ -355,7 +355,7 @@ void KeyGuardProcessTest::itSleepsWhileAllIsWell() {
                status(u"voluntary_ctxt_switches:"_s) == before;
     };
     // A busy machine may be late with its start.
-    QTRY_VERIFY_WITH_TIMEOUT(sleepsThroughout(), 20000);
+    QVERIFY(sleepsThroughout() || sleepsThroughout());
     QVERIFY2(status(u"State:"_s).startsWith(u'S'), qPrintable(status(u"State:"_s)));
 }
 
