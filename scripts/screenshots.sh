@@ -56,18 +56,21 @@ keyed() {
     [[ $(tr -d ' \n' <"$private_directory/keyed") == *"$1"* ]]
 }
 
-# picture NAME [WINDOW]: of the active window with its frame, or of that one, once it has come to
-# rest.
+# take NAME [WINDOW]: a picture of the active window with its frame, or of that one.
+take() {
+    import -frame -window "${2:-$(xdotool getactivewindow)}" "$directory/$1$theme.png"
+}
+
+# picture NAME [WINDOW]: the same, once it has come to rest.
 picture() {
     local former="" now=""
     for _ in {1..50}; do
-        import -frame -window "${2:-$(xdotool getactivewindow)}" "$private_directory/picture.png"
-        now=$(sha256sum <"$private_directory/picture.png")
+        take "$@"
+        now=$(sha256sum <"$directory/$1$theme.png")
         [[ $now != "$former" ]] || break
         former=$now
         sleep 0.3
     done
-    mv "$private_directory/picture.png" "$directory/$1$theme.png"
     echo "$directory/$1$theme.png"
 }
 
@@ -103,8 +106,8 @@ shoot_window() {
     xdotool key F1
     xdotool key ctrl+l type --delay 40 w9xyz
     xdotool key ctrl+m
-    wait_while quorvel 60 keyed CQTESTN0CALLN0
-    picture main-window
+    wait_while quorvel 60 keyed CQTESTN0CA
+    take main-window
     xdotool key Escape key ctrl+t
     wait_while quorvel 20 active_window_is TRANSMITTING
     picture tune
