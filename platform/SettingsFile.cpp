@@ -48,7 +48,10 @@ std::optional<Values> parsedFile(const QString& path) {
     }
     Values values;
     for (const auto& key : keys) {
-        values.insert(key, settings.value(key));
+        // Of a line with nothing before the equals sign; it would not be written again.
+        if (!key.isEmpty()) {
+            values.insert(key, settings.value(key));
+        }
     }
     return values;
 }

@@ -7,6 +7,7 @@
 #include <QElapsedTimer>
 #include <QFileInfo>
 #include <QLockFile>
+#include <QRegularExpression>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
@@ -65,6 +66,7 @@ class SettingsStoringTest : public QObject {
     void anOpenQuoteSwallowsNothing_data();
     void anOpenQuoteSwallowsNothing();
     void quotesThatAreClosedAreSound();
+    void aValueWithoutAKeyIsNone();
     void isForTheUserAloneWhateverTheUmask();
     void theModeOfAFileThatIsThereStays();
     void aLinkToTheFileStays();
@@ -215,6 +217,15 @@ void SettingsStoringTest::quotesThatAreClosedAreSound() {
     const SettingsStore store(path());
     QVERIFY(store.damage() == Damage::None);
     QCOMPARE(store.stringForKey(u"c"_s), u"\""_s);
+}
+
+void SettingsStoringTest::aValueWithoutAKeyIsNone() {
+    write("[General]\n=1\na=2\n=3\n");
+    QTest::failOnWarning(QRegularExpression(u"."_s));
+    SettingsStore store(path());
+    store.setObject(4, u"b"_s);
+    QVERIFY(store.synchronize());
+    QCOMPARE(content(), "[General]\na=2\nb=4\n"_ba);
 }
 
 void SettingsStoringTest::isForTheUserAloneWhateverTheUmask() {
