@@ -305,6 +305,10 @@ void PortsDirectorySourceTest::writesOutWhatNobodySees_data() {
     QTest::newRow("isolated") << u"a\u2066b\u2069"_s << u"a\\u2066b\\u2069"_s;
     QTest::newRow("no width") << u"usbserial\u200B-1"_s << u"usbserial\\u200b-1"_s;
     QTest::newRow("a mark of byte order") << u"\uFEFFa"_s << u"\\ufeffa"_s;
+    QTest::newRow("a line's end") << u"a\u2028b"_s << u"a\\u2028b"_s;
+    QTest::newRow("a joiner of letters") << u"a\u034Fb"_s << u"a\\u034fb"_s;
+    QTest::newRow("a filler") << u"a\u3164"_s << u"a\\u3164"_s;
+    QTest::newRow("a variant") << u"a\uFE0F"_s << u"a\\ufe0f"_s;
     QTest::newRow("a tag") << u"a\U000E0041"_s << u"a\\ue0041"_s;
     QTest::newRow("letters of any kind stay") << u"Gr\u00FC\u00DFe \u6771\u4EAC \U0001F600"_s
                                               << u"Gr\u00FC\u00DFe \u6771\u4EAC \U0001F600"_s;
