@@ -205,7 +205,9 @@ void Monkey::dropText() {
 }
 
 void Monkey::compose() {
-    if (auto* focus = QApplication::focusWidget()) {
+    auto* focus = QApplication::focusWidget();
+    // What is only there to be read is sent no such events.
+    if (focus != nullptr && focus->testAttribute(Qt::WA_InputMethodEnabled)) {
         QInputMethodEvent event(below(2) == 0 ? anyText().left(5) : QString(), {});
         if (below(2) == 0) {
             event.setCommitString(anyText().left(5), -below(3), below(3));
