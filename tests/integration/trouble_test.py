@@ -5,13 +5,27 @@ Usage: trouble_test.py QUORVEL VIRTUAL_KEYER [TEST...]
 """
 
 import os
+import pathlib
 import select
 import signal
+import sys
 import time
+import tty
 
 from port import Port
+from process import Process
 from program import PORT, SETTINGS, ProgramTest, run_tests
 from waiting import wait_for
+
+
+FLOOD = pathlib.Path(__file__).with_name("activation_flood.py")
+SECONDS_OF_TALK = 8
+
+
+def megabytes(pid):
+    """What a process has of the memory."""
+    pages = int(pathlib.Path(f"/proc/{pid}/statm").read_text().split()[1])
+    return pages * os.sysconf("SC_PAGESIZE") / 1e6
 
 
 class TroubleTest(ProgramTest):
@@ -92,6 +106,48 @@ class TroubleTest(ProgramTest):
         self.answer_alert(quorvel, f"The WinKeyer serial port {PORT} is not available.")
         self.assertEqual(quorvel.end(), 0)
         self.assertEqual(select.select(shells, [], [], 0)[0], [])
+
+    def test_calls_without_end_do_not_hold_the_stop_key_up(self):
+        keyer, quorvel, window = self.start_connected()
+        self.press_switch(quorvel, window, "Tune")
+        keyer.wait_for("the key", keyer.is_key_down)
+        flood = Process([sys.executable, "-B", FLOOD], self.environment, self.home)
+        self.addCleanup(flood.end, signal.SIGKILL)
+        flood.wait_for("calls", lambda: len(flood.output().split()) > 100)
+        start, held_up = time.monotonic(), quorvel.held_up()
+        self.desktop.press("Escape")
+        keyer.wait_for("the key to rise", lambda: not keyer.is_key_down())
+        taken = time.monotonic() - start
+        waited = quorvel.held_up() - held_up
+        print(f"{flood.output().split()[-1]} calls; the stop took {taken:.2f} s, "
+              f"{waited:.2f} s of it for a processor")
+        self.assertLess(taken - waited, 1.5)
+        flood.end(signal.SIGKILL)
+        self.terminate(keyer, quorvel)
+
+    def test_a_far_end_that_talks_without_end_fills_no_memory(self):
+        far_end, near_end = os.openpty()
+        tty.setraw(near_end)
+        self.addCleanup(os.close, far_end)
+        self.link().parent.mkdir(parents=True, mode=0o700)
+        self.link().parent.parent.chmod(0o700)
+        os.symlink(os.ttyname(near_end), self.link())
+        os.close(near_end)
+        self.write_settings(SETTINGS)
+        quorvel = self.start_quorvel()
+        self.active_window(quorvel)
+        before = megabytes(quorvel.pid)
+        os.set_blocking(far_end, False)
+        said, end = 0, time.monotonic() + SECONDS_OF_TALK
+        while time.monotonic() < end:
+            if select.select([], [far_end], [], 0.1)[1]:
+                said += os.write(far_end, b"\x9f" * 4096)
+        after = megabytes(quorvel.pid)
+        print(f"{said / 1e6:.1f} MB said in {SECONDS_OF_TALK} s; {before:.0f} MB of memory "
+              f"before, {after:.0f} MB then")
+        self.assertGreater(said, 20_000)
+        self.assertLess(after - before, 20)
+        self.assertEqual(quorvel.end(), 0)
 
 
 if __name__ == "__main__":
