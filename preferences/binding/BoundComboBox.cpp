@@ -32,15 +32,6 @@ bool isSearch(const QKeyEvent& event) {
     return !event.text().isEmpty() && event.text().front().isPrint();
 }
 
-/// Other keys are none of the list's business, as the one that turns the page.
-bool isChoice(const QEvent& event) {
-    if (event.type() != QEvent::KeyPress) {
-        return event.type() == QEvent::Wheel;
-    }
-    const auto& key = static_cast<const QKeyEvent&>(event);
-    return isStep(key) || isSearch(key);
-}
-
 } // namespace
 
 BoundComboBox::BoundComboBox(QComboBox& box, const Setting& setting, QObject& controller)
@@ -106,7 +97,8 @@ bool BoundComboBox::eventFilter(QObject* watched, QEvent* event) {
     if (BoundControl::eventFilter(watched, event)) {
         return true;
     }
-    if (!isChoice(*event) || _box.view()->isVisible()) {
+    const bool isChoice = event->type() == QEvent::KeyPress || event->type() == QEvent::Wheel;
+    if (!isChoice || _box.view()->isVisible()) {
         return false;
     }
     return actsOnEveryChoice() ? preventChoice(*event) : step(*event);
@@ -121,8 +113,9 @@ bool BoundComboBox::preventChoice(QEvent& event) {
     const auto& key = static_cast<const QKeyEvent&>(event);
     if (isStep(key) || key.key() == Qt::Key_Space) {
         _box.showPopup();
+        return true;
     }
-    return true;
+    return isSearch(key);
 }
 
 bool BoundComboBox::step(QEvent& event) {

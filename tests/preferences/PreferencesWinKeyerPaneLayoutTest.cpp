@@ -17,7 +17,6 @@
 #include <QTest>
 #include <QTextDocument>
 #include <QToolButton>
-#include <QWindow>
 
 #include <algorithm>
 #include <optional>
@@ -42,7 +41,6 @@ class PreferencesWinKeyerPaneLayoutTest : public QObject {
     void everyTabTellsThatNoKeyerIsConnected();
     void resetButtonsReadLikeSentences();
     void tabReachesEveryControl();
-    void ctrlTabTurnsThePagesFromEveryControl();
 
   private:
     [[nodiscard]] QWidget& view() { return *_controller->view(); }
@@ -301,23 +299,6 @@ void PreferencesWinKeyerPaneLayoutTest::tabReachesEveryControl() {
         }
         QVERIFY2(missing.isEmpty(),
                  missing.isEmpty() ? "" : qPrintable((*missing.begin())->objectName()));
-    }
-}
-
-void PreferencesWinKeyerPaneLayoutTest::ctrlTabTurnsThePagesFromEveryControl() {
-    QVERIFY(QTest::qWaitForWindowActive(&view()));
-    for (int i = 0; i < pages().count(); ++i) {
-        for (auto* widget : _operator->inputs()) {
-            pages().setCurrentIndex(i);
-            if (!widget->isVisible() || !widget->isEnabled() ||
-                !pages().widget(i)->isAncestorOf(widget)) {
-                continue;
-            }
-            widget->setFocus();
-            QTest::keyClick(widget->window()->windowHandle(), Qt::Key_Tab, Qt::ControlModifier);
-            QVERIFY2(pages().currentIndex() == (i + 1) % pages().count(),
-                     qPrintable(widget->objectName()));
-        }
     }
 }
 
