@@ -140,8 +140,9 @@ class WinKeyerUsb final : public QObject, public ORSSerialPortDelegate {
     /// Keys up and empties the keyer's buffer at once, whatever it keys: tune, text, or a message
     /// of its own. The text of the engine stays.
     void silence();
-    /// Whether the keyer may be keying, by what it was given and what it has told since.
-    [[nodiscard]] bool mayBeKeying() const { return _mayBeKeying; }
+    /// Whether the keyer may be keying, by what it was given and what it has told since. While tune
+    /// is on it may: many a keyer tells nothing of a tune, and is idle by what it says.
+    [[nodiscard]] bool mayBeKeying() const { return _mayBeKeying || _tuneState != 0; }
     /// The text with "`" replaced by the operator's call sign and "#" by the cut serial number.
     /// Where that would lengthen it beyond all use, both are left out, and the log says so.
     [[nodiscard]] QString substituteTokens(const QString& text) const;
@@ -251,7 +252,7 @@ class WinKeyerUsb final : public QObject, public ORSSerialPortDelegate {
     void willLoadMemory();
     /// isLoadingMemory() is another one now, or an image could not be written.
     void isLoadingMemoryChanged();
-    /// silence() has keyed up, over a line that took it, and so ended a tune.
+    /// silence() has keyed up, over a line that took all of it, and so ended a tune.
     void silenced();
     void speedStringChanged();
     void versionStringChanged();

@@ -274,7 +274,7 @@ void WinKeyerUsb::serialPortWillBeClosed(ORSSerialPort& port) {
         return;
     }
     const bool hasText = _text.hasUnsent();
-    if (_mayBeKeying || _beaconState != 0 || hasText) {
+    if (mayBeKeying() || _beaconState != 0 || hasText) {
         Q_EMIT sendingCutShort();
     }
     silence();

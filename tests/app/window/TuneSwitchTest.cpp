@@ -36,6 +36,7 @@ class TuneSwitchTest : public QObject {
     void aRemovedPortLetsGo();
     void anotherChoiceOfPortKeysUpBeforeItDisconnects();
     void quittingKeysUpBeforeItDisconnects();
+    void quittingKeysUpAlsoWhenTheKeyerTellsNothingOfATune();
     void closingTheWindowLetsGo();
     void letsGoWhateverTheButtonShows();
     void aKeyerThatIsGreetedAgainIsKeyedUp();
@@ -191,6 +192,19 @@ void TuneSwitchTest::quittingKeysUpBeforeItDisconnects() {
                      [&] { keyUp = _bench->clock().now(); });
     _delegate->applicationShouldTerminate();
     QCOMPARE(keyUp, before);
+    QCOMPARE(_bench->written(), "0b 00 0a 00 03");
+}
+
+/// Its last word is of the text before.
+void TuneSwitchTest::quittingKeysUpAlsoWhenTheKeyerTellsNothingOfATune() {
+    _bench->type(u"E"_s);
+    _bench->receive({'E'});
+    static_cast<void>(_bench->written());
+    tune();
+    _bench->receive({0xC0});
+    QCOMPARE(_bench->engine().tuneState(), 1);
+    static_cast<void>(_bench->written());
+    _delegate->applicationShouldTerminate();
     QCOMPARE(_bench->written(), "0b 00 0a 00 03");
 }
 
