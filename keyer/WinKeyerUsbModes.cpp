@@ -26,7 +26,7 @@ void WinKeyerUsb::silence() {
     makeWay();
     const bool isKeyUp = sendToPort(KeyerCommand::keyImmediate(KeyerCommand::KeyLine::Up));
     static_cast<void>(sendToPort(KeyerCommand::clearBuffer()));
-    if (isKeyUp) {
+    if (isKeyUp && !_winKeyerSerialPort->isHoldingBack()) {
         Q_EMIT silenced();
     }
 }

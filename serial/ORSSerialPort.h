@@ -121,6 +121,8 @@ class ORSSerialPort final : public QObject, public std::enable_shared_from_this<
     /// How many bytes of sendData() have not left the computer, as far as its driver tells. 0 when
     /// the port is closed.
     [[nodiscard]] qsizetype outputWaiting() const;
+    /// Whether the system had no room for a part of what was sent.
+    [[nodiscard]] bool isHoldingBack() const { return !_writeBuffer.isEmpty(); }
     /// Throws those bytes away, as far as the driver can.
     void dropOutput();
     /// Hands bytes to the delegate as received.

@@ -4,6 +4,7 @@
 #include "tests/keyer/EngineBench.h"
 #include "tests/support/LogKeeper.h"
 #include "tests/support/RegisteredTest.h"
+#include "tests/support/SystemCallFaults.h"
 
 #include <QDir>
 #include <QFile>
@@ -12,6 +13,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <cerrno>
 #include <optional>
 
 using namespace Qt::StringLiterals;
@@ -38,6 +40,7 @@ class KeyingRecordTest : public QObject {
     void theFirstConnectionAfterADeathKeysUp();
     void aDeathThatNoConnectionFollowedIsRememberedOn();
     void aTuneOfALostKeyerEndsWhenItIsBack();
+    void aTuneBehindALineThatTakesNothingIsOwed();
     void textForALostKeyerIsNotOwed();
     void anEndWithoutTheSignalsOfTheEngineLeavesNothing();
     void aPlaceThatCannotBeWrittenIsReported();
@@ -197,6 +200,21 @@ void KeyingRecordTest::aTuneOfALostKeyerEndsWhenItIsBack() {
     QCOMPARE(notices.size(), 1);
     QVERIFY(notices.first().first().toString().contains(u"unplugged"));
     QVERIFY(!QFile::exists(_path));
+}
+
+/// Nobody can have heard the key up that the line had no room for.
+void KeyingRecordTest::aTuneBehindALineThatTakesNothingIsOwed() {
+    QVERIFY(_bench->connect());
+    tune(true);
+    const QSignalSpy silenced(&_bench->engine(), &WinKeyerUsb::silenced);
+    SystemCallFaults faults;
+    faults.fail(SystemCall::Write, EAGAIN);
+    faults.fail(SystemCall::Poll, EAGAIN);
+    _bench->engine().silence();
+    QCOMPARE(silenced.size(), 0);
+    static_cast<void>(_bench->engine().disconnect(nullptr));
+    _record->close();
+    QCOMPARE(kept(), "tune of a lost keyer\n");
 }
 
 void KeyingRecordTest::textForALostKeyerIsNotOwed() {
