@@ -96,14 +96,15 @@ void KeyerWatch::followSending() {
     }
 }
 
-/// A keyer that is paused says nothing of a character until it goes on.
+/// A keyer that the operator has paused says nothing of a character until it goes on. One whose
+/// buffer is full keys on, and tells of each character.
 void KeyerWatch::checkSending() {
     _sendingTimer.reset();
     if (!_engine.isAwaitingEcho()) {
         return;
     }
     const auto left = _lastSign + longestSilence - engineClock().now();
-    if (_engine.pauseState() != 0) {
+    if (_engine.activity() == KeyerActivity::Paused) {
         followSending();
     } else if (left > 0s) {
         _sendingTimer = engineClock().scheduleTimer(left, this, [this] { checkSending(); });

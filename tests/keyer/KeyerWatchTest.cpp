@@ -37,6 +37,7 @@ class KeyerWatchTest : public QObject {
     void aLinkThatEndsIsNotGreeted();
     void aCharacterWithoutAnEchoIsReported();
     void aPauseIsNoSilence();
+    void aFullBufferMayFallSilent();
     void everyCharacterHasItsTime();
     void afterASleepTheKeyerIsGreetedUntilItAnswers();
     void aPortThatDoesNotOpenAfterASleepIsReported();
@@ -187,6 +188,18 @@ void KeyerWatchTest::aPauseIsNoSilence() {
     _bench->receive({0xC0});
     pass(1h);
     QCOMPARE(_fellSilent->size(), 0);
+}
+
+/// As of a keyer that has started anew since.
+void KeyerWatchTest::aFullBufferMayFallSilent() {
+    _bench->receive({0xC8});
+    _bench->type(u"CQ"_s);
+    _bench->receive({0xC1});
+    QVERIFY(engine().pauseState() != 0);
+    pass(9s);
+    QCOMPARE(_fellSilent->size(), 0);
+    pass(2s);
+    QCOMPARE(_fellSilent->size(), 1);
 }
 
 void KeyerWatchTest::everyCharacterHasItsTime() {
