@@ -11,12 +11,12 @@
 ContactFields::ContactFields(WinKeyerUsb& engine, const HeldMessages& held, QLineEdit& callsign,
                              QSpinBox& number, QObject* parent)
     : QObject(parent), _engine(engine), _held(held), _callsign(callsign), _number(number) {
-    QObject::connect(&_callsign, &QLineEdit::textChanged, &_engine, &WinKeyerUsb::setHisCallsign);
-    QObject::connect(&_callsign, &QLineEdit::textChanged, this, [this] { _isWipeDue = false; });
+    QObject::connect(&_callsign, &QLineEdit::textChanged, this, &ContactFields::handOverCallsign);
     QObject::connect(&_engine, &WinKeyerUsb::hisCallsignChanged, this,
                      &ContactFields::followCallsign);
-    QObject::connect(&_engine, &WinKeyerUsb::sendingProgressed, this, &ContactFields::wipeIfDue);
-    QObject::connect(&_held, &HeldMessages::changed, this, &ContactFields::wipeIfDue);
+    QObject::connect(&_engine, &WinKeyerUsb::sendingProgressed, this,
+                     &ContactFields::beginNextCallsign);
+    QObject::connect(&_held, &HeldMessages::changed, this, &ContactFields::beginNextCallsign);
     QObject::connect(&_number, &QSpinBox::valueChanged, &_engine, &WinKeyerUsb::setSerialNumber);
     QObject::connect(&_engine, &WinKeyerUsb::serialNumberChanged, this,
                      &ContactFields::followNumber);
@@ -24,7 +24,7 @@ ContactFields::ContactFields(WinKeyerUsb& engine, const HeldMessages& held, QLin
 }
 
 void ContactFields::followCallsign() {
-    if (_callsign.text() != _engine.hisCallsign()) {
+    if (!_isNextContacts && _callsign.text() != _engine.hisCallsign()) {
         _callsign.setText(_engine.hisCallsign());
     }
 }
@@ -43,8 +43,11 @@ void ContactFields::goToCallsign() {
 
 void ContactFields::wipeCallsign() {
     goToCallsign();
-    _isWipeDue = true;
-    wipeIfDue();
+    if (!_isNextContacts) {
+        noteSigns();
+        _isNextContacts = isCallsignToBeSent();
+    }
+    _callsign.clear();
 }
 
 void ContactFields::goToNextContact() {
@@ -52,14 +55,33 @@ void ContactFields::goToNextContact() {
     wipeCallsign();
 }
 
-void ContactFields::wipeIfDue() {
-    if (_isWipeDue && !isCallsignToBeSent()) {
-        _isWipeDue = false;
-        _callsign.clear();
+void ContactFields::handOverCallsign() {
+    if (!_isNextContacts) {
+        _engine.setHisCallsign(_callsign.text());
     }
 }
 
+void ContactFields::beginNextCallsign() {
+    if (!_isNextContacts) {
+        return;
+    }
+    // What is held comes into the text later; what is typed ahead of a sign moves it, and a stop
+    // takes it away.
+    if (_held.needsCallsign() || _engine.keyboardBuffer().indexOf(u'~', _lastSign) != _lastSign) {
+        noteSigns();
+    }
+    if (!isCallsignToBeSent()) {
+        _isNextContacts = false;
+        handOverCallsign();
+    }
+}
+
+/// What is added behind them is for the next contact.
+void ContactFields::noteSigns() {
+    _lastSign = _engine.keyboardBuffer().lastIndexOf(u'~');
+}
+
+/// A "~" is through with the last letter of its call.
 bool ContactFields::isCallsignToBeSent() const {
-    return _held.needsCallsign() ||
-           _engine.keyboardBuffer().indexOf(u'~', _engine.inFlightIndex()) >= 0;
+    return _held.needsCallsign() || _lastSign >= _engine.inFlightIndex();
 }

@@ -17,8 +17,8 @@ class ContactFields final : public QObject {
 
     /// Has the operator type the call sign anew.
     void goToCallsign();
-    /// Forgets the call sign, and goes to its field. A "~" that still waits is sent first, unless
-    /// the operator changes the field before.
+    /// Empties the field of the call sign, and goes to it. A "~" that still waits is sent with the
+    /// call that it was meant for: what is typed meanwhile holds behind it.
     void wipeCallsign();
     /// Goes on to the next contact: its number is one more, and the call sign is another one.
     void goToNextContact();
@@ -26,12 +26,17 @@ class ContactFields final : public QObject {
   private:
     void followCallsign();
     void followNumber();
-    void wipeIfDue();
+    void handOverCallsign();
+    void beginNextCallsign();
+    void noteSigns();
     [[nodiscard]] bool isCallsignToBeSent() const;
 
     WinKeyerUsb& _engine;
     const HeldMessages& _held;
     QLineEdit& _callsign;
     QSpinBox& _number;
-    bool _isWipeDue = false;
+    /// Whether the field is that of a contact whose call the engine does not know yet.
+    bool _isNextContacts = false;
+    /// Index in the engine's text of the last "~" that is still the last contact's.
+    qsizetype _lastSign = -1;
 };

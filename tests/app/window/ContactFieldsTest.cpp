@@ -21,7 +21,9 @@ class ContactFieldsTest : public QObject, private MainWindowFixture {
     void aHeldKeyIsOneContact();
     void wipingLeavesTheNumber();
     void aCallThatWaitsIsSentFirst();
-    void aCallTypedMeanwhileIsNotWiped();
+    void aCallTypedMeanwhileIsTheNextContacts();
+    void aStopLeavesNoCallBehind();
+    void aSignThatMovesIsStillTheLastContacts();
 
   private:
     [[nodiscard]] QLineEdit& field() { return *find<QLineEdit>(u"hisCallsignTextField"_s); }
@@ -93,13 +95,46 @@ void ContactFieldsTest::aCallThatWaitsIsSentFirst() {
     QCOMPARE(field().text(), u""_s);
 }
 
-void ContactFieldsTest::aCallTypedMeanwhileIsNotWiped() {
+void ContactFieldsTest::aCallTypedMeanwhileIsTheNextContacts() {
+    _engine->appendMessage(u"e~k"_s);
+    _bench->receive({'E'});
+    _bench->receive({'W'});
+    press(Qt::Key_F11);
+    QCOMPARE(field().text(), u""_s);
+    type(u"K1A"_s);
+    _engine->appendMessage(u"~"_s);
+    QByteArray sent = QByteArray::fromHex(_bench->written());
+    for (int i = 0; i < 20; ++i) {
+        _bench->receive({'E'});
+        sent += QByteArray::fromHex(_bench->written());
+    }
+    QCOMPARE(sent, "EW9XYZK K1A");
+    QCOMPARE(_engine->hisCallsign(), u"K1A"_s);
+    QCOMPARE(field().text(), u"K1A"_s);
+}
+
+void ContactFieldsTest::aStopLeavesNoCallBehind() {
     _engine->appendMessage(u"e~k"_s);
     press(Qt::Key_F11);
     type(u"K1A"_s);
-    for (int i = 0; i < 10; ++i) {
+    QCOMPARE(_engine->hisCallsign(), u"W9XYZ"_s);
+    press(Qt::Key_Escape);
+    QCOMPARE(_engine->hisCallsign(), u"K1A"_s);
+    type(u"B"_s);
+    QCOMPARE(_engine->hisCallsign(), u"K1AB"_s);
+}
+
+void ContactFieldsTest::aSignThatMovesIsStillTheLastContacts() {
+    _engine->appendMessage(u"ee~k"_s);
+    press(Qt::Key_F11);
+    type(u"K1A"_s);
+    _bench->type(u"EEE~K"_s);
+    QByteArray sent = QByteArray::fromHex(_bench->written());
+    for (int i = 0; i < 20; ++i) {
         _bench->receive({'E'});
+        sent += QByteArray::fromHex(_bench->written());
     }
+    QCOMPARE(sent, "EEEW9XYZK");
     QCOMPARE(_engine->hisCallsign(), u"K1A"_s);
 }
 
