@@ -152,7 +152,9 @@ void SingleInstanceTest::aFloodOfCallsIsAFewActivations() {
         const QVariantMap data{{u"activation-token"_s, QString::number(i)}};
         desktop.asyncCall(call(u"Activate"_s, {data}));
     }
-    QTRY_VERIFY(!_tokens.isEmpty() && _tokens.constLast() == QString::number(calls));
+    // A busy machine takes its time over so many.
+    QTRY_VERIFY_WITH_TIMEOUT(!_tokens.isEmpty() && _tokens.constLast() == QString::number(calls),
+                             60'000);
     QVERIFY2(_tokens.size() < calls / 10, qPrintable(QString::number(_tokens.size())));
 }
 
