@@ -25,6 +25,13 @@ using namespace std::chrono_literals;
 
 namespace {
 
+/// The address sanitizer keeps what was freed for a while, which looks like growth.
+#ifdef __SANITIZE_ADDRESS__
+constexpr bool isQuarantined = true;
+#else
+constexpr bool isQuarantined = false;
+#endif
+
 /// What the process holds of the system.
 struct Holdings {
     qint64 memory = 0; // KiB, resident
@@ -217,7 +224,7 @@ void SendingSoak::everyWayOfSendingKeysWhatWasMeant() {
           static_cast<long long>(before->memory));
     QCOMPARE(after.descriptors, before->descriptors);
     QCOMPARE(after.threads, before->threads);
-    QVERIFY(after.memory - before->memory < 10'000);
+    QVERIFY(isQuarantined || after.memory - before->memory < 10'000);
     _window.reset();
     _station.reset();
 }
