@@ -106,7 +106,7 @@ void KeyerWatch::checkSending() {
     const auto left = _lastSign + longestSilence - engineClock().now();
     if (_engine.activity() == KeyerActivity::Paused) {
         followSending();
-    } else if (left > 0s) {
+    } else if (left > Clock::Duration::zero()) {
         _sendingTimer = engineClock().scheduleTimer(left, this, [this] { checkSending(); });
     } else {
         report(&KeyerWatch::fellSilent);

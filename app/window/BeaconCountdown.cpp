@@ -26,8 +26,10 @@ void BeaconCountdown::count() {
     const auto due = _engine.beaconDue();
     const auto rest = due ? *due - clock.now() : -1ns;
     const auto seconds =
-        rest > 0ns ? static_cast<int>(std::chrono::ceil<std::chrono::seconds>(rest).count()) : -1;
-    if (rest > 0ns) {
+        rest > Clock::Duration::zero()
+            ? static_cast<int>(std::chrono::ceil<std::chrono::seconds>(rest).count())
+            : -1;
+    if (rest > Clock::Duration::zero()) {
         // To the moment at which the number becomes another one.
         _timer = clock.scheduleTimer(rest - (seconds - 1) * 1s, this, [this] { count(); });
     }

@@ -25,7 +25,7 @@ Profile randomProfile(std::mt19937& random) {
     profile.clearInLetter = static_cast<ClearInLetter>(choice());
     profile.memoryLoad = static_cast<MemoryLoad>(choice());
     profile.breakInReport = static_cast<BreakInReport>(choice());
-    profile.breakInDelay = choice() * 160ms;
+    profile.breakInDelay = std::chrono::milliseconds(choice() * 160);
     profile.resumeAfterPause = static_cast<ResumeAfterPause>(choice());
     if (choice() != 0) {
         profile.tuneLimit = 10s;
