@@ -2,32 +2,18 @@
 
 #include "keyer/WinKeyerUsb.h"
 
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
 
 using namespace Qt::StringLiterals;
 
-ConnectionStrip::ConnectionStrip(QWidget* parent) : QFrame(parent) {
-    setFrameStyle(QFrame::Box | QFrame::Plain);
-    setAutoFillBackground(true);
-    setBackgroundRole(QPalette::ToolTipBase);
-    auto* label = new QLabel(tr("Not connected: nothing is sent, and what you type now is "
-                                "forgotten when a keyer is connected."));
-    label->setObjectName(u"connectionLabel"_s);
-    label->setForegroundRole(QPalette::ToolTipText);
-    label->setWordWrap(true);
-    auto* button = new QPushButton(tr("Choose port…"));
-    button->setObjectName(u"choosePortButton"_s);
-    button->setAccessibleName(tr("Choose port"));
-    button->setFocusPolicy(Qt::TabFocus);
-    connect(button, &QPushButton::clicked, this, &ConnectionStrip::portRequested);
-    auto* row = new QHBoxLayout(this);
-    row->setContentsMargins(8, 4, 4, 4);
-    row->addWidget(label, 1);
-    row->addWidget(button);
-    setAccessibleName(label->text());
-    hide();
+ConnectionStrip::ConnectionStrip(QWidget* parent) : Strip(parent) {
+    label().setObjectName(u"connectionLabel"_s);
+    setText(tr("Not connected: nothing is sent, and what you type now is forgotten when a keyer is "
+               "connected."));
+    auto& button = addButton(tr("Choose port…"), u"choosePortButton"_s);
+    button.setAccessibleName(tr("Choose port"));
+    connect(&button, &QPushButton::clicked, this, &ConnectionStrip::portRequested);
 }
 
 void ConnectionStrip::setEngine(const WinKeyerUsb& engine) {

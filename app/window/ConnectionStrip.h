@@ -1,12 +1,12 @@
 #pragma once
 
-#include <QFrame>
+#include "app/window/Strip.h"
 
 class WinKeyerUsb;
 
 /// A strip across the window that is there while no keyer is connected: says that nothing is sent,
 /// and what becomes of what is typed, and leads to the choice of port.
-class ConnectionStrip final : public QFrame {
+class ConnectionStrip final : public Strip {
     Q_OBJECT
   public:
     explicit ConnectionStrip(QWidget* parent = nullptr);
