@@ -19,8 +19,8 @@
 /// The keyer engine: the one object that owns the link to the keyer, and everything that is sent
 /// over it and read from it.
 ///
-/// Its concerns stand in files of their own: connection, receive path, sending, keyboard, modes,
-/// memory.
+/// Its concerns stand in files of their own: connection, receive path, sending, output, keyboard,
+/// modes, memory.
 /// All sending is paced by the keyer: one plain character is on its way, and its echo lets the
 /// next one go. Main thread only.
 class WinKeyerUsb final : public QObject, public ORSSerialPortDelegate {

@@ -18,12 +18,6 @@ namespace {
 /// What connecting sends, in bytes.
 constexpr qsizetype greetingSize = 28;
 
-/// Of a command that is no block of settings or memory.
-constexpr qsizetype longestCommand = 4;
-
-/// Key up, clear buffer and host close.
-constexpr qsizetype longestEnding = 5;
-
 QString giveUp() {
     return WinKeyerUsb::tr("Giving up and closing connection to keyer.");
 }
@@ -306,38 +300,6 @@ void WinKeyerUsb::serialPortWasRemovedFromSystem(ORSSerialPort& port) {
         _winKeyerSerialPort.reset();
         announceActivity();
     }
-}
-
-void WinKeyerUsb::putToWinKeyer(const QByteArray& bytes) {
-    if (isConnected() && !sendToPort(bytes)) {
-        logLine(u"putToWinKeyer error: "_s);
-    }
-}
-
-bool WinKeyerUsb::sendToPort(const QByteArray& bytes) {
-    return isConnected() && _winKeyerSerialPort->sendData(bytes);
-}
-
-/// Lets what is written next reach the keyer at once: output that waits is dropped, if it is more
-/// than a command, and the keyer's parser begins anew. A block that is cut in its midst would have
-/// the keyer take the next commands for the rest of it, so one that may be on its way is let out,
-/// as is what way was made for a moment ago.
-void WinKeyerUsb::makeWay() {
-    constexpr int nullCommands = 4;
-    if (!isConnected() || isLoadingMemory() || Platform::current().clock().now() < _uncutUntil ||
-        _winKeyerSerialPort->outputWaiting() <= longestCommand) {
-        return;
-    }
-    _winKeyerSerialPort->dropOutput();
-    for (int i = 0; i < nullCommands; ++i) {
-        static_cast<void>(sendToPort(KeyerCommand::nullCommand()));
-    }
-    keepWhole(nullCommands + longestEnding);
-}
-
-/// Has no way made while the line sends the next so many bytes.
-void WinKeyerUsb::keepWhole(qsizetype bytes) {
-    _uncutUntil = Platform::current().clock().now() + lineTime(bytes);
 }
 
 /// Fails a step of connecting: tells why, forgets the stored choice of port, and lets go of it.
