@@ -24,7 +24,7 @@ void end(std::shared_ptr<Timer>& timer) {
     }
 }
 
-Clock& engineClock() {
+Clock& platformClock() {
     return Platform::current().clock();
 }
 
@@ -34,7 +34,7 @@ KeyerWatch::KeyerWatch(WinKeyerUsb& engine, QObject* parent) : QObject(parent), 
     connect(&_engine, &WinKeyerUsb::greeted, this, &KeyerWatch::beginGreeting);
     connect(&_engine, &WinKeyerUsb::heard, this, &KeyerWatch::hear);
     connect(&_engine, &WinKeyerUsb::activityChanged, this, &KeyerWatch::followLink);
-    connect(&_engine, &WinKeyerUsb::willSend, this, [this] { _lastSign = engineClock().now(); });
+    connect(&_engine, &WinKeyerUsb::willSend, this, [this] { _lastSign = platformClock().now(); });
     connect(&_engine, &WinKeyerUsb::sendingProgressed, this, &KeyerWatch::followSending);
     connect(&_engine, &WinKeyerUsb::reopeningFailed, this,
             [this] { report(&KeyerWatch::neverAnswered); });
@@ -57,7 +57,7 @@ void KeyerWatch::beginGreeting() {
     end(_greetingTimer);
     end(_sendingTimer);
     _greetings = 0;
-    _greetingTimer = engineClock().scheduleTimer(patience[0], this, [this] { checkGreeting(); });
+    _greetingTimer = platformClock().scheduleTimer(patience[0], this, [this] { checkGreeting(); });
 }
 
 void KeyerWatch::checkGreeting() {
@@ -68,12 +68,12 @@ void KeyerWatch::checkGreeting() {
     const QScopedValueRollback guard(_isGreeting, true);
     _engine.greetAgain();
     _greetingTimer =
-        engineClock().scheduleTimer(patience[_greetings], this, [this] { checkGreeting(); });
+        platformClock().scheduleTimer(patience[_greetings], this, [this] { checkGreeting(); });
 }
 
 void KeyerWatch::hear() {
     end(_greetingTimer);
-    _lastSign = engineClock().now();
+    _lastSign = platformClock().now();
     if (std::exchange(_hasReported, false)) {
         Q_EMIT settled();
     }
@@ -92,7 +92,7 @@ void KeyerWatch::followLink() {
 void KeyerWatch::followSending() {
     if (_engine.isAwaitingEcho() && !_sendingTimer) {
         _sendingTimer =
-            engineClock().scheduleTimer(longestSilence, this, [this] { checkSending(); });
+            platformClock().scheduleTimer(longestSilence, this, [this] { checkSending(); });
     }
 }
 
@@ -103,11 +103,11 @@ void KeyerWatch::checkSending() {
     if (!_engine.isAwaitingEcho()) {
         return;
     }
-    const auto left = _lastSign + longestSilence - engineClock().now();
+    const auto left = _lastSign + longestSilence - platformClock().now();
     if (_engine.activity() == KeyerActivity::Paused) {
         followSending();
     } else if (left > Clock::Duration::zero()) {
-        _sendingTimer = engineClock().scheduleTimer(left, this, [this] { checkSending(); });
+        _sendingTimer = platformClock().scheduleTimer(left, this, [this] { checkSending(); });
     } else {
         report(&KeyerWatch::fellSilent);
     }

@@ -17,7 +17,7 @@ require_packages build package
 version=$(dpkg-parsechangelog -S Version)
 upstream=${version%-*}
 out=$PWD/build/package
-# Somebody else's folder of the same name is not emptied for them.
+# Nothing of an earlier run gets into these.
 rm -rf "$out/first" "$out/second"
 
 # make_packages FOLDER: from the last commit, with the time of the changelog's entry in them.

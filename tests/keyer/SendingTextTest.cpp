@@ -6,6 +6,23 @@
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+/// "A" is sent, and the first letter of the call is on its way.
+SendingText inMidCall() {
+    SendingText text;
+    text.setText(u"A~"_s);
+    text.setCallsign(u"W9"_s);
+    static_cast<void>(text.next());
+    text.acknowledge();
+    static_cast<void>(text.next());
+    text.beginCallsign();
+    static_cast<void>(text.nextOfCallsign());
+    return text;
+}
+
+} // namespace
+
 class SendingTextTest : public QObject {
     Q_OBJECT
 
@@ -104,14 +121,7 @@ void SendingTextTest::placesEndWhereTheTextEnds() {
 }
 
 void SendingTextTest::itRewinds() {
-    SendingText text;
-    text.setText(u"A~"_s);
-    text.setCallsign(u"W9"_s);
-    static_cast<void>(text.next());
-    text.acknowledge();
-    static_cast<void>(text.next());
-    text.beginCallsign();
-    static_cast<void>(text.nextOfCallsign());
+    auto text = inMidCall();
     text.rewind();
     QVERIFY(!text.isReadingCallsign());
     QCOMPARE(text.index(), 0);
@@ -168,14 +178,7 @@ void SendingTextTest::aCallSignMayChangeWhileItIsRead() {
 }
 
 void SendingTextTest::aCallSignIsTakenBackWhole() {
-    SendingText text;
-    text.setText(u"A~"_s);
-    text.setCallsign(u"W9"_s);
-    static_cast<void>(text.next());
-    text.acknowledge();
-    static_cast<void>(text.next());
-    text.beginCallsign();
-    static_cast<void>(text.nextOfCallsign());
+    auto text = inMidCall();
     text.takeBack();
     QCOMPARE(text.index(), 1);
     QVERIFY(!text.isReadingCallsign());
