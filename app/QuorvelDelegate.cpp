@@ -27,16 +27,12 @@ bool isPresent(const ORSSerialPort& port) {
 
 } // namespace
 
-QuorvelDelegate::QuorvelDelegate(QObject* parent) : QObject(parent) {
+QuorvelDelegate::QuorvelDelegate(WinKeyerUsb& engine) : _engine(engine) {
     application().setDelegate(this);
 }
 
 QuorvelDelegate::~QuorvelDelegate() {
     application().setDelegate(nullptr);
-}
-
-WinKeyerUsb& QuorvelDelegate::winKeyerUsb() const {
-    return WinKeyerUsb::sharedInstance();
 }
 
 void QuorvelDelegate::awakeFromNib(QLineEdit& hisCallsignTextField) {
@@ -77,14 +73,14 @@ void QuorvelDelegate::changeSerialPort(const QObject*) {
 
 bool QuorvelDelegate::disconnectFromKeyer(Error* error) {
     Q_EMIT willDisconnect();
-    return winKeyerUsb().disconnect(error);
+    return _engine.disconnect(error);
 }
 
 /// Not once the application is to end, as it may be while an alert is up: the ports have gone by
 /// then, and a connection that fails forgets which one the operator chose.
 void QuorvelDelegate::connectToKeyer() {
     Error error;
-    if (!_isTerminating && !winKeyerUsb().connect(&error)) {
+    if (!_isTerminating && !_engine.connect(&error)) {
         application().presentError(error);
     }
 }
@@ -126,7 +122,7 @@ void QuorvelDelegate::serialPortRemoved(const Notification& notification) {
 void QuorvelDelegate::serialPortAdded(const Notification& notification) {
     logLine(u"-[QuorvelDelegate(Private) serialPortAdded:]"_s);
     updateSerialPortList();
-    if (winKeyerUsb().isConnected()) {
+    if (_engine.isConnected()) {
         return;
     }
     // Each port is offered, also after a "Yes": a later "Yes" moves the link to the later port.

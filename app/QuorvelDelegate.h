@@ -19,7 +19,8 @@ class QuorvelDelegate final : public QObject, public ApplicationDelegate {
   public:
     enum class TerminateReply { TerminateNow = 1 };
 
-    explicit QuorvelDelegate(QObject* parent = nullptr);
+    /// `engine` must outlive it.
+    explicit QuorvelDelegate(WinKeyerUsb& engine);
     ~QuorvelDelegate() override;
 
     /// Has the field take nothing but what a call sign is made of.
@@ -38,7 +39,7 @@ class QuorvelDelegate final : public QObject, public ApplicationDelegate {
     /// "None" and the names of the ports that are present, in the port manager's order.
     [[nodiscard]] QStringList serialPortNameArray() const { return _serialPortNameArray; }
 
-    [[nodiscard]] WinKeyerUsb& winKeyerUsb() const;
+    [[nodiscard]] WinKeyerUsb& winKeyerUsb() const { return _engine; }
 
   Q_SIGNALS:
     void serialPortNameArrayChanged();
@@ -54,6 +55,7 @@ class QuorvelDelegate final : public QObject, public ApplicationDelegate {
     void serialPortAdded(const Notification& notification);
     void serialPortRemoved(const Notification& notification);
 
+    WinKeyerUsb& _engine;
     QStringList _serialPortNameArray;
     bool _isTerminating = false;
 };

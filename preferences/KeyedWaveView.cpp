@@ -13,7 +13,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <optional>
 
 namespace {
 
@@ -25,8 +24,7 @@ constexpr int fastest = 99;
 constexpr QLatin1StringView word{"AN"};
 
 /// What the keyer's speed pot says, in wpm, while there is a keyer that has told.
-std::optional<int> speedOfPot() {
-    const auto& engine = WinKeyerUsb::sharedInstance();
+std::optional<int> speedOfPot(const WinKeyerUsb& engine) {
     const auto wpm = engine.speedOfPot();
     const bool isKnown = engine.activity() != KeyerActivity::NotConnected && wpm > 0;
     return isKnown ? std::optional(static_cast<int>(*wpm)) : std::nullopt;
@@ -59,11 +57,14 @@ KeyedWaveView::KeyedWaveView(QWidget* parent)
     connect(_speed, &QSpinBox::valueChanged, this, &KeyedWaveView::showWave);
     connect(&SettingsStore::standardUserDefaults(), &SettingsStore::changed, this,
             &KeyedWaveView::showWave);
-    const auto& engine = WinKeyerUsb::sharedInstance();
-    connect(&engine, &WinKeyerUsb::speedStringChanged, this, &KeyedWaveView::takeKeyersSpeed);
-    connect(&engine, &WinKeyerUsb::activityChanged, this, &KeyedWaveView::takeKeyersSpeed);
-    takeKeyersSpeed();
     showWave();
+}
+
+void KeyedWaveView::follow(const WinKeyerUsb& engine) {
+    const auto take = [this, &engine] { takeKeyersSpeed(speedOfPot(engine)); };
+    connect(&engine, &WinKeyerUsb::speedStringChanged, this, take);
+    connect(&engine, &WinKeyerUsb::activityChanged, this, take);
+    take();
 }
 
 void KeyedWaveView::layOut() {
@@ -91,8 +92,7 @@ void KeyedWaveView::layOut() {
     column->addWidget(_picture, 1);
 }
 
-void KeyedWaveView::takeKeyersSpeed() {
-    const auto wpm = speedOfPot();
+void KeyedWaveView::takeKeyersSpeed(std::optional<int> wpm) {
     _speed->setEnabled(!wpm);
     _speed->setToolTip(wpm ? tr("The keyer's speed pot is at this speed, and the picture follows "
                                 "it.")

@@ -2,13 +2,11 @@
 
 #include "keyer/WinKeyerUsb.h"
 
-KeyerNotice::KeyerNotice(QWidget* parent) : QLabel(parent) {
-    connect(&WinKeyerUsb::sharedInstance(), &WinKeyerUsb::activityChanged, this,
-            &KeyerNotice::follow);
-    follow();
-}
-
-void KeyerNotice::follow() {
-    const auto activity = WinKeyerUsb::sharedInstance().activity();
-    setText(activity == KeyerActivity::NotConnected ? tr("Not connected") : QString());
+void KeyerNotice::follow(const WinKeyerUsb& engine) {
+    const auto show = [this, &engine] {
+        const bool isConnected = engine.activity() != KeyerActivity::NotConnected;
+        setText(isConnected ? QString() : tr("Not connected"));
+    };
+    connect(&engine, &WinKeyerUsb::activityChanged, this, show);
+    show();
 }

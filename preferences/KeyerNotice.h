@@ -2,13 +2,15 @@
 
 #include <QLabel>
 
-/// Says on a pane that no keyer is connected: what is changed there is only stored then. It follows
-/// the keyer engine by itself. Main thread only.
+class WinKeyerUsb;
+
+/// Says on a pane that no keyer is connected: what is changed there is only stored then. Main
+/// thread only.
 class KeyerNotice final : public QLabel {
     Q_OBJECT
   public:
-    explicit KeyerNotice(QWidget* parent = nullptr);
+    using QLabel::QLabel;
 
-  private:
-    void follow();
+    /// Tells from now on of `engine`'s link.
+    void follow(const WinKeyerUsb& engine);
 };

@@ -7,13 +7,15 @@
 
 #include <QWidget>
 
+PreferencesController::PreferencesController(WinKeyerUsb& engine) : _engine(engine) {}
+
 void PreferencesController::awakeFromNib() {
-    const auto general = std::make_shared<PreferencesGeneralViewController>();
+    const auto general = std::make_shared<PreferencesGeneralViewController>(_engine);
     _general = general;
     const auto panes =
         std::make_shared<const MBPreferencesController::Modules>(MBPreferencesController::Modules{
-            general, std::make_shared<PreferencesMessagesViewController>(),
-            std::make_shared<PreferencesWinKeyerViewController>()});
+            general, std::make_shared<PreferencesMessagesViewController>(_engine),
+            std::make_shared<PreferencesWinKeyerViewController>(_engine)});
     for (const auto& pane : *panes) {
         pane->view()->resize(pane->view()->sizeHint());
     }

@@ -6,12 +6,14 @@
 #include <memory>
 
 class PreferencesGeneralViewController;
+class WinKeyerUsb;
 
 /// Makes the preferences' panes, and opens their window. Main thread only.
 class PreferencesController final : public QObject {
     Q_OBJECT
   public:
-    using QObject::QObject;
+    /// `engine` must outlive the panes, which live as long as the preferences' window.
+    explicit PreferencesController(WinKeyerUsb& engine);
 
     /// Makes the panes and hands them to the window, which selects one. To be called once, after
     /// all defaults are registered.
@@ -24,5 +26,6 @@ class PreferencesController final : public QObject {
     void setSerialPortNames(const QStringList& names);
 
   private:
+    WinKeyerUsb& _engine;
     std::weak_ptr<PreferencesGeneralViewController> _general;
 };

@@ -13,14 +13,16 @@
 
 using namespace Qt::StringLiterals;
 
-PreferencesGeneralViewController::PreferencesGeneralViewController()
-    : _view(std::make_unique<QWidget>()), _ui(std::make_unique<Ui::PreferencesGeneralPane>()) {
+PreferencesGeneralViewController::PreferencesGeneralViewController(const WinKeyerUsb& engine)
+    : _engine(engine),
+      _view(std::make_unique<QWidget>()),
+      _ui(std::make_unique<Ui::PreferencesGeneralPane>()) {
     _ui->setupUi(_view.get());
     _ui->myCallTextField->setValidator(new CallsignFormatter(_ui->myCallTextField));
     _ui->serialPortChooser->addItem(noPortName);
     _binder = std::make_unique<SettingBinder>(*_view, *this, generalSettings);
     _ui->explanation->follow(*_binder);
-    connect(&WinKeyerUsb::sharedInstance(), &WinKeyerUsb::activityChanged, this,
+    connect(&engine, &WinKeyerUsb::activityChanged, this,
             &PreferencesGeneralViewController::showLink);
     showLink();
 }
@@ -68,8 +70,7 @@ void PreferencesGeneralViewController::changeSerialPort(const QObject* sender) {
 }
 
 void PreferencesGeneralViewController::showLink() {
-    const auto& engine = WinKeyerUsb::sharedInstance();
-    switch (engine.activity()) {
+    switch (_engine.activity()) {
     case KeyerActivity::NotConnected:
         _ui->linkLabel->setText(_isPortPresent
                                     ? tr("Not connected")
@@ -77,9 +78,9 @@ void PreferencesGeneralViewController::showLink() {
         break;
     case KeyerActivity::Silent:
         _ui->linkLabel->setText(
-            tr("Connected to %1; the keyer has not answered yet").arg(engine.serialPortName()));
+            tr("Connected to %1; the keyer has not answered yet").arg(_engine.serialPortName()));
         break;
     default:
-        _ui->linkLabel->setText(tr("Connected to %1").arg(engine.serialPortName()));
+        _ui->linkLabel->setText(tr("Connected to %1").arg(_engine.serialPortName()));
     }
 }

@@ -8,6 +8,8 @@
 
 #include <memory>
 
+class WinKeyerUsb;
+
 namespace Ui {
 class PreferencesGeneralPane;
 }
@@ -16,7 +18,8 @@ class PreferencesGeneralPane;
 class PreferencesGeneralViewController final : public QObject, public MBPreferencesModule {
     Q_OBJECT
   public:
-    PreferencesGeneralViewController();
+    /// `engine` must outlive the pane.
+    explicit PreferencesGeneralViewController(const WinKeyerUsb& engine);
     ~PreferencesGeneralViewController() override;
 
     /// The ports that can be chosen, "None" among them. A stored port that is not among them stays
@@ -36,6 +39,7 @@ class PreferencesGeneralViewController final : public QObject, public MBPreferen
   private:
     void showLink();
 
+    const WinKeyerUsb& _engine;
     std::unique_ptr<QWidget> _view;
     std::unique_ptr<Ui::PreferencesGeneralPane> _ui;
     bool _isPortPresent = true;

@@ -30,17 +30,20 @@ void PreferencesMessagesViewController::initialize() {
     SettingsStore::standardUserDefaults().registerDefaults(messageDefaults());
 }
 
-PreferencesMessagesViewController::PreferencesMessagesViewController()
-    : _view(std::make_unique<QWidget>()), _ui(std::make_unique<Ui::PreferencesMessagesPane>()) {
+PreferencesMessagesViewController::PreferencesMessagesViewController(const WinKeyerUsb& engine)
+    : _engine(engine),
+      _view(std::make_unique<QWidget>()),
+      _ui(std::make_unique<Ui::PreferencesMessagesPane>()) {
     _ui->setupUi(_view.get());
+    _ui->keyerNotice->follow(engine);
     awakeFromNib();
     _binder = std::make_unique<SettingBinder>(*_view, *this, paneSettings);
     _ui->explanation->follow(*_binder);
     connect(&SettingsStore::standardUserDefaults(), &SettingsStore::changed, this,
             &PreferencesMessagesViewController::explainTokens);
-    connect(&WinKeyerUsb::sharedInstance(), &WinKeyerUsb::serialNumberChanged, this,
+    connect(&engine, &WinKeyerUsb::serialNumberChanged, this,
             &PreferencesMessagesViewController::explainTokens);
-    connect(&WinKeyerUsb::sharedInstance(), &WinKeyerUsb::hisCallsignChanged, this,
+    connect(&engine, &WinKeyerUsb::hisCallsignChanged, this,
             &PreferencesMessagesViewController::explainTokens);
     explainTokens();
 }
@@ -67,13 +70,12 @@ void PreferencesMessagesViewController::awakeFromNib() {
 }
 
 void PreferencesMessagesViewController::explainTokens() {
-    const auto& engine = WinKeyerUsb::sharedInstance();
-    const auto theirCall = engine.hisCallsign().isEmpty()
+    const auto theirCall = _engine.hisCallsign().isEmpty()
                                ? tr("their call")
-                               : tr("their call (%1)").arg(engine.hisCallsign());
+                               : tr("their call (%1)").arg(_engine.hisCallsign());
     _ui->tokensLabel->setText(
         tr("In a text, ` stands for your call (%1), # for the serial number (%2), and ~ for %3. "
            "Between % and ^ the keyer sends high-speed CW, { joins the next two letters to "
            "one sign, and | is half a dit of space.")
-            .arg(engine.myCall(), engine.cutifiedSerialNumber(), theirCall));
+            .arg(_engine.myCall(), _engine.cutifiedSerialNumber(), theirCall));
 }

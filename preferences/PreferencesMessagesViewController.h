@@ -7,6 +7,8 @@
 
 #include <memory>
 
+class WinKeyerUsb;
+
 namespace Ui {
 class PreferencesMessagesPane;
 }
@@ -19,7 +21,8 @@ class PreferencesMessagesViewController final : public QObject, public MBPrefere
     /// Registers the defaults of all that. To be called before any setting is read.
     static void initialize();
 
-    PreferencesMessagesViewController();
+    /// `engine` must outlive the pane.
+    explicit PreferencesMessagesViewController(const WinKeyerUsb& engine);
     ~PreferencesMessagesViewController() override;
 
     [[nodiscard]] QString title() const override;
@@ -31,6 +34,7 @@ class PreferencesMessagesViewController final : public QObject, public MBPrefere
     void awakeFromNib();
     void explainTokens();
 
+    const WinKeyerUsb& _engine;
     std::unique_ptr<QWidget> _view;
     std::unique_ptr<Ui::PreferencesMessagesPane> _ui;
     std::unique_ptr<SettingBinder> _binder;

@@ -13,18 +13,16 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-void put(const QByteArray& command) {
-    WinKeyerUsb::sharedInstance().putToWinKeyer(command);
-}
-
-} // namespace
-
-PreferencesWinKeyerViewController::PreferencesWinKeyerViewController()
-    : _view(std::make_unique<QWidget>()), _ui(std::make_unique<Ui::PreferencesWinKeyerPane>()) {
+PreferencesWinKeyerViewController::PreferencesWinKeyerViewController(WinKeyerUsb& engine)
+    : _engine(engine),
+      _view(std::make_unique<QWidget>()),
+      _ui(std::make_unique<Ui::PreferencesWinKeyerPane>()) {
     _ui->setupUi(_view.get());
-    _ui->groups->setCornerWidget(new KeyerNotice(_ui->groups)); // beside the tabs, seen from each
+    auto* notice = new KeyerNotice(_ui->groups);
+    notice->follow(engine);
+    _ui->groups->setCornerWidget(notice); // beside the tabs, seen from each
+    _ui->keyedWave->follow(engine);
+    _ui->standaloneMessages->follow(engine);
     _binder = std::make_unique<SettingBinder>(*_view, *this, keyerSettings);
     _ui->explanation->follow(*_binder);
     connect(&SettingsStore::standardUserDefaults(), &SettingsStore::changed, this,
@@ -47,51 +45,56 @@ QIcon PreferencesWinKeyerViewController::image() const {
 }
 
 void PreferencesWinKeyerViewController::changeWeight(const QObject*) {
-    put(KeyerCommand::setWeighting(KeyerEncoding::weighting(StoredSettings())));
+    _engine.putToWinKeyer(KeyerCommand::setWeighting(KeyerEncoding::weighting(StoredSettings())));
 }
 
 void PreferencesWinKeyerViewController::changeRatio(const QObject*) {
-    put(KeyerCommand::setDitDahRatio(KeyerEncoding::ditDahRatio(StoredSettings())));
+    _engine.putToWinKeyer(
+        KeyerCommand::setDitDahRatio(KeyerEncoding::ditDahRatio(StoredSettings())));
 }
 
 void PreferencesWinKeyerViewController::changeFirstExtension(const QObject*) {
     const auto extension = StoredSettings().real(WKFirstExtension);
-    put(KeyerCommand::setFirstExtension(KeyerEncoding::truncatedByte(extension)));
+    _engine.putToWinKeyer(KeyerCommand::setFirstExtension(KeyerEncoding::truncatedByte(extension)));
 }
 
 void PreferencesWinKeyerViewController::changeKeyingCompensation(const QObject*) {
     const auto compensation = StoredSettings().real(WKKeyingCompensation);
-    put(KeyerCommand::setKeyCompensation(KeyerEncoding::truncatedByte(compensation)));
+    _engine.putToWinKeyer(
+        KeyerCommand::setKeyCompensation(KeyerEncoding::truncatedByte(compensation)));
 }
 
 void PreferencesWinKeyerViewController::changeWinKeyer2Mode(const QObject*) {
-    put(KeyerCommand::setWinKeyerMode(KeyerEncoding::modeRegister(StoredSettings())));
+    _engine.putToWinKeyer(
+        KeyerCommand::setWinKeyerMode(KeyerEncoding::modeRegister(StoredSettings())));
 }
 
 void PreferencesWinKeyerViewController::changeSidetone(const QObject*) {
-    put(KeyerCommand::sidetoneControl(KeyerEncoding::sidetone(StoredSettings())));
+    _engine.putToWinKeyer(KeyerCommand::sidetoneControl(KeyerEncoding::sidetone(StoredSettings())));
 }
 
 void PreferencesWinKeyerViewController::changePTT(const QObject*) {
     const StoredSettings settings;
-    put(KeyerCommand::setPttLeadTail(KeyerEncoding::pttLeadTime(settings),
-                                     KeyerEncoding::pttTailTime(settings)));
+    _engine.putToWinKeyer(KeyerCommand::setPttLeadTail(KeyerEncoding::pttLeadTime(settings),
+                                                       KeyerEncoding::pttTailTime(settings)));
 }
 
 void PreferencesWinKeyerViewController::changeSpeedPot(const QObject*) {
     const StoredSettings settings;
-    put(KeyerCommand::setupSpeedPot(KeyerEncoding::speedPotMinimum(settings),
-                                    KeyerEncoding::speedPotRange(settings)));
-    put(KeyerCommand::setWpmSpeedFromPot());
-    put(KeyerCommand::getSpeedPot());
+    _engine.putToWinKeyer(KeyerCommand::setupSpeedPot(KeyerEncoding::speedPotMinimum(settings),
+                                                      KeyerEncoding::speedPotRange(settings)));
+    _engine.putToWinKeyer(KeyerCommand::setWpmSpeedFromPot());
+    _engine.putToWinKeyer(KeyerCommand::getSpeedPot());
 }
 
 void PreferencesWinKeyerViewController::changeFarnsworthSpeed(const QObject*) {
-    put(KeyerCommand::setFarnsworthWpm(KeyerEncoding::farnsworthSpeed(StoredSettings())));
+    _engine.putToWinKeyer(
+        KeyerCommand::setFarnsworthWpm(KeyerEncoding::farnsworthSpeed(StoredSettings())));
 }
 
 void PreferencesWinKeyerViewController::changePaddleSwitchpoint(const QObject*) {
-    put(KeyerCommand::setPaddleSwitchpoint(KeyerEncoding::paddleSwitchpoint(StoredSettings())));
+    _engine.putToWinKeyer(
+        KeyerCommand::setPaddleSwitchpoint(KeyerEncoding::paddleSwitchpoint(StoredSettings())));
 }
 
 void PreferencesWinKeyerViewController::changeEnableDitDahMemory(const QObject* sender) {
@@ -102,16 +105,17 @@ void PreferencesWinKeyerViewController::changeEnableDitDahMemory(const QObject* 
     if (isOn) {
         changePaddleSwitchpoint(sender);
     } else {
-        put(KeyerCommand::setPaddleSwitchpoint(0));
+        _engine.putToWinKeyer(KeyerCommand::setPaddleSwitchpoint(0));
     }
 }
 
 void PreferencesWinKeyerViewController::changePinConfiguration(const QObject*) {
-    put(KeyerCommand::setPinConfiguration(KeyerEncoding::pinConfiguration(StoredSettings())));
+    _engine.putToWinKeyer(
+        KeyerCommand::setPinConfiguration(KeyerEncoding::pinConfiguration(StoredSettings())));
 }
 
 void PreferencesWinKeyerViewController::sendStandaloneMessage(const QObject* sender) {
-    WinKeyerUsb::sharedInstance().sendStandaloneMessage(Action::tag(sender));
+    _engine.sendStandaloneMessage(Action::tag(sender));
 }
 
 void PreferencesWinKeyerViewController::showWhetherKeyed() {
@@ -122,7 +126,7 @@ void PreferencesWinKeyerViewController::showWhetherKeyed() {
 
 void PreferencesWinKeyerViewController::saveSettings(const QObject*) {
     Error error;
-    if (WinKeyerUsb::sharedInstance().writeEeprom(&error)) {
+    if (_engine.writeEeprom(&error)) {
         _ui->standaloneMessages->showLoading();
         return;
     }

@@ -7,6 +7,8 @@
 
 #include <memory>
 
+class WinKeyerUsb;
+
 namespace Ui {
 class PreferencesWinKeyerPane;
 }
@@ -21,8 +23,9 @@ class PreferencesWinKeyerPane;
 class PreferencesWinKeyerViewController final : public QObject, public MBPreferencesModule {
     Q_OBJECT
   public:
-    /// Makes the view and binds its controls to their settings and actions.
-    PreferencesWinKeyerViewController();
+    /// Makes the view and binds its controls to their settings and actions. `engine` must outlive
+    /// the pane.
+    explicit PreferencesWinKeyerViewController(WinKeyerUsb& engine);
     ~PreferencesWinKeyerViewController() override;
 
     [[nodiscard]] QString title() const override;
@@ -61,6 +64,7 @@ class PreferencesWinKeyerViewController final : public QObject, public MBPrefere
     /// Tells when neither output is on, as the transmitter stays silent then for no other reason.
     void showWhetherKeyed();
 
+    WinKeyerUsb& _engine;
     std::unique_ptr<QWidget> _view;
     std::unique_ptr<Ui::PreferencesWinKeyerPane> _ui;
     std::unique_ptr<SettingBinder> _binder;

@@ -75,13 +75,20 @@ StandaloneMessages::StandaloneMessages(QWidget* parent)
               {_ui->field6, _ui->mark6, _ui->send6}}};
     std::ranges::for_each(_rows, [this](const Row& row) { setUpRow(row); });
     connect(_ui->progress, &TimedProgressBar::finished, this, &StandaloneMessages::endLoading);
-    connect(&WinKeyerUsb::sharedInstance(), &WinKeyerUsb::activityChanged, this,
-            &StandaloneMessages::showAvailability);
     showMemory();
     showAvailability();
 }
 
 StandaloneMessages::~StandaloneMessages() = default;
+
+void StandaloneMessages::follow(const WinKeyerUsb& engine) {
+    const auto show = [this, &engine] {
+        _isConnected = engine.activity() != KeyerActivity::NotConnected;
+        showAvailability();
+    };
+    connect(&engine, &WinKeyerUsb::activityChanged, this, show);
+    show();
+}
 
 void StandaloneMessages::setUpRow(const Row& row) {
     row.field->setValidator(new MessageFormatter(row.field));
@@ -132,15 +139,13 @@ void StandaloneMessages::showMark(std::size_t index, const KeyerMemory::Placemen
 }
 
 void StandaloneMessages::showAvailability() {
-    const bool isConnected =
-        WinKeyerUsb::sharedInstance().activity() != KeyerActivity::NotConnected;
-    if (!isConnected) {
+    if (!_isConnected) {
         _ui->progress->stop();
     }
     const bool isLoading = _ui->progress->isRunning();
-    const auto reason = !isConnected ? tr("Connect the keyer to save and to send.")
-                        : isLoading  ? tr("The keyer's memory is being loaded.")
-                                     : QString();
+    const auto reason = !_isConnected ? tr("Connect the keyer to save and to send.")
+                        : isLoading   ? tr("The keyer's memory is being loaded.")
+                                      : QString();
     _ui->state->setCurrentWidget(isLoading ? _ui->loadingPage : _ui->gaugePage);
     const auto enable = [&reason](QPushButton& button, const QString& toolTip) {
         button.setEnabled(reason.isEmpty());

@@ -11,6 +11,7 @@
 class QLineEdit;
 class QPushButton;
 class QToolButton;
+class WinKeyerUsb;
 
 namespace Ui {
 class StandaloneMessages;
@@ -27,6 +28,9 @@ class StandaloneMessages final : public QWidget {
   public:
     explicit StandaloneMessages(QWidget* parent = nullptr);
     ~StandaloneMessages() override;
+
+    /// Has saving and sending from now on be possible while `engine` is connected.
+    void follow(const WinKeyerUsb& engine);
 
     /// The keyer's memory is being loaded from now on: shows how far that is, for as long as it
     /// takes on the line. For whoever carries out "saveSettings" to call when that has succeeded.
@@ -52,6 +56,7 @@ class StandaloneMessages final : public QWidget {
 
     const std::unique_ptr<Ui::StandaloneMessages> _ui;
     std::array<Row, KeyerMemory::messageCount> _rows;
+    bool _isConnected = false;
     QPointer<QWidget> _focusBeforeLoading;
     QPointer<QWidget> _focusWhileLoading;
 };

@@ -63,7 +63,7 @@ class QuorvelDelegateTest : public QObject {
 
 void QuorvelDelegateTest::init() {
     _bench.emplace();
-    _delegate.emplace();
+    _delegate.emplace(_bench->engine());
 }
 
 void QuorvelDelegateTest::cleanup() {

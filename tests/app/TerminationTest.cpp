@@ -49,7 +49,7 @@ class TerminationTest : public QObject {
 
 void TerminationTest::init() {
     _bench.emplace();
-    _delegate.emplace();
+    _delegate.emplace(_bench->engine());
     _termination.emplace(*_delegate);
     _disconnections.emplace(&*_delegate, &QuorvelDelegate::willDisconnect);
     _tellings = 0;

@@ -46,7 +46,7 @@ void TranslationsTest::aLanguageWithoutTranslationIsEnglish() {
 
 void TranslationsTest::alertsAndErrorsAreTranslated() {
     EngineBench bench;
-    QuorvelDelegate delegate;
+    QuorvelDelegate delegate(WinKeyerUsb::sharedInstance());
     bench.settings().setObject(u"None"_s, u"WKPortName"_s);
     Backwards backwards;
     QVERIFY(QCoreApplication::installTranslator(&backwards));

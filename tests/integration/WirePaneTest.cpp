@@ -60,7 +60,7 @@ class WirePaneTest : public QObject {
 void WirePaneTest::init() {
     _station.emplace();
     QVERIFY(_station->setUp());
-    _controller.emplace();
+    _controller.emplace(_station->engine());
     _operator.emplace(*_controller->view());
 }
 

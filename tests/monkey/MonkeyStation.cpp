@@ -27,11 +27,11 @@ MonkeyStation::MonkeyStation() {
     settings().setObject(nameOf(0), WKPortName);
     settings().setObject(u"N0CALL"_s, MyCall);
     plug(0);
-    _delegate.emplace();
+    _delegate.emplace(WinKeyerUsb::sharedInstance());
     _window.emplace(WinKeyerUsb::sharedInstance());
     _delegate->awakeFromNib(_window->hisCallsignTextField());
     _alerts->setAlertParent(&*_window);
-    _preferences.emplace();
+    _preferences.emplace(WinKeyerUsb::sharedInstance());
     _preferences->awakeFromNib();
     _menuShield.emplace();
     _typingWatch.emplace();

@@ -65,6 +65,7 @@ class KeyedWaveViewTest : public QObject {
 void KeyedWaveViewTest::init() {
     _bench.emplace();
     _view.emplace();
+    _view->follow(_bench->engine());
 }
 
 void KeyedWaveViewTest::cleanup() {

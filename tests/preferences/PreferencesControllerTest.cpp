@@ -2,6 +2,7 @@
 
 #include "keyer/KeyerSettings.h"
 #include "keyer/MessageSettings.h"
+#include "keyer/WinKeyerUsb.h"
 #include "preferences/MBPreferencesController.h"
 #include "preferences/PreferencesGeneral.h"
 #include "preferences/PreferencesMessagesViewController.h"
@@ -69,7 +70,7 @@ void PreferencesControllerTest::cleanup() {
 }
 
 void PreferencesControllerTest::thePanesAreInOrder() {
-    PreferencesController().awakeFromNib();
+    PreferencesController(WinKeyerUsb::sharedInstance()).awakeFromNib();
     QCOMPARE(window().toolbarAllowedItemIdentifiers(),
              QStringList({u"PreferencesGeneralPane"_s, u"PreferencesMessagesPane"_s,
                           u"PreferencesWinKeyerPane"_s}));
@@ -77,26 +78,26 @@ void PreferencesControllerTest::thePanesAreInOrder() {
 }
 
 void PreferencesControllerTest::theFirstLaunchShowsTheGeneralPane() {
-    PreferencesController().awakeFromNib();
+    PreferencesController(WinKeyerUsb::sharedInstance()).awakeFromNib();
     QCOMPARE(window().currentModule()->identifier(), u"PreferencesGeneralPane"_s);
     QCOMPARE(_platform->settings().stringForKey(u"MBPreferencesSelection"_s),
              u"PreferencesGeneralPane"_s);
 }
 
 void PreferencesControllerTest::thePaneShownLastIsShownAtTheNextLaunch() {
-    PreferencesController().awakeFromNib();
+    PreferencesController(WinKeyerUsb::sharedInstance()).awakeFromNib();
     window().setSelectedPreferenceItemWithIdentifier(u"PreferencesMessagesPane"_s);
     const auto remembered = _platform->settings().stringForKey(u"MBPreferencesSelection"_s);
     QCOMPARE(remembered, u"PreferencesMessagesPane"_s);
     _platform.reset();
     launch();
     _platform->settings().setObject(remembered, u"MBPreferencesSelection"_s);
-    PreferencesController().awakeFromNib();
+    PreferencesController(WinKeyerUsb::sharedInstance()).awakeFromNib();
     QCOMPARE(window().currentModule()->identifier(), u"PreferencesMessagesPane"_s);
 }
 
 void PreferencesControllerTest::showingOpensTheOneWindow() {
-    PreferencesController controller;
+    PreferencesController controller(WinKeyerUsb::sharedInstance());
     controller.awakeFromNib();
     controller.showPreferences(this);
     QVERIFY(QTest::qWaitForWindowActive(&window().window()));
@@ -104,7 +105,7 @@ void PreferencesControllerTest::showingOpensTheOneWindow() {
 }
 
 void PreferencesControllerTest::eachPaneFitsASmallScreen() {
-    PreferencesController controller;
+    PreferencesController controller(WinKeyerUsb::sharedInstance());
     controller.awakeFromNib();
     controller.showPreferences(this);
     for (const auto& pane : *window().modules()) {
@@ -117,7 +118,7 @@ void PreferencesControllerTest::eachPaneFitsASmallScreen() {
 }
 
 void PreferencesControllerTest::nothingOfAPaneCoversAnother() {
-    PreferencesController controller;
+    PreferencesController controller(WinKeyerUsb::sharedInstance());
     controller.awakeFromNib();
     controller.showPreferences(this);
     for (const auto& pane : *window().modules()) {
@@ -144,7 +145,7 @@ void PreferencesControllerTest::everyExplanationIsSeenWhole() {
         }
     }
     _platform->settings().setObject(4000.0, BeaconInterval.key);
-    PreferencesController controller;
+    PreferencesController controller(WinKeyerUsb::sharedInstance());
     controller.awakeFromNib();
     controller.showPreferences(this);
     QVERIFY(QTest::qWaitForWindowActive(&window().window()));
@@ -167,7 +168,7 @@ void PreferencesControllerTest::everyExplanationIsSeenWhole() {
 }
 
 void PreferencesControllerTest::theLinkToAnOrdinaryAdapterIsToldInFull() {
-    PreferencesController controller;
+    PreferencesController controller(WinKeyerUsb::sharedInstance());
     controller.awakeFromNib();
     controller.showPreferences(this);
     auto* link = window().currentModule()->view()->findChild<QLabel*>(u"linkLabel"_s);
@@ -180,7 +181,7 @@ void PreferencesControllerTest::theLinkToAnOrdinaryAdapterIsToldInFull() {
 }
 
 void PreferencesControllerTest::thePortsReachTheirPane() {
-    PreferencesController controller;
+    PreferencesController controller(WinKeyerUsb::sharedInstance());
     controller.awakeFromNib();
     controller.setSerialPortNames({u"None"_s, u"usbserial-A"_s});
     const auto* chooser = window()
@@ -191,7 +192,7 @@ void PreferencesControllerTest::thePortsReachTheirPane() {
 }
 
 void PreferencesControllerTest::portsBeforeThePanesAreNoMatter() {
-    PreferencesController controller;
+    PreferencesController controller(WinKeyerUsb::sharedInstance());
     controller.setSerialPortNames({u"None"_s});
     controller.awakeFromNib();
     QCOMPARE(window().modules()->size(), 3);

@@ -120,7 +120,7 @@ void PreferencesGeneralViewControllerTest::init() {
     _bench.emplace();
     _delegate.emplace(_bench->platform());
     _bench->settings().setObject(u"usbserial-A"_s, WKPortName);
-    _pane.emplace();
+    _pane.emplace(_bench->engine());
     _pane->setSerialPortNames({u"None"_s, u"usbserial-A"_s, u"ttyS0"_s});
 }
 

@@ -63,7 +63,7 @@ void PreferencesMessagesViewControllerTest::init() {
     _platform.emplace();
     PreferencesMessagesViewController::initialize();
     PreferencesGeneral::initialize();
-    _pane.emplace();
+    _pane.emplace(WinKeyerUsb::sharedInstance());
 }
 
 void PreferencesMessagesViewControllerTest::cleanup() {

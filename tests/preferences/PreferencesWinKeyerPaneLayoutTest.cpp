@@ -80,7 +80,7 @@ QString mnemonicOf(const QString& text) {
 void PreferencesWinKeyerPaneLayoutTest::init() {
     _bench.emplace();
     QVERIFY(_bench->connect());
-    _controller.emplace();
+    _controller.emplace(_bench->engine());
     _operator.emplace(view());
 }
 
@@ -97,7 +97,7 @@ void PreferencesWinKeyerPaneLayoutTest::open(int pointSize) {
     font.setPointSize(pointSize);
     QApplication::setFont(font, "QWidget");
     _operator.reset();
-    _controller.emplace(); // opened with that font
+    _controller.emplace(_bench->engine()); // opened with that font
     _operator.emplace(view());
     view().adjustSize();
 }

@@ -40,7 +40,7 @@ class PreferencesWinKeyerPaneMemoryTest : public QObject {
 void PreferencesWinKeyerPaneMemoryTest::init() {
     _bench.emplace();
     QVERIFY(_bench->connect());
-    _controller.emplace();
+    _controller.emplace(_bench->engine());
     _operator.emplace(view());
     showPage();
 }

@@ -50,7 +50,7 @@ class PreferencesWinKeyerPaneNumbersTest : public QObject {
 void PreferencesWinKeyerPaneNumbersTest::init() {
     _bench.emplace();
     QVERIFY(_bench->connect());
-    _controller.emplace();
+    _controller.emplace(_bench->engine());
     _operator.emplace(view());
 }
 

@@ -141,7 +141,7 @@ QByteArray registersSent(const KeyerEncoding::DefaultsBlock& before,
 void PreferencesWinKeyerPaneTest::init() {
     _bench.emplace();
     QVERIFY(_bench->connect());
-    _controller.emplace();
+    _controller.emplace(_bench->engine());
     _operator.emplace(view());
 }
 
@@ -403,7 +403,7 @@ void PreferencesWinKeyerPaneTest::withoutAnOutputItTellsThatNothingIsKeyed() {
     QVERIFY(!isTold());
     settings().setObject(false, WKKeyOut2Enable);
     _operator.reset();
-    _controller.emplace();
+    _controller.emplace(_bench->engine());
     _operator.emplace(view());
     pages().setCurrentIndex(2);
     QVERIFY(isTold());
@@ -413,7 +413,7 @@ void PreferencesWinKeyerPaneTest::withoutTheMemoryItOpensWithoutASwitchpoint() {
     settings().setObject(false, WKEnableDitDahMemory);
     settings().setObject(40, WKPaddleSwitchpoint);
     _operator.reset();
-    _controller.emplace();
+    _controller.emplace(_bench->engine());
     _operator.emplace(view());
     QCOMPARE(_operator->shown(WKEnableDitDahMemory), u"off"_s);
     QVERIFY(!_operator->control(WKPaddleSwitchpoint).isEnabled());

@@ -69,7 +69,7 @@ class PreferencesWinKeyerViewControllerTest : public QObject {
 void PreferencesWinKeyerViewControllerTest::init() {
     _bench.emplace();
     QVERIFY(_bench->connect());
-    _controller.emplace();
+    _controller.emplace(_bench->engine());
 }
 
 void PreferencesWinKeyerViewControllerTest::cleanup() {

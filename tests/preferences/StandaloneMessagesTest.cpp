@@ -81,6 +81,7 @@ class StandaloneMessagesTest : public QObject {
 void StandaloneMessagesTest::init() {
     _bench.emplace();
     _view.emplace();
+    _view->follow(_bench->engine());
 }
 
 void StandaloneMessagesTest::cleanup() {

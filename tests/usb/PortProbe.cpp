@@ -172,7 +172,7 @@ int main(int argc, char* argv[]) {
     platform.settings().registerDefaults(messageDefaults());
     platform.settings().registerDefaults(defaultsOf(generalSettings));
 
-    QuorvelDelegate delegate;
+    QuorvelDelegate delegate(WinKeyerUsb::sharedInstance());
     const KeyGuard guard(WinKeyerUsb::sharedInstance(), KeyGuardProcess::standardProgram());
     PortProbe probe(delegate);
     delegate.applicationDidFinishLaunching();

@@ -162,7 +162,7 @@ void MainWindowTest::theirCallReachesTheEngine() {
 }
 
 void MainWindowTest::theirCallTakesOnlyCallSigns() {
-    QuorvelDelegate delegate;
+    QuorvelDelegate delegate(_bench->engine());
     delegate.awakeFromNib(_window->hisCallsignTextField());
     QTest::keyClicks(&_window->hisCallsignTextField(), u"w9-xyz/p"_s);
     QCOMPARE(_window->hisCallsignTextField().text(), u"W9XYZ/P"_s);

@@ -71,7 +71,7 @@ class TuneSwitchTest : public QObject {
 
 void TuneSwitchTest::init() {
     _bench.emplace();
-    _delegate.emplace();
+    _delegate.emplace(_bench->engine());
     _window.emplace(_bench->engine());
     QObject::connect(&*_delegate, &QuorvelDelegate::willDisconnect, &*_window,
                      &MainWindow::silenceKeyer);

@@ -1,0 +1,113 @@
+#include "app/Shell.h"
+
+#include "app/DesktopApplication.h"
+#include "app/SettingsFileAlert.h"
+#include "platform/SettingsStore.h"
+#include "platform/linux/KeyGuardProcess.h"
+#include "platform/linux/SingleInstance.h"
+#include "preferences/MBPreferencesController.h"
+
+#include <QTimer>
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace {
+
+/// How long an alert of the way out waits for an operator who has asked to quit.
+constexpr auto lastWord = 10s;
+
+} // namespace
+
+Shell::Shell(WinKeyerUsb& engine, DesktopApplication& alerts, SettingsStore& settings,
+             SingleInstance& instance)
+    : _alerts(alerts),
+      _settings(settings),
+      _instance(instance),
+      _delegate(engine),
+      _guard(engine, KeyGuardProcess::standardProgram()),
+      _keyingRecord(engine, KeyingRecord::standardPath()),
+      _window(engine),
+      _preferences(engine),
+      _escape(Qt::Key_Escape),
+      _quit(Qt::CTRL | Qt::Key_Q),
+      _termination(_delegate) {
+    _delegate.awakeFromNib(_window.hisCallsignTextField());
+    _preferences.awakeFromNib();
+    connectWindow();
+    connectPreferences();
+    connectWatchers();
+    connectWaysOut();
+    connectSettings();
+}
+
+void Shell::launch() {
+    _window.show();
+    QTimer::singleShot(0, &_delegate, [this] { finishLaunching(); });
+}
+
+void Shell::connectWindow() {
+    _alerts.setAlertParent(&_window);
+    QObject::connect(&_delegate, &QuorvelDelegate::willDisconnect, &_window,
+                     &MainWindow::silenceKeyer);
+    QObject::connect(&_window, &MainWindow::connectionWanted, &_delegate,
+                     [this] { _delegate.changeSerialPort(nullptr); });
+    QObject::connect(&_escape, &ApplicationKey::pressed, &_window, &MainWindow::stop);
+    QObject::connect(&_instance, &SingleInstance::activated, &_window, &MainWindow::comeToFront);
+}
+
+void Shell::connectPreferences() {
+    QObject::connect(&_window, &MainWindow::preferencesRequested, &_preferences,
+                     [this] { _preferences.showPreferences(&_window); });
+    QObject::connect(&_window, &MainWindow::portRequested, &_preferences, [this] { choosePort(); });
+    QObject::connect(&_delegate, &QuorvelDelegate::serialPortNameArrayChanged, &_preferences,
+                     [this] { _preferences.setSerialPortNames(_delegate.serialPortNameArray()); });
+}
+
+void Shell::connectWatchers() {
+    QObject::connect(&_keyingRecord, &KeyingRecord::keyLetGo, &_window, &MainWindow::say);
+    QObject::connect(&_guard, &KeyGuard::hasNoGuard, &_window, &MainWindow::say);
+    QObject::connect(&_guard, &KeyGuard::hasLetGo, &_window, [this](const QString& notice) {
+        _window.say(notice);
+        _delegate.changeSerialPort(nullptr);
+    });
+}
+
+void Shell::connectWaysOut() {
+    const auto quit = [this] { _termination.terminate(Termination::Cause::Operator); };
+    QObject::connect(&_window, &MainWindow::quitRequested, &_termination, quit);
+    QObject::connect(&_quit, &ApplicationKey::pressed, &_termination, quit);
+    const auto endWithTheSession = [this] { _termination.terminate(Termination::Cause::System); };
+    QObject::connect(&_terminationSignals, &TerminationSignals::requested, &_termination,
+                     endWithTheSession);
+    QObject::connect(&_sessionBus, &SessionBus::hasGone, &_termination, endWithTheSession);
+
+    QObject::connect(
+        &_termination, &Termination::begun, &_window, [this](Termination::Cause cause) {
+            _alerts.limitAlerts(cause == Termination::Cause::Operator ? lastWord : 0ms);
+        });
+    // By the time the event loop comes round again, in an alert of the way out, the port is free.
+    QObject::connect(&_termination, &Termination::begun, &_instance, &SingleInstance::leave,
+                     Qt::QueuedConnection);
+    QObject::connect(&_termination, &Termination::hasLeftKeyer, &_keyingRecord,
+                     &KeyingRecord::close);
+}
+
+void Shell::connectSettings() {
+    QObject::connect(&_settings, &SettingsStore::storingFailed, &_window, [this] {
+        _alerts.runModalWhenFree([this] { return settingsNotStoredAlert(_settings); });
+    });
+}
+
+void Shell::choosePort() {
+    MBPreferencesController::sharedController().setSelectedPreferenceItemWithIdentifier(
+        u"PreferencesGeneralPane"_s);
+    _preferences.showPreferences(&_window);
+}
+
+void Shell::finishLaunching() {
+    if (const auto alert = settingsFileAlert(_settings)) {
+        _alerts.runModal(*alert);
+    }
+    _delegate.applicationDidFinishLaunching();
+}
