@@ -1,5 +1,6 @@
 #include "app/window/ModeSwitches.h"
 
+#include "app/window/EngineSwitch.h"
 #include "keyer/WinKeyerUsb.h"
 
 #include <QAbstractButton>
@@ -14,31 +15,24 @@ ModeSwitches::ModeSwitches(WinKeyerUsb& engine, const Buttons& buttons, QObject*
 }
 
 void ModeSwitches::setUpPause(QAbstractButton& button) {
-    const auto follow = [this, &button] { button.setChecked(_engine.pauseState() != 0); };
-    QObject::connect(&_engine, &WinKeyerUsb::pauseStateChanged, this, follow);
-    QObject::connect(&button, &QAbstractButton::toggled, this, [this](bool isOn) {
-        if (isOn != (_engine.pauseState() != 0)) {
-            _engine.setPauseState(isOn ? 1 : 0);
-        }
-    });
-    follow();
+    new EngineSwitch(
+        _engine, button, {&WinKeyerUsb::pauseState, &WinKeyerUsb::pauseStateChanged},
+        [this](bool isOn) { _engine.setPauseState(isOn ? 1 : 0); }, this);
 }
 
 void ModeSwitches::setUpHSCW(QAbstractButton& button) {
-    const auto follow = [this, &button] { button.setChecked(_engine.hscwState() != 0); };
-    QObject::connect(&_engine, &WinKeyerUsb::hscwStateChanged, this, follow);
-    QObject::connect(&button, &QAbstractButton::toggled, this, [this, &button](bool isOn) {
-        if (isOn != (_engine.hscwState() != 0)) {
+    new EngineSwitch(
+        _engine, button, {&WinKeyerUsb::hscwState, &WinKeyerUsb::hscwStateChanged},
+        [this, &button](bool isOn) {
             _engine.setHscwState(isOn ? 1 : 0);
             _engine.changeHSCWMode(&button);
-        }
-    });
+        },
+        this);
     QObject::connect(&_engine, &WinKeyerUsb::activityChanged, this,
                      [this, &button] { followKeyer(button); });
     QObject::connect(&_engine, &WinKeyerUsb::sendingProgressed, this, &ModeSwitches::followText);
     QObject::connect(&_engine, &WinKeyerUsb::messageSendingStopped, this,
                      &ModeSwitches::noteKnobsSpeed);
-    follow();
     followKeyer(button);
 }
 
@@ -71,9 +65,7 @@ void ModeSwitches::followText() {
 }
 
 void ModeSwitches::setUpBeacon(QAbstractButton& button) {
-    const auto follow = [this, &button] { button.setChecked(_engine.beaconState() != 0); };
-    QObject::connect(&_engine, &WinKeyerUsb::beaconStateChanged, this, follow);
-    QObject::connect(&button, &QAbstractButton::toggled, this,
-                     [this](bool isOn) { _engine.setBeaconState(isOn ? 1 : 0); });
-    follow();
+    new EngineSwitch(
+        _engine, button, {&WinKeyerUsb::beaconState, &WinKeyerUsb::beaconStateChanged},
+        [this](bool isOn) { _engine.setBeaconState(isOn ? 1 : 0); }, this);
 }

@@ -1,5 +1,6 @@
 #include "app/window/TuneSwitch.h"
 
+#include "app/window/EngineSwitch.h"
 #include "keyer/ReceivedByte.h"
 #include "keyer/WinKeyerUsb.h"
 #include "platform/Platform.h"
@@ -15,14 +16,7 @@ constexpr Clock::Duration longestReport = std::chrono::milliseconds(250);
 
 TuneSwitch::TuneSwitch(WinKeyerUsb& engine, QAbstractButton& button, QObject* parent)
     : QObject(parent), _engine(engine), _button(button), _toolTip(button.toolTip()) {
-    QObject::connect(&_button, &QAbstractButton::toggled, this, [this](bool isOn) {
-        if (!isOn) {
-            letGo();
-        } else if (_engine.tuneState() == 0) {
-            keyDown();
-        }
-    });
-    QObject::connect(&_engine, &WinKeyerUsb::tuneStateChanged, this, &TuneSwitch::follow);
+    QObject::connect(&_engine, &WinKeyerUsb::tuneStateChanged, this, &TuneSwitch::noteBegin);
     QObject::connect(&_engine, &WinKeyerUsb::willSend, this, &TuneSwitch::letGo);
     QObject::connect(&_engine, &WinKeyerUsb::statusReceived, this, &TuneSwitch::followStatus);
     QObject::connect(&_engine, &WinKeyerUsb::messageSendingStopped, this, &TuneSwitch::letGo);
@@ -32,14 +26,23 @@ TuneSwitch::TuneSwitch(WinKeyerUsb& engine, QAbstractButton& button, QObject* pa
     QObject::connect(&_engine, &WinKeyerUsb::greeted, this, &TuneSwitch::letGo);
     QObject::connect(&_engine, &WinKeyerUsb::activityChanged, this, &TuneSwitch::followLink);
     QObject::connect(&_engine, &WinKeyerUsb::isLoadingMemoryChanged, this, &TuneSwitch::followLink);
-    follow();
+    new EngineSwitch(
+        _engine, _button, {&WinKeyerUsb::tuneState, &WinKeyerUsb::tuneStateChanged},
+        [this](bool isOn) {
+            if (isOn) {
+                keyDown();
+            } else {
+                letGo();
+            }
+        },
+        this);
+    noteBegin();
     followLink();
 }
 
-void TuneSwitch::follow() {
+void TuneSwitch::noteBegin() {
     _since = Platform::current().clock().now();
     _isReported = false;
-    _button.setChecked(_engine.tuneState() != 0);
 }
 
 void TuneSwitch::keyDown() {

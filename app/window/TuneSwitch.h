@@ -26,7 +26,7 @@ class TuneSwitch final : public QObject {
 
   private:
     void keyDown();
-    void follow();
+    void noteBegin();
     void followLink();
     void followStatus(std::uint8_t status);
 
