@@ -78,8 +78,10 @@ class InheritedDescriptors {
 
 QString KeyGuardProcess::standardProgram() {
     const QDir here(QCoreApplication::applicationDirPath());
-    const auto beside = here.filePath(u"quorvel-key-guard"_s);
-    return QFile::exists(beside) ? beside : here.filePath(u"../libexec/quorvel-key-guard"_s);
+    const QString beside = here.filePath(u"quorvel-key-guard"_s);
+    const QString installed =
+        here.filePath(QStringLiteral(QUORVEL_LIBEXEC_DIRECTORY "/quorvel-key-guard"));
+    return QFile::exists(beside) ? beside : installed;
 }
 
 KeyGuardProcess::KeyGuardProcess(const QString& program, int port) {
