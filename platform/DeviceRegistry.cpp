@@ -8,6 +8,10 @@ DeviceRegistry::DeviceRegistry(QObject* parent) : QObject(parent) {}
 
 DeviceRegistry::~DeviceRegistry() = default;
 
+bool DeviceRegistry::isThere(DeviceHandle device) {
+    return _present.contains(device);
+}
+
 std::optional<DeviceNotification> DeviceRegistry::addMatchingNotification(DeviceEvent event,
                                                                           DeviceCallback callback,
                                                                           QObject* context) {

@@ -50,6 +50,10 @@ class DeviceRegistry : public QObject {
     /// The serial devices present now, in the order in which they are listed; nothing on failure.
     [[nodiscard]] virtual std::optional<QList<DeviceHandle>> matchingDevices() { return _present; }
 
+    /// Whether the device is listed and the machine has it at this moment, looked for anew: the
+    /// list may not have heard yet that it has gone, or that another one is in its place.
+    [[nodiscard]] virtual bool isThere(DeviceHandle device);
+
     /// Has `callback` called with `context` for each set of devices that arrives or goes from now
     /// on, while `context` lives. Nothing on failure.
     [[nodiscard]] virtual std::optional<DeviceNotification>

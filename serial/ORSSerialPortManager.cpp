@@ -156,15 +156,17 @@ void ORSSerialPortManager::systemDidWake(const Notification&) {
     }
 }
 
-// The registry knows of removals that are yet to be announced.
+// Looked for anew: at the end of a sleep, or of an alert, nobody may have told of a removal yet.
 bool ORSSerialPortManager::isPresent(const ORSSerialPort& port) const {
     const auto ports = _availablePorts.value_or(Ports());
-    const auto devices = Platform::current().devices().matchingDevices();
+    auto& registry = Platform::current().devices();
+    const auto devices = registry.matchingDevices();
     return std::any_of(ports.begin(), ports.end(),
                        [&](const auto& each) { return each.get() == &port; }) &&
            devices && std::any_of(devices->begin(), devices->end(), [&](DeviceHandle device) {
                return ORSSerialPort::bsdCalloutPathFromDevice(device) == port.path() &&
-                      ORSSerialPort::modemNameFromDevice(device) == port.name();
+                      ORSSerialPort::modemNameFromDevice(device) == port.name() &&
+                      registry.isThere(device);
            });
 }
 

@@ -16,6 +16,10 @@ class DeviceSource : public QObject {
     /// cannot read it leaves out, with one line in the log.
     [[nodiscard]] virtual QList<SerialDevice> devices() = 0;
 
+    /// Whether the source has that very device at this moment. Looks anew, and changes nothing of
+    /// what devices() says.
+    [[nodiscard]] virtual bool has(const SerialDevice& device) = 0;
+
   Q_SIGNALS:
     /// Devices may have come or gone.
     void changed();

@@ -48,6 +48,13 @@ LinuxDeviceRegistry::LinuxDeviceRegistry(Sources sources) : _sources(std::move(s
 
 LinuxDeviceRegistry::~LinuxDeviceRegistry() = default;
 
+bool LinuxDeviceRegistry::isThere(DeviceHandle device) {
+    const auto described = _described.constFind(device);
+    return described != _described.constEnd() &&
+           std::any_of(_sources.begin(), _sources.end(),
+                       [&](const auto& source) { return source->has(*described); });
+}
+
 /// Compares what the sources have with what is known, and notes what is to be announced.
 void LinuxDeviceRegistry::refresh() {
     const auto found = devicesOfSources();

@@ -28,6 +28,8 @@ class LinuxDeviceRegistry final : public DeviceRegistry {
 
     ~LinuxDeviceRegistry() override;
 
+    [[nodiscard]] bool isThere(DeviceHandle device) override;
+
   private:
     void refresh();
     [[nodiscard]] QList<SerialDevice> devicesOfSources() const;

@@ -43,6 +43,11 @@ QString lastLink(const QString& link) {
     return last;
 }
 
+/// A link that is made anew, to the same terminal, is the same port.
+QString identityOf(const QFileInfo& link) {
+    return link.filePath() + u' ' + link.canonicalFilePath();
+}
+
 } // namespace
 
 QString PortsDirectorySource::standardPath() {
@@ -68,12 +73,20 @@ QList<SerialDevice> PortsDirectorySource::devices() {
     const auto found = links();
     watch(targetDirectories(found));
     QList<SerialDevice> devices;
+    QSet<QString> identities;
     for (const auto& link : found) {
+        identities.insert(identityOf(link));
         if (const auto device = deviceAt(link)) {
             devices.append(*device);
         }
     }
+    forgetAllBut(identities);
     return devices;
+}
+
+bool PortsDirectorySource::has(const SerialDevice& device) {
+    const QFileInfo link(device.dialinPath);
+    return link.path() == _path && link.isSymLink() && isTrusted() && deviceAt(link) == device;
 }
 
 /// The directory with those above it whose changes can make it come or go, from the top.
@@ -167,19 +180,41 @@ QFileInfoList PortsDirectorySource::links() {
     return entries;
 }
 
-std::optional<SerialDevice> PortsDirectorySource::deviceAt(const QFileInfo& link) const {
+std::optional<SerialDevice> PortsDirectorySource::deviceAt(const QFileInfo& link) {
     const auto terminal = link.canonicalFilePath();
-    if (terminal.isEmpty() || !TerminalNode::isTerminal(terminal)) {
+    if (terminal.isEmpty() || !TerminalNode::isTerminal(terminal) ||
+        !isItsTerminal(identityOf(link), terminal, lastLink(link.filePath()))) {
         return std::nullopt;
     }
-    const auto path = link.filePath();
-    if (TerminalNode::isYoungerThanLink(terminal, lastLink(path))) {
-        return std::nullopt;
-    }
-    // A link that is made anew, to the same terminal, is the same port.
-    return SerialDevice{.identity = path + u' ' + terminal,
+    return SerialDevice{.identity = identityOf(link),
                         .calloutPath = terminal,
-                        .dialinPath = path,
+                        .dialinPath = link.filePath(),
                         .baseName = DeviceNaming::visible(link.fileName()),
                         .suffixes = {QString()}};
+}
+
+/// Asked of the times once: a terminal that is used and given another mode would seem to be younger
+/// than its link by and by.
+bool PortsDirectorySource::isItsTerminal(const QString& identity, const QString& terminal,
+                                         const QString& link) {
+    const auto known = _known.find(identity);
+    if (known != _known.end() && TerminalNode::isStillThere(known->second)) {
+        return true;
+    }
+    if (!TerminalNode::isYoungerThanLink(terminal, link)) {
+        _known[identity] = TerminalNode::held(terminal);
+        return true;
+    }
+    _known.erase(identity);
+    if (!_passedOver.contains(identity)) {
+        _passedOver.insert(identity);
+        logLine(u"%1 is no port: %2 was made after it, for somebody else"_s.arg(
+            DeviceNaming::visible(link), terminal));
+    }
+    return false;
+}
+
+void PortsDirectorySource::forgetAllBut(const QSet<QString>& identities) {
+    std::erase_if(_known, [&](const auto& each) { return !identities.contains(each.first); });
+    _passedOver.intersect(identities);
 }

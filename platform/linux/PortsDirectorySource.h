@@ -1,10 +1,13 @@
 #pragma once
 
+#include "platform/FileDescriptor.h"
 #include "platform/linux/DeviceSource.h"
 
 #include <QFileInfo>
 #include <QFileSystemWatcher>
+#include <QSet>
 
+#include <map>
 #include <optional>
 
 /// The ports directory: each symbolic link in it to a terminal device is a serial port of the
@@ -22,6 +25,7 @@ class PortsDirectorySource final : public DeviceSource {
     explicit PortsDirectorySource(const QString& path);
 
     [[nodiscard]] QList<SerialDevice> devices() override;
+    [[nodiscard]] bool has(const SerialDevice& device) override;
 
   private:
     [[nodiscard]] QStringList chain() const;
@@ -32,10 +36,18 @@ class PortsDirectorySource final : public DeviceSource {
     [[nodiscard]] QStringList targetDirectories(const QFileInfoList& links) const;
     [[nodiscard]] bool isTrusted();
     [[nodiscard]] QFileInfoList links();
-    [[nodiscard]] std::optional<SerialDevice> deviceAt(const QFileInfo& link) const;
+    [[nodiscard]] std::optional<SerialDevice> deviceAt(const QFileInfo& link);
+    [[nodiscard]] bool isItsTerminal(const QString& identity, const QString& terminal,
+                                     const QString& link);
+    void forgetAllBut(const QSet<QString>& identities);
 
     QString _path;
     QFileSystemWatcher _watcher;
+    /// The terminals that were found to be those of their links, by the device's identity: they
+    /// are for as long as they are there, whatever becomes of their times.
+    std::map<QString, FileDescriptor> _known;
+    /// The devices that the log has said are none.
+    QSet<QString> _passedOver;
     bool _wasReadable = true;
     bool _wasTrusted = true;
 };

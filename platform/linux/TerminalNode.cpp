@@ -4,6 +4,7 @@
 #include <QFileInfo>
 
 #include <algorithm>
+#include <fcntl.h>
 #include <sys/stat.h>
 #include <sys/sysmacros.h>
 
@@ -32,6 +33,23 @@ double latestBirth(const struct stat& status) {
     return std::min({seconds(status.st_atim), seconds(status.st_mtim), seconds(status.st_ctim)});
 }
 
+/// Where the file system knows, when the link was made, which nothing changes. Elsewhere the
+/// earlier of two times, either of which may have moved on: whoever touches a link makes it no
+/// younger.
+double birthOfLink(const QByteArray& link) {
+    struct statx made {};
+    if (::statx(AT_FDCWD, link.constData(), AT_SYMLINK_NOFOLLOW,
+                STATX_BTIME | STATX_CTIME | STATX_MTIME, &made) != 0) {
+        return 0;
+    }
+    const auto time = [](const statx_timestamp& each) {
+        return seconds({each.tv_sec, static_cast<long>(each.tv_nsec)});
+    };
+    return (made.stx_mask & STATX_BTIME) != 0
+               ? time(made.stx_btime)
+               : std::min(time(made.stx_ctime), time(made.stx_mtime));
+}
+
 } // namespace
 
 bool TerminalNode::isTerminal(const QString& path) {
@@ -56,8 +74,16 @@ bool TerminalNode::isYoungerThanLink(const QString& path, const QString& link) {
     // Programs set the mode of a terminal up just after they have made it and its link.
     constexpr double setUpTime = 1;
     struct stat terminal {};
-    struct stat made {};
     return ::stat(QFile::encodeName(path).constData(), &terminal) == 0 &&
-           ::lstat(QFile::encodeName(link).constData(), &made) == 0 && isPseudoTerminal(terminal) &&
-           latestBirth(terminal) > seconds(made.st_ctim) + setUpTime;
+           isPseudoTerminal(terminal) &&
+           latestBirth(terminal) > birthOfLink(QFile::encodeName(link)) + setUpTime;
+}
+
+FileDescriptor TerminalNode::held(const QString& path) {
+    return FileDescriptor(::open(QFile::encodeName(path).constData(), O_PATH | O_CLOEXEC));
+}
+
+bool TerminalNode::isStillThere(const FileDescriptor& held) {
+    struct stat node {};
+    return ::fstat(held.get(), &node) == 0 && node.st_nlink > 0;
 }

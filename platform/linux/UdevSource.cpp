@@ -9,12 +9,16 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <sys/stat.h>
 #include <system_error>
 #include <unistd.h>
 
 using namespace Qt::StringLiterals;
 
 namespace {
+
+/// Between the parts of an identity.
+constexpr QChar separator = u'#';
 
 /// A text of udev's; null for none.
 QString text(const char* bytes) {
@@ -36,17 +40,17 @@ QString kernelName(udev_device* device) {
 
 /// The adapter's serial number as udev gives it, else as the adapter does, made fit for a name.
 QString usbSerialNumber(udev_device* device, udev_device* adapter) {
-    if (auto number = property(device, "ID_SERIAL_SHORT"); !number.isEmpty()) {
-        return number;
+    auto number = property(device, "ID_SERIAL_SHORT");
+    if (number.isEmpty() && adapter != nullptr) {
+        number = text(udev_device_get_sysattr_value(adapter, "serial")).trimmed();
     }
-    if (adapter == nullptr) {
-        return {};
-    }
-    auto number = text(udev_device_get_sysattr_value(adapter, "serial")).trimmed();
     std::replace_if(
         number.begin(), number.end(),
-        [](QChar each) { return !each.isPrint() || each.isSpace() || each == u'/'; }, QChar(u'_'));
-    return number;
+        [](QChar each) {
+            return each.category() == QChar::Other_Control || each.isSpace() || each == u'/';
+        },
+        QChar(u'_'));
+    return DeviceNaming::visible(number);
 }
 
 /// The device's links that lead to it. Of adapters with equal serial numbers, each claims the
@@ -94,6 +98,21 @@ QList<SerialDevice> UdevSource::devices() {
         scan();
     }
     return _devices;
+}
+
+bool UdevSource::has(const SerialDevice& device) {
+    const auto path = device.identity.left(device.identity.indexOf(separator));
+    return identityOf(path) == device.identity;
+}
+
+/// The number of the device's folder is another one when the device is, even in the same place: so
+/// that is known of an adapter whose news udev is still working on, which takes it a fifth of a
+/// second.
+QString UdevSource::identityOf(const QString& path) const {
+    struct stat folder {};
+    const bool isThere = ::stat(QFile::encodeName(path).constData(), &folder) == 0;
+    return path + separator + QString::number(_removals.value(path)) + separator +
+           (isThere ? QString::number(folder.st_ino) : u"gone"_s);
 }
 
 void UdevSource::startMonitor() {
@@ -154,7 +173,7 @@ std::optional<QList<SerialDevice>> UdevSource::scanned() const {
             continue;
         }
         auto tty = ttyDevice(device.get());
-        tty.identity += u'#' + QString::number(_removals.value(tty.identity));
+        tty.identity = identityOf(tty.identity);
         if (const auto serial = tty.serialDevice()) {
             found.append(*serial);
         }

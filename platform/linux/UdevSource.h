@@ -16,6 +16,7 @@ class UdevSource final : public DeviceSource {
     ~UdevSource() override;
 
     [[nodiscard]] QList<SerialDevice> devices() override;
+    [[nodiscard]] bool has(const SerialDevice& device) override;
 
   private:
     void startMonitor();
@@ -23,6 +24,7 @@ class UdevSource final : public DeviceSource {
     void scan();
     [[nodiscard]] std::optional<QList<SerialDevice>> scanned() const;
     [[nodiscard]] bool isReady(udev_device* device) const;
+    [[nodiscard]] QString identityOf(const QString& path) const;
 
     UdevContext _udev;
     UdevMonitor _monitor;

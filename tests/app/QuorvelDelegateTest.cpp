@@ -46,6 +46,7 @@ class QuorvelDelegateTest : public QObject {
     void aPluggedPortIsListedBeforeItIsOffered();
     void everyPortOfOneMomentIsOffered();
     void aPortThatHasGoneIsNotOffered();
+    void yesToAPortThatHasGoneChangesNothing_data();
     void yesToAPortThatHasGoneChangesNothing();
     void nothingIsOfferedWhileConnected();
     void onlyUsbSerialPortsAreOffered_data();
@@ -349,14 +350,26 @@ void QuorvelDelegateTest::aPortThatHasGoneIsNotOffered() {
     QCOMPARE(alerts().first().messageText, u"The serial port usbserial-a has been plugged in."_s);
 }
 
+void QuorvelDelegateTest::yesToAPortThatHasGoneChangesNothing_data() {
+    QTest::addColumn<bool>("isToldOf");
+    QTest::newRow("the list knows") << true;
+    QTest::newRow("nobody has told of it yet") << false;
+}
+
 void QuorvelDelegateTest::yesToAPortThatHasGoneChangesNothing() {
+    QFETCH(const bool, isToldOf);
     launch();
     _bench->platform().devices().unplug(_bench->device());
     _bench->platform().application().clear();
     auto& devices = _bench->platform().devices();
     _bench->platform().application().setWhileShown([&](const Alert&) {
+        const auto device = ORSSerialPort::deviceFromBSDPath(_bench->line().path());
         devices.holdAnnouncements();
-        devices.unplug(ORSSerialPort::deviceFromBSDPath(_bench->line().path()));
+        if (isToldOf) {
+            devices.unplug(device);
+        } else {
+            devices.vanish(device);
+        }
     });
     devices.plug(EngineBench::portName, _bench->line().path());
     QCOMPARE(alerts().size(), 1);

@@ -31,6 +31,7 @@ class ORSSerialPortManagerPowerTest : public ManagerBench {
     void sleepsWithoutAList();
     void aPortThatGoesDuringSleepStaysClosed();
     void aPortWhoseGoingIsYetToBeAnnouncedStaysClosed();
+    void aPortWhoseGoingNobodyHasToldOfStaysClosed();
     void noPortIsOpenedAfterTheEnd();
 };
 
@@ -206,6 +207,19 @@ void ORSSerialPortManagerPowerTest::aPortWhoseGoingIsYetToBeAnnouncedStaysClosed
     QVERIFY(!port->isOpen());
     QVERIFY(manager().portsToReopenAfterSleep().isEmpty());
     devices().resumeAnnouncements();
+}
+
+/// A machine that wakes up tells of it before it tells of the adapter that was pulled meanwhile.
+void ORSSerialPortManagerPowerTest::aPortWhoseGoingNobodyHasToldOfStaysClosed() {
+    const PseudoTerminalPair line;
+    const auto device = devices().plug(u"a"_s, line.path());
+    const auto port = manager().objectInAvailablePortsAtIndex(0);
+    port->open();
+    post(NSWorkspaceWillSleepNotification);
+    devices().vanish(device);
+    post(NSWorkspaceDidWakeNotification);
+    QVERIFY(!port->isOpen());
+    QVERIFY(manager().portsToReopenAfterSleep().isEmpty());
 }
 
 void ORSSerialPortManagerPowerTest::noPortIsOpenedAfterTheEnd() {

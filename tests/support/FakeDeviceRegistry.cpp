@@ -49,6 +49,10 @@ std::optional<QList<DeviceHandle>> FakeDeviceRegistry::matchingDevices() {
     return _matchingFails ? std::nullopt : DeviceRegistry::matchingDevices();
 }
 
+bool FakeDeviceRegistry::isThere(DeviceHandle device) {
+    return !_vanished.contains(device) && DeviceRegistry::isThere(device);
+}
+
 std::optional<DeviceNotification>
 FakeDeviceRegistry::addMatchingNotification(DeviceEvent event, DeviceCallback callback,
                                             QObject* context) {

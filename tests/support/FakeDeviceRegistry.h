@@ -27,6 +27,9 @@ class FakeDeviceRegistry final : public DeviceRegistry {
     void unplug(const QList<DeviceHandle>& devices);
     void unplug(DeviceHandle device);
 
+    /// Takes a device away of which nobody has been told yet, not even the list.
+    void vanish(DeviceHandle device) { _vanished.insert(device); }
+
     /// From now on no list of devices can be had.
     void failMatching(bool fails = true) { _matchingFails = fails; }
     /// From now on nobody can register for such events.
@@ -38,6 +41,7 @@ class FakeDeviceRegistry final : public DeviceRegistry {
     void forgetRetains(DeviceHandle device) { _retains.remove(device); }
 
     [[nodiscard]] std::optional<QList<DeviceHandle>> matchingDevices() override;
+    [[nodiscard]] bool isThere(DeviceHandle device) override;
     [[nodiscard]] std::optional<DeviceNotification>
     addMatchingNotification(DeviceEvent event, DeviceCallback callback, QObject* context) override;
     /// Only counts: a machine that kept every device would hide what else stays behind.
@@ -45,6 +49,7 @@ class FakeDeviceRegistry final : public DeviceRegistry {
 
   private:
     QHash<DeviceHandle, int> _retains;
+    QSet<DeviceHandle> _vanished;
     QList<DeviceEvent> _failingEvents;
     bool _matchingFails = false;
 };

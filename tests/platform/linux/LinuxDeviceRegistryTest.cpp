@@ -14,6 +14,7 @@ namespace {
 class ScriptedSource final : public DeviceSource {
   public:
     QList<SerialDevice> devices() override { return present; }
+    bool has(const SerialDevice& device) override { return present.contains(device); }
 
     void become(const QList<SerialDevice>& devices) {
         present = devices;
@@ -100,6 +101,7 @@ class LinuxDeviceRegistryTest : public QObject {
     void aTakenNameGetsThePlaceAppended();
     void aNameStaysWithADeviceWhileItIsPresent();
     void aNameIsFreeOnceItsDeviceHasGone();
+    void asksItsSourcesWhetherADeviceIsStillThere();
     void aNodeIsListedOnce();
     void theSecondWayToANodeTakesOverWhenTheFirstGoes();
     void aGoneDeviceIsReadableWhileItIsAnnounced();
@@ -255,6 +257,23 @@ void LinuxDeviceRegistryTest::aNameIsFreeOnceItsDeviceHasGone() {
     Listener listener(*_registry);
     _first->become({adapter(u"/dev/ttyUSB1"_s, u"A1"_s, u"1-2"_s)});
     QTRY_COMPARE(listener.heard, QStringList({u"-usbserial-A1"_s, u"+usbserial-A1"_s}));
+}
+
+void LinuxDeviceRegistryTest::asksItsSourcesWhetherADeviceIsStillThere() {
+    _first->become({adapter(u"/dev/ttyUSB0"_s, u"A1"_s, u"1-1"_s)});
+    _second->become({device(u"a"_s, u"/dev/pts/1"_s)});
+    QTRY_COMPARE(names(), QStringList({u"usbserial-A1"_s, u"a"_s}));
+    const auto usb = named(u"usbserial-A1"_s);
+    const auto link = named(u"a"_s);
+    QVERIFY(_registry->isThere(usb));
+    QVERIFY(_registry->isThere(link));
+    _first->present.clear();
+    QVERIFY(!_registry->isThere(usb));
+    QVERIFY(_registry->isThere(link));
+    _second->present = {device(u"b"_s, u"/dev/pts/2"_s)};
+    QVERIFY(!_registry->isThere(link));
+    QCOMPARE(names(), QStringList({u"usbserial-A1"_s, u"a"_s}));
+    QVERIFY(!_registry->isThere(noDevice));
 }
 
 void LinuxDeviceRegistryTest::aNodeIsListedOnce() {

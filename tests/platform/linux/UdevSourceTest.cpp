@@ -33,6 +33,9 @@ class UdevSourceTest : public QObject {
     void aReplugUnderAnotherNodeKeepsTheName();
     void aReplugUnderTheSameNodeIsARemovalAndAnArrival();
     void aBurstIsOneSet();
+    void knowsOfARemovalAheadOfUdev();
+    void knowsOfAReplacementAheadOfUdev();
+    void writesOutWhatNobodySeesOfANumber();
 
   private:
     void start();
@@ -228,6 +231,38 @@ void UdevSourceTest::aBurstIsOneSet() {
     _machine->addAdapter({u"ttyUSB0"_s, u"1-1"_s, u"A1"_s});
     _machine->addAdapter({u"ttyUSB1"_s, u"1-2"_s, u"A2"_s});
     QTRY_COMPARE(_heard, QStringList{u"+usbserial-A1@/dev/ttyUSB0 usbserial-A2@/dev/ttyUSB1"_s});
+}
+
+void UdevSourceTest::knowsOfARemovalAheadOfUdev() {
+    const auto path = _machine->addAdapter({u"ttyUSB0"_s, u"1-1"_s, u"A1"_s});
+    start();
+    const auto device = _registry->matchingDevices().value().constFirst();
+    QVERIFY(_registry->isThere(device));
+    _machine->remove(path);
+    QVERIFY(!_registry->isThere(device));
+    // Which is no news yet.
+    QCOMPARE(names(), QStringList{u"usbserial-A1"_s});
+    QVERIFY(_heard.isEmpty());
+}
+
+void UdevSourceTest::knowsOfAReplacementAheadOfUdev() {
+    const auto path = _machine->addAdapter({u"ttyUSB0"_s, u"1-1"_s, u"A1"_s});
+    start();
+    const auto device = _registry->matchingDevices().value().constFirst();
+    _machine->replace(path);
+    QVERIFY(!_registry->isThere(device));
+    QVERIFY(_heard.isEmpty());
+    _machine->announce(path, u"add"_s);
+    QTRY_COMPARE(_heard,
+                 QStringList({u"-usbserial-A1@/dev/ttyUSB0"_s, u"+usbserial-A1@/dev/ttyUSB0"_s}));
+    QVERIFY(_registry->isThere(_registry->matchingDevices().value().constFirst()));
+}
+
+void UdevSourceTest::writesOutWhatNobodySeesOfANumber() {
+    _machine->addAdapter({u"ttyUSB0"_s, u"1-1"_s, u"A\u202E1\u200B"_s});
+    _machine->addAdapter({u"ttyUSB1"_s, u"1-2"_s, u"B\u2066"_s, false});
+    start();
+    QCOMPARE(names(), QStringList({u"usbserial-A\\u202e1\\u200b"_s, u"usbserial-B\\u2066"_s}));
 }
 
 static const RegisteredTest<UdevSourceTest> registered;

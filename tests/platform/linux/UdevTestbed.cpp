@@ -3,6 +3,7 @@
 #include <QDir>
 #include <QFile>
 
+#include <filesystem>
 #include <stdexcept>
 #include <umockdev.h>
 #include <utility>
@@ -90,19 +91,33 @@ void UdevTestbed::remove(const QString& path) {
     umockdev_testbed_remove_device(_testbed, path.toUtf8().constData());
 }
 
+void UdevTestbed::replace(const QString& path) {
+    const std::filesystem::path folder = (root() + path).toStdString();
+    const auto old = folder.parent_path() / "old";
+    std::filesystem::rename(folder, old);
+    std::filesystem::copy(old, folder,
+                          std::filesystem::copy_options::recursive |
+                              std::filesystem::copy_options::copy_symlinks);
+    std::filesystem::remove_all(old);
+}
+
+QString UdevTestbed::root() const {
+    gchar* const name = umockdev_testbed_get_root_dir(_testbed);
+    auto root = QString::fromUtf8(name);
+    g_free(name);
+    return root;
+}
+
 void UdevTestbed::announce(const QString& path, const QString& action) {
     umockdev_testbed_uevent(_testbed, path.toUtf8().constData(), action.toUtf8().constData());
 }
 
 void UdevTestbed::link(const QString& link, const QString& kernelName) {
-    gchar* const name = umockdev_testbed_get_root_dir(_testbed);
-    const auto root = QString::fromUtf8(name);
-    g_free(name);
-    const QString place = root + link;
+    const QString place = root() + link;
     QDir().mkpath(QFileInfo(place).path());
     QFile::remove(place);
     // A link that leads nowhere would not be seen.
-    QFile node(root + u"/dev/"_s + kernelName);
+    QFile node(root() + u"/dev/"_s + kernelName);
     if (!node.open(QIODevice::WriteOnly)) {
         throw std::runtime_error("The node could not be made.");
     }

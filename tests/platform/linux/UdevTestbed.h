@@ -35,6 +35,8 @@ class UdevTestbed {
     QString addPort(const QString& kernelName, const QString& type);
     /// Takes a terminal out of sysfs, without any event.
     void remove(const QString& path);
+    /// Puts another terminal that is just like it in its place, without any event.
+    void replace(const QString& path);
     /// Has udev tell of a terminal: "add", "remove".
     void announce(const QString& path, const QString& action);
 
@@ -42,5 +44,7 @@ class UdevTestbed {
     void link(const QString& link, const QString& kernelName);
 
   private:
+    [[nodiscard]] QString root() const;
+
     _UMockdevTestbed* _testbed;
 };
