@@ -3,15 +3,22 @@
 #include "keyer/SendableText.h"
 #include "keyer/WinKeyerUsb.h"
 
+#include <algorithm>
+
 namespace {
 
 /// Deletes what cannot be typed. The character after a deleted one is not looked at: typing one
 /// character at a time never meets the case.
 QString filtered(const QString& text, const CharacterSet& allowed) {
-    QString kept;
+    const auto isAllowed = [&](QChar each) { return allowed.characterIsMember(each); };
+    const auto firstOther = std::find_if_not(text.begin(), text.end(), isAllowed) - text.begin();
+    if (firstOther == text.size()) {
+        return text; // as nearly always, however long it is
+    }
+    QString kept = text.first(firstOther);
     kept.reserve(text.size());
-    for (qsizetype i = 0; i < text.size(); ++i) {
-        if (allowed.characterIsMember(text.at(i))) {
+    for (qsizetype i = firstOther; i < text.size(); ++i) {
+        if (isAllowed(text.at(i))) {
             kept.append(text.at(i));
         } else if (i + 1 < text.size()) {
             kept.append(text.at(++i));
