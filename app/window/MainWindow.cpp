@@ -306,8 +306,7 @@ void MainWindow::showSpeed() {
 }
 
 void MainWindow::showWaiting() {
-    const auto count = static_cast<int>(_keyboardView->waitingCount());
-    _ui->waitingLabel->setText(count == 0 ? QString() : tr("%1 waiting").arg(count));
+    _ui->waitingLabel->setCount(static_cast<int>(_keyboardView->waitingCount()));
     _keyboardView->setPlaceholderText(
         _keyboardView->isLinked() ? tr("Type here to send") : tr("Not connected: nothing is sent"));
 }
