@@ -18,6 +18,10 @@ bool isLetter(QChar character) {
 } // namespace
 
 void KeptText::add(const QString& typed) {
+    if (!isMergeOpen() && !typed.contains(u'{')) {
+        _text += typed;
+        return;
+    }
     for (const auto character : typed) {
         add(character);
     }

@@ -7,12 +7,14 @@
 #include <QTextLayout>
 
 #include <algorithm>
-#include <array>
 
 namespace {
 
 /// Paragraphs are broken to less than the longest, so that typing does not break one each time.
 constexpr qsizetype wantedParagraph = KeyboardText::longestParagraph * 3 / 4;
+
+/// Of the format of a paragraph's end: the letter that it stands for, where it is not a space.
+constexpr int letterProperty = QTextFormat::UserProperty + 1;
 
 /// A paragraph longer than this is laid out only after it is broken.
 constexpr qsizetype longestLaidOut = KeyboardText::longestParagraph * 5 / 4;
@@ -36,29 +38,64 @@ qsizetype wrappingSpace(const QTextBlock& paragraph, const QString& text) {
     return found;
 }
 
-/// Where `text` is to be broken, in rising order. Spaces at either end stay.
+/// Where the paragraph that begins at `start` and is too long is best broken. A sign whose call may
+/// have to be shown is the last choice: an end has no place for it.
+qsizetype breakAfter(const QString& text, qsizetype start) {
+    const auto space = text.lastIndexOf(u' ', start + wantedParagraph);
+    if (space > start) {
+        return space;
+    }
+    auto letter = start + wantedParagraph;
+    while (letter > start && text.at(letter) == u'~') {
+        --letter;
+    }
+    return letter > start ? letter : start + wantedParagraph;
+}
+
+/// Where `text` is to be broken, in rising order. A space at the very end stays.
 QList<qsizetype> breaksIn(const QString& text) {
     QList<qsizetype> breaks;
     qsizetype start = 0;
     while (text.size() - start > KeyboardText::longestParagraph) {
-        auto space = text.lastIndexOf(u' ', start + wantedParagraph);
-        if (space <= start) {
-            space = text.indexOf(u' ', start + wantedParagraph);
-        }
-        if (space < 0 || space + 1 >= text.size()) {
-            break;
-        }
-        breaks.append(space);
-        start = space + 1;
+        const auto end = breakAfter(text, start);
+        breaks.append(end);
+        start = end + 1;
     }
     return breaks;
 }
 
+/// The format of a paragraph's end that stands for a letter.
+QTextCharFormat formatFor(QChar letter) {
+    QTextCharFormat format;
+    if (letter != u' ') {
+        format.setProperty(letterProperty, letter);
+    }
+    return format;
+}
+
+/// What the end of the paragraph before this one stands for.
+QChar endBefore(const QTextBlock& paragraph) {
+    const auto letter = paragraph.charFormat().property(letterProperty);
+    return letter.isNull() ? QChar(u' ') : letter.toChar();
+}
+
 /// What a document takes for a line end, and the tab.
 bool isLineEnd(QChar character) {
-    constexpr auto lineEnds = std::to_array<char16_t>(
-        {u'\t', u'\n', u'\r', u'\v', u'\f', u'\u0085', u'\u2028', u'\u2029', u'\ufdd0', u'\ufdd1'});
-    return std::ranges::find(lineEnds, character.unicode()) != lineEnds.end();
+    switch (character.unicode()) {
+    case u'\t':
+    case u'\n':
+    case u'\r':
+    case u'\v':
+    case u'\f':
+    case u'\u0085':
+    case u'\u2028':
+    case u'\u2029':
+    case u'\ufdd0':
+    case u'\ufdd1':
+        return true;
+    default:
+        return false;
+    }
 }
 
 /// Where the white space that begins at `start` ends.
@@ -76,7 +113,15 @@ bool endsLine(const QString& text, qsizetype start, qsizetype end) {
 } // namespace
 
 QString KeyboardText::text() const {
-    return withSpaces(_document.toRawText());
+    auto text = _document.toRawText();
+    text.replace(QChar::ParagraphSeparator, u' ');
+    for (auto paragraph = _document.begin().next(); paragraph.isValid();
+         paragraph = paragraph.next()) {
+        if (const auto end = endBefore(paragraph); end != u' ') {
+            text[paragraph.position() - 1] = end;
+        }
+    }
+    return text;
 }
 
 QChar KeyboardText::characterAt(int position) const {
@@ -85,14 +130,20 @@ QChar KeyboardText::characterAt(int position) const {
         return {};
     }
     const auto character = _document.characterAt(position);
-    return character == QChar::ParagraphSeparator ? QChar(u' ') : character;
+    return character == QChar::ParagraphSeparator ? endBefore(_document.findBlock(position + 1))
+                                                  : character;
 }
 
-QString KeyboardText::withSpaces(QString text) {
-    return text.replace(QChar::ParagraphSeparator, u' ');
+QChar KeyboardText::hiddenLetter(const QTextBlock& paragraph) {
+    const auto next = paragraph.next();
+    const auto end = next.isValid() ? endBefore(next) : QChar(u' ');
+    return end == u' ' ? QChar() : end;
 }
 
 QString KeyboardText::inOneLine(const QString& text, QChar before, QChar after) {
+    if (!endsLine(text, 0, text.size())) {
+        return text;
+    }
     QString line;
     line.reserve(text.size());
     for (qsizetype start = 0; start < text.size();) {
@@ -120,12 +171,23 @@ void KeyboardText::apply(const TextChange& change) {
     cursor.beginEditBlock();
     // First in, then out: so a caret at either end stays at that end.
     cursor.setPosition(end);
-    cursor.insertText(change.inserted, QTextCharFormat());
+    insert(cursor, change.inserted);
     cursor.setPosition(begin);
     cursor.setPosition(end, QTextCursor::KeepAnchor);
     cursor.removeSelectedText();
     cursor.endEditBlock();
     breakParagraphs();
+}
+
+/// In paragraphs from the beginning: text of any length costs what its characters do.
+void KeyboardText::insert(QTextCursor& cursor, const QString& text) {
+    qsizetype start = 0;
+    for (const auto end : breaksIn(text)) {
+        cursor.insertText(text.mid(start, end - start), QTextCharFormat());
+        cursor.insertBlock(QTextBlockFormat(), formatFor(text.at(end)));
+        start = end + 1;
+    }
+    cursor.insertText(text.mid(start), QTextCharFormat());
 }
 
 void KeyboardText::breakParagraphs() {
@@ -146,12 +208,15 @@ void KeyboardText::breakParagraph(const QTextBlock& paragraph) {
     const auto start = paragraph.position();
     QTextCursor cursor(&_document);
     cursor.beginEditBlock();
-    std::for_each(breaks.crbegin(), breaks.crend(), [&](qsizetype space) {
-        // The end goes in behind the space before the space goes, so that no cursor moves.
-        cursor.setPosition(start + static_cast<int>(space) + 1);
-        cursor.insertBlock();
-        cursor.setPosition(start + static_cast<int>(space));
-        cursor.deleteChar();
+    std::for_each(breaks.crbegin(), breaks.crend(), [&](qsizetype index) {
+        // The end goes in behind the character before that goes, so that no cursor moves. To
+        // delete what is behind the cursor would have all that follows analysed each time.
+        const auto position = start + static_cast<int>(index);
+        cursor.setPosition(position + 1);
+        cursor.insertBlock(QTextBlockFormat(), formatFor(text.at(index)));
+        cursor.setPosition(position);
+        cursor.setPosition(position + 1, QTextCursor::KeepAnchor);
+        cursor.removeSelectedText();
     });
     cursor.endEditBlock();
 }

@@ -5,15 +5,19 @@
 #include <QString>
 #include <QTextDocument>
 
+class QTextBlock;
+class QTextCursor;
+
 /// One long line of text, shown by a document as paragraphs of bounded length.
 ///
 /// A document lays a changed paragraph out anew as a whole, so that a single long one would make
 /// each keystroke dearer than the last. Where a paragraph grows too long, a space in it is
-/// therefore shown as the paragraph's end. A position in the document is always the index into
-/// the text. Text without spaces stays in one piece.
+/// therefore made the paragraph's end, or a letter where there is no space; that letter is then
+/// for the view to draw behind the paragraph. A position in the document is always the index into
+/// the text.
 class KeyboardText {
   public:
-    /// No paragraph with a space in its middle is longer.
+    /// No paragraph is longer.
     static constexpr qsizetype longestParagraph = 1000;
 
     /// `document` must outlive it. It has no line ends of its own.
@@ -37,10 +41,12 @@ class KeyboardText {
     /// are the characters that the text will stand between; null ones for none.
     [[nodiscard]] static QString inOneLine(const QString& text, QChar before, QChar after);
 
-    /// Part of a document's text, with its paragraph ends as the spaces that they are.
-    [[nodiscard]] static QString withSpaces(QString text);
+    /// The letter that the paragraph's end stands for, which no layout knows; a null one where it
+    /// is a space, or the end of the text.
+    [[nodiscard]] static QChar hiddenLetter(const QTextBlock& paragraph);
 
   private:
+    static void insert(QTextCursor& cursor, const QString& text);
     void breakParagraph(const QTextBlock& paragraph);
 
     QTextDocument& _document;

@@ -12,6 +12,7 @@
 #include <QTextCursor>
 
 #include <algorithm>
+#include <utility>
 
 KeyboardView::KeyboardView(WinKeyerUsb& engine, QWidget* parent)
     : QPlainTextEdit(parent),
@@ -51,16 +52,20 @@ void KeyboardView::takeOperatorsText() {
     if (_isChangingDocument) {
         return;
     }
-    const auto before = _engine.keyboardBuffer();
     const auto typed = text();
-    if (typed == before) {
-        return; // a composition goes on, and is no text yet
+    if (typed != _engine.keyboardBuffer()) { // else a composition goes on, and is no text yet
+        takeText(typed);
     }
+}
+
+void KeyboardView::takeText(const QString& typed) {
+    const auto before = _engine.keyboardBuffer();
     const auto handedOver = _engine.outputBufferIndex();
     giveToEngine(typed);
     breakParagraphs();
     const auto change = TextChange::between(before, _engine.keyboardBuffer());
     if (!change.isEmpty()) {
+        updateMarksBehind(change);
         const auto isTyped =
             change.removed.size() + change.inserted.size() == 1 || isBeginOfWord(change);
         if (!change.removed.isEmpty() && change.position <= _messageEnd) {
@@ -73,9 +78,21 @@ void KeyboardView::takeOperatorsText() {
 }
 
 void KeyboardView::giveToEngine(const QString& text) {
-    const QScopedValueRollback guard(_isEngineTakingText, true);
-    _engine.setKeyboardBuffer(text);
-    _engine.textDidChange();
+    {
+        const QScopedValueRollback guard(_isEngineTakingText, true);
+        _engine.setKeyboardBuffer(text);
+        _engine.textDidChange();
+    }
+    // Only what has become of it, once.
+    showChange(TextChange::between(this->text(), _engine.keyboardBuffer()));
+}
+
+/// The places of the marks are counted from the beginning of the text, and so are those of other
+/// characters after a change ahead of them.
+void KeyboardView::updateMarksBehind(const TextChange& change) {
+    if (change.position < _shownState.waiting) {
+        viewport()->update();
+    }
 }
 
 /// The space that was put behind a message, and the first character of the word.
@@ -140,16 +157,17 @@ void KeyboardView::announceHistory() {
 // The engine's changes.
 
 void KeyboardView::showEnginesText() {
+    if (_isEngineTakingText) {
+        return; // there is more to come
+    }
     const auto change = TextChange::between(text(), _engine.keyboardBuffer());
     if (change.isEmpty()) {
         return;
     }
-    if (!_isEngineTakingText) {
-        _history.record(change, _engine.outputBufferIndex(), EditHistory::Kind::Whole);
-        noteMessage(change);
-    }
+    _history.record(change, _engine.outputBufferIndex(), EditHistory::Kind::Whole);
+    noteMessage(change);
     showChange(change);
-    if (text().isEmpty() && !_isEngineTakingText) {
+    if (_engine.keyboardBuffer().isEmpty()) {
         dropMerge(); // broken in on, as the text was
     }
 }
@@ -161,11 +179,15 @@ void KeyboardView::noteMessage(const TextChange& change) {
 }
 
 void KeyboardView::showChange(const TextChange& change) {
+    if (change.isEmpty()) {
+        return;
+    }
     const auto before = textCursor();
     const auto begin = static_cast<int>(change.movedStart(before.selectionStart()));
     const auto end = static_cast<int>(change.movedEnd(before.selectionEnd()));
     const auto isReversed = before.position() < before.anchor();
 
+    updateMarksBehind(change);
     const QScopedValueRollback guard(_isChangingDocument, true);
     const Composition composition(before);
     _text.apply(change);
@@ -232,13 +254,37 @@ void KeyboardView::showProgress() {
     _history.handOver(_engine.outputBufferIndex());
     announceHistory();
     noteSentCalls();
-    if (_shownState != sendingState()) {
-        _shownState = sendingState();
-        viewport()->update();
-    }
+    updateMarks();
     followCaret();
     followSending();
     Q_EMIT waitingCountChanged();
+}
+
+/// Has the marks that are others now painted.
+void KeyboardView::updateMarks() {
+    const auto before = std::exchange(_shownState, sendingState());
+    if (before.isLinked != _shownState.isLinked) {
+        viewport()->update();
+    } else if (before != _shownState) {
+        const SendingMarks::Range changed{std::min(before.inFlight, _shownState.inFlight),
+                                          std::max(before.waiting, _shownState.waiting)};
+        forEachParagraphInSight([&](const SendingMarks::Paragraph& paragraph) {
+            // A letter may reach a little beyond its place.
+            const auto area = SendingMarks::area(paragraph, changed).adjusted(-1, 0, 1, 0);
+            viewport()->update(area.toAlignedRect());
+        });
+    }
+}
+
+template <typename Action>
+void KeyboardView::forEachParagraphInSight(const Action& action) const {
+    for (auto block = firstVisibleBlock(); block.isValid(); block = block.next()) {
+        const auto geometry = blockBoundingGeometry(block).translated(contentOffset());
+        if (geometry.top() > viewport()->height()) {
+            break;
+        }
+        action(SendingMarks::Paragraph{block, geometry.topLeft()});
+    }
 }
 
 void KeyboardView::noteSentCalls() {
@@ -300,6 +346,7 @@ int KeyboardView::lineOf(int position) const {
 }
 
 void KeyboardView::paintEvent(QPaintEvent* event) {
+    keepShapes();
     QPlainTextEdit::paintEvent(event);
     auto colors = palette();
     colors.setCurrentColorGroup(hasFocus() ? QPalette::Active : QPalette::Inactive);
@@ -308,14 +355,37 @@ void KeyboardView::paintEvent(QPaintEvent* event) {
                              event->rect());
     QPainter painter(viewport());
     painter.setClipRegion(event->region());
-    for (auto block = firstVisibleBlock(); block.isValid(); block = block.next()) {
-        const auto geometry = blockBoundingGeometry(block).translated(contentOffset());
-        if (geometry.top() > event->rect().bottom()) {
-            break;
-        }
-        marks.paint(painter, {block, geometry.topLeft()});
-        SentCalls::paint(painter, block, geometry.topLeft(), font(), colors);
+    forEachParagraphInSight([&](const SendingMarks::Paragraph& paragraph) {
+        marks.paint(painter, paragraph);
+        SentCalls::paint(painter, paragraph.block, paragraph.origin, font(), colors);
+    });
+}
+
+/// A layout forgets the shapes of its letters when it has drawn them. Those in sight are kept, for
+/// they are drawn again with each character that is sent; of the others no more than those.
+void KeyboardView::keepShapes() {
+    int inSight = 0;
+    forEachParagraphInSight([&](const SendingMarks::Paragraph& paragraph) {
+        auto& layout = *paragraph.block.layout();
+        _keptShapes += layout.cacheEnabled() ? 0 : 1;
+        layout.setCacheEnabled(true);
+        ++inSight;
+    });
+    if (_keptShapes > 2 * inSight + 2) {
+        forgetShapes();
     }
+}
+
+void KeyboardView::forgetShapes() {
+    for (auto block = document()->begin(); block.isValid(); block = block.next()) {
+        auto& layout = *block.layout();
+        if (layout.cacheEnabled()) {
+            layout.setCacheEnabled(false);
+            layout.beginLayout(); // it is laid out again when it comes in sight
+            layout.endLayout();
+        }
+    }
+    _keptShapes = 0;
 }
 
 void KeyboardView::changeEvent(QEvent* event) {

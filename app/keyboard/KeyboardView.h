@@ -89,9 +89,12 @@ class KeyboardView final : public QPlainTextEdit {
   private:
     void followEngine();
     void takeOperatorsText();
+    void takeText(const QString& typed);
     void giveToEngine(const QString& text);
     void enterKey(const QKeyEvent& event);
     void enter(const QString& text);
+    void enterLong(const QString& text);
+    void dropCurrentFormat();
     [[nodiscard]] QString readied(const QString& typed, const QTextCursor& place);
     [[nodiscard]] bool isBeginOfWord(const TextChange& change) const;
     [[nodiscard]] bool isPaddleInUse() const;
@@ -113,6 +116,12 @@ class KeyboardView final : public QPlainTextEdit {
     void followLink();
     void takeProgress();
     void showProgress();
+    void updateMarks();
+    void updateMarksBehind(const TextChange& change);
+    template <typename Action>
+    void forEachParagraphInSight(const Action& action) const;
+    void keepShapes();
+    void forgetShapes();
     void noteSentCalls();
     void followSending();
     [[nodiscard]] bool isInUse() const;
@@ -131,6 +140,8 @@ class KeyboardView final : public QPlainTextEdit {
     /// How far the text has been looked through for signs that stand for a call.
     qsizetype _callsSeen = 0;
     ScrollRest _scrollRest;
+    /// How many paragraphs keep the shapes of their letters, at most.
+    int _keptShapes = 0;
     bool _isChangingDocument = false;
     bool _isEngineTakingText = false;
     bool _isDropping = false;

@@ -15,6 +15,7 @@
 #include <QScopedValueRollback>
 #include <QTextCursor>
 
+#include <algorithm>
 #include <memory>
 
 using namespace Qt::StringLiterals;
@@ -153,15 +154,40 @@ void KeyboardView::inputMethodEvent(QInputMethodEvent* event) {
         attribute.start += isOfText ? 0 : static_cast<int>(kept.size());
         attributes.append(attribute);
     }
-    if (!complete.isEmpty()) {
-        setCurrentCharFormat(QTextCharFormat()); // what is typed beside a sign has no call
-    }
     QInputMethodEvent composed(kept + event->preeditString(), attributes);
     const auto replaced = Composition::replacementAt(textCursor(), *event);
-    composed.setCommitString(complete, replaced.start, replaced.length);
+    if (complete.size() > KeyboardText::longestParagraph && replaced.length == 0) {
+        enterLong(complete);
+    } else {
+        if (!complete.isEmpty()) {
+            dropCurrentFormat();
+        }
+        composed.setCommitString(complete, replaced.start, replaced.length);
+    }
     QPlainTextEdit::inputMethodEvent(&composed);
     event->setAccepted(composed.isAccepted());
     Q_EMIT waitingCountChanged();
+}
+
+/// What is typed beside a sign has no call. Whatever is selected, which goes next, may lose with
+/// its format what the end of a paragraph stands for.
+void KeyboardView::dropCurrentFormat() {
+    const QScopedValueRollback guard(_isChangingDocument, true);
+    setCurrentCharFormat(QTextCharFormat());
+}
+
+/// Instead of the selection, by way of the engine: the document would take it for one paragraph,
+/// and lay that out as a whole.
+void KeyboardView::enterLong(const QString& text) {
+    auto caret = textCursor();
+    const auto before = _engine.keyboardBuffer();
+    const auto begin = caret.selectionStart();
+    const auto behind = before.size() - caret.selectionEnd();
+    takeText(QString(before).replace(begin, before.size() - behind - begin, text));
+    const auto end = std::max<qsizetype>(0, _engine.keyboardBuffer().size() - behind);
+    caret.setPosition(static_cast<int>(end));
+    setTextCursor(caret);
+    ensureCursorVisible();
 }
 
 void KeyboardView::endComposition() {
@@ -199,7 +225,9 @@ void KeyboardView::contextMenuEvent(QContextMenuEvent* event) {
 
 QMimeData* KeyboardView::createMimeDataFromSelection() const {
     auto plain = std::make_unique<QMimeData>();
-    plain->setText(KeyboardText::withSpaces(textCursor().selectedText()));
+    const auto selection = textCursor();
+    const auto begin = selection.selectionStart();
+    plain->setText(text().mid(begin, selection.selectionEnd() - begin));
     return plain.release();
 }
 

@@ -1,7 +1,11 @@
 #include "app/keyboard/SendingMarks.h"
 
+#include "app/keyboard/KeyboardText.h"
+
+#include <QFontMetricsF>
 #include <QPainter>
 #include <QPen>
+#include <QTextDocument>
 #include <QTextLayout>
 
 #include <algorithm>
@@ -33,11 +37,14 @@ QRectF extent(const QTextLine& line, Range range) {
     return QRectF(std::min(from, to), line.y(), std::abs(to - from), line.height());
 }
 
+/// The dots keep their places whatever part of the line is drawn anew.
 void underline(QPainter& painter, const QTextLine& line, const QRectF& extent,
                const QColor& color) {
     const auto width = std::max(2.0, std::round(line.height() / 12));
     const auto y = extent.top() + line.ascent() + std::max(width, line.descent() / 2);
-    painter.setPen(QPen(color, width, Qt::DotLine, Qt::FlatCap));
+    QPen pen(color, width, Qt::DotLine, Qt::FlatCap);
+    pen.setDashOffset(extent.left() / width);
+    painter.setPen(pen);
     painter.drawLine(QPointF(extent.left(), y), QPointF(extent.right(), y));
 }
 
@@ -58,7 +65,42 @@ void invert(QPainter& painter, const QTextLine& line, const QRectF& extent, QPoi
     painter.restore();
 }
 
+/// The letter behind the last line that the paragraph's end stands for, and its place there.
+struct HiddenLetter {
+    QChar letter;
+    QTextLine line;
+    QRectF place;
+};
+
+HiddenLetter hiddenLetter(const QTextBlock& block) {
+    const auto& layout = *block.layout();
+    const auto letter = KeyboardText::hiddenLetter(block);
+    if (letter.isNull() || layout.lineCount() == 0) {
+        return {};
+    }
+    const auto line = layout.lineAt(layout.lineCount() - 1);
+    const auto width = QFontMetricsF(block.document()->defaultFont()).horizontalAdvance(letter);
+    const auto behind = line.cursorToX(line.textStart() + line.textLength());
+    const auto last = line.rect().right() + block.document()->documentMargin() - width;
+    return {letter, line, QRectF(std::min(behind, last), line.y(), width, line.height())};
+}
+
 } // namespace
+
+QRectF SendingMarks::area(const Paragraph& paragraph, Range range) {
+    const auto& block = paragraph.block;
+    const auto& layout = *block.layout();
+    const qsizetype end = block.position() + block.length() - 1;
+    const auto part = inLayout(block, range.within({block.position(), end}));
+    QRectF area;
+    for (int i = 0; i < layout.lineCount(); ++i) {
+        area |= extent(layout.lineAt(i), part);
+    }
+    if (range.begin <= end && end < range.end) {
+        area |= hiddenLetter(block).place;
+    }
+    return area.translated(paragraph.origin);
+}
 
 void SendingMarks::paint(QPainter& painter, const Paragraph& paragraph) const {
     const auto plain = _palette.color(QPalette::Text);
@@ -68,6 +110,38 @@ void SendingMarks::paint(QPainter& painter, const Paragraph& paragraph) const {
     paintPart(painter, paragraph, {start, std::min(end, _selection.begin)}, plain);
     paintPart(painter, paragraph, _selection.within({start, end}), selected);
     paintPart(painter, paragraph, {std::max(start, _selection.end), end}, plain);
+    paintHiddenLetter(painter, paragraph);
+}
+
+void SendingMarks::paintHiddenLetter(QPainter& painter, const Paragraph& paragraph) const {
+    const auto [letter, line, place] = hiddenLetter(paragraph.block);
+    const auto where = place.translated(paragraph.origin);
+    if (letter.isNull() || !where.intersects(_visible)) {
+        return;
+    }
+    const qsizetype index = paragraph.block.position() + paragraph.block.length() - 1;
+    const bool isSelected = index >= _selection.begin && index < _selection.end;
+    const bool isWaiting = index >= _state.waiting;
+    const bool isOnItsWay = _state.isLinked && index >= _state.inFlight && !isWaiting;
+    if (isOnItsWay || isSelected) {
+        painter.fillRect(where, _palette.color(isOnItsWay ? QPalette::Text : QPalette::Highlight));
+    }
+    const auto ink = _palette.color(isOnItsWay   ? QPalette::Base
+                                    : isSelected ? QPalette::HighlightedText
+                                                 : QPalette::Text);
+    painter.setPen(ink);
+    painter.setFont(paragraph.block.document()->defaultFont());
+    painter.drawText(where.topLeft() + QPointF(0, line.ascent()), letter);
+    if (!_state.isLinked) {
+        strikeOut(painter, line, where, ink);
+    } else if (isWaiting) {
+        underline(painter, line, where, ink);
+    }
+}
+
+/// Dots that nobody sees cost as much as those that are seen.
+QRectF SendingMarks::inSight(const QRectF& where) const {
+    return where & QRectF(_visible.left(), where.top(), _visible.width(), where.height());
 }
 
 void SendingMarks::paintPart(QPainter& painter, const Paragraph& paragraph, Range part,
@@ -92,7 +166,7 @@ void SendingMarks::paintPart(QPainter& painter, const Paragraph& paragraph, Rang
             invert(painter, line, where, paragraph.origin, _palette);
         }
         if (const auto where = extent(line, inLayout(paragraph.block, waits)); !where.isEmpty()) {
-            underline(painter, line, where.translated(paragraph.origin), ink);
+            underline(painter, line, inSight(where.translated(paragraph.origin)), ink);
         }
     }
 }

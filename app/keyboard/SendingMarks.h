@@ -50,7 +50,13 @@ class SendingMarks {
     /// Draws the marks over a paragraph. What is being composed with an input method gets none.
     void paint(QPainter& painter, const Paragraph& paragraph) const;
 
+    /// Where the marks of a stretch of the text are, as far as it is in the paragraph; empty where
+    /// none of it is.
+    [[nodiscard]] static QRectF area(const Paragraph& paragraph, Range range);
+
   private:
+    [[nodiscard]] QRectF inSight(const QRectF& where) const;
+    void paintHiddenLetter(QPainter& painter, const Paragraph& paragraph) const;
     void paintPart(QPainter& painter, const Paragraph& paragraph, Range part,
                    const QColor& ink) const;
 

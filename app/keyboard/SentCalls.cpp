@@ -44,6 +44,9 @@ void forEachCall(const QTextBlock& paragraph, const Action& action) {
 } // namespace
 
 void SentCalls::note(int position, const QString& call, const QFont& font) {
+    if (_document.characterAt(position) != u'~') {
+        return; // it is the end of a paragraph, where no call finds room
+    }
     QTextCursor sign(&_document);
     sign.setPosition(position);
     sign.setPosition(position + 1, QTextCursor::KeepAnchor);

@@ -20,8 +20,10 @@ class KeyboardTextTest : public QObject {
     void init();
 
     void longTextIsBrokenAtSpaces();
-    void textWithoutSpacesStaysInOnePiece();
-    void textWithFewSpacesIsBrokenAtThem();
+    void textWithoutSpacesIsBrokenAtLetters();
+    void aLetterThatEndsAParagraphCanBeDeleted();
+    void textWithFewSpacesIsBrokenAtLettersToo();
+    void noCursorMovesWhenAParagraphBreaks_data();
     void noCursorMovesWhenAParagraphBreaks();
     void aParagraphEndCanBeDeletedLikeASpace();
     void theCaretStaysWithTheTextAroundAChange_data();
@@ -61,22 +63,47 @@ void KeyboardTextTest::longTextIsBrokenAtSpaces() {
     QCOMPARE_GE(longestParagraph(), KeyboardText::longestParagraph / 2);
 }
 
-void KeyboardTextTest::textWithoutSpacesStaysInOnePiece() {
-    const auto text = u"E"_s.repeated(5000) + u' ';
+void KeyboardTextTest::textWithoutSpacesIsBrokenAtLetters() {
+    const auto text = u"PARIS"_s.repeated(1000) + u' ';
     _text->apply({0, {}, text});
     QCOMPARE(_text->text(), text);
-    QCOMPARE(_document->blockCount(), 1);
+    QCOMPARE_LE(longestParagraph(), KeyboardText::longestParagraph);
+    const auto first = _document->firstBlock();
+    const auto end = first.length() - 1;
+    QCOMPARE(KeyboardText::hiddenLetter(first), text.at(end));
+    QCOMPARE(_text->characterAt(end), text.at(end));
+    QCOMPARE(_text->characterAt(end + 1), text.at(end + 1));
+    QCOMPARE(KeyboardText::hiddenLetter(_document->lastBlock()), QChar());
 }
 
-void KeyboardTextTest::textWithFewSpacesIsBrokenAtThem() {
+void KeyboardTextTest::aLetterThatEndsAParagraphCanBeDeleted() {
+    const auto text = u"PARIS"_s.repeated(1000);
+    _text->apply({0, {}, text});
+    const auto second = _document->firstBlock().next();
+    const auto end = second.position() - 1;
+    QTextCursor(second).deletePreviousChar();
+    QCOMPARE(_text->text(), QString(text).remove(end, 1));
+    _text->breakParagraphs();
+    QCOMPARE(_text->text(), QString(text).remove(end, 1));
+}
+
+void KeyboardTextTest::textWithFewSpacesIsBrokenAtLettersToo() {
     const auto text = u"E"_s.repeated(3000) + u' ' + u"T"_s.repeated(3000) + u' ' + u"A"_s;
     _text->apply({0, {}, text});
     QCOMPARE(_text->text(), text);
-    QCOMPARE(_document->blockCount(), 3);
+    QCOMPARE_LE(longestParagraph(), KeyboardText::longestParagraph);
+    QCOMPARE(_document->blockCount(), 8);
+}
+
+void KeyboardTextTest::noCursorMovesWhenAParagraphBreaks_data() {
+    QTest::addColumn<QString>("word");
+    QTest::addRow("at spaces") << u"PARIS "_s;
+    QTest::addRow("at letters") << u"PARIS"_s;
 }
 
 void KeyboardTextTest::noCursorMovesWhenAParagraphBreaks() {
-    const auto text = u"PARIS "_s.repeated(2000);
+    QFETCH(const QString, word);
+    const auto text = word.repeated(2000);
     QTextCursor(&*_document).insertText(text);
     QList<QTextCursor> cursors;
     for (int i = 0; i < text.size(); ++i) {
@@ -164,7 +191,9 @@ void KeyboardTextTest::anySequenceOfChangesKeepsTheText() {
         const auto position = random.bounded(expected.size() + 1);
         const auto most = std::min<qsizetype>(expected.size() - position, 900);
         const auto removed = random.bounded(3) == 0 ? random.bounded(most + 1) : 0;
-        const auto inserted = u"PARIS "_s.repeated(random.bounded(100)).left(random.bounded(600));
+        const auto word = random.bounded(2) == 0 ? u"PARIS "_s : u"TEST"_s;
+        const auto longest = random.bounded(20) == 0 ? 3000 : 600;
+        const auto inserted = word.repeated(longest).left(random.bounded(longest));
         const TextChange change{position, expected.mid(position, removed), inserted};
         expected = change.appliedTo(expected);
         _text->apply(change);
