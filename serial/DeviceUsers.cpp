@@ -4,6 +4,7 @@
 #include <QFileInfo>
 
 #include <algorithm>
+#include <fcntl.h>
 #include <filesystem>
 #include <functional>
 #include <string>
@@ -41,9 +42,20 @@ bool anyDescriptor(const Path& process,
     return false;
 }
 
+/// Whether the descriptor does no more than name its file, as whoever looks at a node has it: it
+/// reads nothing. What cannot be read counts as open.
+bool isNameOnly(const Path& process, const Path& number) {
+    static const QByteArray key = "flags:";
+    const auto info = content(process / "fdinfo" / number);
+    const auto begin = info.indexOf(key) + key.size();
+    const auto flags = info.mid(begin, info.indexOf('\n', begin) - begin).trimmed();
+    return (flags.toInt(nullptr, 8) & O_PATH) != 0;
+}
+
 bool hasOpen(const Path& process, const Path& terminal) {
-    return anyDescriptor(process,
-                         [&](const Path&, const Path& target) { return target == terminal; });
+    return anyDescriptor(process, [&](const Path& number, const Path& target) {
+        return target == terminal && !isNameOnly(process, number);
+    });
 }
 
 /// Whether the process has the other end of that pseudo-terminal.

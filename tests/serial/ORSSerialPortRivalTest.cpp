@@ -122,6 +122,17 @@ class ORSSerialPortRivalTest : public QObject {
         QVERIFY(bench.port->isOpen());
     }
 
+    void whoeverOnlyLooksAtTheNodeIsNoRival() {
+        PortBench bench;
+        const auto path = bench.line.path().toLocal8Bit();
+        const OtherProgram other([&] {
+            ::close(bench.line.farEnd());
+            ::open(path.constData(), O_PATH);
+        });
+        bench.port->open();
+        QVERIFY(bench.port->isOpen());
+    }
+
     void theFarEndMayHoldTheNearEndToo() {
         PortBench bench;
         const auto path = bench.line.path().toLocal8Bit();
