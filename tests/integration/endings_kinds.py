@@ -18,6 +18,7 @@ KEY_UP_AFTER_SILENCE = 3.4
 
 # Bytes, as patterns. Text may be on its way.
 TEXT = "([45][0-9a-f] )*"
+ONE_ON_ITS_WAY = "([45][0-9a-f])?"
 SILENCE = "0b 00 0a"
 HOST_CLOSE = "00 03"
 LEAVING = f"{TEXT}{SILENCE} {HOST_CLOSE}"
@@ -179,7 +180,7 @@ class Stopped(Ending):
         while station.passed() < STOPPED:
             time.sleep(0.1)
         station.expect_key_up(KEY_UP_AFTER_SILENCE if is_guarded else KEY_UP)
-        station.expect_written(GUARDS_WORDS if is_guarded else "")
+        station.expect_written(GUARDS_WORDS if is_guarded else ONE_ON_ITS_WAY)
         went_on = time.monotonic()
         station.quorvel.send(signal.SIGCONT)
         station.dismiss_alerts()

@@ -3,6 +3,7 @@
 import subprocess
 import sys
 
+from processor_waits import ProcessorWaits
 from waiting import PATIENCE
 
 
@@ -11,6 +12,12 @@ class Helper:
         self._process = subprocess.Popen(
             [sys.executable, "-B", script, *map(str, arguments)], stdin=subprocess.PIPE,
             stdout=subprocess.PIPE, text=True, env=environment)
+
+        self._waits = ProcessorWaits(self._process.pid)
+
+    def held_up(self):
+        """For how many seconds it has had to wait for a processor."""
+        return self._waits.seconds()
 
     def tell(self, command):
         self._process.stdin.write(f"{command}\n")

@@ -1,11 +1,11 @@
 """A program that runs beside the test."""
 
-import contextlib
 import os
 import pathlib
 import signal
 import subprocess
 
+from processor_waits import ProcessorWaits
 from waiting import PATIENCE, wait_for
 
 
@@ -22,7 +22,7 @@ class Process:
                 [str(each) for each in command], stdin=subprocess.DEVNULL, stdout=out, stderr=err,
                 env=environment, pass_fds=pass_fds)
         self.pid = self._process.pid
-        self._held_up = {}
+        self._waits = ProcessorWaits(self.pid)
 
     def output(self):
         return self._out.read_text(errors="replace")
@@ -38,12 +38,8 @@ class Process:
         return os.waitid(os.P_PID, self.pid, os.WEXITED | os.WNOHANG | os.WNOWAIT) is not None
 
     def held_up(self):
-        """For how many seconds its threads, together, have been ready to run and had to wait for a
-        processor; of threads that have ended, what was known of them when this was last called."""
-        for each in pathlib.Path(f"/proc/{self.pid}/task").glob("*/schedstat"):
-            with contextlib.suppress(OSError):
-                self._held_up[each.parent.name] = int(each.read_text().split()[1])
-        return sum(self._held_up.values()) / 1e9
+        """For how many seconds it has had to wait for a processor."""
+        return self._waits.seconds()
 
     def wait_for(self, what, condition):
         """As wait_for(), but fails at once when the program has ended."""
