@@ -26,6 +26,7 @@ enum Code : std::uint8_t {
     NullCommand = 0x13,
     SetDitDahRatio = 0x17,
     MergeLetters = 0x1B,
+    BufferedSpeedChange = 0x1C,
     HscwSpeedChange = 0x1D,
     CancelBufferedSpeedChange = 0x1E,
 };
@@ -81,6 +82,10 @@ QByteArray sidetoneControl(std::uint8_t sidetone) {
 
 QByteArray setWpmSpeedFromPot() {
     return bytes(SetWpmSpeed, speedFromPot);
+}
+
+QByteArray setWpmSpeed(std::uint8_t wpm) {
+    return bytes(SetWpmSpeed, wpm);
 }
 
 QByteArray setWeighting(std::uint8_t weighting) {
@@ -159,8 +164,17 @@ QByteArray hscwSpeedChange(std::uint8_t speed) {
     return bytes(HscwSpeedChange, speed);
 }
 
+QByteArray bufferedSpeedChange(std::uint8_t wpm) {
+    return bytes(BufferedSpeedChange, wpm);
+}
+
 QByteArray cancelBufferedSpeedChange() {
     return bytes(CancelBufferedSpeedChange);
+}
+
+bool endsSetSpeed(const QByteArray& command) {
+    return command == setWpmSpeedFromPot() || command == cancelBufferedSpeedChange() ||
+           command.startsWith(static_cast<char>(LoadDefaults));
 }
 
 } // namespace KeyerCommand

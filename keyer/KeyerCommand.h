@@ -30,6 +30,8 @@ enum class Pause : std::uint8_t { Resume = 0, Pause = 1 };
 [[nodiscard]] QByteArray sidetoneControl(std::uint8_t sidetone);
 /// Hands the speed to the speed pot.
 [[nodiscard]] QByteArray setWpmSpeedFromPot();
+/// A speed of the computer's own, 5 to 99 wpm; at once, also within a text.
+[[nodiscard]] QByteArray setWpmSpeed(std::uint8_t wpm);
 /// 10 to 90, 50 neutral.
 [[nodiscard]] QByteArray setWeighting(std::uint8_t weighting);
 /// Both in units of 10 ms, 0 to 25.
@@ -66,7 +68,12 @@ enum class Pause : std::uint8_t { Resume = 0, Pause = 1 };
 [[nodiscard]] QByteArray mergeLetters(char first, char second);
 /// High-speed CW at `speed` hundred letters a minute. Buffered.
 [[nodiscard]] QByteArray hscwSpeedChange(std::uint8_t speed);
+/// A speed of 5 to 99 wpm from its place in the text on. Buffered.
+[[nodiscard]] QByteArray bufferedSpeedChange(std::uint8_t wpm);
 /// Back to the speed before the last buffered change. Buffered.
 [[nodiscard]] QByteArray cancelBufferedSpeedChange();
+
+/// Whether `command` has the keyer go back to a speed that is not the one set by setWpmSpeed().
+[[nodiscard]] bool endsSetSpeed(const QByteArray& command);
 
 } // namespace KeyerCommand

@@ -242,6 +242,8 @@ class WinKeyerUsb final : public QObject, public ORSSerialPortDelegate {
     void heard();
     /// Text, or a change of speed within it, is about to be written.
     void willSend();
+    /// The keyer was told to go back to a speed that is not set by the computer.
+    void setSpeedEnded();
     /// The keyer has told its status, in a byte that reports no push-buttons; see KeyerStatus.
     void statusReceived(std::uint8_t status);
     /// Sending was stopped by stopMessageSending(), which ends a tune in the keyer too.

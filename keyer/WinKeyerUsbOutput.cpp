@@ -22,6 +22,9 @@ void WinKeyerUsb::putToWinKeyer(const QByteArray& bytes) {
     if (isConnected() && !sendToPort(bytes)) {
         logLine(u"putToWinKeyer error: "_s);
     }
+    if (KeyerCommand::endsSetSpeed(bytes)) {
+        Q_EMIT setSpeedEnded();
+    }
 }
 
 bool WinKeyerUsb::sendToPort(const QByteArray& bytes) {

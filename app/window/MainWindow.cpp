@@ -14,10 +14,9 @@
 #include "app/window/TuneSwitch.h"
 #include "app/window/TuneTimer.h"
 #include "app/window/WindowPlace.h"
-#include "keyer/KeyerSettings.h"
+#include "keyer/ChosenSpeed.h"
 #include "keyer/KeyerWatch.h"
 #include "keyer/WinKeyerUsb.h"
-#include "platform/SettingsStore.h"
 #include "ui_MainWindow.h"
 
 #include <QCloseEvent>
@@ -77,6 +76,7 @@ MainWindow::MainWindow(WinKeyerUsb& engine)
     setUpNotices();
     setUpContact();
     setUpSwitches();
+    setUpSpeed();
     setUpMenus();
     new WindowPlace(*this, u"MainWindowPlace"_s, this);
 
@@ -90,9 +90,6 @@ MainWindow::MainWindow(WinKeyerUsb& engine)
     QObject::connect(_keyboardView, &KeyboardView::waitingCountChanged, this,
                      &MainWindow::showWaiting);
     showWaiting();
-    QObject::connect(&_engine, &WinKeyerUsb::speedStringChanged, this, &MainWindow::showSpeed);
-    QObject::connect(&_engine, &WinKeyerUsb::hscwStateChanged, this, &MainWindow::noteHighSpeed);
-    showSpeed();
     QObject::connect(&_engine, &WinKeyerUsb::tuneStateChanged, this, &MainWindow::showTitle);
     showTitle();
 }
@@ -187,6 +184,21 @@ void MainWindow::setUpSwitches() {
         _ui->beaconButton->setDetail(secondsToBeacon(_beaconCountdown->seconds()));
     });
     QObject::connect(_ui->stopButton, &QPushButton::clicked, this, &MainWindow::stop);
+}
+
+void MainWindow::setUpSpeed() {
+    _speed = new ChosenSpeed(_engine, this);
+    _ui->speedLabel->follow(_engine, *_speed, *_ui->speedSourceLabel);
+    const auto change = [this](const QAction& action, int difference) {
+        QObject::connect(&action, &QAction::triggered, _speed,
+                         [this, difference] { _speed->change(difference); });
+    };
+    change(*_ui->fasterAction, 2);
+    change(*_ui->slowerAction, -2);
+    change(*_ui->littleFasterAction, 1);
+    change(*_ui->littleSlowerAction, -1);
+    QObject::connect(_ui->knobsSpeedAction, &QAction::triggered, _speed, &ChosenSpeed::backToKnob);
+    tellKey(*_ui->speedLabel, *_ui->knobsSpeedAction);
 }
 
 void MainWindow::setUpMenus() {
@@ -288,21 +300,6 @@ void MainWindow::enlargeFonts() {
     enlarge(*_ui->serialNumberBox, 6);
     enlarge(*_ui->incrementSerialNumberButton, 6);
     enlarge(*_ui->speedLabel, 10);
-}
-
-/// As the keyer was told: in hundreds of letters a minute.
-void MainWindow::noteHighSpeed() {
-    const auto rate = SettingsStore::standardUserDefaults().integerForKey(WKHSCWSpeed) / 100 * 100;
-    _highSpeed = _engine.hscwState() != 0 ? tr("%1 LPM").arg(rate) : QString();
-    showSpeed();
-}
-
-void MainWindow::showSpeed() {
-    const auto knobs = _engine.speedString().isNull() ? tr("– WPM") : _engine.speedString();
-    const auto shown = _highSpeed.isEmpty() ? knobs : _highSpeed;
-    _ui->speedLabel->setText(shown);
-    // A screen reader reads the label's name in place of its text.
-    _ui->speedLabel->setAccessibleDescription(shown);
 }
 
 void MainWindow::showWaiting() {

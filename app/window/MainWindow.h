@@ -8,6 +8,7 @@
 
 class EditActions;
 class BeaconCountdown;
+class ChosenSpeed;
 class ContactFields;
 class GuideWindow;
 class HeldMessages;
@@ -31,6 +32,9 @@ class MainWindow final : public QMainWindow {
 
     /// The field for the other station's call sign.
     [[nodiscard]] QLineEdit& hisCallsignTextField() const;
+
+    /// The speed, where it is not the knob's.
+    [[nodiscard]] ChosenSpeed& speed() const { return *_speed; }
 
     /// Ends whatever the keyer may be keying, ahead of the end of the link.
     void silenceKeyer();
@@ -62,12 +66,11 @@ class MainWindow final : public QMainWindow {
     void setUpNotices();
     void setUpContact();
     void setUpSwitches();
+    void setUpSpeed();
     void setUpMenus();
     void enlargeFonts();
     void showGuide();
     void showNotice();
-    void noteHighSpeed();
-    void showSpeed();
     void showWaiting();
     void showTitle();
 
@@ -77,9 +80,8 @@ class MainWindow final : public QMainWindow {
     std::unique_ptr<EditActions> _editActions;
     HeldMessages* _heldMessages = nullptr;
     BeaconCountdown* _beaconCountdown = nullptr;
+    ChosenSpeed* _speed = nullptr;
     ContactFields* _contact = nullptr;
     TuneSwitch* _tuneSwitch = nullptr;
     GuideWindow* _guide = nullptr;
-    /// The rate of high-speed CW while it is on.
-    QString _highSpeed;
 };

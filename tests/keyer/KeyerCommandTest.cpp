@@ -30,6 +30,7 @@ void KeyerCommandTest::bytesOfEachCommand_data() {
     row("a standalone number is sent as given", adminSendStandaloneMessage(255), "00 0e ff");
     row("sidetone", sidetoneControl(0x8A), "01 8a");
     row("speed is left to the pot", setWpmSpeedFromPot(), "02 00");
+    row("a speed of the computer's own", setWpmSpeed(28), "02 1c");
     row("neutral weighting", setWeighting(50), "03 32");
     row("weighting 100", setWeighting(100), "03 64");
     row("PTT lead before tail", setPttLeadTail(1, 10), "04 01 0a");
@@ -53,6 +54,7 @@ void KeyerCommandTest::bytesOfEachCommand_data() {
     row("ratio", setDitDahRatio(50), "17 32");
     row("merged letters", mergeLetters('A', 'R'), "1b 41 52");
     row("high-speed CW", hscwSpeedChange(19), "1d 13");
+    row("a buffered speed", bufferedSpeedChange(28), "1c 1c");
     row("end of a buffered speed", cancelBufferedSpeedChange(), "1e");
 }
 

@@ -117,13 +117,16 @@ void MainWindowMenuTest::everyShortcutIsTakenOnce() {
 
 void MainWindowMenuTest::everyShortcutWorksFromEveryControl() {
     const QList<std::pair<Qt::Key, Qt::KeyboardModifier>> keys{
-        {Qt::Key_F1, Qt::NoModifier},      {Qt::Key_F8, Qt::NoModifier},
-        {Qt::Key_T, Qt::ControlModifier},  {Qt::Key_P, Qt::ControlModifier},
-        {Qt::Key_H, Qt::ControlModifier},  {Qt::Key_B, Qt::ControlModifier},
-        {Qt::Key_L, Qt::ControlModifier},  {Qt::Key_M, Qt::ControlModifier},
-        {Qt::Key_Up, Qt::ControlModifier}, {Qt::Key_Down, Qt::ControlModifier},
-        {Qt::Key_Q, Qt::ControlModifier},  {Qt::Key_Comma, Qt::ControlModifier},
-        {Qt::Key_F11, Qt::NoModifier},     {Qt::Key_W, Qt::AltModifier}};
+        {Qt::Key_F1, Qt::NoModifier},       {Qt::Key_F8, Qt::NoModifier},
+        {Qt::Key_T, Qt::ControlModifier},   {Qt::Key_P, Qt::ControlModifier},
+        {Qt::Key_H, Qt::ControlModifier},   {Qt::Key_B, Qt::ControlModifier},
+        {Qt::Key_L, Qt::ControlModifier},   {Qt::Key_M, Qt::ControlModifier},
+        {Qt::Key_Up, Qt::ControlModifier},  {Qt::Key_Down, Qt::ControlModifier},
+        {Qt::Key_Q, Qt::ControlModifier},   {Qt::Key_Comma, Qt::ControlModifier},
+        {Qt::Key_F11, Qt::NoModifier},      {Qt::Key_W, Qt::AltModifier},
+        {Qt::Key_PageUp, Qt::NoModifier},   {Qt::Key_PageUp, Qt::ShiftModifier},
+        {Qt::Key_PageDown, Qt::NoModifier}, {Qt::Key_PageDown, Qt::ShiftModifier},
+        {Qt::Key_0, Qt::ControlModifier}};
     for (auto* control : tabOrder()) {
         for (const auto& [key, modifier] : keys) {
             int triggered = 0;
