@@ -16,6 +16,11 @@ std::optional<QString> commandLineAnswer(std::string_view option, const QString&
                                            "Options:\n"
                                            "  -h, --help     Shows this text.\n"
                                            "  -v, --version  Shows the version.\n"
+                                           "  --check-ports  Tells what is in the way of each "
+                                           "serial port.\n"
+                                           "      --ask-keyer PORT\n"
+                                           "                 Behind that: asks the keyer on this "
+                                           "port, too.\n"
                                            "\n"
                                            "The toolkit's own options, such as -platform and "
                                            "-style, work too. The guide is under Help.\n");

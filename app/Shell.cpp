@@ -29,6 +29,7 @@ Shell::Shell(WinKeyerUsb& engine, DesktopApplication& alerts, SettingsStore& set
       _keyingRecord(engine, KeyingRecord::standardPath()),
       _window(engine),
       _preferences(engine),
+      _portCheck(engine, _window),
       _escape(Qt::Key_Escape),
       _quit(Qt::CTRL | Qt::Key_Q),
       _termination(_delegate) {
@@ -36,6 +37,7 @@ Shell::Shell(WinKeyerUsb& engine, DesktopApplication& alerts, SettingsStore& set
     _preferences.awakeFromNib();
     connectWindow();
     connectPreferences();
+    connectHelp();
     connectWatchers();
     connectWaysOut();
     connectSettings();
@@ -62,6 +64,10 @@ void Shell::connectPreferences() {
     QObject::connect(&_window, &MainWindow::portRequested, &_preferences, [this] { choosePort(); });
     QObject::connect(&_delegate, &QuorvelDelegate::serialPortNameArrayChanged, &_preferences,
                      [this] { _preferences.setSerialPortNames(_delegate.serialPortNameArray()); });
+}
+
+void Shell::connectHelp() {
+    QObject::connect(&_window, &MainWindow::portCheckRequested, &_portCheck, &PortCheck::show);
 }
 
 void Shell::connectWatchers() {

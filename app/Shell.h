@@ -5,6 +5,7 @@
 #include "app/KeyRepeat.h"
 #include "app/KeyingRecord.h"
 #include "app/MenuShield.h"
+#include "app/PortCheck.h"
 #include "app/QuorvelDelegate.h"
 #include "app/Termination.h"
 #include "app/TerminationSignals.h"
@@ -32,6 +33,7 @@ class Shell final {
   private:
     void connectWindow();
     void connectPreferences();
+    void connectHelp();
     void connectWatchers();
     void connectWaysOut();
     void connectSettings();
@@ -48,6 +50,7 @@ class Shell final {
     KeyingRecord _keyingRecord;
     MainWindow _window;
     PreferencesController _preferences;
+    PortCheck _portCheck;
 
     const MenuShield _menuShield;
     const TypingWatch _typingWatch;

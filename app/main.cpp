@@ -1,5 +1,6 @@
 #include "app/CommandLine.h"
 #include "app/DesktopApplication.h"
+#include "app/PortCheckCommand.h"
 #include "app/QuorvelStyle.h"
 #include "app/Shell.h"
 #include "app/Translations.h"
@@ -77,6 +78,11 @@ int main(int argc, char* argv[]) {
             commandLineAnswer(argc > 1 ? argv[1] : "", QApplication::applicationVersion())) {
         std::fputs(qUtf8Printable(*answer), stdout);
         return EXIT_SUCCESS;
+    }
+    if (argc > 1 && argv[1] == PortCheckCommand::option) {
+        const QCoreApplication terminal(argc, argv);
+        const Translations translations(QLocale(), u":/translations"_s);
+        return PortCheckCommand::run(QCoreApplication::arguments().sliced(2));
     }
     // The toolkit takes it out of the environment.
     const auto token = activationToken();

@@ -11,9 +11,13 @@ ConnectionStrip::ConnectionStrip(QWidget* parent) : Strip(parent) {
     label().setObjectName(u"connectionLabel"_s);
     setText(tr("Not connected: nothing is sent, and what you type now is forgotten when a keyer is "
                "connected."));
-    auto& button = addButton(tr("Choose port…"), u"choosePortButton"_s);
-    button.setAccessibleName(tr("Choose port"));
-    connect(&button, &QPushButton::clicked, this, &ConnectionStrip::portRequested);
+    auto& check = addButton(tr("Check ports…"), u"checkPortsButton"_s);
+    check.setAccessibleName(tr("Check ports"));
+    connect(&check, &QPushButton::clicked, this, &ConnectionStrip::portCheckRequested);
+    auto& choose = addButton(tr("Choose port…"), u"choosePortButton"_s);
+    choose.setAccessibleName(tr("Choose port"));
+    connect(&choose, &QPushButton::clicked, this, &ConnectionStrip::portRequested);
+    setTabOrder(&choose, &check);
 }
 
 void ConnectionStrip::setEngine(const WinKeyerUsb& engine) {

@@ -5,7 +5,7 @@
 class WinKeyerUsb;
 
 /// A strip across the window that is there while no keyer is connected: says that nothing is sent,
-/// and what becomes of what is typed, and leads to the choice of port.
+/// and what becomes of what is typed, and leads to the choice of port and to the check of them all.
 class ConnectionStrip final : public Strip {
     Q_OBJECT
   public:
@@ -17,4 +17,6 @@ class ConnectionStrip final : public Strip {
   Q_SIGNALS:
     /// The operator wants to choose a port.
     void portRequested();
+    /// The operator wants to know why a port does not work.
+    void portCheckRequested();
 };

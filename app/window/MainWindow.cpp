@@ -83,6 +83,8 @@ MainWindow::MainWindow(WinKeyerUsb& engine)
     _ui->connectionStrip->setEngine(_engine);
     QObject::connect(_ui->connectionStrip, &ConnectionStrip::portRequested, this,
                      &MainWindow::portRequested);
+    QObject::connect(_ui->connectionStrip, &ConnectionStrip::portCheckRequested, this,
+                     &MainWindow::portCheckRequested);
     _ui->keyerStatusLabel->follow(_engine, *_beaconCountdown);
     QObject::connect(_heldMessages, &HeldMessages::changed, this, &MainWindow::showNotice);
     QObject::connect(_keyboardView, &KeyboardView::caretInSentTextChanged, this,
@@ -153,6 +155,9 @@ void MainWindow::setUpNotices() {
     new SleepNotice(_engine, *_ui->noticeStrip, this);
     auto* watch = new KeyerWatch(_engine, this);
     QObject::connect(watch, &KeyerWatch::connectionWanted, this, &MainWindow::connectionWanted);
+    auto& check = _ui->answerStrip->addButton(tr("Check ports…"), u"answerCheckButton"_s);
+    check.setAccessibleName(tr("Check ports"));
+    QObject::connect(&check, &QPushButton::clicked, this, &MainWindow::portCheckRequested);
     new AnswerNotice(_engine, *watch, *_ui->answerStrip, this);
 }
 
@@ -233,6 +238,8 @@ void MainWindow::setUpMenus() {
                                                            .paste = _ui->pasteAction,
                                                            .selectAll = _ui->selectAllAction});
     QObject::connect(_ui->guideAction, &QAction::triggered, this, &MainWindow::showGuide);
+    QObject::connect(_ui->checkPortsAction, &QAction::triggered, this,
+                     &MainWindow::portCheckRequested);
     QObject::connect(_ui->aboutAction, &QAction::triggered, this,
                      [this] { (new AboutBox(this))->show(); });
 }

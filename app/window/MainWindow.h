@@ -50,6 +50,8 @@ class MainWindow final : public QMainWindow {
     void preferencesRequested();
     /// The preferences, where the port is chosen.
     void portRequested();
+    /// The check of the ports, in a window of its own.
+    void portCheckRequested();
     void quitRequested();
     /// The keyer's port is closed, and the operator wants it connected again.
     void connectionWanted();

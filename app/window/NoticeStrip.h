@@ -10,6 +10,7 @@ class NoticeStrip final : public Strip {
   public:
     explicit NoticeStrip(QWidget* parent = nullptr);
 
+    using Strip::addButton;
     /// Has a button of that label beside whatever is said. To be called once.
     void setOffer(const QString& offer);
 

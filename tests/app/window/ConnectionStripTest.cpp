@@ -5,8 +5,10 @@
 #include "tests/support/RegisteredTest.h"
 
 #include <QAccessible>
+#include <QAction>
 #include <QLabel>
 #include <QPlainTextEdit>
+#include <QPushButton>
 #include <QSignalSpy>
 
 using namespace Qt::StringLiterals;
@@ -23,6 +25,7 @@ class ConnectionStripTest : public QObject, private MainWindowFixture {
     void itSaysWhatBecomesOfTheText();
     void afterASleepToo();
     void itLeadsToTheChoiceOfPort();
+    void itLeadsToTheCheckOfThePorts();
     void nothingIsCountedAsWaiting();
 
   private:
@@ -82,6 +85,19 @@ void ConnectionStripTest::itLeadsToTheChoiceOfPort() {
     click(*find<QWidget>(u"choosePortButton"_s));
     QCOMPARE(requests.size(), 1);
     QCOMPARE(QApplication::focusWidget(), focus);
+}
+
+void ConnectionStripTest::itLeadsToTheCheckOfThePorts() {
+    QVERIFY(_bench->engine().disconnect(nullptr));
+    const QSignalSpy requests(&*_window, &MainWindow::portCheckRequested);
+    QCoreApplication::processEvents();
+    click(*find<QWidget>(u"checkPortsButton"_s));
+    QCOMPARE(requests.size(), 1);
+    find<QAction>(u"checkPortsAction"_s)->trigger();
+    QCOMPARE(requests.size(), 2);
+    // Nor does a keyer that does not answer stand alone.
+    find<QPushButton>(u"answerCheckButton"_s)->click();
+    QCOMPARE(requests.size(), 3);
 }
 
 void ConnectionStripTest::nothingIsCountedAsWaiting() {

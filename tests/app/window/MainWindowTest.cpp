@@ -238,7 +238,7 @@ void MainWindowTest::aClickOnAButtonLeavesTheFocusWhereItWas() {
             ++count;
         }
     }
-    QCOMPARE(count, 3 * (isConnected ? 16 : 17));
+    QCOMPARE(count, 3 * (isConnected ? 16 : 18));
 }
 
 /// The spaces of it work nothing.

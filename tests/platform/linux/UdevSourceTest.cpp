@@ -1,8 +1,8 @@
 #include "platform/linux/UdevSource.h"
 
 #include "platform/linux/LinuxDeviceRegistry.h"
-#include "tests/platform/linux/UdevTestbed.h"
 #include "tests/support/RegisteredTest.h"
+#include "tests/support/UdevTestbed.h"
 
 #include <QTest>
 

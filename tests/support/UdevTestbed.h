@@ -27,10 +27,20 @@ class UdevTestbed {
         bool isNumberKnownToUdev = true;
         /// Links below /dev, made and claimed.
         QStringList links = {};
+        QString vendor = QStringLiteral("0403");
+        QString product = QStringLiteral("6001");
+        /// What udev's rules have said of the terminal, as "KEY=VALUE".
+        QStringList properties = {};
+        /// The content of its latency_timer; null for none.
+        QString latency = {};
     };
 
     /// Plugs a USB adapter in; udev tells of it. Returns its terminal's path in sysfs.
     QString addAdapter(const Adapter& adapter);
+    /// Plugs a USB adapter in of which the kernel makes no terminal; `driver` has taken it, or null
+    /// for none.
+    void addAdapterWithoutPort(const QString& place, const QString& vendor, const QString& product,
+                               const QString& driver);
     /// Adds a port of the machine's own with this content of its "type" file; null for none.
     QString addPort(const QString& kernelName, const QString& type);
     /// Takes a terminal out of sysfs, without any event.
@@ -42,9 +52,12 @@ class UdevTestbed {
 
     /// Makes a link below the machine's /dev lead to a node.
     void link(const QString& link, const QString& kernelName);
+    /// The node of a terminal, made with these permissions if it is missing.
+    void setNodeMode(const QString& kernelName, unsigned mode);
 
   private:
     [[nodiscard]] QString root() const;
+    [[nodiscard]] QString addChannel(const Adapter& adapter, const QString& interface);
 
     _UMockdevTestbed* _testbed;
 };

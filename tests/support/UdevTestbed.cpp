@@ -1,11 +1,14 @@
-#include "tests/platform/linux/UdevTestbed.h"
+#include "tests/support/UdevTestbed.h"
 
 #include <QDir>
 #include <QFile>
 
+#include <fcntl.h>
 #include <filesystem>
 #include <stdexcept>
+#include <sys/stat.h>
 #include <umockdev.h>
+#include <unistd.h>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -57,7 +60,8 @@ QString UdevTestbed::addAdapter(const Adapter& adapter) {
     const bool hasNumber = !adapter.serialNumber.isNull();
     const auto number = adapter.serialNumber.toUtf8();
     const auto node = adapter.kernelName.toUtf8();
-    Pairs usbAttributes{{"idVendor", "0403"}, {"idProduct", "6001"}};
+    Pairs usbAttributes{{"idVendor", adapter.vendor.toUtf8()},
+                        {"idProduct", adapter.product.toUtf8()}};
     if (hasNumber) {
         usbAttributes.append({"serial", number + '\n'});
     }
@@ -72,10 +76,37 @@ QString UdevTestbed::addAdapter(const Adapter& adapter) {
     if (!adapter.links.isEmpty()) {
         properties.append({"DEVLINKS", adapter.links.join(u' ').toUtf8()});
     }
+    for (const auto& each : adapter.properties) {
+        properties.append({each.section(u'=', 0, 0).toUtf8(), each.section(u'=', 1).toUtf8()});
+    }
     for (const auto& each : adapter.links) {
         link(each, adapter.kernelName);
     }
-    return add(_testbed, "tty", adapter.kernelName, interface, {{"dev", "188:0"}}, properties);
+    return add(_testbed, "tty", adapter.kernelName, addChannel(adapter, interface),
+               {{"dev", "188:0"}}, properties);
+}
+
+/// What stands between the interface and the terminal, where the adapter has a timer.
+QString UdevTestbed::addChannel(const Adapter& adapter, const QString& interface) {
+    if (adapter.latency.isNull()) {
+        return interface;
+    }
+    return add(_testbed, "usb-serial", adapter.kernelName, interface,
+               {{"latency_timer", adapter.latency.toUtf8() + '\n'}}, {});
+}
+
+void UdevTestbed::addAdapterWithoutPort(const QString& place, const QString& vendor,
+                                        const QString& product, const QString& driver) {
+    const auto usb = add(_testbed, "usb", place, QString(),
+                         {{"idVendor", vendor.toUtf8()}, {"idProduct", product.toUtf8()}},
+                         {{"DEVTYPE", "usb_device"}});
+    const auto interface =
+        add(_testbed, "usb", place + u":1.0"_s, usb, {}, {{"DEVTYPE", "usb_interface"}});
+    if (!driver.isNull()) {
+        const auto target = u"../../../bus/usb/drivers/"_s + driver;
+        umockdev_testbed_set_attribute_link(_testbed, interface.toUtf8().constData(), "driver",
+                                            target.toUtf8().constData());
+    }
 }
 
 QString UdevTestbed::addPort(const QString& kernelName, const QString& type) {
@@ -123,5 +154,17 @@ void UdevTestbed::link(const QString& link, const QString& kernelName) {
     }
     if (!QFile::link(QString(u"../"_s).repeated(link.count(u'/') - 2) + kernelName, place)) {
         throw std::runtime_error("The link could not be made.");
+    }
+}
+
+void UdevTestbed::setNodeMode(const QString& kernelName, unsigned mode) {
+    const auto path = QFile::encodeName(root() + u"/dev/"_s + kernelName);
+    const int node = ::open(path.constData(), O_WRONLY | O_CREAT | O_CLOEXEC, mode);
+    if (node < 0 || ::fchmod(node, mode) != 0 || ::close(node) != 0) {
+        throw std::runtime_error("The node could not be made.");
+    }
+    // Others see what is in it as they see a real /dev.
+    if (::chmod(QFile::encodeName(root()).constData(), 0755) != 0) {
+        throw std::runtime_error("The folder could not be opened to others.");
     }
 }
