@@ -281,7 +281,9 @@ void WinKeyerUsb::serialPortWillBeClosed(ORSSerialPort& port) {
 }
 
 void WinKeyerUsb::serialPortWasOpened(ORSSerialPort& port) {
-    if (&port == _winKeyerSerialPort.get() && _isToBeGreetedAgain) {
+    if (&port != _winKeyerSerialPort.get()) {
+        port.close(); // another keyer, or none, was chosen before it could be opened again
+    } else if (_isToBeGreetedAgain) {
         greetAgain();
     }
 }

@@ -11,6 +11,7 @@
 
 #include <atomic>
 #include <chrono>
+#include <future>
 #include <memory>
 
 class LivePorts;
@@ -103,13 +104,17 @@ class ORSSerialPort final : public QObject, public std::enable_shared_from_this<
 
     /// Opens the device for this program alone; isOpen() says whether it worked. Failure is
     /// reported to the delegate later; of another program that has it open, the log tells which.
-    /// What came in before is thrown away. Nothing happens to an open port.
+    /// What came in before is thrown away. A device that the last close() left to be closed is
+    /// waited for, half a second at most. Nothing happens to an open port.
     void open();
     /// Puts the device's old settings back and closes it, once what was written has gone out; what
     /// has not within a tenth of a second goes on without the port, and the device stays taken
     /// until then. Bytes received and not yet handed to the delegate are dropped. True when the
     /// port is closed afterwards.
     bool close();
+    /// Waits for a device that close() left to be closed, no longer than `limit`. Whether there is
+    /// none any more.
+    [[nodiscard]] bool awaitFreeDevice(std::chrono::milliseconds limit) const;
     /// Closes an open port over its user's head: tells the delegate before. True as of close().
     bool closeForeseen();
     /// The device has gone: closes the port, telling the delegate before, and tells it so.
@@ -245,4 +250,5 @@ class ORSSerialPort final : public QObject, public std::enable_shared_from_this<
     std::atomic<int> _maximumBlockSize;
     std::atomic<int> _fileDescriptor = 0;
     std::unique_ptr<PortOpening> _opening;
+    std::shared_future<void> _restOfClosing;
 };

@@ -8,8 +8,18 @@
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
 namespace {
+
+/// An image of the keyer's memory is out by then. Whoever announces the sleep waits a little
+/// longer.
+constexpr auto longestLastOutput = 3s;
+
+/// For how long a device that is still being closed is waited for after a wake, and how often it is
+/// looked at.
+constexpr Clock::Duration longestWait = 10s;
+constexpr Clock::Duration lookInterval = 100ms;
 
 QString describe(const QObject* object) {
     if (object == nullptr) {
@@ -138,21 +148,54 @@ void ORSSerialPortManager::setPortTerminatedNotificationIterator(quint32 iterato
 }
 
 void ORSSerialPortManager::systemWillSleep(const Notification&) {
+    endWaitForDevices();
     const auto ports = _availablePorts.value_or(Ports());
     for (const auto& port : ports) {
         if (port->isOpen() && port->closeForeseen()) {
             _portsToReopenAfterSleep.append(port);
         }
     }
+    awaitLastOutput();
+}
+
+// A machine that sleeps cuts off what an adapter has not sent.
+void ORSSerialPortManager::awaitLastOutput() const {
+    const auto deadline = std::chrono::steady_clock::now() + longestLastOutput;
+    for (const auto& port : _portsToReopenAfterSleep) {
+        const auto left = std::chrono::ceil<std::chrono::milliseconds>(
+            deadline - std::chrono::steady_clock::now());
+        static_cast<void>(port->awaitFreeDevice(std::max(left, std::chrono::milliseconds{0})));
+    }
 }
 
 void ORSSerialPortManager::systemDidWake(const Notification&) {
+    endWaitForDevices();
+    _endOfWait = Platform::current().clock().now() + longestWait;
+    reopenAfterSleep();
+}
+
+/// A device that takes nothing more is given up in the end: opening it fails, and is reported.
+void ORSSerialPortManager::reopenAfterSleep() {
+    auto& clock = Platform::current().clock();
+    const bool isLast = clock.now() >= _endOfWait;
     const auto ports = _portsToReopenAfterSleep;
     for (const auto& port : ports) {
+        if (!isLast && !port->awaitFreeDevice(std::chrono::milliseconds{0})) {
+            continue;
+        }
         if (isPresent(*port)) {
             port->open();
         }
         _portsToReopenAfterSleep.removeAll(port);
+    }
+    if (!_portsToReopenAfterSleep.isEmpty()) {
+        _waitForDevices = clock.scheduleTimer(lookInterval, this, [this] { reopenAfterSleep(); });
+    }
+}
+
+void ORSSerialPortManager::endWaitForDevices() {
+    if (_waitForDevices) {
+        std::exchange(_waitForDevices, nullptr)->invalidate();
     }
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/Clock.h"
 #include "platform/DeviceRegistry.h"
 #include "platform/NotificationCenter.h"
 #include "serial/ORSSerialPort.h"
@@ -80,9 +81,11 @@ class ORSSerialPortManager final : public QObject {
     [[nodiscard]] quint32 portTerminatedNotificationIterator() const;
     void setPortTerminatedNotificationIterator(quint32 iterator);
 
-    /// Closes the open ports and remembers them.
+    /// Closes the open ports and remembers them. Blocks while what was written last goes out, for
+    /// three seconds at most.
     void systemWillSleep(const Notification& notification);
-    /// Opens the remembered ports that are still there, and forgets them all.
+    /// Opens the remembered ports that are still there, and forgets them all. One whose device is
+    /// still being closed is opened once that is done, within ten seconds.
     void systemDidWake(const Notification& notification);
 
     /// Whether the port is listed and the machine has its device: one that has gone while an alert
@@ -106,12 +109,17 @@ class ORSSerialPortManager final : public QObject {
     void getAvailablePortsAndRegisterForChangeNotifications();
     void registerForNotifications();
     void applicationWillTerminate();
+    void awaitLastOutput() const;
+    void reopenAfterSleep();
+    void endWaitForDevices();
     void appendAvailablePorts(const Ports& ports);
     void removeAvailablePorts(const Ports& ports);
     void replaceIterator(quint32& iterator, quint32 successor);
 
     std::optional<Ports> _availablePorts;
     Ports _portsToReopenAfterSleep;
+    std::shared_ptr<Timer> _waitForDevices;
+    Clock::Duration _endOfWait{0};
     quint32 _portPublishedNotificationIterator = 0;
     quint32 _portTerminatedNotificationIterator = 0;
 };

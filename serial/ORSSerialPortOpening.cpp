@@ -12,6 +12,12 @@
 #include <utility>
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace {
+/// What a block leaves to be sent by the time that the keyer's link has been taken down in order.
+constexpr auto longestRest = 500ms;
+} // namespace
 
 bool ORSSerialPort::isOpen() const {
     return _fileDescriptor != 0;
@@ -25,6 +31,7 @@ void ORSSerialPort::open() {
     if (isOpen()) {
         return;
     }
+    static_cast<void>(awaitFreeDevice(longestRest));
     if (isUsedElsewhere()) {
         errno = EBUSY;
         queueErrorReport();
@@ -96,6 +103,7 @@ bool ORSSerialPort::close() {
         Q_EMIT isOpenChanged();
         return false;
     }
+    _restOfClosing = _opening->restOfClosing();
     _fileDescriptor = 0;
     _opening.reset();
     Q_EMIT isOpenChanged();
@@ -113,6 +121,10 @@ bool ORSSerialPort::closeOpening() {
         logLine(u"Unable to leave exclusive mode on %1"_s.arg(description()));
     }
     return isClosed;
+}
+
+bool ORSSerialPort::awaitFreeDevice(std::chrono::milliseconds limit) const {
+    return !_restOfClosing.valid() || _restOfClosing.wait_for(limit) == std::future_status::ready;
 }
 
 bool ORSSerialPort::closeForeseen() {

@@ -55,28 +55,26 @@ class Closing {
     }
 
     void run() {
-        auto reached = PortClosing::closeIdle(std::move(_descriptor), _settings);
-        {
-            const std::scoped_lock lock(_mutex);
-            _outcome = std::move(reached);
-            _isDone.notify_all();
-        }
+        _outcome = PortClosing::closeIdle(std::move(_descriptor), _settings);
+        _isDone.set_value();
         _count->add(-1);
     }
 
-    std::optional<PortClosing::Outcome> await(std::chrono::milliseconds limit) {
-        std::unique_lock lock(_mutex);
-        _isDone.wait_for(lock, limit, [this] { return _outcome.has_value(); });
-        return std::exchange(_outcome, std::nullopt);
+    PortClosing::Outcome await(std::chrono::milliseconds limit) {
+        if (_rest.wait_for(limit) != std::future_status::ready) {
+            return {.descriptor = {}, .staysLocked = false, .rest = _rest};
+        }
+        return std::move(_outcome);
     }
 
   private:
     FileDescriptor _descriptor;
     SavedLineSettings _settings;
     std::shared_ptr<Count> _count;
-    std::mutex _mutex;
-    std::condition_variable _isDone;
-    std::optional<PortClosing::Outcome> _outcome;
+    /// The closing thread's until it is done.
+    PortClosing::Outcome _outcome;
+    std::promise<void> _isDone;
+    std::shared_future<void> _rest = _isDone.get_future().share();
 };
 
 } // namespace
@@ -91,9 +89,9 @@ PortClosing::Outcome PortClosing::closeIdle(FileDescriptor descriptor,
     return outcome;
 }
 
-std::optional<PortClosing::Outcome> PortClosing::close(FileDescriptor descriptor,
-                                                       const SavedLineSettings& settings,
-                                                       std::chrono::milliseconds limit) {
+PortClosing::Outcome PortClosing::close(FileDescriptor descriptor,
+                                        const SavedLineSettings& settings,
+                                        std::chrono::milliseconds limit) {
     static const LastWait lastWaitOfProgram;
     const auto closing =
         std::make_shared<Closing>(std::move(descriptor), settings, lastWaitOfProgram.count);

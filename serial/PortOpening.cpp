@@ -34,9 +34,8 @@ bool PortOpening::close(bool hasOutput) {
     auto outcome =
         hasOutput ? PortClosing::close(std::move(_device.descriptor), _savedSettings, longestClose)
                   : PortClosing::closeIdle(std::move(_device.descriptor), _savedSettings);
-    if (outcome) {
-        _device.descriptor = std::move(outcome->descriptor);
-        _staysLocked = outcome->staysLocked;
-    }
+    _device.descriptor = std::move(outcome.descriptor);
+    _staysLocked = outcome.staysLocked;
+    _restOfClosing = std::move(outcome.rest);
     return !_device.isValid();
 }

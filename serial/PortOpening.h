@@ -6,6 +6,7 @@
 #include "serial/PinPoller.h"
 #include "serial/PortReader.h"
 
+#include <future>
 #include <memory>
 #include <optional>
 
@@ -27,6 +28,8 @@ class PortOpening {
     /// last step is refused it returns false, and the descriptor is still held, without workers.
     /// With output on its way, a device that takes its time is closed behind the caller's back.
     [[nodiscard]] bool close(bool hasOutput);
+    /// Of such a device: ready once it is free. Not valid else.
+    [[nodiscard]] const std::shared_future<void>& restOfClosing() const { return _restOfClosing; }
     /// Whether close() was refused to let others in again.
     [[nodiscard]] bool staysLocked() const { return _staysLocked; }
 
@@ -39,4 +42,5 @@ class PortOpening {
     std::optional<PortReader> _reader;
     std::optional<PinPoller> _pinPoller;
     bool _staysLocked = false;
+    std::shared_future<void> _restOfClosing;
 };

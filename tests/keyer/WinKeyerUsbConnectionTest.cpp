@@ -56,6 +56,7 @@ class WinKeyerUsbConnectionTest : public QObject {
     void disconnectingForgetsTextAndReadings();
     void aRemovedPortIsLetGo();
     void aPortUsedBeforeTakesNoLinkWithIt();
+    void aPortThatAWakeOpensForNobodyIsClosed();
     void loadDefaultsSendsNothingWhileNotConnected();
     void versionsFrom20To23AreAccepted_data();
     void versionsFrom20To23AreAccepted();
@@ -387,6 +388,18 @@ void WinKeyerUsbConnectionTest::aPortUsedBeforeTakesNoLinkWithIt() {
     _bench->platform().devices().unplug(_bench->device());
     QVERIFY(_bench->engine().isConnected());
     QVERIFY(ORSSerialPort::serialPortWithPath(line.path())->isOpen());
+}
+
+/// The operator chose none while the machine woke up.
+void WinKeyerUsbConnectionTest::aPortThatAWakeOpensForNobodyIsClosed() {
+    QVERIFY(_bench->connect());
+    auto& notifications = _bench->platform().notifications();
+    notifications.post(NSWorkspaceWillSleepNotification, nullptr);
+    QVERIFY(_bench->engine().disconnect(nullptr));
+    static_cast<void>(_bench->written());
+    notifications.post(NSWorkspaceDidWakeNotification, nullptr);
+    QTRY_VERIFY(!_bench->port().isOpen());
+    QCOMPARE(_bench->written(), "");
 }
 
 void WinKeyerUsbConnectionTest::loadDefaultsSendsNothingWhileNotConnected() {

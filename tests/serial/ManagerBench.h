@@ -19,6 +19,7 @@ class ManagerBench : public QObject {
 
     [[nodiscard]] NotificationCenter& notifications() const { return _platform->notifications(); }
     [[nodiscard]] FakeDeviceRegistry& devices() const { return _platform->devices(); }
+    [[nodiscard]] ManualClock& clock() const { return _platform->clock(); }
     static ORSSerialPortManager& manager() {
         return ORSSerialPortManager::sharedSerialPortManager();
     }
