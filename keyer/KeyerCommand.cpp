@@ -177,4 +177,25 @@ bool endsSetSpeed(const QByteArray& command) {
            command.startsWith(static_cast<char>(LoadDefaults));
 }
 
+bool isSetting(const QByteArray& command) {
+    switch (static_cast<std::uint8_t>(command.front())) {
+    case SidetoneControl:
+    case SetWpmSpeed:
+    case SetWeighting:
+    case SetPttLeadTail:
+    case SetupSpeedPot:
+    case SetPauseState:
+    case SetPinConfiguration:
+    case SetFarnsworthWpm:
+    case SetWinKeyerMode:
+    case SetFirstExtension:
+    case SetKeyCompensation:
+    case SetPaddleSwitchpoint:
+    case SetDitDahRatio:
+        return true;
+    default:
+        return false;
+    }
+}
+
 } // namespace KeyerCommand

@@ -76,4 +76,8 @@ enum class Pause : std::uint8_t { Resume = 0, Pause = 1 };
 /// Whether `command` has the keyer go back to a speed that is not the one set by setWpmSpeed().
 [[nodiscard]] bool endsSetSpeed(const QByteArray& command);
 
+/// Whether a command sets something that the keyer keeps, be it only that it is paused; the block
+/// of loadDefaults() is not meant.
+[[nodiscard]] bool isSetting(const QByteArray& command);
+
 } // namespace KeyerCommand

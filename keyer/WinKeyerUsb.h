@@ -4,6 +4,7 @@
 #include "keyer/KeyerActivity.h"
 #include "keyer/KeyerMemory.h"
 #include "keyer/SendingText.h"
+#include "keyer/SentSettings.h"
 #include "platform/Clock.h"
 #include "platform/Error.h"
 #include "serial/ORSSerialPort.h"
@@ -181,6 +182,7 @@ class WinKeyerUsb final : public QObject, public ORSSerialPortDelegate {
     /// two seconds. Text waits meanwhile.
     [[nodiscard]] bool isLoadingMemory() const { return _memoryLoad != nullptr; }
     /// Has the keyer key one of its stored messages, 1 to 6; the low 8 bits are sent as they are.
+    /// Nothing happens while isLoadingMemory(), when no stop would reach the keyer.
     void sendStandaloneMessage(int number);
     /// Writes the codes of `message` from `start` on. False, and nothing written, when it holds a
     /// character without a code or reaches beyond the image.
@@ -221,6 +223,10 @@ class WinKeyerUsb final : public QObject, public ORSSerialPortDelegate {
 
     /// Index of the next character of keyboardBuffer to be sent.
     [[nodiscard]] qsizetype outputBufferIndex() const { return _text.index(); }
+    /// The rate of high-speed CW that the keyer was told last, in hundreds of letters a minute;
+    /// nothing before the first. The setting may be another one by now.
+    [[nodiscard]] std::optional<qint64> highSpeed() const { return _highSpeed; }
+
     /// When the beacon is to send again, by the platform's clock; nothing while it is off, or waits
     /// for the keyer to be idle.
     [[nodiscard]] std::optional<Clock::Duration> beaconDue() const;
@@ -257,6 +263,7 @@ class WinKeyerUsb final : public QObject, public ORSSerialPortDelegate {
     /// silence() has keyed up, over a line that took all of it, and so ended a tune.
     void silenced();
     void speedStringChanged();
+    void highSpeedChanged();
     void versionStringChanged();
     void keyboardBufferChanged();
     void hisCallsignChanged();
@@ -282,6 +289,8 @@ class WinKeyerUsb final : public QObject, public ORSSerialPortDelegate {
     void clearKeyer();
     void makeWay();
     void keepWhole(qsizetype bytes);
+    void oweSettings();
+    void sendSettingsAgain();
     void beginHostMode();
     void completeHostMode();
 
@@ -306,6 +315,7 @@ class WinKeyerUsb final : public QObject, public ORSSerialPortDelegate {
     [[nodiscard]] Step sendPlain(char character);
     void takeBackUnheard();
     [[nodiscard]] qint64 hscwSpeed() const;
+    void noteHighSpeed(qint64 speed);
 
     std::shared_ptr<ORSSerialPort> _winKeyerSerialPort;
     bool _isHostMode = false;
@@ -315,6 +325,8 @@ class WinKeyerUsb final : public QObject, public ORSSerialPortDelegate {
     bool _isKeyerPlaying = false;
     bool _isToBeGreetedAgain = false;
     Clock::Duration _uncutUntil{0};
+    SentSettings _sentSettings;
+    std::shared_ptr<Timer> _settingsTimer;
     std::shared_ptr<Timer> _memoryLoad;
     Clock::Duration _memoryLoadEnd{0};
     std::optional<std::uint8_t> _lastStatus;
@@ -335,6 +347,7 @@ class WinKeyerUsb final : public QObject, public ORSSerialPortDelegate {
     int _pauseState = 0;
     int _tuneState = 0;
     int _hscwState = 0;
+    std::optional<qint64> _highSpeed;
     int _beaconState = 0;
     QString _beaconMessage;
     std::shared_ptr<Timer> _beaconTimer;

@@ -185,6 +185,7 @@ void WinKeyerUsb::beginHostMode() {
     _isHostMode = false;
     _isToBeGreetedAgain = false;
     _hasHeardFromKeyer = false;
+    _sentSettings.clear();
     _mayBeKeying = false;
     _isKeyerPlaying = false;
     _lastStatus.reset();

@@ -97,6 +97,9 @@ void WinKeyerUsb::endMemoryLoad() {
 }
 
 void WinKeyerUsb::sendStandaloneMessage(int number) {
+    if (isLoadingMemory()) {
+        return;
+    }
     Q_EMIT willSend();
     _mayBeKeying = true;
     _isKeyerPlaying = true;

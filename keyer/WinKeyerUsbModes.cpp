@@ -2,6 +2,7 @@
 
 #include "keyer/Action.h"
 #include "keyer/KeyerCommand.h"
+#include "keyer/Replace.h"
 #include "keyer/WinKeyerUsb.h"
 #include "platform/Log.h"
 
@@ -39,6 +40,13 @@ void WinKeyerUsb::changeHSCWMode(const QObject* sender) {
     const auto speed = hscwSpeed();
     logLine(u"HSCW Speed = %1"_s.arg(speed));
     putToWinKeyer(KeyerCommand::hscwSpeedChange(KeyerEncoding::lowByte(speed)));
+    noteHighSpeed(speed);
+}
+
+void WinKeyerUsb::noteHighSpeed(qint64 speed) {
+    if (replace(_highSpeed, std::optional(speed))) {
+        Q_EMIT highSpeedChanged();
+    }
 }
 
 void WinKeyerUsb::setPauseState(int state) {

@@ -19,7 +19,11 @@ constexpr qsizetype longestEnding = 5;
 } // namespace
 
 void WinKeyerUsb::putToWinKeyer(const QByteArray& bytes) {
-    if (isConnected() && !sendToPort(bytes)) {
+    if (!isConnected()) {
+        return;
+    }
+    _sentSettings.note(bytes);
+    if (!sendToPort(bytes)) {
         logLine(u"putToWinKeyer error: "_s);
     }
     if (KeyerCommand::endsSetSpeed(bytes)) {
@@ -46,6 +50,7 @@ void WinKeyerUsb::makeWay() {
         static_cast<void>(sendToPort(KeyerCommand::nullCommand()));
     }
     keepWhole(nullCommands + longestEnding);
+    oweSettings();
 }
 
 /// Has no way made while the line sends the next so many bytes.

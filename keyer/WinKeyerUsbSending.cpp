@@ -184,6 +184,7 @@ WinKeyerUsb::Step WinKeyerUsb::beginHSCW() {
     const auto command = KeyerCommand::hscwSpeedChange(KeyerEncoding::lowByte(speed));
     logLine(u"HSCW command = <%1>"_s.arg(QLatin1StringView(command.toHex())));
     writeAhead(command);
+    noteHighSpeed(speed);
     return Step::GoOn;
 }
 

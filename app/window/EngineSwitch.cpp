@@ -13,9 +13,10 @@ EngineSwitch::EngineSwitch(WinKeyerUsb& engine, QAbstractButton& button, const S
     const auto follow = [&button, isOn] { button.setChecked(isOn()); };
     QObject::connect(&engine, state.changed, this, follow);
     QObject::connect(&button, &QAbstractButton::toggled, this,
-                     [isOn, turn = std::move(turn)](bool isTurnedOn) {
+                     [isOn, follow, turn = std::move(turn)](bool isTurnedOn) {
                          if (isTurnedOn != isOn()) {
                              turn(isTurnedOn);
+                             follow();
                          }
                      });
     follow();

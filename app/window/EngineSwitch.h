@@ -19,8 +19,8 @@ class EngineSwitch final : public QObject {
         void (WinKeyerUsb::*changed)();
     };
 
-    /// `turn` brings the engine to where the operator has turned the button. The button and
-    /// `engine` must outlive the switch.
+    /// `turn` brings the engine to where the operator has turned the button, which goes back where
+    /// it does not. The button and `engine` must outlive the switch.
     EngineSwitch(WinKeyerUsb& engine, QAbstractButton& button, const State& state,
                  std::function<void(bool)> turn, QObject* parent);
 };

@@ -24,6 +24,9 @@ void ModeSwitches::setUpHSCW(QAbstractButton& button) {
     new EngineSwitch(
         _engine, button, {&WinKeyerUsb::hscwState, &WinKeyerUsb::hscwStateChanged},
         [this, &button](bool isOn) {
+            if (isOn && _engine.activity() == KeyerActivity::BreakIn) {
+                return; // the keyer would throw it away
+            }
             _engine.setHscwState(isOn ? 1 : 0);
             _engine.changeHSCWMode(&button);
         },

@@ -1,9 +1,7 @@
 #include "app/window/SpeedLabel.h"
 
 #include "keyer/ChosenSpeed.h"
-#include "keyer/KeyerSettings.h"
 #include "keyer/WinKeyerUsb.h"
-#include "platform/SettingsStore.h"
 
 #include <QMouseEvent>
 
@@ -12,25 +10,26 @@ void SpeedLabel::follow(const WinKeyerUsb& engine, ChosenSpeed& speed, QLabel& s
     _speed = &speed;
     _source = &source;
     QObject::connect(_engine, &WinKeyerUsb::speedStringChanged, this, &SpeedLabel::show);
-    QObject::connect(_engine, &WinKeyerUsb::hscwStateChanged, this, &SpeedLabel::noteHighSpeed);
+    QObject::connect(_engine, &WinKeyerUsb::hscwStateChanged, this, &SpeedLabel::show);
+    QObject::connect(_engine, &WinKeyerUsb::highSpeedChanged, this, &SpeedLabel::show);
     QObject::connect(_speed, &ChosenSpeed::changed, this, &SpeedLabel::show);
     show();
 }
 
-/// As the keyer was told: in hundreds of letters a minute.
-void SpeedLabel::noteHighSpeed() {
-    const auto rate = SettingsStore::standardUserDefaults().integerForKey(WKHSCWSpeed) / 100 * 100;
-    _highSpeed = _engine->hscwState() != 0 ? tr("%1 LPM").arg(rate) : QString();
-    show();
+/// What the keyer was told, which counts hundreds of letters a minute; empty at any other speed.
+QString SpeedLabel::highSpeed() const {
+    const auto rate = _engine->highSpeed();
+    return _engine->hscwState() != 0 && rate ? tr("%1 LPM").arg(*rate * 100) : QString();
 }
 
 void SpeedLabel::show() {
     const auto chosen = _speed->wpm();
     const auto knobs = _engine->speedString();
     const auto speed = chosen ? tr("%1 WPM").arg(*chosen) : knobs.isNull() ? tr("– WPM") : knobs;
-    setText(_highSpeed.isEmpty() ? speed : _highSpeed);
-    const bool isChosen = chosen && _highSpeed.isEmpty();
-    _source->setText(isChosen ? tr("set here") : _highSpeed.isEmpty() ? tr("knob") : QString());
+    const auto high = highSpeed();
+    setText(high.isEmpty() ? speed : high);
+    const bool isChosen = chosen && high.isEmpty();
+    _source->setText(isChosen ? tr("set here") : high.isEmpty() ? tr("knob") : QString());
     // A screen reader reads the label's name in place of its text.
     setAccessibleDescription(isChosen ? tr("%1, set here").arg(text()) : text());
 }

@@ -20,12 +20,10 @@ class SpeedLabel final : public QLabel {
     void mouseReleaseEvent(QMouseEvent* event) override;
 
   private:
-    void noteHighSpeed();
+    [[nodiscard]] QString highSpeed() const;
     void show();
 
     const WinKeyerUsb* _engine = nullptr;
     ChosenSpeed* _speed = nullptr;
     QLabel* _source = nullptr;
-    /// The rate of high-speed CW while it is on.
-    QString _highSpeed;
 };

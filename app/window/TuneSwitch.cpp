@@ -46,6 +46,9 @@ void TuneSwitch::noteBegin() {
 }
 
 void TuneSwitch::keyDown() {
+    if (_engine.isLoadingMemory()) {
+        return; // key up would queue behind it
+    }
     if (_engine.isSending()) {
         _engine.stopMessageSending(&_button);
     }

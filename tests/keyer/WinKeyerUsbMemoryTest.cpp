@@ -36,6 +36,7 @@ class WinKeyerUsbMemoryTest : public QObject {
     void aLoadIsForeseen();
     void aSecondLoadQueuesBehindTheFirst();
     void aLoadEndsAMessageOfTheKeyersOwn();
+    void noStandaloneMessageGoesBehindALoad();
     void standaloneMessagesAreSentByNumber_data();
     void standaloneMessagesAreSentByNumber();
 
@@ -268,6 +269,18 @@ void WinKeyerUsbMemoryTest::aLoadIsForeseen() {
     QVERIFY(_bench->engine().writeEeprom(nullptr));
     QCOMPARE(story, QStringList{QString(u""_s)});
     QVERIFY(_bench->written().startsWith("0b 00 00 0d a5"));
+}
+
+/// Nothing could stop it until the image is out.
+void WinKeyerUsbMemoryTest::noStandaloneMessageGoesBehindALoad() {
+    QVERIFY(_bench->engine().writeEeprom(nullptr));
+    static_cast<void>(_bench->written());
+    _bench->engine().sendStandaloneMessage(1);
+    QCOMPARE(_bench->written(), "");
+    _bench->clock().advance(3s);
+    QCOMPARE(_bench->written(), "");
+    _bench->engine().sendStandaloneMessage(1);
+    QCOMPARE(_bench->written(), "00 0e 01");
 }
 
 void WinKeyerUsbMemoryTest::standaloneMessagesAreSentByNumber_data() {

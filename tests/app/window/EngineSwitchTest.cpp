@@ -18,6 +18,7 @@ class EngineSwitchTest : public QObject {
     void itBeginsAsTheEngineIs();
     void theEngineIsBroughtToWhereTheButtonIsTurned();
     void theButtonFollowsTheEngineAndTurnsNothing();
+    void aButtonThatTurnsNothingGoesBack();
 
   private:
     void make() {
@@ -72,6 +73,16 @@ void EngineSwitchTest::theButtonFollowsTheEngineAndTurnsNothing() {
     _bench->engine().setBeaconState(0);
     QVERIFY(!_button.isChecked());
     QVERIFY(_turns.isEmpty());
+}
+
+void EngineSwitchTest::aButtonThatTurnsNothingGoesBack() {
+    _switch.emplace(
+        _bench->engine(), _button,
+        EngineSwitch::State{&WinKeyerUsb::beaconState, &WinKeyerUsb::beaconStateChanged},
+        [this](bool isOn) { _turns.append(isOn); }, nullptr);
+    _button.click();
+    QVERIFY(!_button.isChecked());
+    QCOMPARE(_turns, QList<bool>{true});
 }
 
 static const RegisteredTest<EngineSwitchTest> registered;

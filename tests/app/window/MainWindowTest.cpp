@@ -36,6 +36,7 @@ class MainWindowTest : public QObject, private MainWindowFixture {
     void stopIsAButtonAndAKey();
     void theSpeedShows();
     void atHighSpeedItsRateShows();
+    void aChangedRateShowsOnceTheKeyerHasIt();
     void theBeaconsSwitchCounts();
     void theirCallReachesTheEngine();
     void theirCallTakesOnlyCallSigns();
@@ -132,6 +133,19 @@ void MainWindowTest::atHighSpeedItsRateShows() {
     QCOMPARE(speed->text(), u"2000 LPM"_s);
     press(Qt::Key_Escape);
     QCOMPARE(speed->text(), u"26 WPM"_s);
+}
+
+void MainWindowTest::aChangedRateShowsOnceTheKeyerHasIt() {
+    const auto* speed = find<QLabel>(u"speedLabel"_s);
+    press(Qt::Key_H, Qt::ControlModifier);
+    QCOMPARE(speed->text(), u"1000 LPM"_s);
+    _bench->settings().setObject(u"3000 lpm"_s, WKHSCWSpeed);
+    _bench->receive({0x8C});
+    QCOMPARE(speed->text(), u"1000 LPM"_s);
+    static_cast<void>(_bench->written());
+    _bench->type(u"%E"_s);
+    QCOMPARE(_bench->written(), "1d 1e 45");
+    QCOMPARE(speed->text(), u"3000 LPM"_s);
 }
 
 void MainWindowTest::theBeaconsSwitchCounts() {

@@ -26,6 +26,7 @@ class ModeSwitchesTest : public QObject {
     void highSpeedNeedsAKeyer();
     void aStopEndsHighSpeed();
     void aBreakInEndsHighSpeed();
+    void highSpeedDoesNotBeginDuringABreakIn();
     void highSpeedThatBeginsInATextIsSeen();
     void withoutAKeyerNoTextBeginsHighSpeed();
     void beaconIsTheEngines();
@@ -131,6 +132,20 @@ void ModeSwitchesTest::aBreakInEndsHighSpeed() {
     _bench->receive({0xC6});
     QVERIFY(!_hscw.isChecked());
     QCOMPARE(_bench->written(), "");
+}
+
+/// The keyer throws away what it would put in its buffer.
+void ModeSwitchesTest::highSpeedDoesNotBeginDuringABreakIn() {
+    _bench->receive({0xC6});
+    _hscw.click();
+    QVERIFY(!_hscw.isChecked());
+    QCOMPARE(_bench->engine().hscwState(), 0);
+    QCOMPARE(_bench->written(), "");
+    _bench->receive({0xC0});
+    QVERIFY(!_hscw.isChecked());
+    _hscw.click();
+    QVERIFY(_hscw.isChecked());
+    QCOMPARE(_bench->written(), "1d 0a");
 }
 
 void ModeSwitchesTest::highSpeedThatBeginsInATextIsSeen() {

@@ -296,6 +296,8 @@ void TuneSwitchTest::thereIsNoTuneWhileTheKeyersMemoryIsLoaded() {
     QVERIFY(!_button->isEnabled());
     QVERIFY(_button->toolTip().contains(u"being loaded"));
     QTest::keyClick(_window->windowHandle(), Qt::Key_T, Qt::ControlModifier);
+    _button->toggle(); // as what asks nobody whether it is on
+    QVERIFY(!_button->isChecked());
     QCOMPARE(_bench->written(), "");
     _bench->clock().advance(std::chrono::seconds(3));
     tune();
