@@ -79,6 +79,9 @@ void KeyGuard::start() {
         return;
     }
     connect(_guard.get(), &KeyGuardProcess::ended, this, &KeyGuard::guardHasEnded);
+    if (_engine.isLoadingMemory()) {
+        tell(GuardMessage::LoadingMemory);
+    }
     followTune();
 }
 

@@ -6,7 +6,9 @@
 #include "tests/support/RegisteredTest.h"
 #include "tests/support/SystemCallFaults.h"
 
+#include <QFile>
 #include <QSignalSpy>
+#include <QTemporaryDir>
 #include <QTest>
 
 #include <cerrno>
@@ -21,6 +23,25 @@ namespace {
 
 const auto program = QStringLiteral(QUORVEL_KEY_GUARD);
 const auto lastWords = QByteArray(15, 0x13) + QByteArray::fromHex("0b000a0003");
+
+/// A guard that does nothing but write down, in `notes`, what it is told.
+bool writeListener(const QString& path, const QString& notes) {
+    QFile file(path);
+    const auto text = uR"(#!/usr/bin/python3 -IS
+import os, sys
+with open("%1", "ab", buffering=0) as notes:
+    while heard := os.read(int(sys.argv[2]), 64):
+        notes.write(heard)
+)"_s.arg(notes)
+                          .toUtf8();
+    return file.open(QIODevice::WriteOnly) && file.write(text) == text.size() &&
+           file.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+}
+
+QByteArray contentOf(const QString& path) {
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
 
 } // namespace
 
@@ -41,6 +62,7 @@ class KeyGuardTest : public QObject {
     void aTuneThatEndsBeforeItIsGuardedNeedsNoSign();
     void aMainThreadThatHangsInTuneLosesTheKey();
     void aGuardThatSomethingEndedIsReplacedOnce();
+    void aReplacementKnowsOfAMemoryLoad();
     void withoutItsProgramTheLinkStands();
 
   private:
@@ -178,6 +200,23 @@ void KeyGuardTest::aGuardThatSomethingEndedIsReplacedOnce() {
     QVERIFY(_bench->engine().disconnect(nullptr));
     QVERIFY(_bench->connect());
     QVERIFY(hasGuard());
+}
+
+void KeyGuardTest::aReplacementKnowsOfAMemoryLoad() {
+    const QTemporaryDir directory;
+    const auto notes = directory.filePath(u"heard"_s);
+    const auto listener = directory.filePath(u"listener"_s);
+    QVERIFY(writeListener(listener, notes));
+    _guard.emplace(_bench->engine(), listener);
+    QVERIFY(_bench->connect());
+    QVERIFY(_bench->engine().writeEeprom(nullptr));
+    QTRY_COMPARE_WITH_TIMEOUT(contentOf(notes), "M", 30000);
+    const auto first = _guard->processIdentifier();
+    ::kill(first, SIGKILL);
+    QTRY_VERIFY(hasGuard() && _guard->processIdentifier() != first);
+    QTRY_COMPARE_WITH_TIMEOUT(contentOf(notes), "MM", 30000);
+    _bench->clock().advance(3s);
+    QTRY_COMPARE_WITH_TIMEOUT(contentOf(notes), "MMm", 30000);
 }
 
 void KeyGuardTest::withoutItsProgramTheLinkStands() {
