@@ -228,7 +228,13 @@ qsizetype KeyboardView::waitingCount() const {
     if (!isLinked()) {
         return 0;
     }
-    return _engine.keyboardBuffer().size() - _engine.inFlightIndex() + heldText().size();
+    return _engine.keyboardBuffer().size() - _engine.inFlightIndex() + heldText().size() +
+           _heldElsewhere;
+}
+
+void KeyboardView::setHeldElsewhere(qsizetype count) {
+    _heldElsewhere = count;
+    Q_EMIT waitingCountChanged();
 }
 
 /// Text that was typed while it went nowhere is not sent later on, of itself, as it would be by a

@@ -41,7 +41,10 @@ class KeyboardView final : public QPlainTextEdit {
     /// Whether a keyer is connected.
     [[nodiscard]] bool isLinked() const;
 
-    /// Whether typed text is kept back because the paddle was in use when it was typed.
+    /// How many characters are held elsewhere: they wait, too, and while there are any, what is
+    /// typed is kept back behind them, whatever the paddle does.
+    void setHeldElsewhere(qsizetype count);
+    /// Whether typed text is kept back because the paddle, or something else, was ahead of it.
     [[nodiscard]] bool isHoldingText() const { return _isHoldingText; }
     /// That text.
     [[nodiscard]] QString heldText() const { return _isHoldingText ? _kept.all() : QString(); }
@@ -148,5 +151,6 @@ class KeyboardView final : public QPlainTextEdit {
     bool _couldUndo = false;
     bool _couldRedo = false;
     bool _isCaretInSentText = false;
+    qsizetype _heldElsewhere = 0;
     bool _isHoldingText = false;
 };

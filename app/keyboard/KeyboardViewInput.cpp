@@ -42,7 +42,8 @@ QString KeyboardView::readied(const QString& typed, const QTextCursor& place) {
     const auto before = _text.characterAt(place.selectionStart() - 1);
     const auto after = _text.characterAt(place.selectionEnd());
     _kept.add(KeyboardText::inOneLine(typed, before, after));
-    _isHoldingText = _kept.hasComplete() && (_isHoldingText || isPaddleInUse());
+    _isHoldingText =
+        _kept.hasComplete() && (_isHoldingText || _heldElsewhere > 0 || isPaddleInUse());
     const auto complete = _isHoldingText ? QString() : _kept.release();
     const bool isBehindMessage = place.selectionStart() == _messageEnd && after.isNull();
     if (isBehindMessage && before != u' ' && !complete.isEmpty() && !complete.startsWith(u' ')) {

@@ -7,6 +7,7 @@
 #include "platform/SettingsStore.h"
 
 #include <algorithm>
+#include <numeric>
 #include <utility>
 
 HeldMessages::HeldMessages(WinKeyerUsb& engine, KeyboardView& view, QObject* parent)
@@ -22,7 +23,7 @@ void HeldMessages::send(const QObject* control) {
         _engine.sendMessage(control);
     } else if (!isHeld(control)) {
         _waiting.append(Waiting{control, messageOf(*control)});
-        Q_EMIT changed();
+        announce();
     }
 }
 
@@ -52,7 +53,7 @@ void HeldMessages::followView() {
     } else {
         _waiting.removeIf([this](const Waiting& each) { return each.control == &_view; });
     }
-    Q_EMIT changed();
+    announce();
 }
 
 void HeldMessages::followKeyer() {
@@ -62,19 +63,34 @@ void HeldMessages::followKeyer() {
     if (_waiting.isEmpty() || _engine.activity() != KeyerActivity::Idle) {
         return;
     }
-    for (const auto& [control, message] : std::exchange(_waiting, {})) {
-        if (control == &_view) {
+    while (!_waiting.isEmpty()) {
+        _view.setHeldElsewhere(0); // nothing is in front of the next one
+        const auto next = _waiting.takeFirst();
+        if (next.control == &_view) {
             _view.handOverHeldText();
         } else {
-            _engine.appendMessage(message);
+            _engine.appendMessage(next.message);
         }
     }
-    Q_EMIT changed();
+    announce();
 }
 
 void HeldMessages::drop() {
+    const auto held = std::exchange(_waiting, {});
     _view.dropHeldText();
-    if (!std::exchange(_waiting, {}).isEmpty()) {
-        Q_EMIT changed();
+    if (!held.isEmpty()) {
+        announce();
     }
+}
+
+void HeldMessages::announce() {
+    _view.setHeldElsewhere(waitingCount());
+    Q_EMIT changed();
+}
+
+qsizetype HeldMessages::waitingCount() const {
+    const auto spaces = std::max<qsizetype>(_waiting.size() - 1, 0);
+    return std::accumulate(
+        _waiting.begin(), _waiting.end(), spaces,
+        [](qsizetype sum, const Waiting& each) { return sum + each.message.size(); });
 }

@@ -9,9 +9,9 @@ class WinKeyerUsb;
 
 /// Messages that are pressed while the paddle is in use, when the keyer drops what it is sent: they
 /// are held until it reports that it is idle, and then go out in the order in which they were
-/// pressed, each once. The text that the keyboard view holds takes its turn among them. Whatever
-/// stops the sending drops them. The number of a message is that of the moment at which it was
-/// pressed, as it is for one that goes out at once.
+/// pressed, each once. The text that the keyboard view holds takes its turn among them, and what is
+/// typed behind one of them is held, too. Whatever stops the sending drops them. The number of a
+/// message is that of the moment at which it was pressed, as it is for one that goes out at once.
 class HeldMessages final : public QObject {
     Q_OBJECT
   public:
@@ -32,9 +32,12 @@ class HeldMessages final : public QObject {
 
   private:
     [[nodiscard]] QString messageOf(const QObject& control) const;
+    /// How many characters are held, those of the view's text apart, and the spaces between.
+    [[nodiscard]] qsizetype waitingCount() const;
     void followKeyer();
     void followView();
     void drop();
+    void announce();
 
     WinKeyerUsb& _engine;
     KeyboardView& _view;

@@ -32,6 +32,8 @@ class HeldMessagesTest : public QObject, private MainWindowFixture {
     void heldTextCanBeCorrected();
     void textAndMessagesKeepTheirOrder_data();
     void textAndMessagesKeepTheirOrder();
+    void textTypedBehindAHeldMessageStaysBehindIt();
+    void whatIsHeldIsCounted();
     void heldTextIsDroppedWithTheMessages();
 
   private:
@@ -219,6 +221,36 @@ void HeldMessagesTest::textAndMessagesKeepTheirOrder() {
     }
     _bench->receive({0xC0});
     QTEST(text(), "result");
+}
+
+/// The paddle is free by then, and the keyer not idle yet.
+void HeldMessagesTest::textTypedBehindAHeldMessageStaysBehindIt() {
+    press(Qt::Key_F2);
+    _bench->receive({0xC4});
+    type(u"tu"_s);
+    QCOMPARE(_bench->written(), "");
+    _bench->receive({0xC0});
+    QCOMPARE(text(), u"5NN NH TU"_s);
+    QCOMPARE(_bench->written(), "35");
+    type(u"e"_s);
+    QCOMPARE(text(), u"5NN NH TUE"_s);
+}
+
+void HeldMessagesTest::whatIsHeldIsCounted() {
+    const auto* waiting = find<QLabel>(u"waitingLabel"_s);
+    press(Qt::Key_F2);
+    QCOMPARE(waiting->text(), u"6 waiting"_s);
+    type(u"tu"_s);
+    QCOMPARE(waiting->text(), u"9 waiting"_s);
+    press(Qt::Key_F7);
+    QCOMPARE(waiting->text(), u"11 waiting"_s);
+    QCOMPARE(view().waitingCount(), 11); // which screen readers are told
+    _bench->receive({0xC0});
+    QCOMPARE(text().size(), 11);
+    _bench->receive({0xC6});
+    press(Qt::Key_F2);
+    press(Qt::Key_Escape);
+    QCOMPARE(waiting->text(), u""_s);
 }
 
 void HeldMessagesTest::heldTextIsDroppedWithTheMessages() {
