@@ -93,7 +93,7 @@ void stepAside(int port, int channel) {
     ::sigfillset(&all);
     ::sigprocmask(SIG_SETMASK, &all, nullptr);
     ::setsid();
-    static_cast<void>(::chdir("/"));
+    [[maybe_unused]] const int result = ::chdir("/");
     const auto lower = static_cast<unsigned>(std::min(port, channel));
     const auto upper = static_cast<unsigned>(std::max(port, channel));
     if (lower > 0) {

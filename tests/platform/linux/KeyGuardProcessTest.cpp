@@ -32,8 +32,10 @@ const auto lastWords = QByteArray(15, 0x13) + QByteArray::fromHex("0b000a0003");
 /// A program that has the port and a guard, as the application has them, and can be killed.
 class Victim {
   public:
-    /// `act` is what it does when the guard has started; then it waits for its end.
-    explicit Victim(const PseudoTerminalPair& line, void (*act)(KeyGuardProcess&, int) = nullptr) {
+    /// `act` is what it does when the guard has started; then it waits for its end. `terminal` is
+    /// that from which it was started, if any.
+    explicit Victim(const PseudoTerminalPair& line, void (*act)(KeyGuardProcess&, int) = nullptr,
+                    const PseudoTerminalPair* terminal = nullptr) {
         int pipe[2] = {};
         if (::pipe(pipe) != 0) {
             qFatal("There is no pipe to be had.");
@@ -41,7 +43,14 @@ class Victim {
         _process = ::fork();
         if (_process == 0) {
             ::prctl(PR_SET_PDEATHSIG, SIGKILL);
-            ::setpgid(0, 0);
+            for (const auto number : {SIGABRT, SIGSEGV, SIGHUP}) {
+                ::signal(number, SIG_DFL); // the test framework has something to say to them
+            }
+            if (terminal != nullptr) {
+                takeAsItsOwn(*terminal);
+            } else {
+                ::setpgid(0, 0);
+            }
             ::close(line.farEnd());
             const int port = ::open(qUtf8Printable(line.path()), O_RDWR | O_NOCTTY | O_CLOEXEC);
             ::ioctl(port, TIOCEXCL);
@@ -72,6 +81,16 @@ class Victim {
     [[nodiscard]] pid_t guard() const { return _guard; }
 
   private:
+    /// As a shell's window does it; the end of that window then ends the session.
+    static void takeAsItsOwn(const PseudoTerminalPair& terminal) {
+        ::setsid();
+        ::close(terminal.farEnd());
+        const int descriptor = ::open(qUtf8Printable(terminal.path()), O_RDWR);
+        if (::ioctl(descriptor, TIOCSCTTY, 0) != 0) {
+            ::_exit(1);
+        }
+    }
+
     pid_t _process = 0;
     pid_t _guard = 0;
 };
@@ -99,6 +118,7 @@ class KeyGuardProcessTest : public QObject {
     void itLetsGoWhenTheApplicationDies_data();
     void itLetsGoWhenTheApplicationDies();
     void itOutlivesTheProcessGroup();
+    void itOutlivesTheTerminal();
     void itLetsGoWhenTheApplicationIsSilentInTune();
     void silenceWithoutTuneIsNone();
     void aTuneThatHasEndedNeedsNoSigns();
@@ -160,15 +180,19 @@ void KeyGuardProcessTest::aLinkThatEndsWhileItTunesLeavesTheKeyerAlone() {
 
 void KeyGuardProcessTest::itLetsGoWhenTheApplicationDies_data() {
     QTest::addColumn<bool>("isTuning");
-    QTest::newRow("in tune") << true;
-    QTest::newRow("at rest") << false;
+    QTest::addColumn<int>("signal");
+    QTest::newRow("killed in tune") << true << SIGKILL;
+    QTest::newRow("killed at rest") << false << SIGKILL;
+    QTest::newRow("by an abort in tune") << true << SIGABRT;
+    QTest::newRow("by a fault in tune") << true << SIGSEGV;
 }
 
 void KeyGuardProcessTest::itLetsGoWhenTheApplicationDies() {
     QFETCH(bool, isTuning);
+    QFETCH(int, signal);
     const auto tune = [](KeyGuardProcess& guard, int) { guard.tell(GuardMessage::Tuning); };
     const Victim victim(*_line, isTuning ? +tune : nullptr);
-    ::kill(victim.process(), SIGKILL);
+    ::kill(victim.process(), signal);
     QElapsedTimer time;
     time.start();
     QCOMPARE(written(), lastWords);
@@ -188,6 +212,18 @@ void KeyGuardProcessTest::itOutlivesTheProcessGroup() {
     }
     ::kill(-victim.process(), SIGKILL);
     QCOMPARE(written(), lastWords);
+}
+
+/// What hangs up is told to all of the session, and ends the application.
+void KeyGuardProcessTest::itOutlivesTheTerminal() {
+    PseudoTerminalPair terminal;
+    const auto tune = [](KeyGuardProcess& guard, int) { guard.tell(GuardMessage::Tuning); };
+    const Victim victim(*_line, tune, &terminal);
+    QVERIFY(isRunning(victim.process()));
+    terminal.hangUp();
+    QCOMPARE(written(), lastWords);
+    QTRY_VERIFY(!isRunning(victim.process()));
+    QTRY_VERIFY(!isRunning(victim.guard()));
 }
 
 void KeyGuardProcessTest::itLetsGoWhenTheApplicationIsSilentInTune() {
