@@ -5,7 +5,7 @@ import pathlib
 import signal
 import time
 
-from endings_states import KEY_IS_DOWN, NOTHING_IS_KEYED, RECORDS
+from endings_states import HAS_ALERT, HAS_PREFERENCES, KEY_IS_DOWN, NOTHING_IS_KEYED, RECORDS
 from endings_station import KEY_UP
 from helper import Helper
 from waiting import wait_for
@@ -57,7 +57,7 @@ class Ending:
 
 class Quit(Ending):
     def end(self, station, state):
-        if state == "alert open":
+        if state in HAS_ALERT:
             # The first keys of an alert are kept from it.
             station.choose_from_menu("Quit")
         else:
@@ -71,18 +71,25 @@ class WindowClosed(Ending):
         station.dismiss_alerts()
         station.begin_ending()
         self._close(station, station.window_number)
-        if state in ("alert open", "preferences open", "memory load"):
-            station.expect_key_up()
-            station.expect_written(KEY_UP_BYTES if state in KEY_IS_DOWN else "")
+        if state in HAS_ALERT | HAS_PREFERENCES | {"memory load"}:
+            self._expect_of_main_window(station, state)
             station.begin_ending()
             self._close(station, station.quorvel.wait_for("the preferences",
                                                           lambda: self._other_window(station)))
 
     def bytes(self, state):
         """Tune ends with its window, whatever windows are left."""
-        if state in ("alert open", "preferences open"):
+        if state in KEY_IS_DOWN and state in HAS_ALERT | HAS_PREFERENCES:
             return HOST_CLOSE
         return f"{KEY_UP_BYTES} {LEAVING}" if state == "tune" else super().bytes(state)
+
+    def _expect_of_main_window(self, station, state):
+        """Text goes on: it can be stopped in any window."""
+        if state in KEY_IS_DOWN:
+            station.expect_key_up()
+            station.expect_written(KEY_UP_BYTES)
+        elif state in NOTHING_IS_KEYED:
+            station.expect_written("")
 
     def _other_window(self, station):
         number = station.desktop.xdotool("getactivewindow")

@@ -48,12 +48,22 @@ def memory_load(station):
 
 
 def alert_open(station):
-    """Over a key that is down: a standalone message holds what the keyer's memory cannot."""
+    """Over a key that is down."""
     tune(station)
+    alert(station)
+    station.assertTrue(station.keyer.is_key_down())
+
+
+def alert_over_sending(station):
+    sending(station)
+    alert(station)
+
+
+def alert(station):
+    """A standalone message holds what the keyer's memory cannot."""
     standalone_messages(station)
     station.find("Save to keyer").press()
     station.wait_for_alert(station.quorvel, "The keyer's memory could not be written.")
-    station.assertTrue(station.keyer.is_key_down())
 
 
 def standalone_messages(station):
@@ -72,6 +82,11 @@ def preferences_open(station):
     station.assertTrue(station.keyer.is_key_down())
 
 
+def preferences_over_sending(station):
+    sending(station)
+    preferences(station)
+
+
 def preferences(station):
     station.choose_from_menu("Preferences…")
     station.find("WinKeyer")
@@ -87,10 +102,19 @@ STATES = {
     "memory load": memory_load,
     "alert open": alert_open,
     "preferences open": preferences_open,
+    "alert, sending": alert_over_sending,
+    "prefs, sending": preferences_over_sending,
 }
-MORE_SETTINGS = {"alert open": "WKStandaloneMessage1=É\n"}
+HAS_ALERT = {"alert open", "alert, sending"}
+HAS_PREFERENCES = {"preferences open", "prefs, sending"}
+# A window over the sending changes nothing for the endings that ask no window.
+ENDINGS_OVER_SENDING = {"Quit", "window closed", "SIGTERM", "SIGKILL", "session end",
+                        "adapter pulled", "sleep and wake"}
+LIMITED = {"alert, sending": ENDINGS_OVER_SENDING, "prefs, sending": ENDINGS_OVER_SENDING}
+MORE_SETTINGS = dict.fromkeys(HAS_ALERT, "WKStandaloneMessage1=É\n")
 KEY_IS_DOWN = {"tune", "alert open", "preferences open"}
 NOTHING_IS_KEYED = {"idle", "beacon waiting", "memory load"}
 # What the record of what is keyed says meanwhile. Text that is held back is in no keyer.
 RECORDS = {**dict.fromkeys(KEY_IS_DOWN, "tune\n"),
-           **dict.fromkeys(("sending", "beacon sending"), "sending\n")}
+           **dict.fromkeys(("sending", "beacon sending", "alert, sending", "prefs, sending"),
+                           "sending\n")}

@@ -15,7 +15,7 @@ import sys
 import threading
 
 from endings_kinds import ENDINGS
-from endings_states import STATES
+from endings_states import LIMITED, STATES
 
 LANE = pathlib.Path(__file__).parent / "endings_lane.py"
 COLUMN = 18
@@ -35,7 +35,7 @@ def chosen(patterns):
         wanted_state, _, wanted_ending = pattern.partition(":")
         return wanted_state in ("*", state) and wanted_ending in ("*", ending)
     return [(state, ending) for ending in ENDINGS for state in STATES
-            if any(fits(each, state, ending) for each in patterns)]
+            if ending in LIMITED.get(state, ENDINGS) and any(fits(each, state, ending) for each in patterns)]
 
 
 def run_lane(arguments, waiting, found):

@@ -2,6 +2,8 @@
 
 import os
 import select
+import threading
+import time
 import tty
 
 from program import PORT, SETTINGS, SPEED, ProgramTest
@@ -34,8 +36,46 @@ class FarEnd:
     def say(self, data):
         assert os.write(self._master, data) == len(data)
 
+    def descriptor(self):
+        return self._master
+
     def close(self):
         os.close(self._master)
+
+
+class PacedReader(threading.Thread):
+    """Takes the bytes off a far end as a line of 1200 baud does, and notes when each had come."""
+
+    BYTE_TIME = 11 / 1200
+
+    def __init__(self, far_end):
+        super().__init__(daemon=True)
+        self._master = far_end.descriptor()
+        self._times = []
+        self._bytes = bytearray()
+        self.start()
+
+    def run(self):
+        free = 0.0
+        while True:
+            try:
+                select.select([self._master], [], [])
+                byte = os.read(self._master, 1)
+            except OSError:
+                return  # closed, or nobody has the port open
+            begin = max(time.monotonic(), free)
+            free = begin + self.BYTE_TIME
+            time.sleep(max(0.0, free - time.monotonic()))
+            self._times.append(free)
+            self._bytes += byte
+
+    def count(self):
+        return len(self._times)
+
+    def time_of(self, byte, since):
+        """When that byte had come, of those from the `since`th on; None if it has not."""
+        at = self._bytes.find(byte, since)
+        return self._times[at] if at >= 0 else None
 
 
 class FarEndTest(ProgramTest):
