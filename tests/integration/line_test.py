@@ -55,7 +55,7 @@ class LineTest(FarEndTest):
             came = quorvel.wait_for("the stop", lambda: line.time_of(CLEAR_BUFFER, before))
             taken.append(came - began - (quorvel.held_up() - held_up))
             quorvel.wait_for("an empty text", lambda: window.find("Keyboard").text() == "")
-        print("seconds from Escape to the keyer:", *(f"{each:.3f}" for each in taken))
+        print("\nseconds from Escape to the keyer:", *(f"{each:.3f}" for each in taken))
         self.assertLess(min(taken), LONGEST_STOP)
         self.assertLess(max(taken), 10 * LONGEST_STOP)
         self.assertEqual(quorvel.end(), 0)
