@@ -181,6 +181,7 @@ bool WinKeyerUsb::openHostMode(Error* error) {
 }
 
 void WinKeyerUsb::beginHostMode() {
+    _sendIsDue = false; // the keyer's first answer lets the text go
     endMemoryLoad();
     _isHostMode = false;
     _isToBeGreetedAgain = false;

@@ -33,6 +33,7 @@ class WinKeyerUsbMemoryTest : public QObject {
     void textUnderWayGoesOnWhenTheImageIsOut();
     void theEndOfALoadSendsNothingUnasked();
     void aLoadEndsWithTheLink();
+    void textThatWaitsIsNoPartOfAGreeting();
     void aLoadIsForeseen();
     void aSecondLoadQueuesBehindTheFirst();
     void aLoadEndsAMessageOfTheKeyersOwn();
@@ -258,6 +259,19 @@ void WinKeyerUsbMemoryTest::aLoadEndsAMessageOfTheKeyersOwn() {
     QVERIFY(engine.writeEeprom(nullptr));
     written = _bench->written();
     QVERIFY2(written.startsWith("00 0e 01 00 0d a5"), written);
+}
+
+/// It would be keyed before the keyer is greeted, and once more afterwards.
+void WinKeyerUsbMemoryTest::textThatWaitsIsNoPartOfAGreeting() {
+    QVERIFY(_bench->engine().writeEeprom(nullptr));
+    _bench->type(u"E"_s);
+    static_cast<void>(_bench->written());
+    _bench->engine().greetAgain();
+    QVERIFY(_bench->written().startsWith("13 13 13 13 00 04 55"));
+    _bench->receive({0x55});
+    QCOMPARE(_bench->written(), "45");
+    _bench->receive({'E'});
+    QCOMPARE(_bench->written(), "");
 }
 
 void WinKeyerUsbMemoryTest::aLoadIsForeseen() {
