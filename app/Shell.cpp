@@ -30,6 +30,7 @@ Shell::Shell(WinKeyerUsb& engine, DesktopApplication& alerts, SettingsStore& set
       _window(engine),
       _preferences(engine),
       _portCheck(engine, _window),
+      _virtualKeyer(VirtualKeyer::standardProgram()),
       _escape(Qt::Key_Escape),
       _quit(Qt::CTRL | Qt::Key_Q),
       _termination(_delegate) {
@@ -68,6 +69,12 @@ void Shell::connectPreferences() {
 
 void Shell::connectHelp() {
     QObject::connect(&_window, &MainWindow::portCheckRequested, &_portCheck, &PortCheck::show);
+    if (_virtualKeyer.isInstalled()) {
+        _window.offerVirtualKeyer();
+    }
+    QObject::connect(&_window, &MainWindow::virtualKeyerRequested, &_virtualKeyer,
+                     &VirtualKeyer::start);
+    QObject::connect(&_virtualKeyer, &VirtualKeyer::failed, &_window, &MainWindow::say);
 }
 
 void Shell::connectWatchers() {

@@ -10,6 +10,7 @@
 #include "app/Termination.h"
 #include "app/TerminationSignals.h"
 #include "app/TypingWatch.h"
+#include "app/VirtualKeyer.h"
 #include "app/window/MainWindow.h"
 #include "platform/linux/SessionBus.h"
 #include "preferences/PreferencesController.h"
@@ -26,6 +27,9 @@ class Shell final {
     /// All of them must outlive it. Shows nothing yet.
     Shell(WinKeyerUsb& engine, DesktopApplication& alerts, SettingsStore& settings,
           SingleInstance& instance);
+
+    /// Has the main window lead a new operator to the first message.
+    void showFirstSteps() { _window.showFirstSteps(); }
 
     /// Shows the main window, then tells of a damaged settings file, then connects to the keyer.
     void launch();
@@ -51,6 +55,7 @@ class Shell final {
     MainWindow _window;
     PreferencesController _preferences;
     PortCheck _portCheck;
+    VirtualKeyer _virtualKeyer;
 
     const MenuShield _menuShield;
     const TypingWatch _typingWatch;

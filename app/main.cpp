@@ -4,6 +4,7 @@
 #include "app/QuorvelStyle.h"
 #include "app/Shell.h"
 #include "app/Translations.h"
+#include "keyer/GeneralSettings.h"
 #include "keyer/WinKeyerUsb.h"
 #include "platform/BundleIdentifier.h"
 #include "platform/Log.h"
@@ -53,6 +54,8 @@ int run(SingleInstance& instance) {
                        .devices = std::make_unique<LinuxDeviceRegistry>(),
                        .application = std::move(application)});
     const LogindPower power;
+    // Before there are defaults, which look like choices.
+    const bool wasPortEverChosen = platform.settings().objectForKey(WKPortName).isValid();
     PreferencesWinKeyer::initialize();
     PreferencesMessagesViewController::initialize();
     PreferencesGeneral::initialize();
@@ -60,6 +63,9 @@ int run(SingleInstance& instance) {
     auto& engine = WinKeyerUsb::sharedInstance();
     engine.setRunLimit(runLimit);
     Shell shell(engine, alerts, platform.settings(), instance);
+    if (!wasPortEverChosen) {
+        shell.showFirstSteps();
+    }
     shell.launch();
     return QApplication::exec();
 }

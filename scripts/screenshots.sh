@@ -79,13 +79,22 @@ write_settings() {
     printf '%s\n' "[General]" MyCall=N0CALL "$@" >"$XDG_CONFIG_HOME/quorvel/quorvel.conf"
 }
 
-# shoot_first_start: without a port, the alert where it is on the screen, and what is behind it.
-shoot_first_start() {
-    write_settings
+# open_without_port PICTURE: up to the alert that there is none, where it is on the screen.
+open_without_port() {
     start quorvel "$bin/quorvel" >"$private_directory/quorvel.log" 2>&1
     wait_while quorvel 30 windows_are 2
-    picture first-alert root
+    picture "$1" root
     wait_while quorvel 20 closes_alert
+}
+
+# shoot_first_start: before any port was chosen, and without one after that.
+shoot_first_start() {
+    write_settings
+    open_without_port first-alert
+    picture first-steps
+    stop quorvel
+    write_settings "WKPortName=None"
+    open_without_port later-alert
     xdotool type --delay 40 "cq test"
     picture not-connected
     stop quorvel
@@ -97,6 +106,17 @@ closes_alert() {
         sleep 1.5 # an alert takes no key within a second of the last
         windows_are 1
     }
+}
+
+# shoot_help LETTER PICTURE: the window that the Help menu opens by that letter.
+shoot_help() {
+    xdotool key alt+h
+    sleep 0.5
+    xdotool key "$1"
+    wait_while quorvel 20 windows_are 2
+    picture "$2"
+    xdotool key Escape
+    wait_while quorvel 20 windows_are 1
 }
 
 # shoot_window: the main window while it sends, and while it tunes, and the windows of its help.
@@ -113,16 +133,9 @@ shoot_window() {
     picture tune
     xdotool key Escape
     wait_while quorvel 20 active_window_is Quorvel
-    local letter
-    for letter in g a; do
-        xdotool key alt+h
-        sleep 0.5
-        xdotool key "$letter"
-        wait_while quorvel 20 windows_are 2
-        picture "help-$letter"
-        xdotool key Escape
-        wait_while quorvel 20 windows_are 1
-    done
+    shoot_help g guide
+    shoot_help a about
+    shoot_help c check-ports
     stop quorvel
 }
 

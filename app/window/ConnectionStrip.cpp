@@ -21,9 +21,16 @@ ConnectionStrip::ConnectionStrip(QWidget* parent) : Strip(parent) {
 }
 
 void ConnectionStrip::setEngine(const WinKeyerUsb& engine) {
-    const auto follow = [this, &engine] {
-        setVisible(engine.activity() == KeyerActivity::NotConnected);
-    };
-    QObject::connect(&engine, &WinKeyerUsb::activityChanged, this, follow);
-    follow();
+    _engine = &engine;
+    QObject::connect(&engine, &WinKeyerUsb::activityChanged, this, &ConnectionStrip::showIfNeeded);
+    showIfNeeded();
+}
+
+void ConnectionStrip::setMuted(bool isMuted) {
+    _isMuted = isMuted;
+    showIfNeeded();
+}
+
+void ConnectionStrip::showIfNeeded() {
+    setVisible(!_isMuted && _engine->activity() == KeyerActivity::NotConnected);
 }

@@ -13,10 +13,18 @@ class ConnectionStrip final : public Strip {
 
     /// Follows `engine`, which must outlive the strip.
     void setEngine(const WinKeyerUsb& engine);
+    /// While something else in the window says as much, the strip is not there.
+    void setMuted(bool isMuted);
 
   Q_SIGNALS:
     /// The operator wants to choose a port.
     void portRequested();
     /// The operator wants to know why a port does not work.
     void portCheckRequested();
+
+  private:
+    void showIfNeeded();
+
+    const WinKeyerUsb* _engine = nullptr;
+    bool _isMuted = false;
 };

@@ -78,6 +78,7 @@ MainWindow::MainWindow(WinKeyerUsb& engine)
     setUpSwitches();
     setUpSpeed();
     setUpMenus();
+    setUpFirstSteps();
     new WindowPlace(*this, u"MainWindowPlace"_s, this);
 
     _ui->connectionStrip->setEngine(_engine);
@@ -244,6 +245,21 @@ void MainWindow::setUpMenus() {
                      [this] { (new AboutBox(this))->show(); });
 }
 
+void MainWindow::setUpFirstSteps() {
+    auto* steps = _ui->firstSteps;
+    steps->setEngine(_engine);
+    QObject::connect(steps, &FirstSteps::portRequested, this, &MainWindow::portRequested);
+    QObject::connect(steps, &FirstSteps::portCheckRequested, this, &MainWindow::portCheckRequested);
+    QObject::connect(steps, &FirstSteps::virtualKeyerRequested, this,
+                     &MainWindow::virtualKeyerRequested);
+    QObject::connect(steps, &FirstSteps::done, this, [this] {
+        _ui->connectionStrip->setMuted(false);
+        _keyboardView->setFocus();
+    });
+    QObject::connect(_ui->virtualKeyerAction, &QAction::triggered, this,
+                     &MainWindow::virtualKeyerRequested);
+}
+
 QLineEdit& MainWindow::hisCallsignTextField() const {
     return *_ui->hisCallsignTextField;
 }
@@ -262,6 +278,16 @@ void MainWindow::silenceKeyer() {
 
 void MainWindow::say(const QString& notice) {
     _ui->noticeStrip->say(notice);
+}
+
+void MainWindow::showFirstSteps() {
+    _ui->firstSteps->show();
+    _ui->connectionStrip->setMuted(true);
+}
+
+void MainWindow::offerVirtualKeyer() {
+    _ui->firstSteps->setHasVirtualKeyer(true);
+    _ui->virtualKeyerAction->setVisible(true);
 }
 
 void MainWindow::showGuide() {

@@ -42,6 +42,11 @@ class MainWindow final : public QMainWindow {
     void stop();
     /// Tells the operator in the window what has happened; see NoticeStrip.
     void say(const QString& notice);
+    /// Leads a new operator to the first message, in place of the strip that says that there is no
+    /// keyer.
+    void showFirstSteps();
+    /// Offers to start a keyer made of software.
+    void offerVirtualKeyer();
     /// Has the operator see the window, also when it is minimised or closed; with the token that
     /// the desktop gave for that, or an empty one.
     void comeToFront(const QString& activationToken);
@@ -52,6 +57,8 @@ class MainWindow final : public QMainWindow {
     void portRequested();
     /// The check of the ports, in a window of its own.
     void portCheckRequested();
+    /// A keyer made of software.
+    void virtualKeyerRequested();
     void quitRequested();
     /// The keyer's port is closed, and the operator wants it connected again.
     void connectionWanted();
@@ -70,6 +77,7 @@ class MainWindow final : public QMainWindow {
     void setUpSwitches();
     void setUpSpeed();
     void setUpMenus();
+    void setUpFirstSteps();
     void enlargeFonts();
     void showGuide();
     void showNotice();

@@ -42,6 +42,7 @@ class MainWindowLayoutTest : public QObject {
     void nothingIsCutOff_data();
     void nothingIsCutOff();
     void theFirstWindowFitsASmallScreen();
+    void theFirstStepsFitASmallScreen();
     void theButtonsStayPutWhenTuneIsSwitchedOn();
     void theRowsAreMirrored();
     void aFontThatChangesIsFollowed();
@@ -164,6 +165,23 @@ void MainWindowLayoutTest::theFirstWindowFitsASmallScreen() {
     QCoreApplication::processEvents();
     QVERIFY(_window->width() <= room.width() && _window->height() <= room.height());
     expectNothingCutOff();
+}
+
+void MainWindowLayoutTest::theFirstStepsFitASmallScreen() {
+    constexpr QSize room(950, 540);
+    QVERIFY(_bench->engine().disconnect(nullptr));
+    _window.emplace(_bench->engine());
+    _window->offerVirtualKeyer();
+    _window->showFirstSteps();
+    _window->show();
+    QVERIFY(QTest::qWaitForWindowExposed(&*_window));
+    QCoreApplication::processEvents();
+    expectNothingCutOff();
+    _window->say(longNotice);
+    QCoreApplication::processEvents();
+    expectNothingCutOff();
+    QVERIFY2(_window->width() <= room.width() && _window->height() <= room.height(),
+             qPrintable(u"%1 x %2"_s.arg(_window->width()).arg(_window->height())));
 }
 
 /// Somebody who has switched it on may want it off in a hurry.
