@@ -53,6 +53,41 @@ check_packages() {
     echo "== a second build has the same bytes"
     make_packages second
     diff <(of_both_builds first) <(of_both_builds second)
+    try_packages
+}
+
+# make_former_packages: the same programs under a lower version, for the upgrade.
+make_former_packages() {
+    local package folder=$out/former
+    rm -rf "$folder"
+    mkdir -p "$folder"
+    for package in "$out"/first/*.deb; do
+        [[ $package != *-dbgsym_* ]] || continue
+        dpkg-deb --raw-extract "$package" "$folder/tree"
+        sed -i "s/^Version: .*/&~former/" "$folder/tree/DEBIAN/control"
+        dpkg-deb --root-owner-group --build "$folder/tree" "$folder/$(basename "$package")" \
+            >/dev/null
+        rm -rf "$folder/tree"
+    done
+}
+
+# try_packages: installs, upgrades, uses, removes and purges them in a bare Debian, which takes root.
+try_packages() {
+    local -a as_root=()
+    echo "== installed, upgraded, used, removed and purged in a clean root"
+    if ((EUID != 0)); then
+        if ! sudo --non-interactive true 2>/dev/null; then
+            echo "LEFT OUT: this takes root, or sudo without a password." >&2
+            return
+        fi
+        as_root=(sudo "--preserve-env=http_proxy,https_proxy,no_proxy,TMPDIR")
+    fi
+    require_packages clean-root
+    make_former_packages
+    rm -rf "$out/new"
+    mkdir -p "$out/new"
+    find "$out/first" -maxdepth 1 -name '*.deb' ! -name '*-dbgsym_*' -exec cp {} "$out/new/" ';'
+    "${as_root[@]}" bash scripts/lib/clean-root.sh "$out/former" "$out/new"
 }
 
 [[ -z $(git status --porcelain) ]] || echo "What is not committed is not in the packages." >&2
