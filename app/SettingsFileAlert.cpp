@@ -5,6 +5,8 @@
 #include <QCoreApplication>
 #include <QDir>
 
+#include <algorithm>
+
 namespace {
 
 struct Texts {
@@ -21,17 +23,31 @@ struct Texts {
     }
 
     static QString notStored(const SettingsStore& settings) {
-        return tr("%1 cannot be written: %2. What you have changed holds until you quit, and is "
-                  "lost then unless it can be stored before: %3.")
-            .arg(native(settings.fileName()), settings.problem(),
-                 settings.keysNotStored().join(u", "));
+        return tr("%1 cannot be written: %2. What is not stored holds until you quit, and is lost "
+                  "then unless it can be stored before: %3.")
+            .arg(native(settings.fileName()), settings.problem(), listed(settings.keysNotStored()));
+    }
+
+    static QString damaged(const SettingsStore& settings) {
+        return trouble(settings) + u' ' +
+               tr("Nothing of it is lost: it is now %1. Of what cannot be read, the last settings "
+                  "hold, and have been stored anew.")
+                   .arg(native(settings.corruptFile()));
     }
 
     static QString messageText() { return tr("Your settings could not be read."); }
+    static QString damagedText() { return tr("Your settings were damaged by another program."); }
     static QString notStoredText() { return tr("Your settings cannot be stored."); }
 
   private:
     static QString native(const QString& path) { return QDir::toNativeSeparators(path); }
+
+    /// All settings may be among them, which is more than anybody reads.
+    static QString listed(const QStringList& keys) {
+        constexpr qsizetype most = 8;
+        const auto first = keys.first(std::min(most, keys.size())).join(u", ");
+        return keys.size() > most ? tr("%1 … (%2 in all)").arg(first).arg(keys.size()) : first;
+    }
 
     static QString trouble(const SettingsStore& settings) {
         const auto path = native(settings.path());
@@ -72,6 +88,13 @@ std::optional<Alert> settingsFileAlert(const SettingsStore& settings) {
     }
     return Alert{.messageText = Texts::messageText(),
                  .informativeText = Texts::informativeText(settings)};
+}
+
+std::optional<Alert> settingsDamagedAlert(const SettingsStore& settings) {
+    if (settings.corruptFile().isNull()) {
+        return {};
+    }
+    return Alert{.messageText = Texts::damagedText(), .informativeText = Texts::damaged(settings)};
 }
 
 std::optional<Alert> settingsNotStoredAlert(const SettingsStore& settings) {

@@ -110,6 +110,9 @@ void Shell::connectSettings() {
     QObject::connect(&_settings, &SettingsStore::storingFailed, &_window, [this] {
         _alerts.runModalWhenFree([this] { return settingsNotStoredAlert(_settings); });
     });
+    QObject::connect(&_settings, &SettingsStore::damageFound, &_window, [this] {
+        _alerts.runModalWhenFree([this] { return settingsDamagedAlert(_settings); });
+    });
 }
 
 void Shell::choosePort() {

@@ -21,7 +21,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     if (content.damage != SettingsFile::Damage::None) {
         return 0;
     }
-    const auto result = SettingsFile::write(path, {{QStringLiteral("Added"), 1}}, {});
+    const auto result = SettingsFile::write(
+        path, {{QStringLiteral("Added"), {1, std::chrono::system_clock::now()}}}, content.values);
     const auto again = SettingsFile::read(path);
     auto expected = content.values;
     expected.insert(QStringLiteral("Added"), QStringLiteral("1"));

@@ -19,6 +19,7 @@
 #include <sys/stat.h>
 #include <system_error>
 #include <unistd.h>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -156,10 +157,13 @@ bool obtain(QLockFile& lock) {
            lock.tryLock(0);
 }
 
-Values merged(Values values, const Values& changes) {
+Values merged(Values values, const SettingsFile::Changes& changes, const QStringList& left) {
     for (auto change = changes.begin(); change != changes.end(); ++change) {
-        if (change.value().isValid()) {
-            values.insert(change.key(), change.value());
+        if (left.contains(change.key())) {
+            continue;
+        }
+        if (change->value.isValid()) {
+            values.insert(change.key(), change->value);
         } else {
             values.remove(change.key());
         }
@@ -167,32 +171,69 @@ Values merged(Values values, const Values& changes) {
     return values;
 }
 
+/// Without its own times, which change of themselves.
+QString standing(const QString& path) {
+    struct stat status {};
+    if (::stat(QFile::encodeName(path).constData(), &status) != 0) {
+        return QString::number(errno);
+    }
+    return u"%1:%2 %3 %4"_s.arg(status.st_dev)
+        .arg(status.st_ino)
+        .arg(status.st_mode)
+        .arg(status.st_uid);
+}
+
 } // namespace
 
 namespace SettingsFile {
 
 Content read(const QString& path) {
-    const QFileInfo info(path);
-    if (!info.exists() || info.isDir()) {
-        return {};
+    struct stat status {};
+    if (::stat(QFile::encodeName(path).constData(), &status) != 0) {
+        return {{}, errno == ENOENT ? Damage::None : Damage::Unreadable, {}};
     }
-    if (!info.isFile()) {
-        return {{}, Damage::NoFile};
+    const Time written{std::chrono::duration_cast<Time::duration>(
+        std::chrono::seconds(status.st_ctim.tv_sec) +
+        std::chrono::nanoseconds(status.st_ctim.tv_nsec))};
+    if (!S_ISREG(status.st_mode)) {
+        return {{}, S_ISDIR(status.st_mode) ? Damage::Folder : Damage::NoFile, written};
     }
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
-        return {{}, Damage::Unreadable};
+        return {{}, Damage::Unreadable, written};
     }
     const auto text = file.read(largest + 1);
     if (text.size() > largest) {
-        return {{}, Damage::TooLarge};
+        return {{}, Damage::TooLarge, written};
     }
     const auto sound = SettingsText::withoutOpenQuotes(text);
     const auto values = parsed(path, sound.value_or(text));
     if (!values) {
-        return {{}, Damage::NoSettings};
+        return {{}, Damage::NoSettings, written};
     }
-    return {*values, sound ? Damage::OpenQuote : Damage::None};
+    return {*values, sound ? Damage::OpenQuote : Damage::None, written};
+}
+
+QString text(const QVariant& value) {
+    return value.typeId() == QMetaType::QStringList ? value.toStringList().join(u", "_s)
+                                                    : value.toString();
+}
+
+bool areSame(const QVariant& first, const QVariant& second) {
+    return first == second || (first.isValid() == second.isValid() && text(first) == text(second));
+}
+
+QStringList overtaken(const Changes& changes, const Content& content, const Values& known) {
+    QStringList keys;
+    for (auto change = changes.begin(); change != changes.end(); ++change) {
+        const auto& key = change.key();
+        if (content.written > change->made &&
+            !areSame(content.values.value(key), known.value(key))) {
+            keys.append(key);
+        }
+    }
+    keys.sort();
+    return keys;
 }
 
 QString putAside(const QString& path) {
@@ -208,25 +249,47 @@ QString putAside(const QString& path) {
     return isMoved ? aside : path;
 }
 
-Result write(const QString& path, const Values& changes, const Values& known) {
+Result write(const QString& path, const Changes& changes, const Values& known) {
     errno = 0;
     const auto target = resolved(path);
     if (const auto problem = obstacle(path, target); !problem.isNull()) {
-        return {problem, {}};
+        return {.problem = problem};
     }
     QLockFile lock(target + u".lock"_s);
     if (!obtain(lock)) {
-        return {reasonOfFailure(QFileInfo(target).path()), {}};
+        return {.problem = reasonOfFailure(QFileInfo(target).path())};
     }
     auto content = read(target);
-    if (content.damage != Damage::None) {
-        if (putAside(target) == target) {
-            return {systemsWord(EIO), {}};
-        }
-        content.values = known;
+    if (content.damage == Damage::Unreadable || content.damage == Damage::Folder) {
+        return {.problem = systemsWord(content.damage == Damage::Folder ? EISDIR : EACCES)};
     }
-    const auto values = merged(content.values, changes);
-    return {replace(target, values), values};
+    Result result{.damage = content.damage};
+    if (content.damage != Damage::None) {
+        result.aside = putAside(target);
+        if (result.aside == target) {
+            return {.problem = systemsWord(EIO)};
+        }
+        auto values = known;
+        values.insert(std::exchange(content.values, {}));
+        content.values = values;
+    }
+    result.overtaken = overtaken(changes, content, known);
+    result.values = merged(content.values, changes, result.overtaken);
+    result.problem = replace(target, result.values);
+    if (!result.problem.isNull() && !result.aside.isNull()) {
+        // What is there is better than nothing.
+        std::rename(QFile::encodeName(result.aside).constData(),
+                    QFile::encodeName(target).constData());
+    }
+    return result;
+}
+
+QString situation(const QString& path) {
+    const auto target = resolved(path);
+    const QFileInfo file(target);
+    return u"%1, %2: %3 %4"_s.arg(standing(file.path()), standing(target))
+        .arg(file.size())
+        .arg(file.metadataChangeTime().toMSecsSinceEpoch());
 }
 
 } // namespace SettingsFile

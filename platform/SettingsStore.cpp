@@ -20,7 +20,9 @@ using namespace std::chrono_literals;
 
 namespace {
 
+using SettingsFile::areSame;
 using SettingsFile::Damage;
+using SettingsFile::text;
 
 /// Whoever changes the file may do so in several steps.
 constexpr auto timeToSettle = 200ms;
@@ -40,22 +42,10 @@ bool isNumber(const QVariant& value) {
     }
 }
 
-/// The value as one text. The file's syntax makes a list of a text that a person wrote with commas
-/// and without quotes.
-QString text(const QVariant& value) {
-    return value.typeId() == QMetaType::QStringList ? value.toStringList().join(u", "_s)
-                                                    : value.toString();
-}
-
 /// Truth comes back from the file as a word, yet counts as 1.
 QString numeral(const QVariant& value) {
     const auto whole = text(value);
     return whole == u"true" ? u"1"_s : whole;
-}
-
-/// Whether the values are the same in the file, where a number is a text.
-bool areSame(const QVariant& first, const QVariant& second) {
-    return first == second || (first.isValid() == second.isValid() && text(first) == text(second));
 }
 
 } // namespace
@@ -77,13 +67,13 @@ SettingsStore::SettingsStore(const QString& path, std::chrono::milliseconds retr
             if (!report.problem.isNull()) {
                 takeProblem(report.problem);
             } else if (report.number != 0) {
-                takeStored(report.number, report.content.values);
+                takeStored(report);
             } else {
-                takeReading(report.content);
+                takeReading(report);
             }
         });
     };
-    _writer = std::make_unique<SettingsWriter>(_fileName, receive, retryTime);
+    _writer = std::make_unique<SettingsWriter>(_fileName, _values, receive, retryTime);
     _handOverSoon.setSingleShot(true);
     _handOverSoon.setInterval(0);
     connect(&_handOverSoon, &QTimer::timeout, this, &SettingsStore::handOver);
@@ -116,8 +106,10 @@ SettingsStore::~SettingsStore() {
 
 /// A damaged file, or one that may not be read, is not written to: beside it, nothing is lost.
 void SettingsStore::readAtStart() {
-    auto content = SettingsFile::read(_path);
-    _damage = content.damage;
+    const auto content = SettingsFile::read(_path);
+    _isDamaged = content.damage == Damage::Folder;
+    // Nothing is lost of what a folder keeps out, until there is something to store.
+    _damage = _isDamaged ? Damage::None : content.damage;
     if (_damage == Damage::None) {
         _values = content.values;
         return;
@@ -131,7 +123,7 @@ void SettingsStore::readAtStart() {
     }
     // What could be read has to be stored again, in the file's place.
     if (_values.isEmpty()) {
-        _changes = content.values;
+        noteChanges(content.values);
     }
 }
 
@@ -152,7 +144,7 @@ void SettingsStore::registerDefaults(const QHash<QString, QVariant>& defaults) {
 
 QVariant SettingsStore::objectForKey(const QString& key) const {
     const auto change = _changes.constFind(key);
-    const auto stored = change != _changes.constEnd() ? *change : _values.value(key);
+    const auto stored = change != _changes.constEnd() ? change->value : _values.value(key);
     return stored.isValid() ? stored : _defaults.value(key);
 }
 
@@ -191,7 +183,7 @@ void SettingsStore::setObject(const QVariant& value, const QString& key) {
         return;
     }
     const auto old = objectForKey(key);
-    _changes.insert(key, value);
+    _changes.insert(key, {value, std::chrono::system_clock::now()});
     _handOverSoon.start();
     if (objectForKey(key) != old) {
         Q_EMIT changed(key);
@@ -212,7 +204,7 @@ QStringList SettingsStore::keysNotStored() const {
 void SettingsStore::handOver() {
     _handOverSoon.stop();
     _changesHandedOver = _changes;
-    _writer->write({_changes, _values, ++_lastJob});
+    _writer->write({_changes, ++_lastJob});
 }
 
 void SettingsStore::takeProblem(const QString& problem) {
@@ -223,54 +215,95 @@ void SettingsStore::takeProblem(const QString& problem) {
 }
 
 /// What has changed once more since then is still to be stored.
-void SettingsStore::takeStored(quint64 number, const SettingsFile::Values& values) {
+void SettingsStore::takeStored(const SettingsWriter::Report& report) {
     if (!std::exchange(_problem, {}).isNull()) {
         logLine(u"Settings are stored in %1 again"_s.arg(_fileName));
     }
-    replaceValues(values);
-    if (number == _lastJob) {
+    takeValues(report.content.values, report.overtaken);
+    if (report.number == _lastJob) {
         _changes.removeIf([this](const auto& change) {
             const auto stored = _changesHandedOver.constFind(change.key());
-            return stored != _changesHandedOver.constEnd() && *stored == change.value();
+            return stored != _changesHandedOver.constEnd() && stored->made == change->made;
         });
     }
     watch();
+    if (!report.aside.isNull()) {
+        _isDamaged = false;
+        _damage = report.content.damage;
+        _corruptFile = report.aside;
+        logLine(u"%1 was damaged, and is now %2"_s.arg(_fileName, _corruptFile));
+        Q_EMIT damageFound();
+    }
 }
 
-/// What is damaged by now is put aside when there is something to store.
-void SettingsStore::takeReading(const SettingsFile::Content& content) {
-    const bool isDamaged = content.damage != Damage::None;
-    if (isDamaged && !_isDamaged) {
+/// Of what is damaged the readable part holds, and for the rest what held before. All of it has to
+/// be stored then, in the file's place.
+void SettingsStore::takeReading(const SettingsWriter::Report& report) {
+    const bool wasDamaged = std::exchange(_isDamaged, report.content.damage != Damage::None);
+    if (!_isDamaged) {
+        takeValues(report.content.values, report.overtaken);
+    } else if (!wasDamaged) {
         logLine(u"What is in %1 now are no settings; the last ones hold"_s.arg(_fileName));
-    }
-    _isDamaged = isDamaged;
-    if (!isDamaged) {
-        replaceValues(content.values);
+        auto values = _values;
+        values.insert(report.content.values);
+        takeValues(values, report.overtaken);
+        noteChanges(_values);
+        handOver();
     }
 }
 
-/// Tells of what is another value now. A value that is the same in the file keeps its type.
-void SettingsStore::replaceValues(const SettingsFile::Values& values) {
+/// Whatever is not to be stored in any case.
+void SettingsStore::noteChanges(const SettingsFile::Values& values) {
+    const auto now = std::chrono::system_clock::now();
+    for (auto value = values.begin(); value != values.end(); ++value) {
+        if (!_changes.contains(value.key())) {
+            _changes.insert(value.key(), {value.value(), now});
+        }
+    }
+}
+
+/// Tells of what is another value now. A value that is the same in the file keeps its type. Changes
+/// that somebody else has overtaken are forgotten, unless they have been made again.
+void SettingsStore::takeValues(const SettingsFile::Values& values,
+                               const QHash<QString, SettingsFile::Time>& overtaken) {
     auto keys = QSet<QString>(_values.keyBegin(), _values.keyEnd());
     keys.unite(QSet<QString>(values.keyBegin(), values.keyEnd()));
-    QStringList others;
+    keys.unite(QSet<QString>(overtaken.keyBegin(), overtaken.keyEnd()));
+    QHash<QString, QVariant> before;
     for (const auto& key : std::as_const(keys)) {
-        const auto value = values.value(key);
-        if (areSame(_values.value(key), value)) {
-            continue;
-        }
-        const auto before = objectForKey(key);
-        if (value.isValid()) {
-            _values.insert(key, value);
-        } else {
-            _values.remove(key);
-        }
-        if (!areSame(before, objectForKey(key))) {
-            others.append(key);
+        before.insert(key, objectForKey(key));
+        if (!areSame(_values.value(key), values.value(key))) {
+            putValue(values.value(key), key);
         }
     }
+    forgetChanges(overtaken);
+    QStringList others = keys.values();
+    others.removeIf(
+        [&](const QString& key) { return areSame(before.value(key), objectForKey(key)); });
     others.sort();
     for (const auto& key : std::as_const(others)) {
         Q_EMIT changed(key);
     }
+}
+
+void SettingsStore::putValue(const QVariant& value, const QString& key) {
+    if (value.isValid()) {
+        _values.insert(key, value);
+    } else {
+        _values.remove(key);
+    }
+}
+
+void SettingsStore::forgetChanges(const QHash<QString, SettingsFile::Time>& overtaken) {
+    auto keys = overtaken.keys();
+    keys.removeIf([&](const QString& key) {
+        const auto change = _changes.constFind(key);
+        return change == _changes.constEnd() || change->made > overtaken.value(key);
+    });
+    if (keys.isEmpty()) {
+        return;
+    }
+    keys.sort();
+    logLine(u"Another program's values in %1 hold: %2"_s.arg(_fileName, keys.join(u", ")));
+    _changes.removeIf([&](const auto& change) { return keys.contains(change.key()); });
 }

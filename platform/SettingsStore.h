@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/SettingsFile.h"
+#include "platform/SettingsWriter.h"
 
 #include <QFileSystemWatcher>
 #include <QHash>
@@ -13,13 +14,16 @@
 #include <memory>
 
 class MainQueue;
-class SettingsWriter;
 
 /// The operator's settings: a per-user store of values by key, in an INI file that people may read
 /// and edit, under which registered defaults lie that are never written. Main thread only.
 ///
 /// The file is read when the store is made, and then again whenever it changes; what another
 /// program writes there holds at once. The main thread never waits for it afterwards.
+///
+/// Only keys that were changed here are written. Of a key that was changed in both places, the
+/// later change holds: one of another program's that is found in the file, and was written there
+/// after this one's, takes the place of a change that is still to be stored.
 class SettingsStore final : public QObject {
     Q_OBJECT
   public:
@@ -32,7 +36,7 @@ class SettingsStore final : public QObject {
     /// A file that is there and damaged is moved aside before anything is written, so that nothing
     /// in it is lost; corruptFile() then names it. A file that cannot be moved or cannot be read
     /// stays as it is, and a file beside it, its name ending in .new, is used. What cannot be
-    /// stored is tried again after `retryTime`.
+    /// stored is tried again after `retryTime`, then ever less often.
     explicit SettingsStore(const QString& path,
                            std::chrono::milliseconds retryTime = std::chrono::seconds(5));
     ~SettingsStore() override;
@@ -63,7 +67,7 @@ class SettingsStore final : public QObject {
     /// Writes what is not yet in the file, and waits for it. False when it could not be written.
     [[nodiscard]] bool synchronize();
 
-    /// What was wrong with the file when the store was made.
+    /// What was wrong with the file when the store was made, or has been last.
     [[nodiscard]] SettingsFile::Damage damage() const { return _damage; }
     /// Where a damaged file is now: aside, or still at path(). Null when the file was sound, or
     /// could not be read at all.
@@ -85,15 +89,22 @@ class SettingsStore final : public QObject {
     /// The file could not be written, for the first time or since it last could: what changes is
     /// kept in memory, and stored as soon as it can be. See problem() and keysNotStored().
     void storingFailed();
+    /// The file was found to be damaged while it was in use. It has been put aside, and the
+    /// settings have been stored anew. See damage() and corruptFile().
+    void damageFound();
 
   private:
     void readAtStart();
     void watch();
     void handOver();
-    void takeReading(const SettingsFile::Content& content);
-    void takeStored(quint64 number, const SettingsFile::Values& values);
+    void noteChanges(const SettingsFile::Values& values);
+    void takeReading(const SettingsWriter::Report& report);
+    void takeStored(const SettingsWriter::Report& report);
     void takeProblem(const QString& problem);
-    void replaceValues(const SettingsFile::Values& values);
+    void takeValues(const SettingsFile::Values& values,
+                    const QHash<QString, SettingsFile::Time>& overtaken);
+    void putValue(const QVariant& value, const QString& key);
+    void forgetChanges(const QHash<QString, SettingsFile::Time>& overtaken);
 
     QString _path;
     QString _fileName;
@@ -101,10 +112,10 @@ class SettingsStore final : public QObject {
     QString _corruptFile;
     /// What the file says.
     SettingsFile::Values _values;
-    /// What is to be put into it, of which an invalid value removes the key.
-    SettingsFile::Values _changes;
+    /// What is to be put into it.
+    SettingsFile::Changes _changes;
     /// Of the job that was last handed over.
-    SettingsFile::Values _changesHandedOver;
+    SettingsFile::Changes _changesHandedOver;
     quint64 _lastJob = 0;
     QString _problem;
     bool _isDamaged = false;

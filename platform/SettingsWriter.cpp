@@ -2,6 +2,7 @@
 
 #include "platform/WorkerThread.h"
 
+#include <algorithm>
 #include <condition_variable>
 #include <mutex>
 #include <optional>
@@ -10,8 +11,14 @@ using namespace std::chrono_literals;
 
 namespace {
 
+using SettingsFile::Damage;
+using std::chrono::steady_clock;
+
 /// What an ending waits for at most: a lock for a second, and a disk that is busy.
 constexpr auto patience = 3s;
+
+/// Times the first pause, of which each is twice the last.
+constexpr int longestPause = 64;
 
 } // namespace
 
@@ -21,6 +28,10 @@ struct SettingsWriter::State {
     void waitForWork(std::unique_lock<std::mutex>& lock);
     void read(std::unique_lock<std::mutex>& lock);
     void write(std::unique_lock<std::mutex>& lock);
+    void noteFailure();
+    void note(const SettingsFile::Changes& changes, const QStringList& overtakenKeys);
+    void dropOvertaken(SettingsFile::Changes& changes) const;
+    [[nodiscard]] QHash<QString, SettingsFile::Time> timesOf(const QStringList& keys) const;
 
     QString path;
     Receiver receiver;
@@ -36,14 +47,26 @@ struct SettingsWriter::State {
     bool hasEnded = false;
     quint64 lastTried = 0;
     quint64 lastStored = 0;
+
+    /// What the file said when it was last looked at.
+    SettingsFile::Values known;
+    /// Of each key the last change that somebody else has overtaken. It may come again in a later
+    /// job, which was made before anybody heard of that.
+    QHash<QString, SettingsFile::Time> overtaken;
+    std::chrono::milliseconds pause{};
+    steady_clock::time_point nextTry;
+    /// Of the last attempt that failed.
+    QString situation;
 };
 
-SettingsWriter::SettingsWriter(const QString& path, Receiver receiver,
-                               std::chrono::milliseconds retryTime)
+SettingsWriter::SettingsWriter(const QString& path, const SettingsFile::Values& known,
+                               Receiver receiver, std::chrono::milliseconds retryTime)
     : _state(std::make_shared<State>()) {
     _state->path = path;
+    _state->known = known;
     _state->receiver = std::move(receiver);
     _state->retryTime = retryTime;
+    _state->pause = retryTime;
     _thread = startWorker("settings", [state = _state](const std::stop_token&) { state->run(); });
 }
 
@@ -96,7 +119,7 @@ void SettingsWriter::State::waitForWork(std::unique_lock<std::mutex>& lock) {
     const auto hasWork = [this] { return isEnding || isReadWanted || (job && isJobDue); };
     if (!job) {
         changed.wait(lock, hasWork);
-    } else if (!changed.wait_for(lock, retryTime, hasWork)) {
+    } else if (!changed.wait_until(lock, nextTry, hasWork)) {
         isJobDue = true;
     }
 }
@@ -105,29 +128,80 @@ void SettingsWriter::State::read(std::unique_lock<std::mutex>& lock) {
     isReadWanted = false;
     lock.unlock();
     const auto content = SettingsFile::read(path);
+    const auto found = SettingsFile::situation(path);
     lock.lock();
-    // What has changed there may be what stood in the way.
-    isJobDue = true;
+    Report report{0, {}, content, {}, {}};
+    if (content.damage == Damage::None) {
+        if (job) {
+            const auto keys = SettingsFile::overtaken(job->changes, content, known);
+            note(job->changes, keys);
+            report.overtaken = timesOf(keys);
+        }
+        known = content.values;
+    }
+    // What has changed there may be what stood in the way. What an attempt itself leaves in the
+    // folder is no such change: one would follow the other without end.
+    isJobDue = isJobDue || found != situation;
     if (receiver) {
-        receiver({0, {}, content});
+        receiver(report);
     }
 }
 
 void SettingsWriter::State::write(std::unique_lock<std::mutex>& lock) {
+    dropOvertaken(job->changes);
     const auto tried = *job;
+    const auto knownThen = known;
     lock.unlock();
-    const auto result = SettingsFile::write(path, tried.changes, tried.known);
+    const auto result = SettingsFile::write(path, tried.changes, knownThen);
     lock.lock();
     const bool isLast = job->number == tried.number;
     lastTried = tried.number;
+    isJobDue = !isLast;
+    note(tried.changes, result.overtaken);
     if (result.problem.isNull()) {
         lastStored = tried.number;
+        known = result.values;
+        pause = retryTime;
+        situation.clear();
+        if (isLast) {
+            job.reset();
+        }
+    } else {
+        noteFailure();
     }
-    if (isLast && result.problem.isNull()) {
-        job.reset();
-    }
-    isJobDue = !isLast;
     if (receiver) {
-        receiver({tried.number, result.problem, {result.values}});
+        receiver({tried.number,
+                  result.problem,
+                  {result.values, result.damage, {}},
+                  timesOf(result.overtaken),
+                  result.aside});
     }
+}
+
+void SettingsWriter::State::noteFailure() {
+    situation = SettingsFile::situation(path);
+    nextTry = steady_clock::now() + pause;
+    pause = std::min(pause * 2, retryTime * longestPause);
+}
+
+void SettingsWriter::State::note(const SettingsFile::Changes& changes,
+                                 const QStringList& overtakenKeys) {
+    for (const auto& key : overtakenKeys) {
+        overtaken.insert(key, changes.value(key).made);
+    }
+}
+
+void SettingsWriter::State::dropOvertaken(SettingsFile::Changes& changes) const {
+    changes.removeIf([this](const auto& change) {
+        const auto last = overtaken.constFind(change.key());
+        return last != overtaken.constEnd() && change->made <= *last;
+    });
+}
+
+QHash<QString, SettingsFile::Time> SettingsWriter::State::timesOf(const QStringList& keys) const {
+    QHash<QString, SettingsFile::Time> times;
+    for (const auto& key : keys) {
+        times.insert(key, overtaken.value(key));
+    }
+    return times;
 }

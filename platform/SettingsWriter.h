@@ -13,10 +13,8 @@
 class SettingsWriter {
   public:
     struct Job {
-        /// What is to be stored, of which an invalid value removes the key.
-        SettingsFile::Values changes;
-        /// What the file said last.
-        SettingsFile::Values known;
+        /// What is to be stored.
+        SettingsFile::Changes changes;
         /// Tells jobs apart; the later, the greater.
         quint64 number = 0;
     };
@@ -27,13 +25,21 @@ class SettingsWriter {
         quint64 number = 0;
         /// Why nothing could be written; null when all went well.
         QString problem;
-        /// What the file says, if it was no problem and no damage.
+        /// What the file says, if it was no problem.
         SettingsFile::Content content;
+        /// The changes that were not written, or are not going to be, since somebody else has
+        /// overtaken them, with the time when they were made.
+        QHash<QString, SettingsFile::Time> overtaken;
+        /// Where the damaged file is, of which `content` tells the damage; null if none was there.
+        QString aside;
     };
     /// Called on the writer's thread.
     using Receiver = std::function<void(const Report&)>;
 
-    SettingsWriter(const QString& path, Receiver receiver, std::chrono::milliseconds retryTime);
+    /// `known` is what the file says. What cannot be written is tried again after `retryTime`, then
+    /// after twice as long each time, up to a few minutes; or once the file or its folder changes.
+    SettingsWriter(const QString& path, const SettingsFile::Values& known, Receiver receiver,
+                   std::chrono::milliseconds retryTime);
     SettingsWriter(const SettingsWriter&) = delete;
     SettingsWriter& operator=(const SettingsWriter&) = delete;
     /// Gives the last job some seconds to be done. A disk that takes longer keeps the process from

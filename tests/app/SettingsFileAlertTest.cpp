@@ -9,11 +9,11 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <chrono>
 #include <memory>
 #include <sys/stat.h>
 
 using namespace Qt::StringLiterals;
-using namespace std::chrono_literals;
 
 class SettingsFileAlertTest : public QObject {
     Q_OBJECT
@@ -28,6 +28,8 @@ class SettingsFileAlertTest : public QObject {
     void saysThatAFileWasLeftInPlace();
     void saysThatAFileMayNotBeRead();
     void namesWhatWillBeLost();
+    void namesSomeOfWhatWillBeLost();
+    void namesWhereADamagedFileIsNow();
 
   private:
     void write(const QByteArray& content) const;
@@ -100,7 +102,7 @@ void SettingsFileAlertTest::saysThatAFileMayNotBeRead() {
 }
 
 void SettingsFileAlertTest::namesWhatWillBeLost() {
-    SettingsStore store(path(), 20ms);
+    SettingsStore store(path(), std::chrono::milliseconds{20});
     QVERIFY(!settingsNotStoredAlert(store));
     QVERIFY(QDir().mkdir(path()));
     store.setObject(u"N0CALL"_s, u"MyCall"_s);
@@ -109,10 +111,36 @@ void SettingsFileAlertTest::namesWhatWillBeLost() {
     const auto alert = settingsNotStoredAlert(store);
     QCOMPARE(alert->messageText, u"Your settings cannot be stored."_s);
     QCOMPARE(alert->informativeText,
-             u"%1 cannot be written: Is a directory. What you have changed holds until you quit, "
+             u"%1 cannot be written: Is a directory. What is not stored holds until you quit, "
              "and is lost then unless it can be stored before: MyCall, Speed."_s.arg(path()));
     QVERIFY(QDir().rmdir(path()));
     QTRY_VERIFY(!settingsNotStoredAlert(store));
+}
+
+void SettingsFileAlertTest::namesSomeOfWhatWillBeLost() {
+    SettingsStore store(path(), std::chrono::milliseconds{20});
+    QVERIFY(QDir().mkdir(path()));
+    for (char16_t letter = u'a'; letter < u'a' + 20; ++letter) {
+        store.setObject(1, QString(letter));
+    }
+    QTRY_VERIFY(settingsNotStoredAlert(store));
+    QVERIFY(settingsNotStoredAlert(store)->informativeText.endsWith(
+        u"before: a, b, c, d, e, f, g, h \u2026 (20 in all)."_s));
+}
+
+void SettingsFileAlertTest::namesWhereADamagedFileIsNow() {
+    write("[General]\nMyCall=N0CALL\n");
+    SettingsStore store(path(), std::chrono::milliseconds{20});
+    QVERIFY(!settingsDamagedAlert(store));
+    QVERIFY(QFile::remove(path()));
+    write("[General]\nMyCall=\"N0CALL\n");
+    QTRY_VERIFY(settingsDamagedAlert(store));
+    const auto alert = settingsDamagedAlert(store);
+    QCOMPARE(alert->messageText, u"Your settings were damaged by another program."_s);
+    QCOMPARE(alert->informativeText,
+             u"A quotation mark in %1 is not closed. Nothing of it is lost: it is now %2. Of what "
+             "cannot be read, the last settings hold, and have been stored anew."_s.arg(
+                 path(), store.corruptFile()));
 }
 
 static const RegisteredTest<SettingsFileAlertTest> registered;

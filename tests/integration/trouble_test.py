@@ -70,12 +70,14 @@ class TroubleTest(ProgramTest):
         keyer, quorvel, _ = self.start_connected()
         self.settings.unlink()
         self.settings.mkdir()
-        # A change: that its port has gone is stored.
-        keyer.end(signal.SIGKILL)
-        self.answer_alert(quorvel, f"The WinKeyer using serial port {PORT} has been unplugged.")
         self.answer_alert(quorvel, "Your settings cannot be stored.")
         self.assertIn(f"Settings are not stored in {self.settings}: Is a directory",
                       quorvel.errors())
+        keyer.end(signal.SIGKILL)
+        self.answer_alert(quorvel, f"The WinKeyer using serial port {PORT} has been unplugged.")
+        self.settings.rmdir()
+        wait_for("the settings to be stored", self.settings.is_file)
+        self.assertIn(PORT, self.settings.read_text())
         self.assertEqual(quorvel.end(), 0)
 
     def test_a_port_that_another_program_reads_is_refused_by_name(self):

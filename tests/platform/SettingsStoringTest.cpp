@@ -77,7 +77,6 @@ class SettingsStoringTest : public QObject {
     void theChangesOfAnotherProgramAreNotOverwritten();
     void aChangeThatIsNoneIsNotAnnounced();
     void aFileThatGoesTakesItsValuesAlong();
-    void aFileThatIsDamagedMeanwhileIsPutAside();
     void theLastChangeIsStoredAtTheEnd();
     void whatIsLostAtTheEndIsLogged();
 
@@ -88,7 +87,6 @@ class SettingsStoringTest : public QObject {
     void setMode(const QString& file, mode_t mode) const { ::chmod(name(file).constData(), mode); }
     [[nodiscard]] static mode_t modeOf(const QString& file);
     [[nodiscard]] QByteArray content() const;
-    [[nodiscard]] QString fileAside() const;
     void putInTheWay(const QString& obstacle);
     void takeOutOfTheWay(const QString& obstacle);
 
@@ -413,28 +411,6 @@ void SettingsStoringTest::aFileThatGoesTakesItsValuesAlong() {
     QTRY_VERIFY(!store.objectForKey(u"a"_s).isValid());
     store.setObject(2, u"b"_s);
     QTRY_COMPARE(content(), "[General]\nb=2\n"_ba);
-}
-
-void SettingsStoringTest::aFileThatIsDamagedMeanwhileIsPutAside() {
-    write("[General]\na=1\n");
-    const LogKeeper log;
-    SettingsStore store(path());
-    write("junk");
-    QTRY_COMPARE(
-        log.lines(),
-        QStringList{u"What is in %1 now are no settings; the last ones hold"_s.arg(path())});
-    QCOMPARE(store.integerForKey(u"a"_s), 1);
-    QCOMPARE(content(), "junk"_ba);
-    store.setObject(2, u"b"_s);
-    QTRY_COMPARE(content(), "[General]\na=1\nb=2\n"_ba);
-    QFile aside(fileAside());
-    QVERIFY(aside.open(QIODevice::ReadOnly));
-    QCOMPARE(aside.readAll(), "junk"_ba);
-}
-
-QString SettingsStoringTest::fileAside() const {
-    const auto found = QDir(folder()).entryList({u"*.corrupt-*"_s});
-    return found.size() == 1 ? folder() + u'/' + found[0] : QString();
 }
 
 void SettingsStoringTest::theLastChangeIsStoredAtTheEnd() {
