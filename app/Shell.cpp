@@ -5,11 +5,9 @@
 #include "platform/SettingsStore.h"
 #include "platform/linux/KeyGuardProcess.h"
 #include "platform/linux/SingleInstance.h"
-#include "preferences/MBPreferencesController.h"
 
 #include <QTimer>
 
-using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
 namespace {
@@ -35,7 +33,7 @@ Shell::Shell(WinKeyerUsb& engine, DesktopApplication& alerts, SettingsStore& set
       _quit(Qt::CTRL | Qt::Key_Q),
       _termination(_delegate) {
     _delegate.awakeFromNib(_window.hisCallsignTextField());
-    _preferences.awakeFromNib();
+    PreferencesController::launch();
     connectWindow();
     connectPreferences();
     connectHelp();
@@ -62,7 +60,8 @@ void Shell::connectWindow() {
 void Shell::connectPreferences() {
     QObject::connect(&_window, &MainWindow::preferencesRequested, &_preferences,
                      [this] { _preferences.showPreferences(&_window); });
-    QObject::connect(&_window, &MainWindow::portRequested, &_preferences, [this] { choosePort(); });
+    QObject::connect(&_window, &MainWindow::portRequested, &_preferences,
+                     [this] { _preferences.showPortChoice(&_window); });
     QObject::connect(&_delegate, &QuorvelDelegate::serialPortNameArrayChanged, &_preferences,
                      [this] { _preferences.setSerialPortNames(_delegate.serialPortNameArray()); });
 }
@@ -113,12 +112,6 @@ void Shell::connectSettings() {
     QObject::connect(&_settings, &SettingsStore::damageFound, &_window, [this] {
         _alerts.runModalWhenFree([this] { return settingsDamagedAlert(_settings); });
     });
-}
-
-void Shell::choosePort() {
-    MBPreferencesController::sharedController().setSelectedPreferenceItemWithIdentifier(
-        u"PreferencesGeneralPane"_s);
-    _preferences.showPreferences(&_window);
 }
 
 void Shell::finishLaunching() {

@@ -81,6 +81,13 @@ MBPreferencesController::~MBPreferencesController() {
     takeViewOut();
 }
 
+void MBPreferencesController::rememberOneOf(const QStringList& identifiers) {
+    auto& settings = SettingsStore::standardUserDefaults();
+    if (!identifiers.contains(settings.stringForKey(MBPreferencesSelection))) {
+        settings.setObject(identifiers.constFirst(), MBPreferencesSelection);
+    }
+}
+
 void MBPreferencesController::setUpToolbar() {
     _toolbar = _window.addToolBar(tr("Preferences"));
     _toolbar->setObjectName(u"PreferencesToolbar"_s);

@@ -28,6 +28,10 @@ class MBPreferencesController final : public QObject {
     [[nodiscard]] static MBPreferencesController& sharedController();
     ~MBPreferencesController() override;
 
+    /// Remembers the first of these identifiers of modules as the one shown last, unless one of
+    /// them is remembered already: what selecting a module does where there is no window yet.
+    static void rememberOneOf(const QStringList& identifiers);
+
     [[nodiscard]] const std::shared_ptr<const Modules>& modules() const { return _modules; }
     /// Puts items for the modules behind the toolbar's first item, which is never removed, and
     /// selects the module that was shown last, else the first. The same list changes nothing.

@@ -9,7 +9,16 @@
 
 PreferencesController::PreferencesController(WinKeyerUsb& engine) : _engine(engine) {}
 
+void PreferencesController::launch() {
+    MBPreferencesController::rememberOneOf({PreferencesGeneralViewController::name,
+                                            PreferencesMessagesViewController::name,
+                                            PreferencesWinKeyerViewController::name});
+}
+
 void PreferencesController::awakeFromNib() {
+    if (!_general.expired()) {
+        return;
+    }
     const auto general = std::make_shared<PreferencesGeneralViewController>(_engine);
     _general = general;
     const auto panes =
@@ -20,13 +29,25 @@ void PreferencesController::awakeFromNib() {
         pane->view()->resize(pane->view()->sizeHint());
     }
     MBPreferencesController::sharedController().setModules(panes);
+    if (!_portNames.isEmpty()) {
+        general->setSerialPortNames(_portNames);
+    }
 }
 
 void PreferencesController::showPreferences(const QObject* sender) {
+    awakeFromNib();
     MBPreferencesController::sharedController().showWindow(sender);
 }
 
+void PreferencesController::showPortChoice(const QObject* sender) {
+    awakeFromNib();
+    MBPreferencesController::sharedController().setSelectedPreferenceItemWithIdentifier(
+        PreferencesGeneralViewController::name);
+    showPreferences(sender);
+}
+
 void PreferencesController::setSerialPortNames(const QStringList& names) {
+    _portNames = names;
     if (const auto general = _general.lock()) {
         general->setSerialPortNames(names);
     }

@@ -15,17 +15,24 @@ class PreferencesController final : public QObject {
     /// `engine` must outlive the panes, which live as long as the preferences' window.
     explicit PreferencesController(WinKeyerUsb& engine);
 
-    /// Makes the panes and hands them to the window, which selects one. To be called once, after
-    /// all defaults are registered.
+    /// What the launch owes: a pane is selected, and remembered. The window that shows it, a third
+    /// of what the program would have to do at its start, is made when somebody asks for it.
+    static void launch();
+
+    /// Makes the panes and hands them to the window, which selects one; once, after all defaults
+    /// are registered. A second call does nothing.
     void awakeFromNib();
 
-    /// Shows the preferences window, in front of all others.
+    /// Shows the preferences window, in front of all others, with the pane that was shown last.
     void showPreferences(const QObject* sender);
+    /// The same with the pane of the serial port.
+    void showPortChoice(const QObject* sender);
 
-    /// The serial ports that can be chosen, "None" among them; from awakeFromNib on.
+    /// The serial ports that can be chosen, "None" among them.
     void setSerialPortNames(const QStringList& names);
 
   private:
     WinKeyerUsb& _engine;
+    QStringList _portNames;
     std::weak_ptr<PreferencesGeneralViewController> _general;
 };

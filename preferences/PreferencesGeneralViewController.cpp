@@ -34,7 +34,7 @@ QString PreferencesGeneralViewController::title() const {
 }
 
 QString PreferencesGeneralViewController::identifier() const {
-    return u"PreferencesGeneralPane"_s;
+    return name;
 }
 
 QIcon PreferencesGeneralViewController::image() const {

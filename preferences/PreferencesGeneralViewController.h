@@ -18,6 +18,9 @@ class PreferencesGeneralPane;
 class PreferencesGeneralViewController final : public QObject, public MBPreferencesModule {
     Q_OBJECT
   public:
+    /// The pane's identifier.
+    static constexpr QLatin1StringView name{"PreferencesGeneralPane"};
+
     /// `engine` must outlive the pane.
     explicit PreferencesGeneralViewController(const WinKeyerUsb& engine);
     ~PreferencesGeneralViewController() override;

@@ -55,7 +55,7 @@ QString PreferencesMessagesViewController::title() const {
 }
 
 QString PreferencesMessagesViewController::identifier() const {
-    return u"PreferencesMessagesPane"_s;
+    return name;
 }
 
 QIcon PreferencesMessagesViewController::image() const {

@@ -18,6 +18,9 @@ class PreferencesMessagesPane;
 class PreferencesMessagesViewController final : public QObject, public MBPreferencesModule {
     Q_OBJECT
   public:
+    /// The pane's identifier.
+    static constexpr QLatin1StringView name{"PreferencesMessagesPane"};
+
     /// Registers the defaults of all that. To be called before any setting is read.
     static void initialize();
 

@@ -37,7 +37,7 @@ QString PreferencesWinKeyerViewController::title() const {
 }
 
 QString PreferencesWinKeyerViewController::identifier() const {
-    return u"PreferencesWinKeyerPane"_s;
+    return name;
 }
 
 QIcon PreferencesWinKeyerViewController::image() const {

@@ -23,6 +23,9 @@ class PreferencesWinKeyerPane;
 class PreferencesWinKeyerViewController final : public QObject, public MBPreferencesModule {
     Q_OBJECT
   public:
+    /// The pane's identifier.
+    static constexpr QLatin1StringView name{"PreferencesWinKeyerPane"};
+
     /// Makes the view and binds its controls to their settings and actions. `engine` must outlive
     /// the pane.
     explicit PreferencesWinKeyerViewController(WinKeyerUsb& engine);

@@ -11,6 +11,7 @@
 #include "tests/support/RegisteredTest.h"
 #include "tests/support/TestPlatform.h"
 
+#include <QApplication>
 #include <QComboBox>
 #include <QLabel>
 #include <QTabWidget>
@@ -37,6 +38,10 @@ class PreferencesControllerTest : public QObject {
     void theLinkToAnOrdinaryAdapterIsToldInFull();
     void thePortsReachTheirPane();
     void portsBeforeThePanesAreNoMatter();
+    void theLaunchMakesNoWidgets();
+    void theLaunchRemembersAPane_data();
+    void theLaunchRemembersAPane();
+    void theChoiceOfThePortIsShownWhateverWasShownLast();
 
   private:
     [[nodiscard]] static MBPreferencesController& window() {
@@ -196,6 +201,54 @@ void PreferencesControllerTest::portsBeforeThePanesAreNoMatter() {
     controller.setSerialPortNames({u"None"_s});
     controller.awakeFromNib();
     QCOMPARE(window().modules()->size(), 3);
+}
+
+void PreferencesControllerTest::theLaunchMakesNoWidgets() {
+    const auto before = QApplication::allWidgets().size();
+    PreferencesController::launch();
+    PreferencesController controller(WinKeyerUsb::sharedInstance());
+    controller.setSerialPortNames({u"None"_s, u"usbserial-A"_s});
+    QCOMPARE(QApplication::allWidgets().size(), before);
+    controller.showPreferences(this);
+    QVERIFY(QApplication::allWidgets().size() > before + 100);
+    const auto* chooser =
+        window().currentModule()->view()->findChild<QComboBox*>(u"serialPortChooser"_s);
+    QCOMPARE(chooser->itemText(1), u"usbserial-A"_s);
+}
+
+void PreferencesControllerTest::theLaunchRemembersAPane_data() {
+    QTest::addColumn<QString>("before");
+    QTest::addColumn<QString>("after");
+    QTest::addRow("the first launch") << QString() << u"PreferencesGeneralPane"_s;
+    QTest::addRow("a pane that there is")
+        << u"PreferencesWinKeyerPane"_s << u"PreferencesWinKeyerPane"_s;
+    QTest::addRow("a pane that there is no more") << u"Other"_s << u"PreferencesGeneralPane"_s;
+}
+
+void PreferencesControllerTest::theLaunchRemembersAPane() {
+    QFETCH(const QString, before);
+    const auto key = u"MBPreferencesSelection"_s;
+    if (!before.isNull()) {
+        _platform->settings().setObject(before, key);
+    }
+    PreferencesController::launch();
+    QTEST(_platform->settings().stringForKey(key), "after");
+    PreferencesController controller(WinKeyerUsb::sharedInstance());
+    controller.showPreferences(this);
+    QTEST(window().currentModule()->identifier(), "after");
+    QCOMPARE(window().modules()->size(), 3);
+}
+
+void PreferencesControllerTest::theChoiceOfThePortIsShownWhateverWasShownLast() {
+    _platform->settings().setObject(u"PreferencesWinKeyerPane"_s, u"MBPreferencesSelection"_s);
+    PreferencesController::launch();
+    PreferencesController controller(WinKeyerUsb::sharedInstance());
+    controller.showPortChoice(this);
+    QVERIFY(window().window().isVisible());
+    QCOMPARE(window().currentModule()->identifier(), u"PreferencesGeneralPane"_s);
+    const auto modules = window().modules();
+    controller.showPreferences(this);
+    QCOMPARE(window().modules(), modules);
 }
 
 static const RegisteredTest<PreferencesControllerTest> registered;
