@@ -57,6 +57,14 @@ QString stableLink(const TtyDevice& tty) {
 
 } // namespace
 
+QByteArrayList TtyDevice::kernelNamePatterns() {
+    QByteArrayList patterns;
+    for (const auto& family : families) {
+        patterns.append(QByteArray(family.kernelName.data(), family.kernelName.size()) + '*');
+    }
+    return patterns;
+}
+
 std::optional<SerialDevice> TtyDevice::serialDevice() const {
     const auto* const family = std::find_if(families.begin(), families.end(), [&](const auto& one) {
         return kernelName.startsWith(one.kernelName) &&

@@ -2,6 +2,7 @@
 
 #include "platform/linux/SerialDevice.h"
 
+#include <QByteArrayList>
 #include <QString>
 #include <QStringList>
 
@@ -28,4 +29,7 @@ struct TtyDevice {
     /// The serial device that it is; nothing for consoles, pseudo-terminals and ports without
     /// hardware.
     [[nodiscard]] std::optional<SerialDevice> serialDevice() const;
+
+    /// Patterns, as of a shell, of the kernel's names that a serial device can have.
+    [[nodiscard]] static QByteArrayList kernelNamePatterns();
 };

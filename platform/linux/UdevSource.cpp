@@ -76,6 +76,14 @@ TtyDevice ttyDevice(udev_device* device) {
             .identity = text(udev_device_get_syspath(device))};
 }
 
+/// Nothing is read of the consoles then, of which there are dozens.
+bool matchNames(udev_enumerate* enumerate) {
+    const auto patterns = TtyDevice::kernelNamePatterns();
+    return std::all_of(patterns.begin(), patterns.end(), [=](const QByteArray& pattern) {
+        return udev_enumerate_add_match_sysname(enumerate, pattern.constData()) >= 0;
+    });
+}
+
 void complain(const QString& what, int number) {
     logLine(u"%1: %2"_s.arg(what, QString::fromStdString(std::generic_category().message(number))));
 }
@@ -160,7 +168,7 @@ void UdevSource::scan() {
 std::optional<QList<SerialDevice>> UdevSource::scanned() const {
     const UdevEnumerate enumerate(udev_enumerate_new(_udev.get()));
     if (!enumerate || udev_enumerate_add_match_subsystem(enumerate.get(), "tty") < 0 ||
-        udev_enumerate_scan_devices(enumerate.get()) < 0) {
+        !matchNames(enumerate.get()) || udev_enumerate_scan_devices(enumerate.get()) < 0) {
         complain(u"Cannot list the serial devices"_s, errno);
         return std::nullopt;
     }

@@ -4,6 +4,9 @@
 
 #include <QTest>
 
+#include <algorithm>
+#include <fnmatch.h>
+
 using namespace Qt::StringLiterals;
 
 class TtyDeviceTest : public QObject {
@@ -17,6 +20,8 @@ class TtyDeviceTest : public QObject {
     void dialinPath();
     void keepsNodeAndIdentity();
     void onlyUsbIsUsb();
+    void itsPatternsFindEveryDevice_data();
+    void itsPatternsFindEveryDevice();
 };
 
 namespace {
@@ -127,6 +132,27 @@ void TtyDeviceTest::onlyUsbIsUsb() {
     QVERIFY(usb(u"ttyACM0"_s, u"1"_s).serialDevice().value().isUsb);
     QVERIFY(!own(u"ttyS0"_s, true).serialDevice().value().isUsb);
     QVERIFY(!own(u"rfcomm0"_s, true).serialDevice().value().isUsb);
+}
+
+void TtyDeviceTest::itsPatternsFindEveryDevice_data() {
+    QTest::addColumn<QByteArray>("kernelName");
+    QTest::addColumn<bool>("isFound");
+    for (const auto* each : {"ttyUSB0", "ttyACM12", "ttyS3", "ttyAMA0", "rfcomm1"}) {
+        QTest::newRow(each) << QByteArray(each) << true;
+    }
+    for (const auto* each : {"tty", "tty0", "tty63", "console", "ptmx"}) {
+        QTest::newRow(each) << QByteArray(each) << false;
+    }
+}
+
+void TtyDeviceTest::itsPatternsFindEveryDevice() {
+    QFETCH(const QByteArray, kernelName);
+    const auto patterns = TtyDevice::kernelNamePatterns();
+    QTEST(std::any_of(patterns.begin(), patterns.end(),
+                      [&](const QByteArray& pattern) {
+                          return ::fnmatch(pattern.constData(), kernelName.constData(), 0) == 0;
+                      }),
+          "isFound");
 }
 
 static const RegisteredTest<TtyDeviceTest> registered;
