@@ -11,8 +11,25 @@
 #include <cerrno>
 
 namespace {
+
 constexpr int longestBlock = 1024;
+
+/// A line that has no modem lines is reported a hundred times a second, in the same words, which
+/// nobody may read.
+Error posixError(int number, const QString& path) {
+    struct Report {
+        int number = 0;
+        QString path;
+        Error error;
+    };
+    static thread_local Report last;
+    if (last.number != number || last.path != path) {
+        last = {number, path, Error::ofPosix(number, path)};
+    }
+    return last.error;
 }
+
+} // namespace
 
 std::shared_ptr<ORSSerialPort> ORSSerialPort::serialPortWithPath(const QString& path) {
     const auto device = deviceFromBSDPath(path);
@@ -168,7 +185,7 @@ void ORSSerialPort::receiveData(const QByteArray& data) {
 void ORSSerialPort::notifyDelegateOfPosixError() {
     const auto number = errno;
     if (auto* const told = delegate()) {
-        told->serialPortDidEncounterError(*this, Error::ofPosix(number, _path));
+        told->serialPortDidEncounterError(*this, posixError(number, _path));
     }
 }
 

@@ -255,6 +255,21 @@ class ORSSerialPortTest : public QObject {
         bench.port->setDelegate(nullptr);
         bench.port->notifyDelegateOfPosixError();
     }
+
+    void theSameErrorIsPutIntoWordsOnce() {
+        PortBench bench;
+        for (const int number : {ENOTTY, ENOTTY, EIO, ENOTTY}) {
+            errno = number;
+            bench.port->notifyDelegateOfPosixError();
+        }
+        QStringList texts;
+        for (const auto& error : bench.delegate.errors()) {
+            texts.append(error.localizedDescription());
+        }
+        const auto refused = u"Inappropriate ioctl for device"_s;
+        QCOMPARE(texts, (QStringList{refused, refused, u"Input/output error"_s, refused}));
+        QCOMPARE(texts.at(1).constData(), texts.at(0).constData());
+    }
 };
 
 static const RegisteredTest<ORSSerialPortTest> registered;
