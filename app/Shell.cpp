@@ -29,6 +29,7 @@ Shell::Shell(WinKeyerUsb& engine, DesktopApplication& alerts, SettingsStore& set
       _preferences(engine),
       _portCheck(engine, _window),
       _virtualKeyer(VirtualKeyer::standardProgram()),
+      _freedMemory(engine),
       _escape(Qt::Key_Escape),
       _quit(Qt::CTRL | Qt::Key_Q),
       _termination(_delegate) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/ApplicationKey.h"
+#include "app/FreedMemory.h"
 #include "app/KeyGuard.h"
 #include "app/KeyRepeat.h"
 #include "app/KeyingRecord.h"
@@ -41,7 +42,6 @@ class Shell final {
     void connectWatchers();
     void connectWaysOut();
     void connectSettings();
-    void choosePort();
     void finishLaunching();
 
     DesktopApplication& _alerts;
@@ -56,6 +56,7 @@ class Shell final {
     PreferencesController _preferences;
     PortCheck _portCheck;
     VirtualKeyer _virtualKeyer;
+    const FreedMemory _freedMemory;
 
     const MenuShield _menuShield;
     const TypingWatch _typingWatch;
