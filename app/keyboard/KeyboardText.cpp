@@ -41,9 +41,10 @@ qsizetype wrappingSpace(const QTextBlock& paragraph, const QString& text) {
 /// Where the paragraph that begins at `start` and is too long is best broken. A sign whose call may
 /// have to be shown is the last choice: an end has no place for it.
 qsizetype breakAfter(const QString& text, qsizetype start) {
-    const auto space = text.lastIndexOf(u' ', start + wantedParagraph);
-    if (space > start) {
-        return space;
+    // Not the whole text's: that would be looked through anew for each paragraph.
+    const auto space = QStringView(text).mid(start, wantedParagraph + 1).lastIndexOf(u' ');
+    if (space > 0) {
+        return start + space;
     }
     auto letter = start + wantedParagraph;
     while (letter > start && text.at(letter) == u'~') {

@@ -28,6 +28,12 @@ QInputMethodEvent::Attribute underlined(qsizetype length) {
     return {QInputMethodEvent::TextFormat, 0, static_cast<int>(length), format};
 }
 
+/// What is kept of a long paste is laid out in one piece, and anew with each key.
+QString inShort(const QString& text) {
+    constexpr qsizetype shown = KeyboardText::longestParagraph / 2;
+    return text.size() <= 2 * shown ? text : text.first(shown) + u" … "_s + text.last(shown);
+}
+
 } // namespace
 
 /// Text that goes where the caret is, as if it had been composed there.
@@ -145,7 +151,7 @@ void KeyboardView::enterKey(const QKeyEvent& event) {
 void KeyboardView::inputMethodEvent(QInputMethodEvent* event) {
     _scrollRest.noteUse();
     const auto complete = readied(event->commitString(), textCursor());
-    const auto kept = _kept.all();
+    const auto kept = inShort(_kept.all());
     QList<QInputMethodEvent::Attribute> attributes;
     if (!kept.isEmpty()) {
         attributes.append(underlined(kept.size()));
@@ -157,7 +163,8 @@ void KeyboardView::inputMethodEvent(QInputMethodEvent* event) {
     }
     QInputMethodEvent composed(kept + event->preeditString(), attributes);
     const auto replaced = Composition::replacementAt(textCursor(), *event);
-    if (complete.size() > KeyboardText::longestParagraph && replaced.length == 0) {
+    const bool isInsertion = replaced.start == 0 && replaced.length == 0;
+    if (complete.size() > KeyboardText::longestParagraph && isInsertion) {
         enterLong(complete);
     } else {
         if (!complete.isEmpty()) {
@@ -181,6 +188,9 @@ void KeyboardView::dropCurrentFormat() {
 /// and lay that out as a whole.
 void KeyboardView::enterLong(const QString& text) {
     auto caret = textCursor();
+    if (Composition::isAt(caret)) {
+        Composition::removeFrom(*document()); // what is composed from now on follows the text
+    }
     const auto before = _engine.keyboardBuffer();
     const auto begin = caret.selectionStart();
     const auto behind = before.size() - caret.selectionEnd();

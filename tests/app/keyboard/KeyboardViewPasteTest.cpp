@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QTextBlock>
+#include <QTextLayout>
 
 #include <algorithm>
 #include <optional>
@@ -28,6 +29,8 @@ class KeyboardViewPasteTest : public QObject {
     void whatIsTypedOverALongWordIsOneStep();
     void tenTimesTheTextIsNoMoreChanges_data();
     void tenTimesTheTextIsNoMoreChanges();
+    void aSignAtTheEndOfAParagraphStaysOne();
+    void aLongTextThatIsHeldIsShownInShort();
     void aStopDropsThePastedText();
 
   private:
@@ -189,6 +192,37 @@ void KeyboardViewPasteTest::tenTimesTheTextIsNoMoreChanges() {
         engine().clearSending();
     }
     QCOMPARE(counts.at(1), counts.at(0));
+}
+
+/// There is no room for its call, the format of which would take the place of the sign.
+void KeyboardViewPasteTest::aSignAtTheEndOfAParagraphStaysOne() {
+    const auto signs = u"~"_s.repeated(1200) + u'E';
+    paste(signs);
+    QVERIFY(view().document()->blockCount() > 1);
+    _station->resume();
+    QCOMPARE(engine().outputBufferIndex(), signs.size());
+    _station->echo();
+    QCOMPARE(view().text(), signs);
+    _station->keys(u"k"_s);
+    QCOMPARE(engine().keyboardBuffer(), signs + u'K');
+}
+
+void KeyboardViewPasteTest::aLongTextThatIsHeldIsShownInShort() {
+    _station->resume();
+    _station->bench.receive({0xC2});
+    const auto text = u"PARIS "_s.repeated(5000);
+    paste(text);
+    QCOMPARE(engine().keyboardBuffer(), QString());
+    QCOMPARE(view().heldText(), text);
+    const auto shown = view().textCursor().block().layout()->preeditAreaText();
+    QVERIFY(shown.startsWith(u"PARIS"));
+    QCOMPARE_LE(shown.size(), longest + 10);
+    _station->bench.receive({0xC0});
+    view().handOverHeldText();
+    QCOMPARE(engine().keyboardBuffer(), text);
+    QCOMPARE(view().text(), text);
+    QVERIFY(view().textCursor().block().layout()->preeditAreaText().isEmpty());
+    QCOMPARE(view().textCursor().position(), text.size());
 }
 
 void KeyboardViewPasteTest::aStopDropsThePastedText() {
