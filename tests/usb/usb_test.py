@@ -29,6 +29,7 @@ class AdapterTest(unittest.TestCase):
 
     guest = None
     far_end = None
+    quorvel = None
 
     def setUp(self):
         self.addCleanup(self.leave)
@@ -121,6 +122,26 @@ class AdapterTest(unittest.TestCase):
         told = self.guest.read("udevadm info --query=property /dev/ttyUSB0")
         self.assertIn("ID_MM_DEVICE_IGNORE=1", told)
 
+    def test_9_says_what_is_in_the_way(self):
+        """the check of the ports tells a refused adapter, a held one and a keyer apart"""
+        check = f"{self.quorvel} --check-ports 2>/dev/null"
+        _, report = self.guest.run(f"{AS_NO_MEMBER.format(ANOTHER)} {check}")
+        self.assertIn(f"{NAME} (/dev/ttyUSB0, FTDI FT232)", report)
+        self.assertIn("You may not open it: the members of the group dialout may.", report)
+        self.assertIn("Whoever sits at this machine may as well", report)
+        before = len(self.guest.line_settings())
+        status, report = self.guest.run(f"{AS_USER} {check}")
+        self.assertEqual(status, 0, report)
+        self.assertIn("Nothing is in the way.", report)
+        self.assertEqual(self.guest.line_settings()[before:], [])
+        status, report = self.guest.run(
+            f"{AS_USER} {self.quorvel} --check-ports --ask-keyer {NAME} 2>/dev/null")
+        self.assertEqual(status, 0, report)
+        self.assertIn("A keyer answers on it.", report)
+        self.guest.start(f"{AS_USER} sleep 1000 </dev/ttyUSB0")
+        _, report = self.guest.run(f"{AS_USER} {check}")
+        self.assertIn("Another program has it open: sleep (process", report)
+
     def connect(self):
         self.assertEqual(self.probe.choose(NAME),
                          [f"opened {NAME} /dev/ttyUSB0", "keyer connected"])
@@ -167,6 +188,7 @@ def run(image, virtual_keyer, names, report):
         guest = AdapterTest.guest = Guest(image, directory, environment)
         stack.callback(guest.end)
         print(f"the guest has booted ({time.monotonic() - begin:.1f} s)", flush=True)
+        AdapterTest.quorvel = pathlib.Path(virtual_keyer).with_name("quorvel")
         far_end = AdapterTest.far_end = FarEnd(virtual_keyer, guest.wire(), directory, environment)
         stack.callback(far_end.end)
         loader = unittest.TestLoader()
