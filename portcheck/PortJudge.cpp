@@ -301,7 +301,10 @@ PortReport PortJudge::judge(const MachineFacts& facts) {
         })) {
         report.entries.append(judgeMissing(wanted));
     }
-    for (const auto& port : facts.ports) {
+    auto ports = facts.ports;
+    std::ranges::stable_partition(ports,
+                                  [&](const PortFacts& each) { return each.name == wanted; });
+    for (const auto& port : ports) {
         report.entries.append(judgePort(port, facts));
     }
     for (const auto& adapter : facts.adapters) {

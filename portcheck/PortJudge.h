@@ -15,7 +15,7 @@ class PortJudge {
     enum class Answer { Keyer, SomethingElse, Nothing, NotOpened };
 
     /// An entry for each port present, for each adapter without a port, for a chosen port that is
-    /// not there, and for a machine on which there is nothing to choose.
+    /// not there, and for a machine on which there is nothing to choose; the chosen port first.
     [[nodiscard]] static PortReport judge(const MachineFacts& facts);
     [[nodiscard]] static PortFinding judge(Answer answer);
 };

@@ -133,6 +133,8 @@ void FirstSteps::setEngine(const WinKeyerUsb& engine) {
                         : tr("Plug the keyer in, and say Yes to its port. If it was plugged in "
                              "before, choose its port."));
         markStep(keyerStep, isConnected);
+        // Its port would not be offered: there is one in use.
+        _virtualKeyerButton->setEnabled(!isConnected);
     };
     QObject::connect(&engine, &WinKeyerUsb::activityChanged, this, follow);
     follow();

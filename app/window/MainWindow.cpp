@@ -256,8 +256,11 @@ void MainWindow::setUpFirstSteps() {
         _ui->connectionStrip->setMuted(false);
         _keyboardView->setFocus();
     });
-    QObject::connect(_ui->virtualKeyerAction, &QAction::triggered, this,
-                     &MainWindow::virtualKeyerRequested);
+    auto* action = _ui->virtualKeyerAction;
+    QObject::connect(action, &QAction::triggered, this, &MainWindow::virtualKeyerRequested);
+    const auto follow = [this, action] { action->setEnabled(!_engine.isConnected()); };
+    QObject::connect(&_engine, &WinKeyerUsb::activityChanged, action, follow);
+    follow();
 }
 
 QLineEdit& MainWindow::hisCallsignTextField() const {

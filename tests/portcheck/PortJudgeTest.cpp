@@ -48,7 +48,7 @@ class PortJudgeTest : public QObject {
     void aPortWithAProblemIsNotAsked_data();
     void aPortWithAProblemIsNotAsked();
     void theGuardOfTheApplicationIsNoRival();
-    void aPortThatIsMissingComesFirst();
+    void theChosenPortComesFirst();
     void aMachineWithoutPortsIsToldSo();
     void anAnswerHasItsWords();
 };
@@ -203,13 +203,17 @@ void PortJudgeTest::theGuardOfTheApplicationIsNoRival() {
     QVERIFY(PortJudge::judge(facts).entries.first().hasProblem());
 }
 
-void PortJudgeTest::aPortThatIsMissingComesFirst() {
+void PortJudgeTest::theChosenPortComesFirst() {
     auto facts = machineWith(soundPort());
     facts.link.wantedPort = u"usbserial-WK9"_s;
     const auto report = PortJudge::judge(facts);
     QCOMPARE(report.entries.size(), 2);
     QCOMPARE(report.entries.first().title, u"usbserial-WK9, the port chosen last"_s);
     facts.link.wantedPort = u"usbserial-WK1"_s;
+    auto other = soundPort();
+    other.name = u"usbserial-WK0"_s;
+    facts.ports.prepend(other);
+    QCOMPARE(PortJudge::judge(facts).entries.size(), 2);
     QVERIFY(PortJudge::judge(facts).entries.first().title.endsWith(u"the port chosen last"));
 }
 

@@ -131,6 +131,8 @@ void FirstStepsTest::aKeyerOfSoftwareIsOfferedWhereThereIsOne() {
     click(*button);
     action->trigger();
     QCOMPARE(requests.size(), 2);
+    QVERIFY(_bench->connect());
+    QVERIFY(!button->isEnabled() && !action->isEnabled());
 }
 
 void FirstStepsTest::closingThemBringsTheStripBack() {
