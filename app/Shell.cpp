@@ -26,6 +26,8 @@ Shell::Shell(WinKeyerUsb& engine, DesktopApplication& alerts, SettingsStore& set
       _guard(engine, KeyGuardProcess::standardProgram()),
       _keyingRecord(engine, KeyingRecord::standardPath()),
       _window(engine),
+      _loggerQueue(engine, _window.speed()),
+      _loggerSocket(_loggerQueue, settings),
       _preferences(engine),
       _portCheck(engine, _window),
       _virtualKeyer(VirtualKeyer::standardProgram()),
@@ -39,6 +41,7 @@ Shell::Shell(WinKeyerUsb& engine, DesktopApplication& alerts, SettingsStore& set
     connectPreferences();
     connectHelp();
     connectWatchers();
+    connectLoggers();
     connectWaysOut();
     connectSettings();
 }
@@ -84,6 +87,14 @@ void Shell::connectWatchers() {
         _window.say(notice);
         _delegate.changeSerialPort(nullptr);
     });
+}
+
+void Shell::connectLoggers() {
+    const auto show = [this] { _window.showLoggers(_loggerSocket.notice()); };
+    QObject::connect(&_loggerSocket, &LoggerSocket::noticeChanged, &_window, show);
+    show();
+    // What they sent on the way out would be keyed by a program that nobody sees any more.
+    QObject::connect(&_termination, &Termination::begun, &_loggerSocket, &LoggerSocket::close);
 }
 
 void Shell::connectWaysOut() {

@@ -13,6 +13,8 @@
 #include "app/TypingWatch.h"
 #include "app/VirtualKeyer.h"
 #include "app/window/MainWindow.h"
+#include "loggers/LoggerQueue.h"
+#include "loggers/LoggerSocket.h"
 #include "platform/linux/SessionBus.h"
 #include "preferences/PreferencesController.h"
 
@@ -40,6 +42,7 @@ class Shell final {
     void connectPreferences();
     void connectHelp();
     void connectWatchers();
+    void connectLoggers();
     void connectWaysOut();
     void connectSettings();
     void finishLaunching();
@@ -53,6 +56,8 @@ class Shell final {
     /// Ahead of whatever sends: a key that was left down is let go of first.
     KeyingRecord _keyingRecord;
     MainWindow _window;
+    LoggerQueue _loggerQueue;
+    LoggerSocket _loggerSocket;
     PreferencesController _preferences;
     PortCheck _portCheck;
     VirtualKeyer _virtualKeyer;

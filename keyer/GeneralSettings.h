@@ -18,6 +18,11 @@ inline constexpr std::array<Choice, 5> tuneLimits{{{QLatin1StringView{"Off"}, 0}
 inline constexpr Setting TuneLimit{QLatin1StringView{"TuneLimit"}, QLatin1StringView{"Off"},
                                    tuneLimits};
 
+/// Whether loggers of this machine may send.
+inline constexpr QLatin1StringView AcceptLoggers{"AcceptLoggers"};
+/// The UDP port on which they are heard.
+inline constexpr Setting LoggerPort{QLatin1StringView{"LoggerPort"}, 6789, {}, Range{1024, 65535}};
+
 /// What WKPortName holds while no port is chosen.
 inline constexpr QLatin1StringView noPortName{"None"};
 
@@ -25,4 +30,6 @@ inline constexpr auto generalSettings = std::to_array<Setting>({
     {WKPortName, noPortName},
     {MyCall, QLatin1StringView{"your call"}},
     TuneLimit,
+    {AcceptLoggers, false},
+    LoggerPort,
 });

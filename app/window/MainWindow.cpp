@@ -10,11 +10,13 @@
 #include "app/window/HeldMessages.h"
 #include "app/window/MessageButtons.h"
 #include "app/window/ModeSwitches.h"
+#include "app/window/SettingAction.h"
 #include "app/window/SleepNotice.h"
 #include "app/window/TuneSwitch.h"
 #include "app/window/TuneTimer.h"
 #include "app/window/WindowPlace.h"
 #include "keyer/ChosenSpeed.h"
+#include "keyer/GeneralSettings.h"
 #include "keyer/KeyerWatch.h"
 #include "keyer/WinKeyerUsb.h"
 #include "ui_MainWindow.h"
@@ -238,6 +240,7 @@ void MainWindow::setUpMenus() {
                                                            .copy = _ui->copyAction,
                                                            .paste = _ui->pasteAction,
                                                            .selectAll = _ui->selectAllAction});
+    new SettingAction(*_ui->acceptLoggersAction, AcceptLoggers, this);
     QObject::connect(_ui->guideAction, &QAction::triggered, this, &MainWindow::showGuide);
     QObject::connect(_ui->checkPortsAction, &QAction::triggered, this,
                      &MainWindow::portCheckRequested);
@@ -353,7 +356,15 @@ void MainWindow::showNotice() {
     if (_keyboardView->isCaretInSentText()) {
         notices.append(tr("Typing here sends again: End goes to the end"));
     }
+    if (!_loggers.isEmpty()) {
+        notices.append(_loggers);
+    }
     _ui->keyerStatusLabel->setNotice(notices.join(u". "_s));
+}
+
+void MainWindow::showLoggers(const QString& notice) {
+    _loggers = notice;
+    showNotice();
 }
 
 /// The title is what is seen of a window that lies under others.

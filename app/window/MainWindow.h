@@ -47,6 +47,8 @@ class MainWindow final : public QMainWindow {
     void showFirstSteps();
     /// Offers to start a keyer made of software.
     void offerVirtualKeyer();
+    /// Says in the status line what there is to say of loggers; an empty text for nothing.
+    void showLoggers(const QString& notice);
     /// Has the operator see the window, also when it is minimised or closed; with the token that
     /// the desktop gave for that, or an empty one.
     void comeToFront(const QString& activationToken);
@@ -94,4 +96,5 @@ class MainWindow final : public QMainWindow {
     ContactFields* _contact = nullptr;
     TuneSwitch* _tuneSwitch = nullptr;
     GuideWindow* _guide = nullptr;
+    QString _loggers;
 };

@@ -78,6 +78,8 @@ const QList<std::pair<const char*, QVariant>>& expectedDefaults() {
         {"WKPortName", u"None"_s},
         {"MyCall", u"your call"_s},
         {"TuneLimit", u"Off"_s},
+        {"AcceptLoggers", false},
+        {"LoggerPort", 6789},
     };
     return all;
 }

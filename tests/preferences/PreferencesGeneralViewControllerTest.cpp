@@ -328,7 +328,7 @@ void PreferencesGeneralViewControllerTest::everyControlHasItsLabelsName() {
             ++count;
         }
     }
-    QCOMPARE(count, 3);
+    QCOMPARE(count, 4);
 }
 
 static const RegisteredTest<PreferencesGeneralViewControllerTest> registered;
