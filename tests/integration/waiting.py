@@ -5,9 +5,9 @@ import time
 PATIENCE = 30  # seconds; only a failure takes that long
 
 
-def wait_for(what, condition):
+def wait_for(what, condition, patience=PATIENCE):
     """Returns the first true value of condition(); fails after a while, saying what is missing."""
-    deadline = time.monotonic() + PATIENCE
+    deadline = time.monotonic() + patience
     while True:
         value = condition()
         if value:
