@@ -91,7 +91,7 @@ void LoggerQueueWireTest::prosignsAreKeyed() {
     // SN in one, and the E behind it with a letter's space.
     const auto& edges = _station->edges();
     QCOMPARE(edges.size(), 2U * 6);
-    constexpr auto dit = 60ms;
+    constexpr std::chrono::milliseconds dit{60};
     for (std::size_t i = 1; i < 5; ++i) {
         QVERIFY(edges[2 * i].at - edges[2 * i - 1].at == dit);
     }
