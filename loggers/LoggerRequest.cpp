@@ -66,13 +66,13 @@ Request readText(QByteArrayView text) {
 } // namespace
 
 Request read(const QByteArray& datagram) {
-    if (datagram.size() > longest) {
-        return {};
-    }
-    // Many a logger sends the end of its string along.
+    // Many a logger sends the end of its string along, and what of its memory lies behind that.
     QByteArrayView text(datagram);
     if (const auto end = text.indexOf('\0'); end >= 0) {
         text.truncate(end);
+    }
+    if (text.size() > longest) {
+        return {};
     }
     while (text.endsWith('\r') || text.endsWith('\n')) {
         text.chop(1);

@@ -9,7 +9,7 @@
 /// What a logger asks for in one datagram.
 namespace LoggerRequest {
 
-/// The most bytes that a datagram may have.
+/// The most bytes that a request may have, without what lies behind the end of its string.
 inline constexpr qsizetype longest = 256;
 
 /// To be keyed, behind what waits already.

@@ -205,6 +205,8 @@ void LoggerRequestTest::aLongDatagramMeansNothing() {
     QCOMPARE(std::visit(Told(), read(QByteArray(256, 'e'))),
              u"text %1 echo"_s.arg(QString(256, u'E')));
     QCOMPARE(std::visit(Told(), read(QByteArray(257, 'e'))), u"nothing"_s);
+    QCOMPARE(std::visit(Told(), read(QByteArray("cq\0", 3) + QByteArray(1000, 'e'))),
+             u"text CQ echo"_s);
 }
 
 static const RegisteredTest<LoggerRequestTest> registered;
