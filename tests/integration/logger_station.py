@@ -19,11 +19,11 @@ def free_port():
 class LoggerStationTest(ProgramTest):
     """Takes from `port`, and starts programs that send to it."""
 
-    def start_listening(self, settings=""):
+    def start_listening(self, port=None):
         """Keyer, application and its window, which hears loggers."""
-        self.port = free_port()
+        self.port = port or free_port()
         keyer, quorvel, window = self.start_connected(
-            f"{SETTINGS}AcceptLoggers=true\nLoggerPort={self.port}\n{settings}")
+            f"{SETTINGS}AcceptLoggers=true\nLoggerPort={self.port}\n")
         self.wait_for_status(quorvel, window, f"Loggers: port {self.port}")
         return keyer, quorvel, window
 
