@@ -21,7 +21,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         fuzz.receive("E");
         fuzz.clock().advance(std::chrono::milliseconds(datagram.size()));
     }
-    queue->take(LoggerRequest::Reset{}, from);
+    queue->reset();
     queue.reset();
     if (fuzz.engine().tuneState() != 0 ||
         fuzz.engine().outputBufferIndex() > fuzz.engine().keyboardBuffer().size()) {
