@@ -83,11 +83,13 @@ bool MainQueue::add(const std::shared_ptr<Job>& job) {
 }
 
 std::shared_ptr<MainQueue::Job> MainQueue::takeFirst() {
+    // Outlives the lock: what a dropped job holds may add another one as it ends.
+    std::shared_ptr<Job> job;
     const std::scoped_lock lock(_mutex);
     if (_jobs.empty()) {
         return nullptr;
     }
-    auto job = _jobs.front();
+    job = _jobs.front();
     _jobs.pop_front();
     if (job->state == Job::State::Dropped) {
         return nullptr;

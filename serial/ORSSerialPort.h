@@ -105,7 +105,7 @@ class ORSSerialPort final : public QObject, public std::enable_shared_from_this<
     /// Opens the device for this program alone; isOpen() says whether it worked. Failure is
     /// reported to the delegate later; of another program that has it open, the log tells which.
     /// What came in before is thrown away. A device that the last close() left to be closed is
-    /// waited for, half a second at most. Nothing happens to an open port.
+    /// waited for, a second and a half at most. Nothing happens to an open port.
     void open();
     /// Puts the device's old settings back and closes it, once what was written has gone out; what
     /// has not within a tenth of a second goes on without the port, and the device stays taken
@@ -250,5 +250,5 @@ class ORSSerialPort final : public QObject, public std::enable_shared_from_this<
     std::atomic<int> _maximumBlockSize;
     std::atomic<int> _fileDescriptor = 0;
     std::unique_ptr<PortOpening> _opening;
-    std::shared_future<void> _restOfClosing;
+    std::shared_future<bool> _endOfLast;
 };

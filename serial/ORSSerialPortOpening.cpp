@@ -6,6 +6,7 @@
 #include "serial/PortOpening.h"
 
 #include <cerrno>
+#include <chrono>
 #include <sys/eventfd.h>
 #include <termios.h>
 #include <unistd.h>
@@ -15,8 +16,18 @@ using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
 namespace {
-/// What a block leaves to be sent by the time that the keyer's link has been taken down in order.
-constexpr auto longestRest = 500ms;
+
+/// What is sent last is out by then, unless a block is ahead of it or the device takes nothing.
+constexpr auto longestDrain = 100ms;
+
+/// A device that has nothing to send takes some milliseconds, on a busy machine more; one whose
+/// driver hangs is waited for no longer.
+constexpr auto longestClose = 1s;
+
+/// Some drivers rest for two seconds when they close, and a block may be ahead of the keyer's end
+/// of the link: whoever wants the device again then gets it late rather than not at all.
+constexpr auto longestRest = 1500ms;
+
 } // namespace
 
 bool ORSSerialPort::isOpen() const {
@@ -41,6 +52,14 @@ void ORSSerialPort::open() {
     FileDescriptor wakeUp(::eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK));
     auto device = wakeUp.isValid() ? ExclusiveDevice::open(_path) : ExclusiveDevice::Device();
     if (!device.isValid()) {
+        queueErrorReport();
+        return;
+    }
+    // Whoever opened it since it was looked at has it still; from here on nobody can.
+    if (isUsedElsewhere()) {
+        static_cast<void>(ExclusiveDevice::release(device.descriptor));
+        device = {};
+        errno = EBUSY;
         queueErrorReport();
         return;
     }
@@ -103,7 +122,6 @@ bool ORSSerialPort::close() {
         Q_EMIT isOpenChanged();
         return false;
     }
-    _restOfClosing = _opening->restOfClosing();
     _fileDescriptor = 0;
     _opening.reset();
     Q_EMIT isOpenChanged();
@@ -116,7 +134,8 @@ bool ORSSerialPort::close() {
 // A device that is not let go of is closed all the same: held open, it would stay locked too, with
 // its lines raised. The log says why the next one to open it finds it busy.
 bool ORSSerialPort::closeOpening() {
-    const bool isClosed = _opening->close(isSending());
+    const bool isClosed = _opening->close(isSending() ? longestDrain : longestClose);
+    _endOfLast = _opening->end();
     if (_opening->staysLocked()) {
         logLine(u"Unable to leave exclusive mode on %1"_s.arg(description()));
     }
@@ -124,7 +143,7 @@ bool ORSSerialPort::closeOpening() {
 }
 
 bool ORSSerialPort::awaitFreeDevice(std::chrono::milliseconds limit) const {
-    return !_restOfClosing.valid() || _restOfClosing.wait_for(limit) == std::future_status::ready;
+    return !_endOfLast.valid() || _endOfLast.wait_for(limit) == std::future_status::ready;
 }
 
 bool ORSSerialPort::closeForeseen() {

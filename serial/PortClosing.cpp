@@ -1,7 +1,6 @@
 #include "serial/PortClosing.h"
 
 #include "platform/WorkerThread.h"
-#include "serial/ExclusiveDevice.h"
 
 #include <condition_variable>
 #include <memory>
@@ -48,57 +47,43 @@ class LastWait {
 
 class Closing {
   public:
-    Closing(FileDescriptor descriptor, const SavedLineSettings& settings,
-            std::shared_ptr<Count> count)
-        : _descriptor(std::move(descriptor)), _settings(settings), _count(std::move(count)) {
+    Closing(std::shared_ptr<OpenedDevice> device, std::shared_ptr<Count> count)
+        : _device(std::move(device)), _count(std::move(count)) {
         _count->add(1);
     }
 
     void run() {
-        _outcome = PortClosing::closeIdle(std::move(_descriptor), _settings);
-        _isDone.set_value();
+        const bool isClosed = _device->close();
+        _device.reset();
+        _isClosed.set_value(isClosed);
         _count->add(-1);
     }
 
-    PortClosing::Outcome await(std::chrono::milliseconds limit) {
-        if (_rest.wait_for(limit) != std::future_status::ready) {
-            return {.descriptor = {}, .staysLocked = false, .rest = _rest};
-        }
-        return std::move(_outcome);
-    }
+    std::shared_future<bool> isClosed() { return _isClosed.get_future().share(); }
 
   private:
-    FileDescriptor _descriptor;
-    SavedLineSettings _settings;
+    std::shared_ptr<OpenedDevice> _device;
     std::shared_ptr<Count> _count;
-    /// The closing thread's until it is done.
-    PortClosing::Outcome _outcome;
-    std::promise<void> _isDone;
-    std::shared_future<void> _rest = _isDone.get_future().share();
+    std::promise<bool> _isClosed;
 };
 
 } // namespace
 
-PortClosing::Outcome PortClosing::closeIdle(FileDescriptor descriptor,
-                                            const SavedLineSettings& settings) {
-    settings.restore(descriptor.get());
-    Outcome outcome;
-    outcome.staysLocked = !ExclusiveDevice::release(descriptor);
-    static_cast<void>(descriptor.close());
-    outcome.descriptor = std::move(descriptor);
-    return outcome;
-}
-
-PortClosing::Outcome PortClosing::close(FileDescriptor descriptor,
-                                        const SavedLineSettings& settings,
-                                        std::chrono::milliseconds limit) {
+std::shared_future<bool> PortClosing::close(const std::shared_ptr<OpenedDevice>& device,
+                                            std::chrono::milliseconds limit) {
     static const LastWait lastWaitOfProgram;
-    const auto closing =
-        std::make_shared<Closing>(std::move(descriptor), settings, lastWaitOfProgram.count);
+    // From here, so that a worker which waits for this thread gives up.
+    device->stopWorkers();
+    const auto closing = std::make_shared<Closing>(device, lastWaitOfProgram.count);
+    const auto isClosed = closing->isClosed();
     try {
-        startWorker("port closing", [closing](const std::stop_token&) { closing->run(); }).detach();
+        auto thread =
+            startWorker("port closing", [closing](const std::stop_token&) { closing->run(); });
+        if (isClosed.wait_for(limit) != std::future_status::ready) {
+            thread.detach();
+        }
     } catch (const std::system_error&) {
         closing->run();
     }
-    return closing->await(limit);
+    return isClosed;
 }

@@ -12,7 +12,8 @@ class ORSSerialPort;
 
 /// Reads one opening of a port from a thread of its own and hands the bytes to the port on the
 /// main queue, in blocks of the port's size at most, as they come, for as long as that opening
-/// lasts. Destroying it ends the thread at once.
+/// lasts. Destroying it ends the thread at once, unless the device
+/// holds it.
 class PortReader {
   public:
     /// Reads from `descriptor`, which does not block, and is woken through `wakeUp`, an event
@@ -21,6 +22,9 @@ class PortReader {
     /// std::system_error when the system has no thread left.
     PortReader(int descriptor, int wakeUp, std::weak_ptr<const void> opening,
                std::shared_ptr<ORSSerialPort> port, std::shared_ptr<MainQueue> mainQueue);
+
+    /// Has the thread end, and does not wait for it.
+    void stop() { _thread.request_stop(); }
 
   private:
     enum class Wait { Failed, TimedOut, Readable };

@@ -375,7 +375,7 @@ class ORSSerialPortOpeningTest : public QObject {
         QCOMPARE(descriptorCount(), descriptors);
         QCOMPARE(threadCount(), threads);
         QTRY_COMPARE(bench.delegate.count(u"opened"_s), 1000);
-        QCOMPARE(bench.port.use_count(), 1);
+        QTRY_COMPARE(bench.port.use_count(), 1);
     }
 
     void theOldLineSettingsComeBack_data() {

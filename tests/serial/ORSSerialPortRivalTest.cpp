@@ -11,6 +11,7 @@
 #include <csignal>
 #include <fcntl.h>
 #include <functional>
+#include <memory>
 #include <sys/wait.h>
 #include <termios.h>
 #include <thread>
@@ -30,6 +31,8 @@ class Rival {
     Rival(const Rival&) = delete;
     Rival& operator=(const Rival&) = delete;
     ~Rival() { ::close(_descriptor); }
+
+    [[nodiscard]] bool isOpen() const { return _descriptor >= 0; }
 
     /// Has everything that waits to be read vanish.
     void takeAll() const { ::tcflush(_descriptor, TCIFLUSH); }
@@ -131,6 +134,31 @@ class ORSSerialPortRivalTest : public QObject {
         });
         bench.port->open();
         QVERIFY(bench.port->isOpen());
+    }
+
+    /// Between the look at who has it and the moment from which nobody else can.
+    void aProgramThatOpensTheLineMeanwhileIsNotShutIn() {
+        PortBench bench;
+        const auto path = bench.line.path().toLocal8Bit();
+        std::unique_ptr<OtherProgram> other;
+        std::atomic<bool> hasCome = false;
+        bench.faults.beforeEach(SystemCall::Open, [&](int) {
+            if (!hasCome.exchange(true)) {
+                other = std::make_unique<OtherProgram>([&] {
+                    ::close(bench.line.farEnd());
+                    ::open(path.constData(), O_RDWR | O_NOCTTY);
+                });
+            }
+        });
+        const LogKeeper log;
+        bench.port->open();
+        QVERIFY(hasCome);
+        QVERIFY(!bench.port->isOpen());
+        QCOMPARE(log.lines(), QStringList{u"line is in use by "_s + other->description()});
+        QTRY_COMPARE(bench.delegate.events(), QStringList{u"error"_s});
+        const Rival third(bench.line);
+        QVERIFY(third.isOpen());
+        other.reset();
     }
 
     void theFarEndMayHoldTheNearEndToo() {
