@@ -1,9 +1,11 @@
-// Runs a fuzz target's inputs once more, those that are kept: what has been found stays mended.
+// Runs a fuzz target's inputs once more, those that are kept: what has been found stays mended. Or
+// runs as many variations of them as are wanted, without a fuzzer and so without what it costs.
 //
-// Usage: fuzz-replay TARGET FOLDER
+// Usage: fuzz-replay TARGET FOLDER [RUNS SEED]
 //        fuzz-replay --list
-// A target that fails ends the program, as it does under the fuzzer.
+// A target that fails ends the program, as it does under the fuzzer. A seed repeats its runs.
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
 #include <cstdlib>
@@ -11,6 +13,8 @@
 #include <fstream>
 #include <iostream>
 #include <iterator>
+#include <random>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -41,20 +45,52 @@ constexpr std::array<Target, 8> targets{{{"decode-message", &replayDecodeMessage
                                          {"typed-text", &replayTypedText},
                                          {"virtual-keyer", &replayVirtualKeyer}}};
 
-std::vector<std::uint8_t> content(const std::filesystem::path& path) {
+using Input = std::vector<std::uint8_t>;
+
+constexpr std::uint64_t reportInterval = 1'000'000;
+
+Input content(const std::filesystem::path& path) {
     std::ifstream file(path, std::ios::binary);
     return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
 }
 
-int replay(const Target& target, const std::filesystem::path& folder) {
-    int count = 0;
+std::vector<Input> inputsIn(const std::filesystem::path& folder) {
+    std::vector<Input> inputs;
     for (const auto& entry : std::filesystem::directory_iterator(folder)) {
-        const auto input = content(entry.path());
-        target.run(input.data(), input.size());
-        ++count;
+        inputs.push_back(content(entry.path()));
     }
-    std::cout << count << " inputs\n";
-    return EXIT_SUCCESS;
+    return inputs;
+}
+
+void replay(const Target& target, const std::vector<Input>& inputs) {
+    for (const auto& input : inputs) {
+        target.run(input.data(), input.size());
+    }
+    std::cout << inputs.size() << " inputs\n";
+}
+
+/// Some bytes of an input are others, and it may be shorter.
+Input variation(Input input, std::mt19937_64& random) {
+    constexpr std::size_t longest = 64;
+    const auto below = [&random](std::size_t limit) { return random() % limit; };
+    input.resize(1 + below(std::min(longest, input.size() + 1)));
+    for (auto changes = below(8); changes > 0; --changes) {
+        input[below(input.size())] = static_cast<std::uint8_t>(below(256));
+    }
+    return input;
+}
+
+void vary(const Target& target, const std::vector<Input>& inputs, std::uint64_t runs,
+          std::uint64_t seed) {
+    std::mt19937_64 random(seed);
+    for (std::uint64_t run = 0; run < runs; ++run) {
+        const auto input = variation(inputs.at(random() % inputs.size()), random);
+        target.run(input.data(), input.size());
+        if ((run + 1) % reportInterval == 0) {
+            std::cout << run + 1 << " runs\n" << std::flush;
+        }
+    }
+    std::cout << runs << " runs\n";
 }
 
 } // namespace
@@ -68,9 +104,14 @@ int main(int argc, char* argv[]) {
     }
     for (const auto& target : targets) {
         if (argc == 3 && target.name == argv[1]) {
-            return replay(target, argv[2]);
+            replay(target, inputsIn(argv[2]));
+            return EXIT_SUCCESS;
+        }
+        if (argc == 5 && target.name == argv[1]) {
+            vary(target, inputsIn(argv[2]), std::stoull(argv[3]), std::stoull(argv[4]));
+            return EXIT_SUCCESS;
         }
     }
-    std::cerr << "usage: fuzz-replay TARGET FOLDER | --list\n";
+    std::cerr << "usage: fuzz-replay TARGET FOLDER [RUNS SEED] | --list\n";
     return 2;
 }

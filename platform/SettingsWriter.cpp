@@ -31,7 +31,6 @@ struct SettingsWriter::State {
     void noteFailure();
     void note(const SettingsFile::Changes& changes, const QStringList& overtakenKeys);
     void dropOvertaken(SettingsFile::Changes& changes) const;
-    [[nodiscard]] QHash<QString, SettingsFile::Time> timesOf(const QStringList& keys) const;
 
     QString path;
     Receiver receiver;
@@ -130,12 +129,9 @@ void SettingsWriter::State::read(std::unique_lock<std::mutex>& lock) {
     const auto content = SettingsFile::read(path);
     const auto found = SettingsFile::situation(path);
     lock.lock();
-    Report report{0, {}, content, {}, {}};
     if (content.damage == Damage::None) {
         if (job) {
-            const auto keys = SettingsFile::overtaken(job->changes, content, known);
-            note(job->changes, keys);
-            report.overtaken = timesOf(keys);
+            note(job->changes, SettingsFile::overtaken(job->changes, content, known));
         }
         known = content.values;
     }
@@ -143,7 +139,7 @@ void SettingsWriter::State::read(std::unique_lock<std::mutex>& lock) {
     // folder is no such change: one would follow the other without end.
     isJobDue = isJobDue || found != situation;
     if (receiver) {
-        receiver(report);
+        receiver({0, {}, content, overtaken, {}});
     }
 }
 
@@ -173,7 +169,7 @@ void SettingsWriter::State::write(std::unique_lock<std::mutex>& lock) {
         receiver({tried.number,
                   result.problem,
                   {result.values, result.damage, {}},
-                  timesOf(result.overtaken),
+                  overtaken,
                   result.aside});
     }
 }
@@ -196,12 +192,4 @@ void SettingsWriter::State::dropOvertaken(SettingsFile::Changes& changes) const 
         const auto last = overtaken.constFind(change.key());
         return last != overtaken.constEnd() && change->made <= *last;
     });
-}
-
-QHash<QString, SettingsFile::Time> SettingsWriter::State::timesOf(const QStringList& keys) const {
-    QHash<QString, SettingsFile::Time> times;
-    for (const auto& key : keys) {
-        times.insert(key, overtaken.value(key));
-    }
-    return times;
 }

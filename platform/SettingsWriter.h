@@ -27,8 +27,8 @@ class SettingsWriter {
         QString problem;
         /// What the file says, if it was no problem.
         SettingsFile::Content content;
-        /// The changes that were not written, or are not going to be, since somebody else has
-        /// overtaken them, with the time when they were made.
+        /// Of each key the last change that is not going to be written, since somebody else has
+        /// overtaken it, with the time when it was made.
         QHash<QString, SettingsFile::Time> overtaken;
         /// Where the damaged file is, of which `content` tells the damage; null if none was there.
         QString aside;

@@ -1,7 +1,28 @@
 #!/usr/bin/env bash
-# Runs every fuzz target for SECONDS (60 by default), from fuzz/corpus on: [SECONDS [TARGET|keep]]
+# Runs every fuzz target from what is kept on: [SECONDS [TARGET|keep]], or without a fuzzer: runs TARGET COUNT [SEED]
 set -euo pipefail
 source scripts/lib/packages.sh
+
+# vary TARGET COUNT [SEED]: variations of what is kept, optimised and without sanitizers, which is many
+# times as fast.
+vary() {
+    if [[ ! ${2:-} =~ ^[1-9][0-9]*$ || ! -f fuzz/corpus/$1.tar.xz || ! ${3:-1} =~ ^[0-9]+$ ]]; then
+        echo "usage: ./dev fuzz runs TARGET COUNT [SEED]" >&2
+        exit 2
+    fi
+    require_packages build bench
+    source scripts/lib/build.sh
+    build_preset bench --target fuzz-replay
+    corpus=$(mktemp -d)
+    trap 'rm -r "$corpus"' EXIT
+    tar -xJf "fuzz/corpus/$1.tar.xz" -C "$corpus"
+    time build/bench/tests/fuzz-replay "$1" "$corpus" "$2" "${3:-1}"
+}
+
+if [[ ${1:-} == runs ]]; then
+    vary "${2:-}" "${3:-}" "${4:-1}"
+    exit
+fi
 seconds=${1:-60}
 if [[ ! $seconds =~ ^[1-9][0-9]*$ ]]; then
     echo "How long is a number of seconds, not \"$seconds\"." >&2

@@ -4,6 +4,7 @@
 #include <QFileInfo>
 
 #include <algorithm>
+#include <array>
 #include <fcntl.h>
 #include <filesystem>
 #include <functional>
@@ -26,6 +27,14 @@ QByteArray content(const Path& path) {
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
+/// In one call, for there are many to be asked: no terminal has a longer name. Empty when it has
+/// been closed meanwhile.
+Path targetOf(const Path& link) {
+    std::array<char, 256> name{};
+    const auto size = ::readlink(link.c_str(), name.data(), name.size());
+    return size > 0 ? Path(name.begin(), name.begin() + size) : Path();
+}
+
 /// Whether one of the process's descriptors, by its number and what it leads to, is as wanted. The
 /// entries are read and not followed: a file on a server that does not answer would be waited for.
 bool anyDescriptor(const Path& process,
@@ -33,9 +42,8 @@ bool anyDescriptor(const Path& process,
     std::error_code error;
     for (directory_iterator entry(process / "fd", error), end; !error && entry != end;
          entry.increment(error)) {
-        std::error_code closed;
-        const auto target = std::filesystem::read_symlink(entry->path(), closed);
-        if (!closed && isWanted(entry->path().filename(), target)) {
+        const auto target = targetOf(entry->path());
+        if (!target.empty() && isWanted(entry->path().filename(), target)) {
             return true;
         }
     }

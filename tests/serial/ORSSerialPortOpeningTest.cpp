@@ -363,18 +363,18 @@ class ORSSerialPortOpeningTest : public QObject {
         }
     }
 
-    void aThousandOpeningsLeaveNothingBehind() {
+    void manyOpeningsLeaveNothingBehind() {
         PortBench bench;
         const auto descriptors = descriptorCount();
         const auto threads = threadCount();
-        for (int round = 0; round < 1000; ++round) {
+        for (int round = 0; round < 300; ++round) {
             bench.port->open();
             QVERIFY(bench.port->isOpen());
             QVERIFY(bench.port->close());
         }
         QCOMPARE(descriptorCount(), descriptors);
         QCOMPARE(threadCount(), threads);
-        QTRY_COMPARE(bench.delegate.count(u"opened"_s), 1000);
+        QTRY_COMPARE(bench.delegate.count(u"opened"_s), 300);
         QTRY_COMPARE(bench.port.use_count(), 1);
     }
 
