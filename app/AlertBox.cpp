@@ -57,19 +57,23 @@ bool AlertBox::eventFilter(QObject* watched, QEvent* event) {
     return QMessageBox::eventFilter(watched, event);
 }
 
+// By what is within the frames: of a window that has only just been mapped, the toolkit knows the
+// frame's size too late. Both frames are alike.
 void AlertBox::center() {
     if (parentWidget() == nullptr || !isVisible()) {
         return;
     }
     const auto& window = *parentWidget()->window();
-    const auto room = window.screen()->availableGeometry();
-    auto frame = frameGeometry();
-    frame.moveCenter(window.frameGeometry().center());
-    frame.moveRight(std::min(frame.right(), room.right()));
-    frame.moveBottom(std::min(frame.bottom(), room.bottom()));
-    frame.moveLeft(std::max(frame.left(), room.left()));
-    frame.moveTop(std::max(frame.top(), room.top()));
-    move(frame.topLeft());
+    const auto corner = window.geometry().topLeft() - window.frameGeometry().topLeft();
+    const QMargins frame(corner.x(), corner.y(), corner.x(), corner.x());
+    const auto room = window.screen()->availableGeometry().marginsRemoved(frame);
+    auto place = geometry();
+    place.moveCenter(window.geometry().center());
+    place.moveRight(std::min(place.right(), room.right()));
+    place.moveBottom(std::min(place.bottom(), room.bottom()));
+    place.moveLeft(std::max(place.left(), room.left()));
+    place.moveTop(std::max(place.top(), room.top()));
+    setGeometry(place);
 }
 
 void AlertBox::addButtons(const Alert& alert) {
