@@ -130,7 +130,7 @@ QByteArray registersSent(const KeyerEncoding::DefaultsBlock& before,
     for (const auto& [index, opcode] :
          std::to_array<std::pair<std::size_t, char>>({{0, 0x0E}, {2, 0x01}, {13, 0x09}})) {
         if (before[index] != after[index]) {
-            sent.append({opcode, static_cast<char>(after[index])});
+            sent.append(opcode).append(static_cast<char>(after[index]));
         }
     }
     return sent.toHex(' ');
