@@ -60,6 +60,11 @@ bool SendingText::setCallsign(const QString& callsign) {
     return replace(_callsign, callsign);
 }
 
+void SendingText::beginCallsign() {
+    _isReadingCallsign = true;
+    _takenOfCallsign.clear();
+}
+
 std::optional<char> SendingText::nextOfCallsign() {
     // The field has filtered the call, but a single pass leaves some things in.
     while (_callsignIndex < _callsign.size() && !isSendable(_callsign.at(_callsignIndex))) {
@@ -70,7 +75,9 @@ std::optional<char> SendingText::nextOfCallsign() {
         acknowledge();
         return std::nullopt;
     }
-    return byteOf(_callsign.at(_callsignIndex++));
+    const auto byte = byteOf(_callsign.at(_callsignIndex++));
+    _takenOfCallsign += QLatin1Char(byte);
+    return byte;
 }
 
 void SendingText::endCallsign() {

@@ -41,11 +41,13 @@ class SendingText {
     [[nodiscard]] const QString& callsign() const { return _callsign; }
     /// True when that changes it.
     bool setCallsign(const QString& callsign);
-    void beginCallsign() { _isReadingCallsign = true; }
+    void beginCallsign();
     [[nodiscard]] bool isReadingCallsign() const { return _isReadingCallsign; }
     /// The next character of the call sign that can be sent; nothing at its end, from where on the
     /// text is read again.
     [[nodiscard]] std::optional<char> nextOfCallsign();
+    /// What has been taken of the call sign at the token that was come upon last.
+    [[nodiscard]] const QString& takenOfCallsign() const { return _takenOfCallsign; }
 
   private:
     void endCallsign();
@@ -56,4 +58,5 @@ class SendingText {
     QString _callsign;
     bool _isReadingCallsign = false;
     qsizetype _callsignIndex = 0;
+    QString _takenOfCallsign;
 };

@@ -62,6 +62,8 @@ class WinKeyerUsb final : public QObject, public ORSSerialPortDelegate {
     [[nodiscard]] QString serialPortName() const;
     /// Whether that port is open; it is closed while the machine sleeps.
     [[nodiscard]] bool isPortOpen() const;
+    /// Whether another has closed that port, and is to open it again.
+    [[nodiscard]] bool isAsleep() const { return isConnected() && _isAsleep; }
     /// The port that the keyer is on; empty while not connected.
     [[nodiscard]] const std::shared_ptr<ORSSerialPort>& winKeyerSerialPort() const {
         return _winKeyerSerialPort;
@@ -240,6 +242,9 @@ class WinKeyerUsb final : public QObject, public ORSSerialPortDelegate {
     void activityChanged();
     /// inFlightIndex() or outputBufferIndex() may be another one now.
     void sendingProgressed();
+    /// What was sent in place of the "~" at `position` of keyboardBuffer, all of it by now: the
+    /// call sign may have changed meanwhile, or since.
+    void callsignSent(qsizetype position, const QString& call);
     /// The keyer was sent all that brings it into host mode.
     void greeted();
     /// The port that a sleep had closed does not open again.
@@ -324,6 +329,7 @@ class WinKeyerUsb final : public QObject, public ORSSerialPortDelegate {
     bool _mayBeKeying = false;
     bool _isKeyerPlaying = false;
     bool _isToBeGreetedAgain = false;
+    bool _isAsleep = false;
     Clock::Duration _uncutUntil{0};
     SentSettings _sentSettings;
     std::shared_ptr<Timer> _settingsTimer;

@@ -185,6 +185,7 @@ void WinKeyerUsb::beginHostMode() {
     endMemoryLoad();
     _isHostMode = false;
     _isToBeGreetedAgain = false;
+    _isAsleep = false;
     _hasHeardFromKeyer = false;
     _sentSettings.clear();
     _mayBeKeying = false;
@@ -279,6 +280,7 @@ void WinKeyerUsb::serialPortWillBeClosed(ORSSerialPort& port) {
     endMemoryLoad();
     _isHostMode = false;
     _isToBeGreetedAgain = true;
+    _isAsleep = true;
     announceActivity();
 }
 
@@ -292,6 +294,7 @@ void WinKeyerUsb::serialPortWasOpened(ORSSerialPort& port) {
 
 void WinKeyerUsb::serialPortDidEncounterError(ORSSerialPort& port, const Error&) {
     if (&port == _winKeyerSerialPort.get() && _isToBeGreetedAgain && !isPortOpen()) {
+        _isAsleep = false;
         Q_EMIT reopeningFailed();
     }
 }

@@ -137,6 +137,7 @@ WinKeyerUsb::Step WinKeyerUsb::sendNext() {
 WinKeyerUsb::Step WinKeyerUsb::sendNextOfHisCallsign() {
     const auto character = _text.nextOfCallsign();
     if (!character) {
+        Q_EMIT callsignSent(_text.index() - 1, _text.takenOfCallsign());
         return Step::GoOn;
     }
     _sendingState = true;

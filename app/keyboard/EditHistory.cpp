@@ -4,15 +4,6 @@
 
 namespace {
 
-/// Drops the last change that concerns handed-over text, and all that come before it in the list
-/// and so could be reached only past it.
-void dropHandedOver(QList<TextChange>& changes, qsizetype handedOver) {
-    const auto last = std::find_if(changes.crbegin(), changes.crend(), [=](const auto& change) {
-        return change.position < handedOver;
-    });
-    changes.erase(changes.cbegin(), last.base());
-}
-
 /// Makes one change of two, the second of which continues the first.
 void join(TextChange& first, const TextChange& second) {
     first.removed = second.position < first.position ? second.removed + first.removed
@@ -23,16 +14,24 @@ void join(TextChange& first, const TextChange& second) {
 
 } // namespace
 
-void EditHistory::record(const TextChange& change, qsizetype handedOver, Kind kind) {
+void EditHistory::dropHandedOver(QList<Entry>& entries, qsizetype handedOver) {
+    const auto last = std::find_if(entries.crbegin(), entries.crend(), [=](const auto& entry) {
+        return entry.change.position < handedOver;
+    });
+    entries.erase(entries.cbegin(), last.base());
+}
+
+void EditHistory::record(const TextChange& change, qsizetype handedOver, Kind kind, Mark mark) {
     _undone.clear();
     if (change.position < handedOver) {
         clear();
         return;
     }
     if (kind == Kind::Typed && continuesLast(change)) {
-        join(_done.last(), change);
+        join(_done.last().change, change);
+        _done.last().mark.after = mark.after;
     } else {
-        _done.append(change);
+        _done.append({change, mark});
     }
     _isLastOpen = kind == Kind::Typed;
 }
@@ -41,7 +40,7 @@ bool EditHistory::continuesLast(const TextChange& change) const {
     if (!_isLastOpen || _done.isEmpty()) {
         return false;
     }
-    const auto& last = _done.constLast();
+    const auto& last = _done.constLast().change;
     if (change.removed.isEmpty() && last.removed.isEmpty()) {
         const auto beginsWord = last.inserted.endsWith(u' ') && !change.inserted.startsWith(u' ');
         return change.position == last.position + last.inserted.size() && !beginsWord;
@@ -58,22 +57,24 @@ void EditHistory::handOver(qsizetype handedOver) {
     dropHandedOver(_undone, handedOver);
 }
 
-std::optional<TextChange> EditHistory::undo() {
+std::optional<EditHistory::Step> EditHistory::undo() {
     if (!canUndo()) {
         return std::nullopt;
     }
     _isLastOpen = false;
     _undone.append(_done.takeLast());
-    return _undone.constLast().reversed();
+    const auto& [change, mark] = _undone.constLast();
+    return Step{change.reversed(), mark.before};
 }
 
-std::optional<TextChange> EditHistory::redo() {
+std::optional<EditHistory::Step> EditHistory::redo() {
     if (!canRedo()) {
         return std::nullopt;
     }
     _isLastOpen = false;
     _done.append(_undone.takeLast());
-    return _done.constLast();
+    const auto& [change, mark] = _done.constLast();
+    return Step{change, mark.after};
 }
 
 void EditHistory::clear() {

@@ -2,6 +2,8 @@
 
 #include "keyer/MorseKeyboardCharacterSet.h"
 
+#include <algorithm>
+
 namespace {
 
 /// The sign and its two letters.
@@ -16,6 +18,20 @@ bool isLetter(QChar character) {
 }
 
 } // namespace
+
+KeptText::Stretch KeptText::openMergeAt(const QString& text, qsizetype place) {
+    const auto start = place > 0 ? text.lastIndexOf(u'{', place - 1) : -1;
+    if (start < 0) {
+        return {};
+    }
+    qsizetype length = 1;
+    while (length < mergeLength && start + length < text.size() &&
+           isLetter(text.at(start + length).toUpper())) {
+        ++length;
+    }
+    const bool isOpen = length < mergeLength && place <= start + length;
+    return isOpen ? Stretch{start, length} : Stretch();
+}
 
 void KeptText::add(const QString& typed) {
     if (!isMergeOpen() && !typed.contains(u'{')) {
@@ -37,10 +53,20 @@ void KeptText::add(QChar character) {
     }
 }
 
-QString KeptText::release() {
-    const auto complete = _text.first(completeLength());
+qsizetype KeptText::endWord() {
+    const auto end = completeLength();
+    if (end == 0 || _text.at(end - 1) == u' ') {
+        return end;
+    }
+    _text.insert(end, u' ');
+    _openMerge += isMergeOpen() ? 1 : 0;
+    return end + 1;
+}
+
+QString KeptText::release(qsizetype most) {
+    const auto complete = _text.first(std::min(most, completeLength()));
     _text.remove(0, complete.size());
-    _openMerge = isMergeOpen() ? 0 : -1;
+    _openMerge -= isMergeOpen() ? complete.size() : 0;
     return complete;
 }
 

@@ -2,6 +2,8 @@
 
 #include <QString>
 
+#include <limits>
+
 /// What has been typed and is kept back for a while.
 ///
 /// "{" waits for the two letters that it joins: a sending that came upon it without them would end
@@ -9,12 +11,24 @@
 /// sent.
 class KeptText {
   public:
+    /// A part of a text.
+    struct Stretch {
+        qsizetype position = 0;
+        qsizetype length = 0;
+    };
+    /// The "{" next before `place` in `text` that lacks one of its letters or both, with what it
+    /// has of them; an empty stretch where there is none, or the place is behind the letter.
+    [[nodiscard]] static Stretch openMergeAt(const QString& text, qsizetype place);
+
     /// Adds what was typed. Of what follows "{", only what the keyer keys as a letter counts; the
     /// rest is dropped.
     void add(const QString& typed);
 
-    /// Yields what is complete, which is not kept any more.
-    [[nodiscard]] QString release();
+    /// Ends the last complete word with a space, unless there is one. How much is complete then.
+    [[nodiscard]] qsizetype endWord();
+
+    /// Yields what is complete, so many characters of it at most, which are not kept any more.
+    [[nodiscard]] QString release(qsizetype most = std::numeric_limits<qsizetype>::max());
 
     /// All that is kept.
     [[nodiscard]] QString all() const { return _text; }

@@ -40,6 +40,8 @@ void KeyboardView::followEngine() {
                      &KeyboardView::showEnginesText);
     QObject::connect(&_engine, &WinKeyerUsb::sendingProgressed, this, &KeyboardView::takeProgress);
     QObject::connect(&_engine, &WinKeyerUsb::activityChanged, this, &KeyboardView::followLink);
+    QObject::connect(&_engine, &WinKeyerUsb::reopeningFailed, this, &KeyboardView::takeProgress);
+    QObject::connect(&_engine, &WinKeyerUsb::callsignSent, this, &KeyboardView::noteSentCall);
     QObject::connect(&_engine, &WinKeyerUsb::messageSendingStopped, this,
                      &KeyboardView::dropHeldText);
     showChange(TextChange::between(text(), _engine.keyboardBuffer()));
@@ -55,24 +57,21 @@ void KeyboardView::takeOperatorsText() {
     const auto typed = text();
     if (typed != _engine.keyboardBuffer()) { // else a composition goes on, and is no text yet
         takeText(typed);
+        if (!_isDropping) {
+            followCaretWithKept();
+        }
     }
 }
 
 void KeyboardView::takeText(const QString& typed) {
     const auto before = _engine.keyboardBuffer();
     const auto handedOver = _engine.outputBufferIndex();
-    giveToEngine(typed);
+    giveToEngine(withoutBrokenMerge(typed, TextChange::between(before, typed)));
     breakParagraphs();
-    const auto change = TextChange::between(before, _engine.keyboardBuffer());
-    if (!change.isEmpty()) {
+    if (const auto change = TextChange::between(before, _engine.keyboardBuffer());
+        !change.isEmpty()) {
         updateMarksBehind(change);
-        const auto isTyped =
-            change.removed.size() + change.inserted.size() == 1 || isBeginOfWord(change);
-        if (!change.removed.isEmpty() && change.position <= _messageEnd) {
-            _messageEnd = -1; // who takes out the space wants none
-        }
-        _history.record(change, handedOver,
-                        isTyped ? EditHistory::Kind::Typed : EditHistory::Kind::Whole);
+        recordEdit(change, handedOver);
     }
     showProgress();
 }
@@ -95,10 +94,45 @@ void KeyboardView::updateMarksBehind(const TextChange& change) {
     }
 }
 
+void KeyboardView::recordEdit(const TextChange& change, qsizetype handedOver) {
+    const auto isTyped =
+        change.removed.size() + change.inserted.size() == 1 || isBeginOfWord(change);
+    const auto former = std::exchange(_messageEnd, messageEndAfter(change));
+    _history.record(change, handedOver,
+                    isTyped ? EditHistory::Kind::Typed : EditHistory::Kind::Whole,
+                    {former, _messageEnd});
+}
+
+KeptText::Stretch KeyboardView::unsentMergeAt(const QString& text, qsizetype place) const {
+    const auto merge = KeptText::openMergeAt(text, place);
+    return merge.position < _engine.outputBufferIndex() ? KeptText::Stretch() : merge;
+}
+
+/// An edit that takes a letter from "{" has the rest of it wait for one again.
+QString KeyboardView::withoutBrokenMerge(const QString& text, const TextChange& change) {
+    const auto merge = unsentMergeAt(text, change.position + change.inserted.size());
+    if (merge.length > 0) {
+        _kept.add(text.mid(merge.position, merge.length));
+    }
+    auto rest = text;
+    return rest.remove(merge.position, merge.length);
+}
+
 /// The space that was put behind a message, and the first character of the word.
 bool KeyboardView::isBeginOfWord(const TextChange& change) const {
     return change.removed.isEmpty() && change.position == _messageEnd &&
            change.inserted.size() == 2;
+}
+
+/// Whoever takes out just the space, or corrects the message's own last word, wants to go on there
+/// without one. Where words are taken out as a whole, the next one is apart from what is left.
+qsizetype KeyboardView::messageEndAfter(const TextChange& change) const {
+    const auto end = change.position + change.removed.size();
+    if (change.removed.isEmpty() || _messageEnd < change.position || _messageEnd > end) {
+        return change.movedEnd(_messageEnd);
+    }
+    const bool isOfWholeWords = change.removed.size() > 1 && change.removed.startsWith(u' ');
+    return isOfWholeWords && change.position > 0 ? change.position : -1;
 }
 
 void KeyboardView::replaceText(qsizetype begin, qsizetype end, const QString& text) {
@@ -122,25 +156,30 @@ void KeyboardView::undoTyping() {
 }
 
 void KeyboardView::redoTyping() {
+    dropMerge();
     travel(_history.redo());
 }
 
-void KeyboardView::travel(const std::optional<TextChange>& change) {
-    if (!change) {
+void KeyboardView::travel(const std::optional<EditHistory::Step>& step) {
+    if (!step) {
         return;
     }
-    const auto wanted = change->appliedTo(_engine.keyboardBuffer());
+    const auto& change = step->change;
+    const auto wanted = change.appliedTo(_engine.keyboardBuffer());
+    _messageEnd = step->mark;
     giveToEngine(wanted);
     if (_engine.keyboardBuffer() != wanted) {
         // The engine let something else pass this time; the other changes do not fit any more.
         _history.clear();
+        _messageEnd = -1;
     }
     showProgress();
     auto caret = textCursor();
-    const auto end = change->position + change->inserted.size();
+    const auto end = change.position + change.inserted.size();
     caret.setPosition(static_cast<int>(std::min(end, _engine.keyboardBuffer().size())));
     setTextCursor(caret);
     ensureCursorVisible();
+    followCaretWithKept();
 }
 
 void KeyboardView::announceHistory() {
@@ -164,8 +203,10 @@ void KeyboardView::showEnginesText() {
     if (change.isEmpty()) {
         return;
     }
-    _history.record(change, _engine.outputBufferIndex(), EditHistory::Kind::Whole);
+    const auto former = _messageEnd;
     noteMessage(change);
+    _history.record(change, _engine.outputBufferIndex(), EditHistory::Kind::Whole,
+                    {former, _messageEnd});
     showChange(change);
     if (_engine.keyboardBuffer().isEmpty()) {
         dropMerge(); // broken in on, as the text was
@@ -221,7 +262,7 @@ SendingMarks::State KeyboardView::sendingState() const {
 }
 
 bool KeyboardView::isLinked() const {
-    return _engine.activity() != KeyerActivity::NotConnected;
+    return _engine.activity() != KeyerActivity::NotConnected || _engine.isAsleep();
 }
 
 qsizetype KeyboardView::waitingCount() const {
@@ -233,12 +274,12 @@ qsizetype KeyboardView::waitingCount() const {
 }
 
 void KeyboardView::setHeldElsewhere(qsizetype count) {
-    _heldElsewhere = count;
-    Q_EMIT waitingCountChanged();
+    if (std::exchange(_heldElsewhere, count) != count) {
+        Q_EMIT waitingCountChanged();
+    }
 }
 
-/// Text that was typed while it went nowhere is not sent later on, of itself, as it would be by a
-/// keyer that is back after a sleep.
+/// What was typed while it went nowhere is not sent later on, of itself.
 void KeyboardView::followLink() {
     if (!_shownState.isLinked && isLinked() && !_engine.keyboardBuffer().isEmpty()) {
         _engine.clearSending();
@@ -259,7 +300,6 @@ void KeyboardView::takeProgress() {
 void KeyboardView::showProgress() {
     _history.handOver(_engine.outputBufferIndex());
     announceHistory();
-    noteSentCalls();
     updateMarks();
     followCaret();
     followSending();
@@ -293,16 +333,13 @@ void KeyboardView::forEachParagraphInSight(const Action& action) const {
     }
 }
 
-void KeyboardView::noteSentCalls() {
-    const auto sent = _engine.inFlightIndex();
-    const auto text = _engine.keyboardBuffer();
-    const QScopedValueRollback guard(_isChangingDocument, true);
-    for (auto i = std::min(_callsSeen, sent); isLinked() && i < sent; ++i) {
-        if (text.at(i) == u'~') {
-            _sentCalls.note(static_cast<int>(i), _engine.hisCallsign().toUpper(), font());
-        }
+/// An edit may have moved the sign away meanwhile; then it is sent once more.
+void KeyboardView::noteSentCall(qsizetype position, const QString& call) {
+    const auto sign = static_cast<int>(position);
+    if (_engine.isPortOpen() && _text.characterAt(sign) == u'~') {
+        const QScopedValueRollback guard(_isChangingDocument, true);
+        _sentCalls.note(sign, call, font());
     }
-    _callsSeen = sent;
 }
 
 /// The caret is a block where typing has the keyer send again what it has been given.

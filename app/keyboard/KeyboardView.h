@@ -38,7 +38,7 @@ class KeyboardView final : public QPlainTextEdit {
     /// typed goes nowhere.
     [[nodiscard]] qsizetype waitingCount() const;
 
-    /// Whether a keyer is connected.
+    /// Whether a keyer is connected, or is to be again when the machine wakes up.
     [[nodiscard]] bool isLinked() const;
 
     /// How many characters are held elsewhere: they wait, too, and while there are any, what is
@@ -48,8 +48,12 @@ class KeyboardView final : public QPlainTextEdit {
     [[nodiscard]] bool isHoldingText() const { return _isHoldingText; }
     /// That text.
     [[nodiscard]] QString heldText() const { return _isHoldingText ? _kept.all() : QString(); }
+    /// What is typed next is another word. How much of that text is ahead of it.
+    [[nodiscard]] qsizetype endHeldWord();
     /// Has such text sent, unless the paddle is in use yet.
     void handOverHeldText();
+    /// The same with the first `count` characters, behind which a message comes.
+    void handOverHeldText(qsizetype count);
     /// Forgets it, and a "{" that waits for its letters.
     void dropHeldText();
 
@@ -99,13 +103,19 @@ class KeyboardView final : public QPlainTextEdit {
     void enterLong(const QString& text);
     void dropCurrentFormat();
     [[nodiscard]] QString readied(const QString& typed, const QTextCursor& place);
+    [[nodiscard]] QString releasedText();
+    [[nodiscard]] KeptText::Stretch unsentMergeAt(const QString& text, qsizetype place) const;
+    void takeBackMerge(const QTextCursor& place);
+    [[nodiscard]] QString withoutBrokenMerge(const QString& text, const TextChange& change);
+    void recordEdit(const TextChange& change, qsizetype handedOver);
     [[nodiscard]] bool isBeginOfWord(const TextChange& change) const;
+    [[nodiscard]] qsizetype messageEndAfter(const TextChange& change) const;
     [[nodiscard]] bool isPaddleInUse() const;
     void showKept();
     void followCaretWithKept();
     [[nodiscard]] bool takeKeyOfKept(const QKeyEvent& event);
     void dropMerge();
-    void travel(const std::optional<TextChange>& change);
+    void travel(const std::optional<EditHistory::Step>& step);
     void announceHistory();
 
     void showEnginesText();
@@ -125,7 +135,7 @@ class KeyboardView final : public QPlainTextEdit {
     void forEachParagraphInSight(const Action& action) const;
     void keepShapes();
     void forgetShapes();
-    void noteSentCalls();
+    void noteSentCall(qsizetype position, const QString& call);
     void followSending();
     [[nodiscard]] bool isInUse() const;
     [[nodiscard]] int linesInSight() const;
@@ -136,12 +146,10 @@ class KeyboardView final : public QPlainTextEdit {
     KeyboardText _text;
     EditHistory _history;
     KeptText _kept;
-    /// Where the message that was added last ends, -1 without one.
+    /// Where the message that was added last ends, wherever edits have moved it; -1 without one.
     qsizetype _messageEnd = -1;
     SendingMarks::State _shownState;
     SentCalls _sentCalls;
-    /// How far the text has been looked through for signs that stand for a call.
-    qsizetype _callsSeen = 0;
     ScrollRest _scrollRest;
     /// How many paragraphs keep the shapes of their letters, at most.
     int _keptShapes = 0;
@@ -153,4 +161,6 @@ class KeyboardView final : public QPlainTextEdit {
     bool _isCaretInSentText = false;
     qsizetype _heldElsewhere = 0;
     bool _isHoldingText = false;
+    /// Of held text, how much is handed over ahead of a message.
+    std::optional<qsizetype> _handedOverAhead;
 };

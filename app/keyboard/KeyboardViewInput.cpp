@@ -17,6 +17,7 @@
 
 #include <algorithm>
 #include <memory>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -45,12 +46,15 @@ void KeyboardView::enter(const QString& text) {
 
 /// What is to go into the text at `place`, instead of its selection, of what was typed there.
 QString KeyboardView::readied(const QString& typed, const QTextCursor& place) {
+    if (!typed.isEmpty()) {
+        takeBackMerge(place);
+    }
     const auto before = _text.characterAt(place.selectionStart() - 1);
     const auto after = _text.characterAt(place.selectionEnd());
     _kept.add(KeyboardText::inOneLine(typed, before, after));
     _isHoldingText =
         _kept.hasComplete() && (_isHoldingText || _heldElsewhere > 0 || isPaddleInUse());
-    const auto complete = _isHoldingText ? QString() : _kept.release();
+    const auto complete = _isHoldingText ? QString() : releasedText();
     const bool isBehindMessage = place.selectionStart() == _messageEnd && after.isNull();
     if (isBehindMessage && before != u' ' && !complete.isEmpty() && !complete.startsWith(u' ')) {
         return u' ' + complete;
@@ -58,13 +62,55 @@ QString KeyboardView::readied(const QString& typed, const QTextCursor& place) {
     return complete;
 }
 
+/// A message may end in "{". What is typed right behind it, before it is sent, completes it.
+void KeyboardView::takeBackMerge(const QTextCursor& place) {
+    const auto shown = text();
+    const auto merge = unsentMergeAt(shown, place.selectionStart());
+    if (merge.length == 0 || merge.position + merge.length != place.selectionStart()) {
+        return;
+    }
+    auto cursor = place;
+    cursor.setPosition(static_cast<int>(merge.position));
+    cursor.setPosition(place.selectionStart(), QTextCursor::KeepAnchor);
+    _kept.add(shown.mid(merge.position, merge.length));
+    cursor.removeSelectedText();
+}
+
 bool KeyboardView::isPaddleInUse() const {
     return _engine.activity() == KeyerActivity::BreakIn;
+}
+
+/// A message brings the space ahead of it along.
+QString KeyboardView::releasedText() {
+    if (!_handedOverAhead) {
+        return _kept.release();
+    }
+    auto text = _kept.release(std::exchange(*_handedOverAhead, 0)); // once
+    while (text.endsWith(u' ')) {
+        text.chop(1);
+    }
+    return text;
+}
+
+qsizetype KeyboardView::endHeldWord() {
+    const auto end = _isHoldingText ? _kept.endWord() : 0;
+    if (end > 0) {
+        showKept();
+    }
+    return end;
 }
 
 void KeyboardView::handOverHeldText() {
     _isHoldingText = false;
     showKept();
+}
+
+void KeyboardView::handOverHeldText(qsizetype count) {
+    {
+        const QScopedValueRollback ahead(_handedOverAhead, std::optional(count));
+        handOverHeldText();
+    }
+    _isHoldingText = _kept.hasComplete();
 }
 
 /// As being composed where the caret is. What an input method composes takes the place of the
@@ -81,7 +127,7 @@ void KeyboardView::showKept() {
 }
 
 bool KeyboardView::takeKeyOfKept(const QKeyEvent& event) {
-    if (_kept.isEmpty() || event.key() != Qt::Key_Backspace) {
+    if (_kept.isEmpty() || event.key() != Qt::Key_Backspace || textCursor().hasSelection()) {
         return false;
     }
     _kept.eraseLast();
@@ -150,7 +196,12 @@ void KeyboardView::enterKey(const QKeyEvent& event) {
 /// What is kept back of a merge stands in front of what an input method composes.
 void KeyboardView::inputMethodEvent(QInputMethodEvent* event) {
     _scrollRest.noteUse();
-    const auto complete = readied(event->commitString(), textCursor());
+    auto complete = readied(event->commitString(), textCursor());
+    const auto replaced = Composition::replacementAt(textCursor(), *event);
+    const bool isInsertion = replaced.start == 0 && replaced.length == 0;
+    if (complete.size() > KeyboardText::longestParagraph && isInsertion) {
+        enterLong(std::exchange(complete, {}));
+    }
     const auto kept = inShort(_kept.all());
     QList<QInputMethodEvent::Attribute> attributes;
     if (!kept.isEmpty()) {
@@ -162,16 +213,10 @@ void KeyboardView::inputMethodEvent(QInputMethodEvent* event) {
         attributes.append(attribute);
     }
     QInputMethodEvent composed(kept + event->preeditString(), attributes);
-    const auto replaced = Composition::replacementAt(textCursor(), *event);
-    const bool isInsertion = replaced.start == 0 && replaced.length == 0;
-    if (complete.size() > KeyboardText::longestParagraph && isInsertion) {
-        enterLong(complete);
-    } else {
-        if (!complete.isEmpty()) {
-            dropCurrentFormat();
-        }
-        composed.setCommitString(complete, replaced.start, replaced.length);
+    if (!complete.isEmpty()) {
+        dropCurrentFormat();
     }
+    composed.setCommitString(complete, replaced.start, replaced.length);
     QPlainTextEdit::inputMethodEvent(&composed);
     event->setAccepted(composed.isAccepted());
     Q_EMIT waitingCountChanged();

@@ -7,8 +7,17 @@
 #include "platform/SettingsStore.h"
 
 #include <algorithm>
-#include <numeric>
 #include <utility>
+
+namespace {
+
+/// Adds what is apart from what is ahead of it by a space at least.
+void addWords(QString& all, const QString& words) {
+    const bool isApart = all.isEmpty() || all.endsWith(u' ') || words.startsWith(u' ');
+    all += isApart || words.isEmpty() ? words : u' ' + words;
+}
+
+} // namespace
 
 HeldMessages::HeldMessages(WinKeyerUsb& engine, KeyboardView& view, QObject* parent)
     : QObject(parent), _engine(engine), _view(view) {
@@ -19,10 +28,10 @@ HeldMessages::HeldMessages(WinKeyerUsb& engine, KeyboardView& view, QObject* par
 
 void HeldMessages::send(const QObject* control) {
     // Behind something that waits a message waits, too, or they would change places.
-    if (_waiting.isEmpty() && _engine.activity() != KeyerActivity::BreakIn) {
+    if (isEmpty() && _engine.activity() != KeyerActivity::BreakIn) {
         _engine.sendMessage(control);
     } else if (!isHeld(control)) {
-        _waiting.append(Waiting{control, messageOf(*control)});
+        _waiting.append(Waiting{control, messageOf(*control), _view.endHeldWord()});
         announce();
     }
 }
@@ -38,6 +47,10 @@ bool HeldMessages::isHeld(const QObject* control) const {
                        [control](const Waiting& each) { return each.control == control; });
 }
 
+bool HeldMessages::isEmpty() const {
+    return _waiting.isEmpty() && !_view.isHoldingText();
+}
+
 bool HeldMessages::needsCallsign() const {
     return _view.heldText().contains(u'~') ||
            std::any_of(_waiting.begin(), _waiting.end(),
@@ -45,32 +58,32 @@ bool HeldMessages::needsCallsign() const {
 }
 
 void HeldMessages::followView() {
-    if (_view.isHoldingText() == isHeld(&_view)) {
-        return;
+    _view.setHeldElsewhere(waitingCount());
+    if (std::exchange(_isViewHolding, _view.isHoldingText()) != _view.isHoldingText()) {
+        Q_EMIT changed();
     }
-    if (_view.isHoldingText()) {
-        _waiting.append(Waiting{&_view, {}});
-    } else {
-        _waiting.removeIf([this](const Waiting& each) { return each.control == &_view; });
-    }
-    announce();
 }
 
 void HeldMessages::followKeyer() {
     if (_engine.activity() == KeyerActivity::NotConnected) {
         drop();
     }
-    if (_waiting.isEmpty() || _engine.activity() != KeyerActivity::Idle) {
+    if (isEmpty() || _engine.activity() != KeyerActivity::Idle) {
         return;
     }
+    qsizetype handedOver = 0;
     while (!_waiting.isEmpty()) {
-        _view.setHeldElsewhere(0); // nothing is in front of the next one
         const auto next = _waiting.takeFirst();
-        if (next.control == &_view) {
-            _view.handOverHeldText();
-        } else {
-            _engine.appendMessage(next.message);
+        if (next.textAhead > handedOver) {
+            _view.setHeldElsewhere(0); // nothing is in front of it
+            _view.handOverHeldText(next.textAhead - handedOver);
+            handedOver = next.textAhead;
         }
+        _engine.appendMessage(next.message);
+    }
+    _view.setHeldElsewhere(0);
+    if (_view.isHoldingText()) {
+        _view.handOverHeldText();
     }
     announce();
 }
@@ -89,8 +102,18 @@ void HeldMessages::announce() {
 }
 
 qsizetype HeldMessages::waitingCount() const {
-    const auto spaces = std::max<qsizetype>(_waiting.size() - 1, 0);
-    return std::accumulate(
-        _waiting.begin(), _waiting.end(), spaces,
-        [](qsizetype sum, const Waiting& each) { return sum + each.message.size(); });
+    if (_waiting.isEmpty()) {
+        return 0;
+    }
+    const auto text = _view.heldText();
+    QString all;
+    qsizetype ahead = 0;
+    for (const auto& each : _waiting) {
+        const auto end = std::clamp(each.textAhead, ahead, std::max(ahead, text.size()));
+        addWords(all, text.mid(ahead, end - ahead));
+        addWords(all, each.message);
+        ahead = end;
+    }
+    addWords(all, text.mid(ahead));
+    return all.size() - text.size();
 }

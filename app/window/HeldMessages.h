@@ -9,7 +9,7 @@ class WinKeyerUsb;
 
 /// Messages that are pressed while the paddle is in use, when the keyer drops what it is sent: they
 /// are held until it reports that it is idle, and then go out in the order in which they were
-/// pressed, each once. The text that the keyboard view holds takes its turn among them, and what is
+/// pressed, each once, and among the words that the keyboard view holds as they were typed: what is
 /// typed behind one of them is held, too. Whatever stops the sending drops them. The number of a
 /// message is that of the moment at which it was pressed, as it is for one that goes out at once.
 class HeldMessages final : public QObject {
@@ -22,7 +22,7 @@ class HeldMessages final : public QObject {
     void send(const QObject* control);
 
     [[nodiscard]] bool isHeld(const QObject* control) const;
-    [[nodiscard]] bool isEmpty() const { return _waiting.isEmpty(); }
+    [[nodiscard]] bool isEmpty() const;
     /// Whether anything that is held is to be sent with the other station's call sign.
     [[nodiscard]] bool needsCallsign() const;
 
@@ -41,10 +41,12 @@ class HeldMessages final : public QObject {
 
     WinKeyerUsb& _engine;
     KeyboardView& _view;
-    /// The control of a message, and what is to be sent; or the view, whose text it has itself.
+    bool _isViewHolding = false;
+    /// The control of a message, what is to be sent, and how much of the view's text comes ahead.
     struct Waiting {
         const QObject* control;
         QString message;
+        qsizetype textAhead;
     };
     QList<Waiting> _waiting;
 };

@@ -38,11 +38,11 @@ struct EditedText {
     [[nodiscard]] bool redo() { return apply(history.redo()); }
 
   private:
-    [[nodiscard]] bool apply(const std::optional<TextChange>& change) {
-        if (!change) {
+    [[nodiscard]] bool apply(const std::optional<EditHistory::Step>& step) {
+        if (!step) {
             return false;
         }
-        text = change->appliedTo(text);
+        text = step->change.appliedTo(text);
         return true;
     }
 };

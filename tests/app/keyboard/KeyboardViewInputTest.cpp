@@ -321,10 +321,14 @@ void KeyboardViewInputTest::textInsideAMessageStaysAsTyped() {
     _station->key(Qt::Key_Left);
     _station->keys(u"x"_s);
     QCOMPARE(text(), u"TTX1"_s);
-    // Behind text of the operator's own, too, nothing is put.
+    // What comes behind it is apart from it as before.
     _station->key(Qt::Key_End);
     _station->keys(u"ab"_s);
-    QCOMPARE(text(), u"TTX1AB"_s);
+    QCOMPARE(text(), u"TTX1 AB"_s);
+    // Behind text of the operator's own nothing is put.
+    _station->key(Qt::Key_Left);
+    _station->keys(u"c"_s);
+    QCOMPARE(text(), u"TTX1 ACB"_s);
 }
 
 void KeyboardViewInputTest::aKeyWithAltTypesNothing() {

@@ -31,6 +31,14 @@ class KeyboardViewMergeTest : public QObject {
     void itGoesInsideTheText();
     void aPastedOneIsCompletedByTyping();
     void anInputMethodComposesBehindIt();
+    void oneThatLosesALetterWaitsForIt_data();
+    void oneThatLosesALetterWaitsForIt();
+    void takingItApartIsUndone();
+    void oneThatIsSentIsLeftAlone();
+    void aMessageThatEndsInOneIsCompleted_data();
+    void aMessageThatEndsInOneIsCompleted();
+    void aPasteBehindAMessageCompletesItToo();
+    void whatIsMadeAgainTakesItsPlace();
 
   private:
     [[nodiscard]] QString text() { return _station->engine().keyboardBuffer(); }
@@ -218,6 +226,134 @@ void KeyboardViewMergeTest::anInputMethodComposesBehindIt() {
     QCOMPARE(kept(), u"{S"_s);
     _station->keys(u"n"_s);
     QCOMPARE(text(), u"{SN"_s);
+}
+
+void KeyboardViewMergeTest::oneThatLosesALetterWaitsForIt_data() {
+    QTest::addColumn<QString>("way");
+    QTest::addColumn<QString>("waiting");
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<QString>("result");
+    QTest::addRow("Backspace") << u"Backspace"_s << u"{S"_s << u"k"_s << u"E {SK"_s;
+    QTest::addRow("Backspace twice") << u"twice"_s << u"{"_s << u"ar"_s << u"E {AR"_s;
+    QTest::addRow("Delete") << u"Delete"_s << u"{N"_s << u"k"_s << u"E {NK"_s;
+    QTest::addRow("cut") << u"cut"_s << u"{"_s << u"ar"_s << u"E {AR"_s;
+    QTest::addRow("typed over") << u"typed over"_s << u"{A"_s << u"r"_s << u"E {AR"_s;
+    QTest::addRow("a screen reader") << u"reader"_s << u"{S"_s << u"k"_s << u"E {SK"_s;
+}
+
+void KeyboardViewMergeTest::oneThatLosesALetterWaitsForIt() {
+    QFETCH(const QString, way);
+    _station->pause();
+    _station->keys(u"e {sn"_s);
+    if (way == u"Delete") {
+        _station->key(Qt::Key_Left);
+        _station->key(Qt::Key_Left);
+        _station->key(Qt::Key_Delete);
+    } else if (way == u"cut" || way == u"typed over") {
+        _station->key(Qt::Key_Left, Qt::ShiftModifier);
+        _station->key(Qt::Key_Left, Qt::ShiftModifier);
+        if (way == u"cut") {
+            _station->keys(QKeySequence::Cut);
+        } else {
+            _station->keys(u"a"_s);
+        }
+    } else if (way == u"reader") {
+        _station->view.replaceText(4, 5, {});
+    } else {
+        _station->key(Qt::Key_Backspace);
+        if (way == u"twice") {
+            _station->key(Qt::Key_Backspace);
+        }
+    }
+    QTEST(kept(), "waiting");
+    QCOMPARE(text(), u"E "_s);
+    QCOMPARE(_station->view.text(), text());
+    QFETCH(const QString, typed);
+    _station->keys(typed);
+    QTEST(text(), "result");
+    QCOMPARE(kept(), u""_s);
+    QCOMPARE(_station->view.text(), text());
+}
+
+void KeyboardViewMergeTest::takingItApartIsUndone() {
+    _station->pause();
+    _station->keys(u"e {sn"_s);
+    _station->key(Qt::Key_Backspace);
+    _station->keys(QKeySequence::Undo);
+    QCOMPARE(kept(), u""_s);
+    _station->keys(QKeySequence::Undo);
+    QCOMPARE(text(), u"E {SN"_s);
+    _station->key(Qt::Key_Backspace);
+    _station->key(Qt::Key_Backspace);
+    _station->key(Qt::Key_Backspace);
+    _station->key(Qt::Key_Backspace);
+    QCOMPARE(text(), u"E"_s);
+    QCOMPARE(kept(), u""_s);
+    _station->resume();
+    _station->echo();
+    _station->keys(u"k"_s);
+    QCOMPARE(_station->bench.written(), "06 00 45 4b");
+}
+
+/// The keyer has it, and nothing of it is to be sent again.
+void KeyboardViewMergeTest::oneThatIsSentIsLeftAlone() {
+    _station->keys(u"{sn"_s);
+    _station->echo(2);
+    _station->key(Qt::Key_Backspace);
+    QCOMPARE(text(), u"{S"_s);
+    QCOMPARE(kept(), u""_s);
+    static_cast<void>(written());
+    _station->keys(u"k"_s);
+    QCOMPARE(written(), "4b");
+}
+
+void KeyboardViewMergeTest::aMessageThatEndsInOneIsCompleted_data() {
+    QTest::addColumn<QString>("message");
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<QString>("result");
+    QTest::addRow("none of its letters") << u"cq {"_s << u"sn k"_s << u"CQ {SN K"_s;
+    QTest::addRow("one of them") << u"cq {s"_s << u"nk"_s << u"CQ {SNK"_s;
+    QTest::addRow("no letters at first") << u"cq {"_s << u" ~s?"_s << u"CQ {S?"_s;
+}
+
+void KeyboardViewMergeTest::aMessageThatEndsInOneIsCompleted() {
+    QFETCH(const QString, message);
+    QFETCH(const QString, typed);
+    _station->keys(u"e"_s);
+    _station->engine().appendMessage(message);
+    static_cast<void>(written());
+    _station->keys(typed);
+    QFETCH(const QString, result);
+    QCOMPARE(text(), u"E "_s + result);
+    QCOMPARE(_station->view.text(), text());
+    QByteArray sent;
+    for (int i = 0; i < 20; ++i) {
+        _station->echo();
+        sent += written().append(' ');
+    }
+    const auto merge = result.indexOf(u'{');
+    QVERIFY(sent.contains("1b " + result.mid(merge + 1, 2).toLatin1().toHex(' ')));
+}
+
+void KeyboardViewMergeTest::aPasteBehindAMessageCompletesItToo() {
+    _station->pause();
+    _station->engine().appendMessage(u"cq {"_s);
+    QGuiApplication::clipboard()->setText(u"sn de {ar"_s);
+    _station->keys(QKeySequence::Paste);
+    QCOMPARE(text(), u"CQ {SN DE {AR"_s);
+    _station->keys(QKeySequence::Undo);
+    _station->keys(QKeySequence::Undo);
+    QCOMPARE(text(), u"CQ {"_s);
+}
+
+void KeyboardViewMergeTest::whatIsMadeAgainTakesItsPlace() {
+    _station->pause();
+    _station->keys(u"ab"_s);
+    _station->keys(QKeySequence::Undo);
+    _station->keys(u"{s"_s);
+    _station->keys(QKeySequence::Redo);
+    QCOMPARE(text(), u"AB"_s);
+    QCOMPARE(kept(), u""_s);
 }
 
 static const RegisteredTest<KeyboardViewMergeTest> registered;

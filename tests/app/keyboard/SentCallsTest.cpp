@@ -22,6 +22,9 @@ class SentCallsTest : public QObject {
 
     void aCallIsShownOnceItIsSent();
     void eachSignKeepsItsCall();
+    void theCallShownIsTheOneThatWasSent_data();
+    void theCallShownIsTheOneThatWasSent();
+    void aSignThatWasPassedOverHasNoCall();
     void theTextKnowsNothingOfIt();
     void whatIsTypedBesideASignHasNoCall();
     void itMovesWithTheTextAround();
@@ -77,6 +80,42 @@ void SentCallsTest::eachSignKeepsItsCall() {
     sendAll();
     QCOMPARE(widthOf(0), first);
     QVERIFY(widthOf(2) < first);
+}
+
+void SentCallsTest::theCallShownIsTheOneThatWasSent_data() {
+    QTest::addColumn<int>("lettersBefore");
+    QTest::addColumn<QString>("shown");
+    QTest::addRow("changed before its last letter is confirmed") << 4 << u"W9XYZ"_s;
+    QTest::addRow("changed in its midst") << 1 << u"W91ABCDEF"_s;
+}
+
+/// The operator goes on to the next call as soon as this one is nearly through.
+void SentCallsTest::theCallShownIsTheOneThatWasSent() {
+    QFETCH(const int, lettersBefore);
+    QFETCH(const QString, shown);
+    const auto plain = [this] {
+        _station->keys(u"~"_s);
+        return widthOf(0);
+    }();
+    _station->echo(lettersBefore);
+    _station->engine().setHisCallsign(lettersBefore == 4 ? u"k1a"_s : u"kk1abcdef"_s);
+    sendAll();
+    auto small = _station->view.font();
+    small.setPointSizeF(small.pointSizeF() * 0.65);
+    const auto room = widthOf(0) - plain - QFontMetrics(small).horizontalAdvance(shown);
+    QVERIFY2(room >= -1 && room <= QFontMetrics(small).horizontalAdvance(u'W'),
+             qPrintable(QString::number(room)));
+}
+
+void SentCallsTest::aSignThatWasPassedOverHasNoCall() {
+    _station->keys(u"ab~k"_s);
+    const auto plain = widthOf(2);
+    _station->echo(1);
+    _station->key(Qt::Key_Home);
+    _station->key(Qt::Key_Delete); // and so the sign is one that is sent, by the place alone
+    QCOMPARE(text(), u"B~K"_s);
+    sendAll();
+    QCOMPARE(widthOf(1), plain);
 }
 
 void SentCallsTest::theTextKnowsNothingOfIt() {
@@ -135,9 +174,11 @@ void SentCallsTest::anotherFontHasRoomToo() {
 }
 
 void SentCallsTest::withoutACallNothingIsShown() {
+    _station->engine().setHisCallsign({});
+    _station->pause();
     _station->keys(u"~"_s);
     const auto plain = widthOf(0);
-    _station->engine().setHisCallsign({});
+    _station->resume();
     sendAll();
     QCOMPARE(widthOf(0), plain);
 }

@@ -34,6 +34,8 @@ class HeldMessagesTest : public QObject, private MainWindowFixture {
     void textAndMessagesKeepTheirOrder();
     void textTypedBehindAHeldMessageStaysBehindIt();
     void whatIsHeldIsCounted();
+    void whatIsTypedBehindAHeldMessageComesBehindIt_data();
+    void whatIsTypedBehindAHeldMessageComesBehindIt();
     void heldTextIsDroppedWithTheMessages();
 
   private:
@@ -251,6 +253,37 @@ void HeldMessagesTest::whatIsHeldIsCounted() {
     press(Qt::Key_F2);
     press(Qt::Key_Escape);
     QCOMPARE(waiting->text(), u""_s);
+}
+
+void HeldMessagesTest::whatIsTypedBehindAHeldMessageComesBehindIt_data() {
+    QTest::addColumn<QString>("entered"); // a digit for a message's key, "<" for Backspace
+    QTest::addColumn<QString>("result");
+    QTest::addRow("on both sides") << u"tu2ee"_s << u"TU 5NN NH EE"_s;
+    QTest::addRow("with spaces") << u" tu 2 ee "_s << u" TU 5NN NH EE "_s;
+    QTest::addRow("between two messages") << u"2tu7ee"_s << u"5NN NH TU ? EE"_s;
+    QTest::addRow("messages alone in the end") << u"tu27"_s << u"TU 5NN NH ?"_s;
+    QTest::addRow("a sign of two letters begun") << u"tu{a2re"_s << u"TU 5NN NH {ARE"_s;
+    QTest::addRow("corrected") << u"tu2ex<e"_s << u"TU 5NN NH EE"_s;
+    QTest::addRow("corrected ahead of the message") << u"tu2<<<ee"_s << u"EE 5NN NH"_s;
+}
+
+void HeldMessagesTest::whatIsTypedBehindAHeldMessageComesBehindIt() {
+    QFETCH(const QString, entered);
+    for (const auto each : entered) {
+        if (each.isDigit()) {
+            press(static_cast<Qt::Key>(Qt::Key_F1 + each.digitValue() - 1));
+        } else if (each == u'<') {
+            press(Qt::Key_Backspace);
+        } else {
+            type(each);
+        }
+    }
+    const auto counted = view().waitingCount();
+    _bench->receive({0xC0});
+    QTEST(text(), "result");
+    QCOMPARE(counted, text().size());
+    QCOMPARE(view().text(), text());
+    QVERIFY(!view().isHoldingText());
 }
 
 void HeldMessagesTest::heldTextIsDroppedWithTheMessages() {
