@@ -2,10 +2,13 @@
 
 #include "app/window/Strip.h"
 
+#include <QList>
+
 class WinKeyerUsb;
 
 /// A strip across the window that is there while no keyer is connected: says that nothing is sent,
 /// and what becomes of what is typed, and leads to the choice of port and to the check of them all.
+/// While the machine sleeps it says that.
 class ConnectionStrip final : public Strip {
     Q_OBJECT
   public:
@@ -13,7 +16,8 @@ class ConnectionStrip final : public Strip {
 
     /// Follows `engine`, which must outlive the strip.
     void setEngine(const WinKeyerUsb& engine);
-    /// While something else in the window says as much, the strip is not there.
+    /// While something else in the window says as much of a keyer that is missing, the strip is not
+    /// there for that.
     void setMuted(bool isMuted);
 
   Q_SIGNALS:
@@ -23,8 +27,10 @@ class ConnectionStrip final : public Strip {
     void portCheckRequested();
 
   private:
-    void showIfNeeded();
+    void follow();
+    void say(bool isAsleep);
 
     const WinKeyerUsb* _engine = nullptr;
+    QList<QPushButton*> _buttons;
     bool _isMuted = false;
 };

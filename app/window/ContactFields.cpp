@@ -16,6 +16,8 @@ ContactFields::ContactFields(WinKeyerUsb& engine, const HeldMessages& held, QLin
                      &ContactFields::followCallsign);
     QObject::connect(&_engine, &WinKeyerUsb::sendingProgressed, this,
                      &ContactFields::beginNextCallsign);
+    QObject::connect(&_engine, &WinKeyerUsb::activityChanged, this,
+                     &ContactFields::beginNextCallsign);
     QObject::connect(&_held, &HeldMessages::changed, this, &ContactFields::beginNextCallsign);
     QObject::connect(&_number, &QSpinBox::valueChanged, &_engine, &WinKeyerUsb::setSerialNumber);
     QObject::connect(&_engine, &WinKeyerUsb::serialNumberChanged, this,
@@ -81,7 +83,10 @@ void ContactFields::noteSigns() {
     _lastSign = _engine.keyboardBuffer().lastIndexOf(u'~');
 }
 
-/// A "~" is through with the last letter of its call.
+/// A "~" is through with the last letter of its call. Without a keyer none is ever sent.
 bool ContactFields::isCallsignToBeSent() const {
+    if (!_engine.isConnected()) {
+        return false;
+    }
     return _held.needsCallsign() || _lastSign >= _engine.inFlightIndex();
 }

@@ -4,6 +4,7 @@
 #include "tests/app/window/MainWindowFixture.h"
 #include "tests/support/RegisteredTest.h"
 
+#include <QAbstractButton>
 #include <QAccessible>
 #include <QAction>
 #include <QLabel>
@@ -23,7 +24,8 @@ class ConnectionStripTest : public QObject, private MainWindowFixture {
 
     void itIsThereWhileNothingIsConnected();
     void itSaysWhatBecomesOfTheText();
-    void afterASleepToo();
+    void whatIsEnteredAsleepWaitsForTheOperator_data();
+    void whatIsEnteredAsleepWaitsForTheOperator();
     void itLeadsToTheChoiceOfPort();
     void itLeadsToTheCheckOfThePorts();
     void nothingIsCountedAsWaiting();
@@ -60,21 +62,50 @@ void ConnectionStripTest::itSaysWhatBecomesOfTheText() {
     QCOMPARE(_bench->written(), "");
 }
 
-/// The engine keeps its text for the keyer that is to come back.
-void ConnectionStripTest::afterASleepToo() {
+void ConnectionStripTest::whatIsEnteredAsleepWaitsForTheOperator_data() {
+    QTest::addColumn<bool>("isSent");
+    QTest::addRow("who sends it") << true;
+    QTest::addRow("who drops it") << false;
+}
+
+/// What the strip says of a sleep is true, too. The keyer answers the greeting with its status.
+void ConnectionStripTest::whatIsEnteredAsleepWaitsForTheOperator() {
+    QFETCH(const bool, isSent);
     auto& notifications = _bench->platform().notifications();
     notifications.post(NSWorkspaceWillSleepNotification, nullptr);
     QVERIFY(strip().isVisible());
+    QVERIFY(find<QLabel>(u"connectionLabel"_s)->text().contains(u"waits until you take Pause off"));
+    QVERIFY(!find<QWidget>(u"choosePortButton"_s)->isVisible());
+    QVERIFY(!find<QWidget>(u"checkPortsButton"_s)->isVisible());
     type(u"cq"_s);
     press(Qt::Key_F2);
+    press(Qt::Key_F7);
+    QCOMPARE(find<QLabel>(u"waitingLabel"_s)->text(), u"11 waiting"_s);
     notifications.post(NSWorkspaceDidWakeNotification, nullptr);
     QTRY_VERIFY(!strip().isVisible());
-    static_cast<void>(_bench->written());
+    _bench->receive({0x55});
+    _bench->receive({0x17});
     _bench->receive({0xC0});
-    QCOMPARE(_bench->engine().keyboardBuffer(), u""_s);
+    static_cast<void>(_bench->written());
+    _bench->clock().advance(std::chrono::minutes{1});
+    _bench->receive({0xC8});
+    QCOMPARE(_bench->engine().keyboardBuffer(), u"CQ 5NN NH ?"_s);
     QCOMPARE(_bench->written(), "");
-    type(u"k"_s);
-    QCOMPARE(_bench->written(), "4b");
+    QVERIFY(find<QWidget>(u"noticeStrip"_s)->isVisible());
+    QVERIFY(find<QAbstractButton>(u"pauseButton"_s)->isChecked());
+    if (isSent) {
+        press(Qt::Key_P, Qt::ControlModifier);
+        QCOMPARE(_bench->written(), "06 00 43");
+        _bench->receive({'C'});
+        QCOMPARE(_bench->written(), "51");
+    } else {
+        press(Qt::Key_Escape);
+        QCOMPARE(_bench->engine().keyboardBuffer(), u""_s);
+        static_cast<void>(_bench->written());
+        type(u"k"_s);
+        QCOMPARE(_bench->written(), "4b");
+    }
+    QVERIFY(!find<QAbstractButton>(u"pauseButton"_s)->isChecked());
 }
 
 void ConnectionStripTest::itLeadsToTheChoiceOfPort() {

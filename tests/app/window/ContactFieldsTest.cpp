@@ -3,6 +3,7 @@
 #include "tests/app/window/MainWindowFixture.h"
 #include "tests/support/RegisteredTest.h"
 
+#include <QAbstractButton>
 #include <QLineEdit>
 
 using namespace Qt::StringLiterals;
@@ -24,6 +25,8 @@ class ContactFieldsTest : public QObject, private MainWindowFixture {
     void aCallTypedMeanwhileIsTheNextContacts();
     void aStopLeavesNoCallBehind();
     void aSignThatMovesIsStillTheLastContacts();
+    void withoutAKeyerTheFieldIsTheEngines();
+    void theCallOfWhatWaitsAsleepIsKept();
 
   private:
     [[nodiscard]] QLineEdit& field() { return *find<QLineEdit>(u"hisCallsignTextField"_s); }
@@ -135,6 +138,42 @@ void ContactFieldsTest::aSignThatMovesIsStillTheLastContacts() {
         sent += QByteArray::fromHex(_bench->written());
     }
     QCOMPARE(sent, "EEEW9XYZK");
+    QCOMPARE(_engine->hisCallsign(), u"K1A"_s);
+}
+
+/// What is struck out is never sent, and holds no call back.
+void ContactFieldsTest::withoutAKeyerTheFieldIsTheEngines() {
+    QVERIFY(_engine->disconnect(nullptr));
+    find<QWidget>(u"keyboardView"_s)->setFocus();
+    type(u"~ 5nn"_s);
+    press(Qt::Key_F11);
+    QCOMPARE(_engine->hisCallsign(), u""_s);
+    type(u"K1A"_s);
+    QCOMPARE(_engine->hisCallsign(), u"K1A"_s);
+    QCOMPARE(find<QAbstractButton>(u"message5Button"_s)->accessibleDescription(), u"K1A"_s);
+    QVERIFY(_bench->connect());
+    press(Qt::Key_F5);
+    _bench->receive({'K'});
+    QCOMPARE(_bench->written(), "4b 31");
+}
+
+void ContactFieldsTest::theCallOfWhatWaitsAsleepIsKept() {
+    auto& notifications = _bench->platform().notifications();
+    notifications.post(NSWorkspaceWillSleepNotification, nullptr);
+    press(Qt::Key_F5);
+    press(Qt::Key_F11);
+    type(u"K1A"_s);
+    notifications.post(NSWorkspaceDidWakeNotification, nullptr);
+    QTRY_VERIFY(!_engine->isAsleep());
+    _bench->clock().advance(std::chrono::minutes{1});
+    static_cast<void>(_bench->written());
+    press(Qt::Key_P, Qt::ControlModifier);
+    QByteArray sent;
+    for (int i = 0; i < 8; ++i) {
+        sent += QByteArray::fromHex(_bench->written().replace("06 00", ""));
+        _bench->receive({'E'});
+    }
+    QCOMPARE(sent, "W9XYZ");
     QCOMPARE(_engine->hisCallsign(), u"K1A"_s);
 }
 
