@@ -51,7 +51,7 @@ bool AlertBox::event(QEvent* event) {
 
 /// The window of the first alert of all has only just been opened, and gets its place afterwards.
 bool AlertBox::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::Move || event->type() == QEvent::Resize) {
+    if ((event->type() == QEvent::Move || event->type() == QEvent::Resize) && isWhereItWasPut()) {
         center();
     }
     return QMessageBox::eventFilter(watched, event);
@@ -74,6 +74,13 @@ void AlertBox::center() {
     place.moveLeft(std::max(place.left(), room.left()));
     place.moveTop(std::max(place.top(), room.top()));
     setGeometry(place);
+    _place = place.topLeft();
+}
+
+/// To the pixel or so that a scaled screen rounds by.
+bool AlertBox::isWhereItWasPut() const {
+    constexpr int rounding = 2;
+    return !_place || (geometry().topLeft() - *_place).manhattanLength() <= rounding;
 }
 
 void AlertBox::addButtons(const Alert& alert) {

@@ -3,10 +3,13 @@
 #include "platform/Application.h"
 
 #include <QMessageBox>
+#include <QPoint>
+
+#include <optional>
 
 /// An alert of the application, which comes when it comes: it takes no key before the keyboard has
 /// been still, and says so in a line of its own at the bottom. It stands in the middle of its
-/// window, also of one that is about to be put in its place.
+/// window, also of one that is about to be put in its place, until the operator moves it.
 class AlertBox final : public QMessageBox {
     Q_OBJECT
   public:
@@ -21,9 +24,11 @@ class AlertBox final : public QMessageBox {
 
   private:
     void center();
+    [[nodiscard]] bool isWhereItWasPut() const;
     void addButtons(const Alert& alert);
     void addHint();
 
     QAbstractButton* _defaultButton = nullptr;
     bool _hasBeenActive = false;
+    std::optional<QPoint> _place;
 };

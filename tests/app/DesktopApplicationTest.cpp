@@ -28,6 +28,7 @@ class DesktopApplicationTest : public QObject {
     void textIsShownAsItStands();
     void anAlertStandsAboveTheWindowInUse();
     void anAlertStandsInTheMiddleOfItsWindow();
+    void anAlertThatWasMovedStaysThere();
     void devicesThatComeMeanwhileAreAnnouncedAfterwards();
     void whatCanWaitStandsOnNoOtherAlert();
     void whatIsOverByThenIsNotTold();
@@ -157,6 +158,24 @@ void DesktopApplicationTest::anAlertStandsInTheMiddleOfItsWindow() {
         const auto screen = window.screen()->availableGeometry();
         window.move(screen.bottomRight() - QPoint(50, 50));
         QVERIFY(screen.contains(box.frameGeometry()));
+        QTest::keyClick(box.windowHandle(), Qt::Key_Return);
+    });
+    static_cast<void>(_application.runModal({.messageText = u"Ready?"_s, .informativeText = {}}));
+    QVERIFY(_wasShown);
+}
+
+/// By the operator, who wants to see what is under it.
+void DesktopApplicationTest::anAlertThatWasMovedStaysThere() {
+    QWidget window;
+    window.setGeometry(100, 100, 500, 400);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    whileShown([&window](QMessageBox& box) {
+        const auto place = box.pos() + QPoint(40, 70);
+        box.move(place);
+        window.move(20, 30);
+        window.resize(450, 420);
+        QCOMPARE(box.pos(), place);
         QTest::keyClick(box.windowHandle(), Qt::Key_Return);
     });
     static_cast<void>(_application.runModal({.messageText = u"Ready?"_s, .informativeText = {}}));
