@@ -48,6 +48,9 @@ struct Options {
             .arg(Profile{}.potWpm),
         u"WPM"_s, QString::number(Profile{}.potWpm)};
     QCommandLineOption profile{u"profile"_s, profileList(), u"NAMES"_s, u"default"_s};
+    QCommandLineOption paddle{u"paddle"_s,
+                              u"Standard input works the paddle: \".\" and \"-\" each close a "
+                              "contact, and anything else opens both."_s};
     QCommandLineOption link{u"link"_s,
                             u"The serial port's name, usbserial-virtual by default. The port is a "
                             "link in quorvel/ports in the runtime directory."_s,
@@ -57,6 +60,7 @@ struct Options {
 /// What is wrong with the values; empty when nothing is.
 QString readValues(const QCommandLineParser& parser, const Options& options, CommandLine& result) {
     result.isHeadless = parser.isSet(options.headless);
+    result.isPaddled = parser.isSet(options.paddle);
     const QString profileNames = parser.value(options.profile);
     for (const QString& name : profileNames.split(u',')) {
         if (!profileNamed(name.toStdString())) {
@@ -99,7 +103,7 @@ CommandLine CommandLine::parse(const QStringList& arguments) {
     const QCommandLineOption help({u"h"_s, u"help"_s}, u"Shows this text."_s);
     const QCommandLineOption version({u"v"_s, u"version"_s}, u"Shows the version."_s);
     parser.addOptions({help, version, options.headless, options.transcript, options.registers,
-                       options.speed, options.profile, options.link});
+                       options.speed, options.profile, options.paddle, options.link});
 
     CommandLine result;
     if (!parser.parse(arguments)) {

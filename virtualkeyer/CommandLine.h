@@ -15,6 +15,8 @@ struct CommandLine {
     QString error;
     /// Asked for no window, and so told nothing of there being none yet.
     bool isHeadless = false;
+    /// Whether standard input works the paddle.
+    bool isPaddled = false;
     Profile profile;
     QString linkName;
     /// Empty for no transcript.

@@ -14,6 +14,7 @@
 #include <cstdio>
 #include <optional>
 #include <stdexcept>
+#include <unistd.h>
 
 using namespace virtualkeyer;
 
@@ -44,7 +45,7 @@ void run(const CommandLine& commandLine, std::vector<KeyerListener*> listeners) 
         complain("the system has no watches left; openings of the port are noticed late", 0);
     }
     SerialKeyer keyer(commandLine.profile, std::move(listeners));
-    KeyerLoop loop(keyer, terminal);
+    KeyerLoop loop(keyer, terminal, commandLine.isPaddled ? STDIN_FILENO : -1);
     const std::string name = QFile::encodeName(commandLine.linkName).toStdString();
     const PortLink link(runtimeDirectory(), name, terminal.slavePath());
     std::fprintf(stderr, "Plugged in as %s (%s)\n%s", name.c_str(), link.path().c_str(),

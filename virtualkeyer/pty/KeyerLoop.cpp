@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <array>
 #include <poll.h>
+#include <unistd.h>
 
 namespace virtualkeyer {
 
@@ -22,12 +23,13 @@ timespec timeoutOf(Time wait) {
 
 } // namespace
 
-KeyerLoop::KeyerLoop(SerialKeyer& keyer, PseudoTerminal& terminal)
-    : _keyer(keyer), _terminal(terminal), _start(Clock::now()) {}
+KeyerLoop::KeyerLoop(SerialKeyer& keyer, PseudoTerminal& terminal, int paddle)
+    : _keyer(keyer), _terminal(terminal), _paddle(paddle), _start(Clock::now()) {}
 
 void KeyerLoop::run(int stopDescriptor) {
     while (waitForWork(stopDescriptor)) {
         noticeOpenings();
+        workPaddle();
         receiveFromHost();
         advance();
     }
@@ -36,9 +38,10 @@ void KeyerLoop::run(int stopDescriptor) {
 /// False when it is time to stop.
 bool KeyerLoop::waitForWork(int stopDescriptor) {
     // A negative descriptor is not waited for: bytes that find no room stay in the terminal.
-    std::array<pollfd, 3> descriptors{{{stopDescriptor, POLLIN, 0},
+    std::array<pollfd, 4> descriptors{{{stopDescriptor, POLLIN, 0},
                                        {_terminal.watch(), POLLIN, 0},
-                                       {_keyer.hasRoom() ? _terminal.master() : -1, POLLIN, 0}}};
+                                       {_keyer.hasRoom() ? _terminal.master() : -1, POLLIN, 0},
+                                       {_paddle, POLLIN, 0}}};
     timespec timeout{};
     auto due = _keyer.nextEvent();
     if (_terminal.watch() < 0) {
@@ -52,6 +55,7 @@ bool KeyerLoop::waitForWork(int stopDescriptor) {
         errno != EINTR) {
         throwSystemFailure("cannot wait for the host");
     }
+    _isPaddleToBeWorked = descriptors.back().revents != 0;
     return descriptors.front().revents == 0;
 }
 
@@ -59,6 +63,17 @@ void KeyerLoop::noticeOpenings() {
     for (int openings = _terminal.takeOpenings(); openings > 0; --openings) {
         _keyer.portOpened(now());
     }
+}
+
+void KeyerLoop::workPaddle() {
+    if (!_isPaddleToBeWorked) {
+        return;
+    }
+    char contact = ' ';
+    if (::read(_paddle, &contact, 1) <= 0) {
+        _paddle = -1;
+    }
+    _keyer.setPaddle(contact == '.', contact == '-', now());
 }
 
 void KeyerLoop::receiveFromHost() {

@@ -19,6 +19,12 @@ void SerialKeyer::portOpened(Time at) {
     handOn();
 }
 
+void SerialKeyer::setPaddle(bool dit, bool dah, Time at) {
+    advance(at);
+    _keyer.setPaddle(dit, dah, at);
+    handOn();
+}
+
 void SerialKeyer::advance(Time until) {
     while (const auto byte = _fromHost.take(until)) {
         _keyer.receive(byte->value, byte->completeAt);

@@ -32,6 +32,9 @@ class SerialKeyer {
     /// The host has opened the port at `at`.
     void portOpened(Time at);
 
+    /// The paddle's contacts are closed or open from `at` on.
+    void setPaddle(bool dit, bool dah, Time at);
+
     /// Lets time pass until `until`.
     void advance(Time until);
 

@@ -69,6 +69,7 @@ class VirtualKeyerProgramTest : public QObject {
     void thePotStandsWhereItWasToldTo_data();
     void thePotStandsWhereItWasToldTo();
     void aProfileChangesWhatTheHostSees();
+    void thePaddleIsWorkedByStandardInput();
     void aKeyerMayBeOfSeveralKinds();
     void aBootLoaderSwallowsWhatComesInTheFirstMoment();
     void thePortCanBeClosedAndOpenedAgain();
@@ -181,6 +182,30 @@ void VirtualKeyerProgramTest::aProfileChangesWhatTheHostSees() {
     const Port port(keyer.linkPath());
     port.send(openCommand);
     QCOMPARE(port.read(2), QByteArray("\x17\xC0"));
+}
+
+void VirtualKeyerProgramTest::thePaddleIsWorkedByStandardInput() {
+    KeyerProcess keyer(*_runtime);
+    const auto transcript = inRuntime(u"transcript"_s);
+    QVERIFY(keyer.plugIn({u"--paddle"_s, u"--transcript"_s, transcript}));
+    const auto timesDown = [&transcript] {
+        return linesOf(transcript).filter(u" key down"_s).size();
+    };
+    keyer.process().write(".");
+    QTRY_VERIFY(timesDown() > 0);
+    keyer.process().write(" ");
+    // A slow machine lets go late.
+    QTRY_VERIFY(u"EISH5"_s.contains(keyer.output().trimmed()) && !keyer.output().isEmpty());
+    const auto dits = keyer.output().trimmed();
+    const auto before = timesDown();
+    keyer.process().write("-");
+    QTRY_VERIFY(timesDown() > before);
+    // The end of the input is no contact that stays closed, and does not end the keyer.
+    keyer.process().closeWriteChannel();
+    QTRY_VERIFY(keyer.output().trimmed().size() > dits.size());
+    QVERIFY(u"TMO0"_s.contains(keyer.output().trimmed().sliced(dits.size()).trimmed().first(1)));
+    QCOMPARE(keyer.process().state(), QProcess::Running);
+    keyer.end(SIGTERM);
 }
 
 void VirtualKeyerProgramTest::aKeyerMayBeOfSeveralKinds() {
