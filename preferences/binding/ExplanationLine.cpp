@@ -3,6 +3,7 @@
 #include "preferences/binding/SettingBinder.h"
 
 #include <QEvent>
+#include <QPainter>
 #include <QTextDocumentFragment>
 
 #include <algorithm>
@@ -15,6 +16,9 @@ namespace {
 /// Enough for what most controls have to tell, in the narrowest pane.
 constexpr int lines = 2;
 
+/// Between the rule and the text.
+constexpr int gap = 4;
+
 QString explanationOf(const QWidget* widget) {
     const auto toolTip = widget != nullptr ? widget->toolTip() : QString();
     return QTextDocumentFragment::fromHtml(toolTip).toPlainText().simplified();
@@ -25,6 +29,7 @@ QString explanationOf(const QWidget* widget) {
 ExplanationLine::ExplanationLine(QWidget* parent) : QLabel(parent) {
     setTextFormat(Qt::PlainText);
     setWordWrap(true);
+    setContentsMargins(0, gap, 0, 0);
     setAlignment(Qt::AlignLeading | Qt::AlignTop);
     setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Minimum);
 }
@@ -40,7 +45,8 @@ QSize ExplanationLine::sizeHint() const {
     // Of so many lines, as a label measures them.
     const auto text = QStringList(lines, u"X"_s).join(u'\n');
     return {0,
-            fontMetrics().boundingRect(QRect(0, 0, 1000, 1000), Qt::TextWordWrap, text).height()};
+            fontMetrics().boundingRect(QRect(0, 0, 1000, 1000), Qt::TextWordWrap, text).height() +
+                gap};
 }
 
 int ExplanationLine::heightForWidth(int width) const {
@@ -57,6 +63,15 @@ void ExplanationLine::showEvent(QShowEvent* event) {
     auto* focused = window()->focusWidget();
     _focused = parentWidget()->isAncestorOf(focused) ? focused : nullptr;
     tell();
+}
+
+void ExplanationLine::paintEvent(QPaintEvent* event) {
+    QLabel::paintEvent(event);
+    if (!text().isEmpty()) {
+        QPainter painter(this);
+        painter.setPen(palette().color(QPalette::Mid));
+        painter.drawLine(rect().topLeft(), rect().topRight());
+    }
 }
 
 bool ExplanationLine::eventFilter(QObject* watched, QEvent* event) {

@@ -7,9 +7,9 @@ class SettingBinder;
 
 /// A line of a pane that tells what the control does that has the focus, so that nobody needs a
 /// mouse for it, or the one that the mouse rests on: its tool tip stands here, where it covers
-/// nothing. It always has the height of two lines, so that the pane keeps still, and asks for more
-/// where that is not enough, as for a stored number out of range. It watches all that its parent
-/// holds when it is first shown. Main thread only.
+/// nothing. A rule parts it from the controls above. It always has the height of two lines, so that
+/// the pane keeps still, and asks for more where that is not enough, as for a stored number out of
+/// range. It watches all that its parent holds when it is first shown. Main thread only.
 class ExplanationLine final : public QLabel {
     Q_OBJECT
   public:
@@ -26,6 +26,7 @@ class ExplanationLine final : public QLabel {
 
   protected:
     void showEvent(QShowEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
 
   private:
     void tell();
