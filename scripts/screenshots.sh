@@ -29,9 +29,14 @@ stop_screen() {
 }
 
 start_keyer() {
-    start keyer "$bin/quorvel-virtual-keyer" --headless --speed 25 --transcript "$transcript" \
-        >"$private_directory/keyed" 2>"$private_directory/keyer.log"
+    start keyer with_paddle "$bin/quorvel-virtual-keyer" --headless --paddle --speed 25 \
+        --transcript "$transcript" >"$private_directory/keyed" 2>"$private_directory/keyer.log"
     wait_while keyer 10 grep -q '^Plugged in as ' "$private_directory/keyer.log"
+}
+
+# with_paddle COMMAND...: whose standard input is the paddle.
+with_paddle() {
+    exec "$@" <"$private_directory/paddle"
 }
 
 # active_window_is TITLE
@@ -139,6 +144,59 @@ shoot_window() {
     stop quorvel
 }
 
+# Whether the paddle, of which only the dit contact closes, has keyed something.
+is_paddled() {
+    tail -c 40 "$private_directory/keyed" | grep -q "[EISH5]"
+}
+
+# shoot_traffic: a beacon that waits, and what waits for the paddle to be free.
+shoot_traffic() {
+    write_settings "WKPortName=$port" BeaconInterval=99
+    open_window
+    xdotool key ctrl+b key F7
+    wait_while quorvel 20 keyed "?"
+    sleep 2 # the countdown begins with the keyer's word that it is idle
+    take beacon
+    xdotool key Escape
+    printf . >&9
+    wait_while quorvel 20 is_paddled
+    sleep 1
+    xdotool key F2 type --delay 40 "tu 73"
+    sleep 1
+    take break-in
+    xdotool key Escape
+    printf ' ' >&9
+    stop quorvel
+}
+
+# shoot_question: which a port brings that is plugged in.
+shoot_question() {
+    write_settings
+    start quorvel "$bin/quorvel" >"$private_directory/quorvel.log" 2>&1
+    wait_while quorvel 30 windows_are 2
+    wait_while quorvel 20 closes_alert
+    start_keyer
+    wait_while quorvel 20 windows_are 2
+    picture plugged-in root
+    stop quorvel
+}
+
+# shoot_pages: the other pages of the keyer's pane, each with a control in focus.
+shoot_pages() {
+    write_settings "WKPortName=$port" MBPreferencesSelection=PreferencesWinKeyerPane
+    open_window
+    xdotool key ctrl+comma
+    wait_while quorvel 20 active_window_is WinKeyer
+    local page
+    for page in paddle outputs speed standalone; do
+        xdotool key ctrl+Tab
+        sleep 0.5
+        xdotool key Tab
+        picture "preferences-winkeyer-$page"
+    done
+    stop quorvel
+}
+
 # shoot_pane PANE: a pane of the preferences, opened as it was left.
 shoot_pane() {
     write_settings "WKPortName=$port" "MBPreferencesSelection=Preferences${1}Pane"
@@ -158,8 +216,10 @@ shoot() {
     export QT_SCALE_FACTOR=$2
     start_screen "$1"
     shoot_first_start
-    start_keyer
+    shoot_question
     shoot_window
+    shoot_traffic
+    shoot_pages
     for pane in General Messages WinKeyer; do
         shoot_pane "$pane"
     done
@@ -176,6 +236,8 @@ port=usbserial-virtual
 make_private_directory
 mkdir -m 700 "$private_directory/runtime"
 mkdir -p "$private_directory/config/quorvel"
+mkfifo "$private_directory/paddle"
+exec 9<>"$private_directory/paddle"
 export XDG_RUNTIME_DIR=$private_directory/runtime
 export XDG_CONFIG_HOME=$private_directory/config
 export XDG_STATE_HOME=$private_directory/state
