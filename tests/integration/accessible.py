@@ -93,9 +93,13 @@ class Accessible:
         extents = Atspi.Component.get_extents(self._element, Atspi.CoordType.SCREEN)
         return extents.x + extents.width // 2, extents.y + extents.height // 2
 
-    def children(self):
-        # What was read earlier may be out of date.
+    def refresh(self):
+        """Forgets what was read earlier, which may be out of date."""
         _reading(self._element.clear_cache, None)
+        return self
+
+    def children(self):
+        self.refresh()
         count = _reading(self._element.get_child_count, 0)
         found = (_reading(lambda: self._element.get_child_at_index(i), None) for i in range(count))
         return [Accessible(each) for each in found if each is not None]

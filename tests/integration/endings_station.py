@@ -27,14 +27,15 @@ GREETING_END = 0x07
 
 
 class EndingStation(ProgramTest):
-    def start_station(self, environment, more_settings):
+    def start_station(self, environment, more_settings, is_paddled=False):
         """Keyer, adapter and application, connected."""
         self.own_waits = ProcessorWaits(os.getpid())
         self.environment.update(environment)
         # The keyer's own link would be a second port.
         keyer_runtime = self.home / "keyer"
         keyer_runtime.mkdir(mode=0o700)
-        self.keyer = Keyer(dict(self.environment, XDG_RUNTIME_DIR=str(keyer_runtime)), self.home)
+        self.keyer = Keyer(dict(self.environment, XDG_RUNTIME_DIR=str(keyer_runtime)), self.home,
+                           is_paddled=is_paddled)
         self.addCleanup(self.keyer.end, signal.SIGKILL)
         self.bytes_log = self.home / "bytes"
         self.adapter = Helper(HERE / "adapter.py", keyer_runtime / "quorvel/ports" / PORT,

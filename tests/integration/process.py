@@ -12,17 +12,22 @@ from waiting import PATIENCE, wait_for
 class Process:
     """Runs from its making until end() or its own end; what it prints goes to files."""
 
-    def __init__(self, command, environment, logs, pass_fds=()):
+    def __init__(self, command, environment, logs, pass_fds=(), stdin=subprocess.DEVNULL):
         name = pathlib.Path(command[0]).name
         number = len(list(logs.glob(f"{name}.*.out")))
         self._out = logs / f"{name}.{number}.out"
         self._err = logs / f"{name}.{number}.err"
         with self._out.open("wb") as out, self._err.open("wb") as err:
             self._process = subprocess.Popen(
-                [str(each) for each in command], stdin=subprocess.DEVNULL, stdout=out, stderr=err,
+                [str(each) for each in command], stdin=stdin, stdout=out, stderr=err,
                 env=environment, pass_fds=pass_fds)
         self.pid = self._process.pid
         self._waits = ProcessorWaits(self.pid)
+
+    def tell(self, text):
+        """On its standard input, which has to be a pipe."""
+        self._process.stdin.write(text.encode())
+        self._process.stdin.flush()
 
     def output(self):
         return self._out.read_text(errors="replace")

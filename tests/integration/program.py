@@ -3,6 +3,7 @@
 import pathlib
 import shutil
 import signal
+import subprocess
 import sys
 import tempfile
 import unittest
@@ -31,12 +32,14 @@ Message8={LONG_TEXT}
 class Keyer(Process):
     """The virtual keyer's program, plugged in, its speed pot at `speed`."""
 
-    def __init__(self, environment, directory, speed=SPEED, profile="default"):
+    def __init__(self, environment, directory, speed=SPEED, profile="default", is_paddled=False):
         self._transcript = directory / "transcript.txt"
         self._registers = directory / "registers.txt"
         super().__init__([VIRTUAL_KEYER, "--headless", "--speed", str(speed), "--profile", profile,
-                          "--transcript", self._transcript, "--registers", self._registers],
-                         environment, directory)
+                          "--transcript", self._transcript, "--registers", self._registers,
+                          *(["--paddle"] if is_paddled else [])],
+                         environment, directory,
+                         stdin=subprocess.PIPE if is_paddled else subprocess.DEVNULL)
         self.wait_for("the keyer", lambda: "Plugged in as" in self.errors())
 
     def keyed(self):

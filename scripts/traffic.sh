@@ -1,0 +1,14 @@
+#!/usr/bin/env bash
+# Mixed traffic by real keys, mouse and paddle, compared with what was meant: SECONDS [SEED]
+set -euo pipefail
+source scripts/lib/packages.sh
+seconds=${1:-60}
+if [[ ! $seconds =~ ^[1-9][0-9]*$ || ! ${2:-0} =~ ^[0-9]+$ ]]; then
+    echo "usage: ./dev traffic SECONDS [SEED], two numbers" >&2
+    exit 2
+fi
+require_packages build screen test
+source scripts/lib/build.sh
+build_preset dev --target quorvel --target quorvel-key-guard --target quorvel-virtual-keyer
+/usr/bin/python3 -B tests/integration/traffic.py build/dev/bin/quorvel \
+    build/dev/bin/quorvel-virtual-keyer "$seconds" ${2:+"$2"} </dev/null
