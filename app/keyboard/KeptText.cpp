@@ -70,6 +70,14 @@ QString KeptText::release(qsizetype most) {
     return complete;
 }
 
+void KeptText::replace(QChar character, const QString& text) {
+    const auto open = _text.sliced(completeLength());
+    _text.truncate(completeLength());
+    _text.replace(character, text);
+    _openMerge = open.isEmpty() ? -1 : _text.size();
+    _text += open;
+}
+
 void KeptText::eraseLast() {
     const auto shorter = _text.chopped(1);
     clear();

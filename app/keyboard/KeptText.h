@@ -35,6 +35,8 @@ class KeptText {
     [[nodiscard]] bool isEmpty() const { return _text.isEmpty(); }
     [[nodiscard]] bool hasComplete() const { return completeLength() > 0; }
 
+    /// Puts `text` in place of each `character` of what is complete.
+    void replace(QChar character, const QString& text);
     /// Takes back the last character.
     void eraseLast();
     /// Drops a "{" that is not complete, and its letter.

@@ -50,6 +50,8 @@ class KeyboardView final : public QPlainTextEdit {
     [[nodiscard]] QString heldText() const { return _isHoldingText ? _kept.all() : QString(); }
     /// What is typed next is another word. How much of that text is ahead of it.
     [[nodiscard]] qsizetype endHeldWord();
+    /// Puts `call` in place of each "~" in that text.
+    void putCallIntoHeldText(const QString& call);
     /// Has such text sent, unless the paddle is in use yet.
     void handOverHeldText();
     /// The same with the first `count` characters, behind which a message comes.

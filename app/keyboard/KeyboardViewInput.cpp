@@ -100,6 +100,13 @@ qsizetype KeyboardView::endHeldWord() {
     return end;
 }
 
+void KeyboardView::putCallIntoHeldText(const QString& call) {
+    if (_isHoldingText) {
+        _kept.replace(u'~', call);
+        showKept();
+    }
+}
+
 void KeyboardView::handOverHeldText() {
     _isHoldingText = false;
     showKept();

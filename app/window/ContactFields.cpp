@@ -1,5 +1,6 @@
 #include "app/window/ContactFields.h"
 
+#include "app/keyboard/TextChange.h"
 #include "app/window/HeldMessages.h"
 #include "keyer/WinKeyerUsb.h"
 
@@ -8,17 +9,19 @@
 
 #include <algorithm>
 
-ContactFields::ContactFields(WinKeyerUsb& engine, const HeldMessages& held, QLineEdit& callsign,
+ContactFields::ContactFields(WinKeyerUsb& engine, HeldMessages& held, QLineEdit& callsign,
                              QSpinBox& number, QObject* parent)
     : QObject(parent), _engine(engine), _held(held), _callsign(callsign), _number(number) {
     QObject::connect(&_callsign, &QLineEdit::textChanged, this, &ContactFields::handOverCallsign);
     QObject::connect(&_engine, &WinKeyerUsb::hisCallsignChanged, this,
                      &ContactFields::followCallsign);
+    // Ahead of the next "~", which may follow at once.
+    QObject::connect(&_engine, &WinKeyerUsb::callsignSent, this, &ContactFields::followSending);
     QObject::connect(&_engine, &WinKeyerUsb::sendingProgressed, this,
-                     &ContactFields::beginNextCallsign);
-    QObject::connect(&_engine, &WinKeyerUsb::activityChanged, this,
-                     &ContactFields::beginNextCallsign);
-    QObject::connect(&_held, &HeldMessages::changed, this, &ContactFields::beginNextCallsign);
+                     &ContactFields::followSending);
+    QObject::connect(&_engine, &WinKeyerUsb::activityChanged, this, &ContactFields::followSending);
+    QObject::connect(&_engine, &WinKeyerUsb::keyboardBufferChanged, this,
+                     &ContactFields::followText);
     QObject::connect(&_number, &QSpinBox::valueChanged, &_engine, &WinKeyerUsb::setSerialNumber);
     QObject::connect(&_engine, &WinKeyerUsb::serialNumberChanged, this,
                      &ContactFields::followNumber);
@@ -26,7 +29,7 @@ ContactFields::ContactFields(WinKeyerUsb& engine, const HeldMessages& held, QLin
 }
 
 void ContactFields::followCallsign() {
-    if (!_isNextContacts && _callsign.text() != _engine.hisCallsign()) {
+    if (_former.isEmpty() && _callsign.text() != _engine.hisCallsign()) {
         _callsign.setText(_engine.hisCallsign());
     }
 }
@@ -45,10 +48,8 @@ void ContactFields::goToCallsign() {
 
 void ContactFields::wipeCallsign() {
     goToCallsign();
-    if (!_isNextContacts) {
-        noteSigns();
-        _isNextContacts = isCallsignToBeSent();
-    }
+    _held.bindCallsign(_callsign.text());
+    keepCallsign();
     _callsign.clear();
 }
 
@@ -57,36 +58,46 @@ void ContactFields::goToNextContact() {
     wipeCallsign();
 }
 
+/// For the signs that were put into the text since the contact before. Without a keyer none of them
+/// is ever sent.
+void ContactFields::keepCallsign() {
+    const auto from = _former.isEmpty() ? _engine.inFlightIndex() : _former.constLast().end;
+    const auto lastSign = _engine.keyboardBuffer().lastIndexOf(u'~');
+    if (_engine.isConnected() && lastSign >= from) {
+        _text = _engine.keyboardBuffer();
+        _former.append({_callsign.text(), lastSign + 1});
+    }
+}
+
 void ContactFields::handOverCallsign() {
-    if (!_isNextContacts) {
+    if (_former.isEmpty()) {
         _engine.setHisCallsign(_callsign.text());
     }
 }
 
-void ContactFields::beginNextCallsign() {
-    if (!_isNextContacts) {
+/// A "~" is through with the last letter of its call.
+bool ContactFields::isThrough() const {
+    return !_engine.isConnected() || _engine.inFlightIndex() >= _former.constFirst().end;
+}
+
+void ContactFields::followSending() {
+    const auto before = _former.size();
+    while (!_former.isEmpty() && isThrough()) {
+        _former.removeFirst();
+    }
+    if (_former.size() != before) {
+        _engine.setHisCallsign(_former.isEmpty() ? _callsign.text() : _former.constFirst().call);
+    }
+}
+
+/// What is typed ahead of a sign moves it, and a stop takes it away.
+void ContactFields::followText() {
+    if (_former.isEmpty()) {
         return;
     }
-    // What is held comes into the text later; what is typed ahead of a sign moves it, and a stop
-    // takes it away.
-    if (_held.needsCallsign() || _engine.keyboardBuffer().indexOf(u'~', _lastSign) != _lastSign) {
-        noteSigns();
+    const auto change = TextChange::between(_text, _engine.keyboardBuffer());
+    for (auto& each : _former) {
+        each.end = change.movedEnd(each.end);
     }
-    if (!isCallsignToBeSent()) {
-        _isNextContacts = false;
-        handOverCallsign();
-    }
-}
-
-/// What is added behind them is for the next contact.
-void ContactFields::noteSigns() {
-    _lastSign = _engine.keyboardBuffer().lastIndexOf(u'~');
-}
-
-/// A "~" is through with the last letter of its call. Without a keyer none is ever sent.
-bool ContactFields::isCallsignToBeSent() const {
-    if (!_engine.isConnected()) {
-        return false;
-    }
-    return _held.needsCallsign() || _lastSign >= _engine.inFlightIndex();
+    _text = _engine.keyboardBuffer();
 }

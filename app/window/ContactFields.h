@@ -1,6 +1,8 @@
 #pragma once
 
+#include <QList>
 #include <QObject>
+#include <QString>
 
 class HeldMessages;
 class QLineEdit;
@@ -12,13 +14,13 @@ class ContactFields final : public QObject {
     Q_OBJECT
   public:
     /// All of them must outlive this.
-    ContactFields(WinKeyerUsb& engine, const HeldMessages& held, QLineEdit& callsign,
-                  QSpinBox& number, QObject* parent);
+    ContactFields(WinKeyerUsb& engine, HeldMessages& held, QLineEdit& callsign, QSpinBox& number,
+                  QObject* parent);
 
     /// Has the operator type the call sign anew.
     void goToCallsign();
-    /// Empties the field of the call sign, and goes to it. A "~" that still waits is sent with the
-    /// call that it was meant for: what is typed meanwhile holds behind it.
+    /// Empties the field of the call sign, and goes to it. Each "~" that still waits is sent with
+    /// the call that it was meant for, of however many contacts.
     void wipeCallsign();
     /// Goes on to the next contact: its number is one more, and the call sign is another one.
     void goToNextContact();
@@ -27,16 +29,22 @@ class ContactFields final : public QObject {
     void followCallsign();
     void followNumber();
     void handOverCallsign();
-    void beginNextCallsign();
-    void noteSigns();
-    [[nodiscard]] bool isCallsignToBeSent() const;
+    void followSending();
+    void followText();
+    void keepCallsign();
+    [[nodiscard]] bool isThrough() const;
 
     WinKeyerUsb& _engine;
-    const HeldMessages& _held;
+    HeldMessages& _held;
     QLineEdit& _callsign;
     QSpinBox& _number;
-    /// Whether the field is that of a contact whose call the engine does not know yet.
-    bool _isNextContacts = false;
-    /// Index in the engine's text of the last "~" that is still the last contact's.
-    qsizetype _lastSign = -1;
+    /// A contact whose call is yet to be sent, and where in the text its last "~" ends.
+    struct Contact {
+        QString call;
+        qsizetype end;
+    };
+    /// Those ahead of the one in the field; the call of the first of them is the engine's.
+    QList<Contact> _former;
+    /// The engine's text for which their ends are.
+    QString _text;
 };

@@ -51,10 +51,14 @@ bool HeldMessages::isEmpty() const {
     return _waiting.isEmpty() && !_view.isHoldingText();
 }
 
-bool HeldMessages::needsCallsign() const {
-    return _view.heldText().contains(u'~') ||
-           std::any_of(_waiting.begin(), _waiting.end(),
-                       [](const Waiting& each) { return each.message.contains(u'~'); });
+void HeldMessages::bindCallsign(const QString& call) {
+    const auto text = _view.heldText();
+    for (auto& each : _waiting) {
+        each.message.replace(u'~', call);
+        each.textAhead +=
+            text.first(std::min(each.textAhead, text.size())).count(u'~') * (call.size() - 1);
+    }
+    _view.putCallIntoHeldText(call);
 }
 
 void HeldMessages::followView() {

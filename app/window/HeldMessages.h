@@ -23,8 +23,9 @@ class HeldMessages final : public QObject {
 
     [[nodiscard]] bool isHeld(const QObject* control) const;
     [[nodiscard]] bool isEmpty() const;
-    /// Whether anything that is held is to be sent with the other station's call sign.
-    [[nodiscard]] bool needsCallsign() const;
+    /// What is held is to be sent with that call sign of the other station, whatever is in its
+    /// place by then.
+    void bindCallsign(const QString& call);
 
   Q_SIGNALS:
     /// What is held is something else now.

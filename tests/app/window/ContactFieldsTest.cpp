@@ -23,6 +23,8 @@ class ContactFieldsTest : public QObject, private MainWindowFixture {
     void wipingLeavesTheNumber();
     void aCallThatWaitsIsSentFirst();
     void aCallTypedMeanwhileIsTheNextContacts();
+    void eachOfSeveralContactsKeepsItsCall_data();
+    void eachOfSeveralContactsKeepsItsCall();
     void aStopLeavesNoCallBehind();
     void aSignThatMovesIsStillTheLastContacts();
     void withoutAKeyerTheFieldIsTheEngines();
@@ -114,6 +116,35 @@ void ContactFieldsTest::aCallTypedMeanwhileIsTheNextContacts() {
     QCOMPARE(sent, "EW9XYZK K1A");
     QCOMPARE(_engine->hisCallsign(), u"K1A"_s);
     QCOMPARE(field().text(), u"K1A"_s);
+}
+
+void ContactFieldsTest::eachOfSeveralContactsKeepsItsCall_data() {
+    QTest::addColumn<QString>("exchange");
+    QTest::addColumn<QByteArray>("result");
+    QTest::addRow("a sign each") << u"~"_s << QByteArray("W9XYZ K1A N2B");
+    QTest::addRow("two signs each") << u"~ ~"_s << QByteArray("W9XYZ W9XYZ K1A K1A N2B N2B");
+    QTest::addRow("no sign at all") << u"e"_s << QByteArray("E E E");
+}
+
+/// A fast operator is contacts ahead of the keyer.
+void ContactFieldsTest::eachOfSeveralContactsKeepsItsCall() {
+    QFETCH(const QString, exchange);
+    for (const auto* call : {"", "K1A", "N2B", ""}) {
+        type(QString::fromLatin1(call));
+        if (call[0] != '\0' || _engine->keyboardBuffer().isEmpty()) {
+            _engine->appendMessage(exchange);
+        }
+        press(Qt::Key_F11);
+    }
+    type(u"G3C"_s);
+    QByteArray sent = QByteArray::fromHex(_bench->written());
+    for (int i = 0; i < 60; ++i) {
+        _bench->receive({'E'});
+        sent += QByteArray::fromHex(_bench->written());
+    }
+    QTEST(sent, "result");
+    QCOMPARE(_engine->hisCallsign(), u"G3C"_s);
+    QCOMPARE(_engine->serialNumber(), 11);
 }
 
 void ContactFieldsTest::aStopLeavesNoCallBehind() {
