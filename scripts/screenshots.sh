@@ -193,6 +193,7 @@ shoot_pages() {
         sleep 0.5
         xdotool key Tab
         picture "preferences-winkeyer-$page"
+        xdotool key shift+Tab # a list turns no page
     done
     stop quorvel
 }
