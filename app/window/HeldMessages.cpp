@@ -6,6 +6,8 @@
 #include "keyer/WinKeyerUsb.h"
 #include "platform/SettingsStore.h"
 
+#include <QScopedValueRollback>
+
 #include <algorithm>
 #include <utility>
 
@@ -59,9 +61,13 @@ void HeldMessages::bindCallsign(const QString& call) {
             text.first(std::min(each.textAhead, text.size())).count(u'~') * (call.size() - 1);
     }
     _view.putCallIntoHeldText(call);
+    _view.setHeldElsewhere(waitingCount());
 }
 
 void HeldMessages::followView() {
+    if (_isHandingOver) {
+        return; // there is more to come
+    }
     _view.setHeldElsewhere(waitingCount());
     if (std::exchange(_isViewHolding, _view.isHoldingText()) != _view.isHoldingText()) {
         Q_EMIT changed();
@@ -72,24 +78,28 @@ void HeldMessages::followKeyer() {
     if (_engine.activity() == KeyerActivity::NotConnected) {
         drop();
     }
-    if (isEmpty() || _engine.activity() != KeyerActivity::Idle) {
-        return;
+    if (!isEmpty() && _engine.activity() == KeyerActivity::Idle && !_isHandingOver) {
+        handOver();
+        _isViewHolding = _view.isHoldingText();
+        announce();
     }
+}
+
+void HeldMessages::handOver() {
+    const QScopedValueRollback guard(_isHandingOver, true);
+    _view.setHeldElsewhere(0); // nothing is in front of the first
     qsizetype handedOver = 0;
-    while (!_waiting.isEmpty()) {
+    while (!_waiting.isEmpty()) { // a stop meanwhile drops the rest
         const auto next = _waiting.takeFirst();
         if (next.textAhead > handedOver) {
-            _view.setHeldElsewhere(0); // nothing is in front of it
             _view.handOverHeldText(next.textAhead - handedOver);
             handedOver = next.textAhead;
         }
         _engine.appendMessage(next.message);
     }
-    _view.setHeldElsewhere(0);
     if (_view.isHoldingText()) {
         _view.handOverHeldText();
     }
-    announce();
 }
 
 void HeldMessages::drop() {

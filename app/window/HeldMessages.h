@@ -37,12 +37,14 @@ class HeldMessages final : public QObject {
     [[nodiscard]] qsizetype waitingCount() const;
     void followKeyer();
     void followView();
+    void handOver();
     void drop();
     void announce();
 
     WinKeyerUsb& _engine;
     KeyboardView& _view;
     bool _isViewHolding = false;
+    bool _isHandingOver = false;
     /// The control of a message, what is to be sent, and how much of the view's text comes ahead.
     struct Waiting {
         const QObject* control;

@@ -155,7 +155,8 @@ void MainWindow::setUpNotices() {
         QObject::connect(strip, &NoticeStrip::hasGivenUpFocus, _keyboardView,
                          [this] { _keyboardView->setFocus(); });
     }
-    new SleepNotice(_engine, *_ui->noticeStrip, this);
+    auto* sleepNotice = new SleepNotice(_engine, *_ui->noticeStrip, this);
+    QObject::connect(_ui->pauseButton, &SwitchButton::pressed, sleepNotice, &SleepNotice::settle);
     auto* watch = new KeyerWatch(_engine, this);
     QObject::connect(watch, &KeyerWatch::connectionWanted, this, &MainWindow::connectionWanted);
     auto& check = _ui->answerStrip->addButton(tr("Check ports…"), u"answerCheckButton"_s);

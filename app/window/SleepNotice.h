@@ -18,6 +18,9 @@ class SleepNotice final : public QObject {
     /// `engine` and `strip` must outlive this.
     SleepNotice(WinKeyerUsb& engine, NoticeStrip& strip, QObject* parent);
 
+    /// The operator is about to switch the pause: it is not the keyer that ends it.
+    void settle() { _settled = {}; }
+
   private:
     void followText();
     void followLink();

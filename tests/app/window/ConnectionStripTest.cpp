@@ -13,6 +13,7 @@
 #include <QSignalSpy>
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
 /// What the main window says while no keyer is connected.
 class ConnectionStripTest : public QObject, private MainWindowFixture {
@@ -64,13 +65,16 @@ void ConnectionStripTest::itSaysWhatBecomesOfTheText() {
 
 void ConnectionStripTest::whatIsEnteredAsleepWaitsForTheOperator_data() {
     QTest::addColumn<bool>("isSent");
-    QTest::addRow("who sends it") << true;
-    QTest::addRow("who drops it") << false;
+    QTest::addColumn<std::chrono::minutes>("later");
+    QTest::addRow("who sends it") << true << 1min;
+    QTest::addRow("who sends it at once") << true << 0min;
+    QTest::addRow("who drops it") << false << 1min;
 }
 
 /// What the strip says of a sleep is true, too. The keyer answers the greeting with its status.
 void ConnectionStripTest::whatIsEnteredAsleepWaitsForTheOperator() {
     QFETCH(const bool, isSent);
+    QFETCH(const std::chrono::minutes, later);
     auto& notifications = _bench->platform().notifications();
     notifications.post(NSWorkspaceWillSleepNotification, nullptr);
     QVERIFY(strip().isVisible());
@@ -87,7 +91,7 @@ void ConnectionStripTest::whatIsEnteredAsleepWaitsForTheOperator() {
     _bench->receive({0x17});
     _bench->receive({0xC0});
     static_cast<void>(_bench->written());
-    _bench->clock().advance(std::chrono::minutes{1});
+    _bench->clock().advance(later);
     _bench->receive({0xC8});
     QCOMPARE(_bench->engine().keyboardBuffer(), u"CQ 5NN NH ?"_s);
     QCOMPARE(_bench->written(), "");
