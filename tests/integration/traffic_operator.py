@@ -20,6 +20,7 @@ class Operator:
         self._station, self._random = station, random
         self._number, self._call = 1, ""
         self.counts = dict.fromkeys(self.acts(), 0)
+        self._held = None
         self._begin_text()
 
     @classmethod
@@ -49,6 +50,8 @@ class Operator:
         self._is_behind_message = False
 
     def _mean_message(self, number):
+        if self._held is not None:
+            self._held.add(number)
         text = MESSAGES[number].replace("`", "N0CALL").replace("#", self._cut_number())
         # With the call that it has now, whatever is in its place by then.
         text = text.replace("~", self._call)
@@ -113,7 +116,8 @@ class Operator:
             button = next(each for name, each in self._station.controls.items()
                           if name.startswith(f"Message {number}:"))
             self._station.desktop.click(button)
-        self._mean_message(number)
+        if self._held is None or number not in self._held:
+            self._mean_message(number)
 
     def _next_contact(self):
         """By the one key, while the last contact's exchange may still be on its way."""
@@ -226,7 +230,10 @@ class Operator:
         echoed = station.take()
         station.assertTrue(before.startswith(echoed), (before, echoed))
         self._begin_text()
+        # A message that waits, as its button says, is not meant once more.
+        self._held = set()
         self._mix(3)
+        self._held = None
         if self._maybe():
             station.desktop.press("Escape")
             self._begin_text()
