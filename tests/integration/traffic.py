@@ -22,7 +22,6 @@ class Traffic(TrafficStation):
         self.start_traffic()
         operator = Operator(self, random.Random(SEED))
         end = time.monotonic() + SECONDS
-        letters = 0
         try:
             while time.monotonic() < end:
                 operator.act()

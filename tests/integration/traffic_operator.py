@@ -309,7 +309,6 @@ class Operator:
             station.wait("an empty text", lambda: station.keyboard.text() == "")
             station.stay_quiet()
         else:
-            # Of the first second, in which a keyer may answer, the silence has taken a part.
             self._expect_unpaused()
         station.assertFalse(station.is_paused())
 
@@ -318,7 +317,7 @@ class Operator:
         station = self._station
         for is_on in (True, False):
             station.desktop.click(station.controls["Tune"])
-            station.wait("the key", lambda: (station.listen(), station._is_key_down == is_on)[1])
+            station.wait("the key", lambda: station.is_key_down() == is_on)
         station.rest()
         station.take()
         self._type("  " + self._words())

@@ -45,7 +45,7 @@ class Tail:
 
 
 class TrafficStation(EndingStation):
-    """Its one test is given from outside."""
+    """A station for one test, whose acts are given from outside."""
 
     def start_traffic(self):
         self._bus, address = self.desktop.start_bus()
@@ -105,6 +105,10 @@ class TrafficStation(EndingStation):
         self._heard = len(self._echoes)
         self._keyed = len(self.keyer.keyed())
         return echoed
+
+    def is_key_down(self):
+        self.listen()
+        return self._is_key_down
 
     def is_at_rest(self):
         """The keyer is idle by its own word also while it ends a letter that was stopped."""
