@@ -45,7 +45,7 @@ struct Texts {
     /// All settings may be among them, which is more than anybody reads.
     static QString listed(const QStringList& keys) {
         constexpr qsizetype most = 8;
-        const auto first = keys.first(std::min(most, keys.size())).join(u", ");
+        const auto first = keys.first(std::min(most, keys.size())).join(tr(", "));
         return keys.size() > most ? tr("%1 … (%2 in all)").arg(first).arg(keys.size()) : first;
     }
 

@@ -3,7 +3,6 @@
 #include "app/PortCheckCommand.h"
 #include "app/QuorvelStyle.h"
 #include "app/Shell.h"
-#include "app/Translations.h"
 #include "keyer/GeneralSettings.h"
 #include "keyer/WinKeyerUsb.h"
 #include "platform/BundleIdentifier.h"
@@ -16,6 +15,7 @@
 #include "preferences/PreferencesGeneral.h"
 #include "preferences/PreferencesMessagesViewController.h"
 #include "preferences/PreferencesWinKeyer.h"
+#include "translations/Translations.h"
 
 #include <QApplication>
 #include <QLocale>
@@ -44,6 +44,20 @@ int tellThatTheRunningOneHangs() {
     logLine(message);
     QMessageBox::critical(nullptr, {}, message);
     return EXIT_FAILURE;
+}
+
+/// Without the toolkit's part for windows, which does not start where there is no screen.
+bool hasAnswered(int& argc, char** argv) {
+    const auto* option = argc > 1 ? argv[1] : "";
+    const auto version = QCoreApplication::applicationVersion();
+    if (!commandLineAnswer(option, version)) {
+        return false;
+    }
+    const QCoreApplication console(argc, argv);
+    const Translations translations{QLocale()};
+    const auto answer = commandLineAnswer(option, version);
+    std::fputs(answer->toLocal8Bit().constData(), stdout);
+    return true;
 }
 
 int run(SingleInstance& instance) {
@@ -79,22 +93,19 @@ int main(int argc, char* argv[]) {
     QApplication::setApplicationDisplayName(u"Quorvel"_s);
     QApplication::setApplicationVersion(QStringLiteral(QUORVEL_VERSION));
     QApplication::setDesktopFileName(bundleIdentifier);
-    // Ahead of the toolkit, which does not start without a screen.
-    if (const auto answer =
-            commandLineAnswer(argc > 1 ? argv[1] : "", QApplication::applicationVersion())) {
-        std::fputs(qUtf8Printable(*answer), stdout);
+    if (hasAnswered(argc, argv)) {
         return EXIT_SUCCESS;
     }
     if (argc > 1 && argv[1] == PortCheckCommand::option) {
         const QCoreApplication terminal(argc, argv);
-        const Translations translations(QLocale(), u":/translations"_s);
+        const Translations translations{QLocale()};
         return PortCheckCommand::run(QCoreApplication::arguments().sliced(2));
     }
     // The toolkit takes it out of the environment.
     const auto token = activationToken();
     const QApplication toolkit(argc, argv);
     QApplication::setStyle(new QuorvelStyle);
-    const Translations translations(QLocale(), u":/translations"_s);
+    const Translations translations{QLocale()};
 
     SingleInstance instance;
     switch (instance.begin(token)) {

@@ -89,3 +89,14 @@ function(quorvel_tests program)
         add_dependencies(thread-tests ${program})
     endif()
 endfunction()
+
+# quorvel_language_tests(PROGRAM CLASS function...)
+# Runs these functions of a test class, one of PROGRAM's, once more in each language that there is.
+function(quorvel_language_tests program class)
+    get_property(languages GLOBAL PROPERTY QUORVEL_LANGUAGES)
+    foreach(language IN LISTS languages)
+        add_test(NAME ${class}-in-${language} COMMAND ${program} ${class} ${ARGN})
+        set_tests_properties(${class}-in-${language} PROPERTIES ENVIRONMENT
+            "QT_QPA_PLATFORM=offscreen;QT_FORCE_STDERR_LOGGING=1;QUORVEL_TEST_LANGUAGE=${language}")
+    endforeach()
+endfunction()

@@ -10,11 +10,12 @@ inline constexpr QLatin1StringView WKPortName{"WKPortName"};
 inline constexpr QLatin1StringView MyCall{"MyCall"};
 
 /// After how many seconds Tune lets go by itself; the code of a choice is the number.
-inline constexpr std::array<Choice, 5> tuneLimits{{{QLatin1StringView{"Off"}, 0},
-                                                   {QLatin1StringView{"10 s"}, 10},
-                                                   {QLatin1StringView{"30 s"}, 30},
-                                                   {QLatin1StringView{"60 s"}, 60},
-                                                   {QLatin1StringView{"120 s"}, 120}}};
+inline constexpr std::array<Choice, 5> tuneLimits{
+    {{QLatin1StringView{QT_TRANSLATE_NOOP("Setting", "Off")}, 0},
+     {QLatin1StringView{"10 s"}, 10},
+     {QLatin1StringView{"30 s"}, 30},
+     {QLatin1StringView{"60 s"}, 60},
+     {QLatin1StringView{"120 s"}, 120}}};
 inline constexpr Setting TuneLimit{QLatin1StringView{"TuneLimit"}, QLatin1StringView{"Off"},
                                    tuneLimits};
 
@@ -24,7 +25,7 @@ inline constexpr QLatin1StringView AcceptLoggers{"AcceptLoggers"};
 inline constexpr Setting LoggerPort{QLatin1StringView{"LoggerPort"}, 6789, {}, Range{1024, 65535}};
 
 /// What WKPortName holds while no port is chosen.
-inline constexpr QLatin1StringView noPortName{"None"};
+inline constexpr QLatin1StringView noPortName{QT_TRANSLATE_NOOP("Setting", "None")};
 
 inline constexpr auto generalSettings = std::to_array<Setting>({
     {WKPortName, noPortName},

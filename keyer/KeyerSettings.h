@@ -46,15 +46,17 @@ inline constexpr std::array<QLatin1StringView, 6> WKStandaloneMessages{
 namespace KeyerChoices {
 
 /// Bits 5 and 4 of the mode register.
-inline constexpr std::array<Choice, 4> keyMode{{{QLatin1StringView{"Iambic B"}, 0x00},
-                                                {QLatin1StringView{"Iambic A"}, 0x10},
-                                                {QLatin1StringView{"Ultimatic"}, 0x20},
-                                                {QLatin1StringView{"Bug"}, 0x30}}};
+inline constexpr std::array<Choice, 4> keyMode{
+    {{QLatin1StringView{QT_TRANSLATE_NOOP("Setting", "Iambic B")}, 0x00},
+     {QLatin1StringView{QT_TRANSLATE_NOOP("Setting", "Iambic A")}, 0x10},
+     {QLatin1StringView{QT_TRANSLATE_NOOP("Setting", "Ultimatic")}, 0x20},
+     {QLatin1StringView{QT_TRANSLATE_NOOP("Setting", "Bug")}, 0x30}}};
 
 /// Bits 7 and 6 of the pin configuration.
-inline constexpr std::array<Choice, 3> ditDahPriority{{{QLatin1StringView{"Normal"}, 0x00},
-                                                       {QLatin1StringView{"Dashes"}, 0x40},
-                                                       {QLatin1StringView{"Dots"}, 0x80}}};
+inline constexpr std::array<Choice, 3> ditDahPriority{
+    {{QLatin1StringView{QT_TRANSLATE_NOOP("Setting", "Normal")}, 0x00},
+     {QLatin1StringView{QT_TRANSLATE_NOOP("Setting", "Dashes")}, 0x40},
+     {QLatin1StringView{QT_TRANSLATE_NOOP("Setting", "Dots")}, 0x80}}};
 
 /// Bits 5 and 4 of the pin configuration; word times.
 inline constexpr std::array<Choice, 4> paddleHang{{{QLatin1StringView{"1.0"}, 0x00},

@@ -3,7 +3,7 @@
 QHash<QString, QVariant> messageDefaults() {
     auto defaults = defaultsOf(std::span(&BeaconInterval, 1));
     for (const auto& message : messageSettings) {
-        defaults.insert(message.labelKey, QString(message.labelDefault));
+        defaults.insert(message.labelKey, shownText(message.labelDefault));
         defaults.insert(message.textKey, QString(message.textDefault));
     }
     return defaults;

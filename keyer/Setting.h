@@ -3,6 +3,7 @@
 #include <QHash>
 #include <QString>
 #include <QVariant>
+#include <QtGlobal>
 
 #include <cstdint>
 #include <optional>
@@ -54,6 +55,10 @@ template <typename Text>
     }
     return 0;
 }
+
+/// What the operator reads for a text that a setting has by default or offers: numbers and words
+/// are stored as English has them, whatever the language.
+[[nodiscard]] QString shownText(const QString& text);
 
 /// The default values by key, as the settings store registers them.
 [[nodiscard]] QHash<QString, QVariant> defaultsOf(std::span<const Setting> settings);

@@ -46,7 +46,9 @@ void PreferencesGeneralViewController::setSerialPortNames(const QStringList& nam
     {
         const QSignalBlocker blocker(chooser); // it is not the operator who chooses
         chooser.clear();
-        chooser.addItems(names);
+        for (const auto& each : names) {
+            chooser.addItem(each == noPortName ? shownText(each) : each, each);
+        }
     }
     _isPortPresent = names.size() > names.count(noPortName);
     _binder->show();

@@ -13,7 +13,9 @@ out=build/run
 # it keys goes to the descriptor in $keyed.
 # shellcheck disable=SC2120 # A run without display gives options, by way of its steps.
 start_keyer() {
-    start keyer "$bin/quorvel-virtual-keyer" --headless "$@" 1>&"$keyed" 2>"$out/keyer.log"
+    # In English, in which its word is waited for.
+    start keyer env LC_ALL=C.UTF-8 "$bin/quorvel-virtual-keyer" --headless "$@" \
+        1>&"$keyed" 2>"$out/keyer.log"
     wait_while keyer 10 grep -q '^Plugged in as ' "$out/keyer.log" && return
     echo "The virtual keyer could not be plugged in:" >&2
     tail -n 20 "$out/keyer.log" >&2

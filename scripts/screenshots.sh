@@ -244,6 +244,8 @@ export XDG_CONFIG_HOME=$private_directory/config
 export XDG_STATE_HOME=$private_directory/state
 export DBUS_SESSION_BUS_ADDRESS=disabled:
 export QT_QPA_PLATFORM=xcb
+# It goes by what the windows say, in English.
+export LC_ALL=C.UTF-8
 
 build_preset release
 rm -rf "$images"

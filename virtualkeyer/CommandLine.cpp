@@ -15,46 +15,62 @@ namespace {
 
 constexpr int slowestPot = 5;
 constexpr int fastestPot = 99;
+constexpr auto standardLink = "usbserial-virtual"_L1;
 
 QString qt(std::string_view text) {
     return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
 
 QString profileList() {
-    QString list = u"The kind of keyer, or several of them, separated by commas:"_s;
+    QString list = CommandLine::tr("The kind of keyer, or several of them, separated by commas:");
     for (const NamedProfile& profile : namedProfiles()) {
-        list += u"\n%1: %2"_s.arg(qt(profile.name), qt(profile.description));
+        list += u"\n%1: %2"_s.arg(
+            qt(profile.name),
+            QCoreApplication::translate("NamedProfile", std::string(profile.description).c_str()));
     }
     return list;
 }
 
+QString transcriptHelp() {
+    return CommandLine::tr("Writes a line for every event, with its time in ms, to %1.")
+        .arg(u"FILE"_s);
+}
+
+QString registersHelp() {
+    return CommandLine::tr("Keeps %1 up to date with the keyer's registers, and the settings and "
+                           "messages of its memory: lines of a name and a value. Each change "
+                           "replaces the file as a whole.")
+        .arg(u"FILE"_s);
+}
+
+QString speedHelp() {
+    return CommandLine::tr("Where the speed pot stands, %1 to %2 words per minute, %3 by default. "
+                           "It counts within the range that the host has set, 10 to 25 at "
+                           "power-up.")
+        .arg(slowestPot)
+        .arg(fastestPot)
+        .arg(Profile{}.potWpm);
+}
+
+QString linkHelp() {
+    return CommandLine::tr("The serial port's name, %1 by default. The port is a link in "
+                           "quorvel/ports in the runtime directory.")
+        .arg(standardLink);
+}
+
 struct Options {
-    QCommandLineOption headless{u"headless"_s, u"Shows no window. There is none yet: without this "
-                                               u"option the program says so, and does the "
-                                               "same."_s};
-    QCommandLineOption transcript{u"transcript"_s,
-                                  u"Writes a line for every event, with its time in ms, to FILE."_s,
-                                  u"FILE"_s};
-    QCommandLineOption registers{
-        u"registers"_s,
-        u"Keeps FILE up to date with the keyer's registers, and the settings and messages of its "
-        "memory: lines of a name and a value. Each change replaces the file as a whole."_s,
-        u"FILE"_s};
-    QCommandLineOption speed{
-        u"speed"_s,
-        u"Where the speed pot stands, %1 to %2 words per minute, %3 by default. It counts within "
-        "the range that the host has set, 10 to 25 at power-up."_s.arg(slowestPot)
-            .arg(fastestPot)
-            .arg(Profile{}.potWpm),
-        u"WPM"_s, QString::number(Profile{}.potWpm)};
+    QCommandLineOption headless{
+        u"headless"_s, CommandLine::tr("Shows no window. There is none yet: without this option "
+                                       "the program says so, and does the same.")};
+    QCommandLineOption transcript{u"transcript"_s, transcriptHelp(), u"FILE"_s};
+    QCommandLineOption registers{u"registers"_s, registersHelp(), u"FILE"_s};
+    QCommandLineOption speed{u"speed"_s, speedHelp(), u"WPM"_s, QString::number(Profile{}.potWpm)};
     QCommandLineOption profile{u"profile"_s, profileList(), u"NAMES"_s, u"default"_s};
-    QCommandLineOption paddle{u"paddle"_s,
-                              u"Standard input works the paddle: \".\" and \"-\" each close a "
-                              "contact, and anything else opens both."_s};
-    QCommandLineOption link{u"link"_s,
-                            u"The serial port's name, usbserial-virtual by default. The port is a "
-                            "link in quorvel/ports in the runtime directory."_s,
-                            u"NAME"_s, u"usbserial-virtual"_s};
+    QCommandLineOption paddle{
+        u"paddle"_s,
+        CommandLine::tr("Standard input works the paddle: \".\" and \"-\" each close a "
+                        "contact, and anything else opens both.")};
+    QCommandLineOption link{u"link"_s, linkHelp(), u"NAME"_s, standardLink};
 };
 
 /// What is wrong with the values; empty when nothing is.
@@ -64,28 +80,30 @@ QString readValues(const QCommandLineParser& parser, const Options& options, Com
     const QString profileNames = parser.value(options.profile);
     for (const QString& name : profileNames.split(u',')) {
         if (!profileNamed(name.toStdString())) {
-            return u"Unknown profile '%1'; --help lists them."_s.arg(name);
+            return CommandLine::tr("Unknown profile '%1'; --help lists them.").arg(name);
         }
     }
     bool isNumber = false;
     const int speed = parser.value(options.speed).toInt(&isNumber);
     if (!isNumber || speed < slowestPot || speed > fastestPot) {
-        return u"The speed is %1 to %2 words per minute, not '%3'."_s.arg(slowestPot)
+        return CommandLine::tr("The speed is %1 to %2 words per minute, not '%3'.")
+            .arg(slowestPot)
             .arg(fastestPot)
             .arg(parser.value(options.speed));
     }
     result.linkName = parser.value(options.link);
     if (!PortLink::isValidName(QFile::encodeName(result.linkName).toStdString())) {
-        return u"'%1' cannot name a serial port: a name has 1 to 200 characters, no slash, and "
-               "does not begin with a dot."_s.arg(result.linkName);
+        return CommandLine::tr("'%1' cannot name a serial port: a name has 1 to 200 characters, no "
+                               "slash, and does not begin with a dot.")
+            .arg(result.linkName);
     }
     result.transcriptPath = parser.value(options.transcript);
     if (parser.isSet(options.transcript) && result.transcriptPath.isEmpty()) {
-        return u"The transcript needs a file name."_s;
+        return CommandLine::tr("The transcript needs a file name.");
     }
     result.registersPath = parser.value(options.registers);
     if (parser.isSet(options.registers) && result.registersPath.isEmpty()) {
-        return u"The registers need a file name."_s;
+        return CommandLine::tr("The registers need a file name.");
     }
     result.profile = profileNamed(profileNames.toStdString()).value();
     result.profile.potWpm = speed;
@@ -98,10 +116,10 @@ CommandLine CommandLine::parse(const QStringList& arguments) {
     const Options options;
     QCommandLineParser parser;
     parser.setApplicationDescription(
-        u"A Morse keyer made of software: it plugs itself in as a serial port, obeys the host\n"
-        "program that opens it, and prints what it keys to standard output."_s);
-    const QCommandLineOption help({u"h"_s, u"help"_s}, u"Shows this text."_s);
-    const QCommandLineOption version({u"v"_s, u"version"_s}, u"Shows the version."_s);
+        tr("A Morse keyer made of software: it plugs itself in as a serial port, obeys the host\n"
+           "program that opens it, and prints what it keys to standard output."));
+    const QCommandLineOption help({u"h"_s, u"help"_s}, tr("Shows this text."));
+    const QCommandLineOption version({u"v"_s, u"version"_s}, tr("Shows the version."));
     parser.addOptions({help, version, options.headless, options.transcript, options.registers,
                        options.speed, options.profile, options.paddle, options.link});
 
@@ -114,7 +132,7 @@ CommandLine CommandLine::parse(const QStringList& arguments) {
         result.answer = u"%1 %2\n"_s.arg(QCoreApplication::applicationName(),
                                          QCoreApplication::applicationVersion());
     } else if (!parser.positionalArguments().isEmpty()) {
-        result.error = u"Unexpected argument '%1'."_s.arg(parser.positionalArguments().first());
+        result.error = tr("Unexpected argument '%1'.").arg(parser.positionalArguments().first());
     } else {
         result.error = readValues(parser, options, result);
     }

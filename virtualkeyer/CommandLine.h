@@ -2,6 +2,7 @@
 
 #include "virtualkeyer/core/Profile.h"
 
+#include <QCoreApplication>
 #include <QString>
 #include <QStringList>
 
@@ -9,6 +10,9 @@ namespace virtualkeyer {
 
 /// What the program was asked to do.
 struct CommandLine {
+    Q_DECLARE_TR_FUNCTIONS(VirtualKeyerCommandLine)
+
+  public:
     /// Text to print and leave it at that: the help or the version.
     QString answer;
     /// What is wrong with the options, for standard error; empty when nothing is.

@@ -1,5 +1,7 @@
 #include "virtualkeyer/NamedProfiles.h"
 
+#include <QtGlobal>
+
 #include <algorithm>
 #include <array>
 
@@ -10,41 +12,64 @@ namespace {
 using namespace std::chrono_literals;
 
 constexpr std::array profiles{
-    NamedProfile{"default", "a version 2 keyer, firmware 23", [](Profile&) {}},
+    NamedProfile{"default", QT_TRANSLATE_NOOP("NamedProfile", "a version 2 keyer, firmware 23"),
+                 [](Profile&) {}},
     NamedProfile{"late-echo",
-                 "echoes after the letter space, \"|\" too; keys \"?\" for what has no Morse",
+                 QT_TRANSLATE_NOOP(
+                     "NamedProfile",
+                     "echoes after the letter space, \"|\" too; keys \"?\" for what has no Morse"),
                  [](Profile& profile) {
                      profile.echoTime = EchoTime::AfterLetterSpace;
                      profile.echoesHalfSpace = true;
                      profile.unknownCharacter = UnknownCharacter::QuestionMark;
                  }},
-    NamedProfile{"no-echo", "never echoes the text, whatever the host has set",
-                 [](Profile& profile) { profile.echoesText = false; }},
-    NamedProfile{"status-after-open", "sends a status byte after the version byte",
+    NamedProfile{
+        "no-echo",
+        QT_TRANSLATE_NOOP("NamedProfile", "never echoes the text, whatever the host has set"),
+        [](Profile& profile) { profile.echoesText = false; }},
+    NamedProfile{"status-after-open",
+                 QT_TRANSLATE_NOOP("NamedProfile", "sends a status byte after the version byte"),
                  [](Profile& profile) { profile.reportsStatusAfterOpen = true; }},
-    NamedProfile{"echo-then-idle", "sends the last echo and the idle status back to back",
-                 [](Profile& profile) { profile.idleTime = IdleTime::WithEcho; }},
-    NamedProfile{"idle-then-echo", "the same, the idle status first",
+    NamedProfile{
+        "echo-then-idle",
+        QT_TRANSLATE_NOOP("NamedProfile", "sends the last echo and the idle status back to back"),
+        [](Profile& profile) { profile.idleTime = IdleTime::WithEcho; }},
+    NamedProfile{"idle-then-echo",
+                 QT_TRANSLATE_NOOP("NamedProfile", "the same, the idle status first"),
                  [](Profile& profile) {
                      profile.idleTime = IdleTime::WithEcho;
                      profile.endOrder = EndOrder::IdleThenEcho;
                  }},
-    NamedProfile{"early-xoff", "asks for a pause at 21 waiting bytes, and again for every more",
-                 [](Profile& profile) { profile.xoffRule = XoffRule::TwentyOneRepeated; }},
-    NamedProfile{"abrupt-clear", "drops the key in mid-letter when the buffer is cleared",
-                 [](Profile& profile) { profile.clearInLetter = ClearInLetter::DropsKey; }},
-    NamedProfile{"boot-loader", "restarts when the port is opened and is deaf for 1.3 s",
-                 [](Profile& profile) { profile.bootLoaderTime = 1300ms; }},
-    NamedProfile{"start-beep", "beeps for half a second before it obeys its first command",
+    NamedProfile{
+        "early-xoff",
+        QT_TRANSLATE_NOOP("NamedProfile",
+                          "asks for a pause at 21 waiting bytes, and again for every more"),
+        [](Profile& profile) { profile.xoffRule = XoffRule::TwentyOneRepeated; }},
+    NamedProfile{
+        "abrupt-clear",
+        QT_TRANSLATE_NOOP("NamedProfile", "drops the key in mid-letter when the buffer is cleared"),
+        [](Profile& profile) { profile.clearInLetter = ClearInLetter::DropsKey; }},
+    NamedProfile{
+        "boot-loader",
+        QT_TRANSLATE_NOOP("NamedProfile", "restarts when the port is opened and is deaf for 1.3 s"),
+        [](Profile& profile) { profile.bootLoaderTime = 1300ms; }},
+    NamedProfile{"start-beep",
+                 QT_TRANSLATE_NOOP("NamedProfile",
+                                   "beeps for half a second before it obeys its first command"),
                  [](Profile& profile) { profile.firstCommandBeep = 500ms; }},
-    NamedProfile{"no-memory-load", "throws a loaded memory away without a word",
+    NamedProfile{"no-memory-load",
+                 QT_TRANSLATE_NOOP("NamedProfile", "throws a loaded memory away without a word"),
                  [](Profile& profile) { profile.memoryLoad = MemoryLoad::ThrownAway; }},
-    NamedProfile{"single-break-in", "reports break-in by a single C2 first",
+    NamedProfile{"single-break-in",
+                 QT_TRANSLATE_NOOP("NamedProfile", "reports break-in by a single C2 first"),
                  [](Profile& profile) { profile.breakInReport = BreakInReport::Single; }},
-    NamedProfile{"late-break-in", "is idle for the host until the paddle has keyed for 160 ms",
+    NamedProfile{"late-break-in",
+                 QT_TRANSLATE_NOOP("NamedProfile",
+                                   "is idle for the host until the paddle has keyed for 160 ms"),
                  [](Profile& profile) { profile.breakInDelay = 160ms; }},
     NamedProfile{
-        "repeat-after-pause", "keys a letter once more that a pause came into",
+        "repeat-after-pause",
+        QT_TRANSLATE_NOOP("NamedProfile", "keys a letter once more that a pause came into"),
         [](Profile& profile) { profile.resumeAfterPause = ResumeAfterPause::RepeatsLetter; }},
 };
 

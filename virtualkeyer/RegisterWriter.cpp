@@ -4,6 +4,7 @@
 #include "virtualkeyer/core/Memory.h"
 #include "virtualkeyer/core/MorseTable.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QSaveFile>
 
@@ -78,8 +79,10 @@ void RegisterWriter::write() const {
     const bool isWritten =
         file.open(QIODevice::WriteOnly) && file.write(_text.c_str()) >= 0 && file.commit();
     if (!isWritten) {
-        throw std::runtime_error("cannot write the registers " + _path + ": " +
-                                 file.errorString().toStdString());
+        throw std::runtime_error(
+            QCoreApplication::translate("VirtualKeyer", "cannot write the registers %1: %2")
+                .arg(QFile::decodeName(_path.c_str()), file.errorString())
+                .toStdString());
     }
 }
 

@@ -1,3 +1,4 @@
+#include "translations/Translations.h"
 #include "virtualkeyer/CommandLine.h"
 #include "virtualkeyer/RegisterWriter.h"
 #include "virtualkeyer/TextPrinter.h"
@@ -9,6 +10,7 @@
 
 #include <QCoreApplication>
 #include <QFile>
+#include <QLocale>
 
 #include <csignal>
 #include <cstdio>
@@ -22,11 +24,31 @@ namespace {
 
 constexpr int runtimeFailure = 1;
 constexpr int badOptions = 2;
-constexpr auto noWindow = "There is no window yet. What is keyed is printed here, until Ctrl+C.\n";
 
 int complain(const char* what, int status) {
     std::fprintf(stderr, "quorvel-virtual-keyer: %s\n", what);
     return status;
+}
+
+void complainOfWatches() {
+    complain(
+        QCoreApplication::translate(
+            "VirtualKeyer", "the system has no watches left; openings of the port are noticed late")
+            .toLocal8Bit()
+            .constData(),
+        0);
+}
+
+void tellWhere(const CommandLine& commandLine, const std::string& path) {
+    auto text = QCoreApplication::translate("VirtualKeyer", "Plugged in as %1 (%2)")
+                    .arg(commandLine.linkName, QFile::decodeName(path.c_str())) +
+                u'\n';
+    if (!commandLine.isHeadless) {
+        text += QCoreApplication::translate("VirtualKeyer", "There is no window yet. What is keyed "
+                                                            "is printed here, until Ctrl+C.") +
+                u'\n';
+    }
+    std::fputs(text.toLocal8Bit().constData(), stderr);
 }
 
 /// Makes the writer of a file and adds it to the listeners, if there is to be one.
@@ -42,14 +64,13 @@ void run(const CommandLine& commandLine, std::vector<KeyerListener*> listeners) 
     const StopSignals stopSignals;
     PseudoTerminal terminal;
     if (terminal.watch() < 0) {
-        complain("the system has no watches left; openings of the port are noticed late", 0);
+        complainOfWatches();
     }
     SerialKeyer keyer(commandLine.profile, std::move(listeners));
     KeyerLoop loop(keyer, terminal, commandLine.isPaddled ? STDIN_FILENO : -1);
     const std::string name = QFile::encodeName(commandLine.linkName).toStdString();
     const PortLink link(runtimeDirectory(), name, terminal.slavePath());
-    std::fprintf(stderr, "Plugged in as %s (%s)\n%s", name.c_str(), link.path().c_str(),
-                 commandLine.isHeadless ? "" : noWindow);
+    tellWhere(commandLine, link.path());
     loop.run(stopSignals.descriptor());
 }
 
@@ -59,6 +80,7 @@ int main(int argc, char* argv[]) {
     const QCoreApplication application(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("quorvel-virtual-keyer"));
     QCoreApplication::setApplicationVersion(QStringLiteral(QUORVEL_VERSION));
+    const Translations translations{QLocale()};
     // A reader of the keyed text that goes away is an error like any other, not a sudden death.
     std::signal(SIGPIPE, SIG_IGN);
 

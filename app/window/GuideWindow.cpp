@@ -24,7 +24,8 @@ GuideWindow::GuideWindow(QWidget* parent) : QTextBrowser(parent) {
     setWindowTitle(tr("Quorvel Guide"));
     setAccessibleName(tr("Guide"));
     setOpenExternalLinks(true);
-    setSource(QUrl(u"qrc:/guide.md"_s), QTextDocument::MarkdownResource);
+    //: The guide's file, docs/guide.md, in this language; as it is where there is none.
+    setSource(QUrl(u"qrc:/"_s + tr("guide.md")), QTextDocument::MarkdownResource);
     document()->setDocumentMargin(margin);
     resize(preferredSize.boundedTo(screen()->availableSize() - frameOf(parent)));
 }

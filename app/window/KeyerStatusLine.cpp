@@ -43,7 +43,7 @@ void KeyerStatusLine::show() {
 QString KeyerStatusLine::sentence(int secondsToBeacon) const {
     const auto modeList = modes(secondsToBeacon);
     auto shown =
-        modeList.isEmpty() ? status() : tr("%1 (%2)").arg(status(), modeList.join(u", "_s));
+        modeList.isEmpty() ? status() : tr("%1 (%2)").arg(status(), modeList.join(tr(", ")));
     return _notice.isEmpty() ? shown : tr("%1. %2").arg(shown, _notice);
 }
 

@@ -360,7 +360,7 @@ void MainWindow::showNotice() {
     if (!_loggers.isEmpty()) {
         notices.append(_loggers);
     }
-    _ui->keyerStatusLabel->setNotice(notices.join(u". "_s));
+    _ui->keyerStatusLabel->setNotice(notices.join(tr(". ")));
 }
 
 void MainWindow::showLoggers(const QString& notice) {

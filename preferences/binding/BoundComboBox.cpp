@@ -44,6 +44,12 @@ BoundComboBox::BoundComboBox(QComboBox& box, const Setting& setting, QObject& co
             box.addItem(choice.text);
         }
     }
+    for (int i = 0; i < box.count(); ++i) {
+        if (!box.itemData(i).isValid()) {
+            box.setItemData(i, box.itemText(i));
+            box.setItemText(i, shownText(box.itemText(i)));
+        }
+    }
     connect(&box, &QComboBox::currentIndexChanged, this, &BoundComboBox::choose);
     connect(&box, &QComboBox::activated, this, &BoundComboBox::chosen);
 }

@@ -6,6 +6,7 @@
 #include <QAbstractButton>
 #include <QEvent>
 #include <QLocale>
+#include <QRegularExpression>
 #include <QScopedValueRollback>
 
 #include <utility>
@@ -37,9 +38,10 @@ QLabel* labelOf(const QWidget& widget) {
     return nullptr;
 }
 
-/// A label's text without the mark of its key.
+/// A label's text without the mark of its key, which in some scripts stands behind it: "W (&W)".
 QString plain(QString text) {
-    return text.remove(u'&');
+    static const QRegularExpression mark(u"\\s*\\(&\\w\\)|&"_s);
+    return text.remove(mark);
 }
 
 } // namespace
@@ -187,7 +189,7 @@ QString BoundControl::numberText(double value) const {
 
 QString BoundControl::defaultText() const {
     return std::visit(Overloaded{[](bool isOn) { return isOn ? tr("on") : tr("off"); },
-                                 [](QLatin1StringView text) { return QString(text); },
+                                 [](QLatin1StringView text) { return shownText(text); },
                                  [this](auto value) { return numberText(value) + unit(); }},
                       _setting.defaultValue);
 }

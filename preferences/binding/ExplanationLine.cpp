@@ -4,7 +4,8 @@
 
 #include <QEvent>
 #include <QPainter>
-#include <QTextDocumentFragment>
+#include <QRegularExpression>
+#include <QTextDocument>
 
 #include <algorithm>
 #include <utility>
@@ -20,8 +21,14 @@ constexpr int lines = 2;
 constexpr int gap = 4;
 
 QString explanationOf(const QWidget* widget) {
-    const auto toolTip = widget != nullptr ? widget->toolTip() : QString();
-    return QTextDocumentFragment::fromHtml(toolTip).toPlainText().simplified();
+    if (widget == nullptr) {
+        return {};
+    }
+    QTextDocument toolTip;
+    toolTip.setHtml(widget->toolTip());
+    // Raw, for the text's own spaces, some of which no line may end at.
+    static const QRegularExpression breaks(u"[ \n\\x{2028}\\x{2029}]+"_s);
+    return toolTip.toRawText().replace(breaks, u" "_s).trimmed();
 }
 
 } // namespace

@@ -27,7 +27,7 @@ class Desktop:
             or name == "XDG_DATA_DIRS"}
         self.environment.update(
             HOME=str(directory), XDG_RUNTIME_DIR=str(runtime), GIO_USE_VFS="local",
-            GSETTINGS_BACKEND="memory", QT_QPA_PLATFORM="xcb",
+            LC_ALL="C.UTF-8", GSETTINGS_BACKEND="memory", QT_QPA_PLATFORM="xcb",
             QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1", QT_FORCE_STDERR_LOGGING="1")
         try:
             _, self.environment["DISPLAY"] = self.start_screen()

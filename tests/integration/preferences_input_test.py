@@ -84,7 +84,8 @@ class PreferencesInputTest(PreferencesBench):
         self.assertNotIn("BeaconInterval", self.settings.read_text())
 
     def test_both_decimal_signs_are_read(self):
-        self.environment.update(LC_ALL="de_DE.UTF-8", LANG="de_DE.UTF-8")
+        # A German's numbers, and yet English texts.
+        self.environment.update(LC_ALL="de_DE.UTF-8", LANG="de_DE.UTF-8", LANGUAGE="en")
         self.start_with("")
         self.open_preferences()
         self.open_messages()

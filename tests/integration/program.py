@@ -16,8 +16,6 @@ PORT = "usbserial-virtual"
 QUORVEL, VIRTUAL_KEYER = sys.argv[1:3]
 
 LONG_TEXT = "PARIS" * 200
-# What an alert says while it takes no keys.
-SHIELDED = "Takes keys when you have stopped typing for a second"
 # Fast, so that a long text takes little time. A pot byte has room for 32 speeds.
 SPEED = 90
 SETTINGS = f"""[General]
@@ -32,6 +30,9 @@ Message8={LONG_TEXT}
 class Keyer(Process):
     """The virtual keyer's program, plugged in, its speed pot at `speed`."""
 
+    # What it says once it is.
+    plugged_in = "Plugged in as"
+
     def __init__(self, environment, directory, speed=SPEED, profile="default", is_paddled=False):
         self._transcript = directory / "transcript.txt"
         self._registers = directory / "registers.txt"
@@ -40,7 +41,7 @@ class Keyer(Process):
                           *(["--paddle"] if is_paddled else [])],
                          environment, directory,
                          stdin=subprocess.PIPE if is_paddled else subprocess.DEVNULL)
-        self.wait_for("the keyer", lambda: "Plugged in as" in self.errors())
+        self.wait_for("the keyer", lambda: self.plugged_in in self.errors())
 
     def keyed(self):
         """What was read from the key line. A busy machine may make a word space of a letter
@@ -84,6 +85,9 @@ class Keyer(Process):
 
 class ProgramTest(unittest.TestCase):
     """A desktop for all tests of a class, and a home for each."""
+
+    # What an alert says while it takes no keys.
+    shielded = "Takes keys when you have stopped typing for a second"
 
     @classmethod
     def setUpClass(cls):
@@ -164,7 +168,7 @@ class ProgramTest(unittest.TestCase):
 
     def is_shielded(self, alert):
         """Whether the alert says that it takes no keys yet."""
-        hint = alert.find(SHIELDED)
+        hint = alert.find(self.shielded)
         return hint is not None and hint.is_in_state("showing")
 
     def wait_until_gone(self, quorvel, text):

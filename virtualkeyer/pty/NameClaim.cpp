@@ -2,6 +2,9 @@
 
 #include "virtualkeyer/pty/SystemFailure.h"
 
+#include <QCoreApplication>
+#include <QFile>
+
 #include <array>
 #include <fcntl.h>
 #include <stdexcept>
@@ -11,6 +14,17 @@
 namespace virtualkeyer {
 
 namespace {
+
+QString alreadyHeld(const QString& name, const QString& process) {
+    if (process.isEmpty()) {
+        return QCoreApplication::translate("VirtualKeyer",
+                                           "a running virtual keyer already holds the name %1")
+            .arg(name);
+    }
+    return QCoreApplication::translate(
+               "VirtualKeyer", "a running virtual keyer (process %1) already holds the name %2")
+        .arg(process, name);
+}
 
 struct Note {
     std::string process;
@@ -59,10 +73,10 @@ bool NameClaim::tryLock(const std::string& name) {
         if (errno != EWOULDBLOCK) {
             throwSystemFailure("cannot lock " + _fileName);
         }
-        const std::string process = readNote(_file.number()).process;
-        throw std::runtime_error("a running virtual keyer" +
-                                 (process.empty() ? "" : " (process " + process + ")") +
-                                 " already holds the name " + name);
+        const auto process = readNote(_file.number()).process;
+        throw std::runtime_error(
+            alreadyHeld(QFile::decodeName(name.c_str()), QString::fromStdString(process))
+                .toStdString());
     }
     struct stat locked {};
     struct stat present {};

@@ -2,6 +2,9 @@
 
 #include "virtualkeyer/pty/SystemFailure.h"
 
+#include <QCoreApplication>
+#include <QFile>
+
 #include <algorithm>
 #include <fcntl.h>
 #include <stdexcept>
@@ -21,7 +24,10 @@ FileDescriptor openDirectory(int parent, const std::string& name) {
     struct stat status {};
     checked(::fstat(directory.number(), &status), "cannot look at the directory " + name);
     if (status.st_uid != ::geteuid()) {
-        throw std::runtime_error("the directory " + name + " belongs to another user");
+        throw std::runtime_error(
+            QCoreApplication::translate("VirtualKeyer", "the directory %1 belongs to another user")
+                .arg(QFile::decodeName(name.c_str()))
+                .toStdString());
     }
     return directory;
 }
@@ -84,7 +90,11 @@ void PortLink::makeWay() {
     const bool pointsNowhere =
         isLink && ::fstatat(_ports.number(), _name.c_str(), &status, 0) < 0 && errno == ENOENT;
     if (!isFromCrashedKeyer && !pointsNowhere) {
-        throw std::runtime_error(_path + " is in the way and no virtual keyer made it");
+        throw std::runtime_error(
+            QCoreApplication::translate("VirtualKeyer",
+                                        "%1 is in the way and no virtual keyer made it")
+                .arg(QFile::decodeName(_path.c_str()))
+                .toStdString());
     }
     checked(::unlinkat(_ports.number(), _name.c_str(), 0), "cannot remove " + _path);
 }

@@ -24,13 +24,15 @@ constexpr QSize smallScreen(790, 560);
 
 /// One of the longest texts that the window has to show.
 constexpr auto longPort = "usbserial-A10KMNOP-1-1.4.2"_L1;
-constexpr auto longNotice =
-    "Quorvel ended while tune was on. The key may have stayed down; it has been "
-    "let go of now."_L1;
+QString longNotice() {
+    return QCoreApplication::translate(
+        "KeyingRecord", "Quorvel ended while tune was on. The key may have stayed down; it has "
+                        "been let go of now.");
+}
 
 } // namespace
 
-/// Run once more with everything at twice the scale.
+/// Run once more with everything at twice the scale, and in each language.
 class MainWindowLayoutTest : public QObject {
     Q_OBJECT
 
@@ -106,7 +108,7 @@ void MainWindowLayoutTest::nothingIsCutOff() {
     _bench->engine().setHisCallsign(u"W9XYZ/P"_s);
     for (const int tuned : {0, 1, 0}) {
         if (_bench->engine().tuneState() != 0) {
-            _window->say(longNotice);
+            _window->say(longNotice());
         }
         _bench->engine().setTuneState(tuned);
         QCoreApplication::processEvents();
@@ -161,7 +163,7 @@ void MainWindowLayoutTest::theFirstWindowFitsASmallScreen() {
     open();
     QVERIFY(_window->width() <= room.width() && _window->height() <= room.height());
     QVERIFY(_bench->engine().disconnect(nullptr));
-    _window->say(longNotice);
+    _window->say(longNotice());
     QCoreApplication::processEvents();
     QVERIFY(_window->width() <= room.width() && _window->height() <= room.height());
     expectNothingCutOff();
@@ -177,7 +179,7 @@ void MainWindowLayoutTest::theFirstStepsFitASmallScreen() {
     QVERIFY(QTest::qWaitForWindowExposed(&*_window));
     QCoreApplication::processEvents();
     expectNothingCutOff();
-    _window->say(longNotice);
+    _window->say(longNotice());
     QCoreApplication::processEvents();
     expectNothingCutOff();
     QVERIFY2(_window->width() <= room.width() && _window->height() <= room.height(),

@@ -1,12 +1,11 @@
-#include "app/Translations.h"
-
 #include "app/QuorvelDelegate.h"
+
 #include "tests/keyer/EngineBench.h"
 #include "tests/support/RegisteredTest.h"
 
-#include <QLocale>
 #include <QSet>
 #include <QTest>
+#include <QTranslator>
 
 #include <algorithm>
 
@@ -31,20 +30,14 @@ class Backwards final : public QTranslator {
 
 } // namespace
 
-class TranslationsTest : public QObject {
+class AlertTranslationsTest : public QObject {
     Q_OBJECT
 
   private Q_SLOTS:
-    void aLanguageWithoutTranslationIsEnglish();
     void alertsAndErrorsAreTranslated();
 };
 
-void TranslationsTest::aLanguageWithoutTranslationIsEnglish() {
-    const Translations translations(QLocale(u"eo"_s), u":/nowhere"_s);
-    QCOMPARE(QuorvelDelegate::tr("Yes"), u"Yes"_s);
-}
-
-void TranslationsTest::alertsAndErrorsAreTranslated() {
+void AlertTranslationsTest::alertsAndErrorsAreTranslated() {
     EngineBench bench;
     QuorvelDelegate delegate(WinKeyerUsb::sharedInstance());
     bench.settings().setObject(u"None"_s, u"WKPortName"_s);
@@ -64,5 +57,5 @@ void TranslationsTest::alertsAndErrorsAreTranslated() {
         u"QuorvelDelegate: The WinKeyer using serial port %1 has been unplugged."_s));
 }
 
-static const RegisteredTest<TranslationsTest> registered;
-#include "TranslationsTest.moc"
+static const RegisteredTest<AlertTranslationsTest> registered;
+#include "AlertTranslationsTest.moc"
