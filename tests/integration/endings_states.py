@@ -18,9 +18,15 @@ def tune(station):
 def paused_with_text(station):
     """A keyer that says it has nothing to do ends a pause, and on a busy machine it may have come to
     that between two letters."""
+    def pauses():
+        bytes_written = bytes(byte for _, byte in station.line("keyer"))
+        return bytes_written.count(b"\x06\x01")
+
     def has_paused():
         if not station.window.find("Pause").is_in_state("checked"):
+            before = pauses()
             station.desktop.press("ctrl+p")
+            station.quorvel.wait_for("the pause's command", lambda: pauses() > before)
         return station.is_silent()
     sending(station)
     station.quorvel.wait_for("the pause", has_paused)
