@@ -8,7 +8,10 @@
 #include <fcntl.h>
 #include <filesystem>
 #include <functional>
+#include <linux/major.h>
 #include <string>
+#include <sys/stat.h>
+#include <sys/sysmacros.h>
 #include <unistd.h>
 
 using namespace Qt::StringLiterals;
@@ -77,18 +80,28 @@ bool isFarEnd(const Path& process, const Path& terminal) {
     });
 }
 
+/// Half of all programs have the empty device open, which is none.
+bool canBeTerminal(const Path& path) {
+    struct stat node = {};
+    return ::stat(path.c_str(), &node) == 0 && S_ISCHR(node.st_mode) &&
+           major(node.st_rdev) != MEM_MAJOR;
+}
+
 } // namespace
 
 QStringList DeviceUsers::of(const QString& path) {
     const Path terminal = QFileInfo(path).canonicalFilePath().toStdString();
+    if (!canBeTerminal(terminal)) {
+        return {};
+    }
     const auto own = std::to_string(::getpid());
     QStringList users;
     std::error_code error;
     for (directory_iterator entry("/proc", error), end; !error && entry != end;
          entry.increment(error)) {
         const auto number = entry->path().filename().string();
-        if (!terminal.empty() && isNumber(number) && number != own &&
-            hasOpen(entry->path(), terminal) && !isFarEnd(entry->path(), terminal)) {
+        if (isNumber(number) && number != own && hasOpen(entry->path(), terminal) &&
+            !isFarEnd(entry->path(), terminal)) {
             const auto name = QString::fromLocal8Bit(content(entry->path() / "comm")).trimmed();
             users.append(u"%1 (process %2)"_s.arg(name, QString::fromStdString(number)));
         }

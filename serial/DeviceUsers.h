@@ -8,7 +8,8 @@
 namespace DeviceUsers {
 
 /// The other processes that have the terminal at `path` open, as "NAME (process NUMBER)". The far
-/// end of a pseudo-terminal does not count, though it may hold the near end as well.
+/// end of a pseudo-terminal does not count, though it may hold the near end as well. None for what
+/// can be no terminal.
 [[nodiscard]] QStringList of(const QString& path);
 
 } // namespace DeviceUsers

@@ -18,6 +18,10 @@ class LivePorts;
 class PortOpening;
 class QSocketNotifier;
 
+namespace ExclusiveDevice {
+struct Device;
+} // namespace ExclusiveDevice
+
 /// One serial device of the system: its line settings, opening and closing, reading and writing.
 ///
 /// There is at most one object per device: whoever asks for a device that has one gets that one.
@@ -105,15 +109,17 @@ class ORSSerialPort final : public QObject, public std::enable_shared_from_this<
     /// Opens the device for this program alone; isOpen() says whether it worked. Failure is
     /// reported to the delegate later; of another program that has it open, the log tells which.
     /// What came in before is thrown away. A device that the last close() left to be closed is
-    /// waited for, a second and a half at most. Nothing happens to an open port.
+    /// waited for until a second and a half after it, and a driver that does not answer for two
+    /// seconds; both are failures then, and the second is one at once until it has answered.
+    /// Nothing happens to an open port.
     void open();
     /// Puts the device's old settings back and closes it, once what was written has gone out; what
     /// has not within a tenth of a second goes on without the port, and the device stays taken
     /// until then. Bytes received and not yet handed to the delegate are dropped. True when the
     /// port is closed afterwards.
     bool close();
-    /// Waits for a device that close() left to be closed, no longer than `limit`. Whether there is
-    /// none any more.
+    /// Waits for a device that close() left to be closed, or open() to be opened, no longer than
+    /// `limit`. Whether there is none any more.
     [[nodiscard]] bool awaitFreeDevice(std::chrono::milliseconds limit) const;
     /// Closes an open port over its user's head: tells the delegate before. True as of close().
     bool closeForeseen();
@@ -207,6 +213,11 @@ class ORSSerialPort final : public QObject, public std::enable_shared_from_this<
   private:
     ORSSerialPort(DeviceHandle device, const QString& path);
 
+    [[nodiscard]] ExclusiveDevice::Device obtainDevice();
+    [[nodiscard]] bool isStillHeld() const;
+    [[nodiscard]] ExclusiveDevice::Device openDevice();
+    void prepareLine();
+    void startWorkers();
     [[nodiscard]] bool closeOpening();
     void queueErrorReport();
     bool writeOut();
@@ -250,5 +261,7 @@ class ORSSerialPort final : public QObject, public std::enable_shared_from_this<
     std::atomic<int> _maximumBlockSize;
     std::atomic<int> _fileDescriptor = 0;
     std::unique_ptr<PortOpening> _opening;
+    /// When what was begun with the device last has ended, and until when that is waited for.
     std::shared_future<bool> _endOfLast;
+    std::chrono::steady_clock::time_point _endOfRest;
 };

@@ -3,8 +3,10 @@
 #include "serial/ExclusiveDevice.h"
 #include "serial/LowLatency.h"
 #include "serial/ORSSerialPort.h"
+#include "serial/PortAttempt.h"
 #include "serial/PortOpening.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <chrono>
 #include <sys/eventfd.h>
@@ -14,6 +16,7 @@
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
+using std::chrono::steady_clock;
 
 namespace {
 
@@ -25,8 +28,13 @@ constexpr auto longestDrain = 100ms;
 constexpr auto longestClose = 1s;
 
 /// Some drivers rest for two seconds when they close, and a block may be ahead of the keyer's end
-/// of the link: whoever wants the device again then gets it late rather than not at all.
+/// of the link: whoever wants the device again within that time gets it late rather than not at
+/// all. One that takes longer is not waited for any more.
 constexpr auto longestRest = 1500ms;
+
+/// An adapter answers within some milliseconds; one that has hung itself up takes several times
+/// the five seconds that its driver gives to each request.
+constexpr auto longestOpen = 2s;
 
 } // namespace
 
@@ -42,39 +50,73 @@ void ORSSerialPort::open() {
     if (isOpen()) {
         return;
     }
-    static_cast<void>(awaitFreeDevice(longestRest));
-    if (isUsedElsewhere()) {
-        errno = EBUSY;
-        queueErrorReport();
-        return;
-    }
+    const auto self = shared_from_this();
     // The device comes last: given up here, a pseudo-terminal would stay locked.
     FileDescriptor wakeUp(::eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK));
-    auto device = wakeUp.isValid() ? ExclusiveDevice::open(_path) : ExclusiveDevice::Device();
+    auto device = wakeUp.isValid() ? obtainDevice() : ExclusiveDevice::Device();
     if (!device.isValid()) {
         queueErrorReport();
         return;
     }
+    _opening = std::make_unique<PortOpening>(std::move(device), std::move(wakeUp));
+    _fileDescriptor = _opening->descriptor();
+    prepareLine();
+    // An observer of the lines may have closed the port.
+    if (isOpen()) {
+        startWorkers();
+    }
+}
+
+/// An invalid one, and errno, when it cannot be had.
+ExclusiveDevice::Device ORSSerialPort::obtainDevice() {
+    if (isStillHeld() || isUsedElsewhere()) {
+        errno = EBUSY;
+        return {};
+    }
+    auto device = openDevice();
     // Whoever opened it since it was looked at has it still; from here on nobody can.
-    if (isUsedElsewhere()) {
+    if (device.isValid() && isUsedElsewhere()) {
         static_cast<void>(ExclusiveDevice::release(device.descriptor));
         device = {};
         errno = EBUSY;
-        queueErrorReport();
-        return;
     }
-    const auto self = shared_from_this();
-    _opening = std::make_unique<PortOpening>(std::move(device), std::move(wakeUp));
-    _fileDescriptor = _opening->descriptor();
+    return device;
+}
+
+/// A device that this program has yet to let go of. Its driver is not asked then: it might answer
+/// only when it has closed.
+bool ORSSerialPort::isStillHeld() const {
+    const auto left =
+        std::chrono::ceil<std::chrono::milliseconds>(_endOfRest - steady_clock::now());
+    const bool isFree = awaitFreeDevice(std::max(left, std::chrono::milliseconds{0}));
+    if (!isFree) {
+        logLine(u"The driver of %1 has not let go of it yet"_s.arg(description()));
+    }
+    return !isFree;
+}
+
+ExclusiveDevice::Device ORSSerialPort::openDevice() {
+    PortAttempt attempt(_path, longestOpen);
+    auto device = attempt.takeDevice();
+    if (!device.isValid() && errno == ETIMEDOUT) {
+        logLine(u"The driver of %1 does not answer"_s.arg(description()));
+        errno = ETIMEDOUT;
+    }
+    _endOfLast = attempt.end();
+    _endOfRest = {};
+    return device;
+}
+
+void ORSSerialPort::prepareLine() {
     requestLowLatency();
     setPortOptions();
     // What somebody said to whoever had the device before is not meant for us.
     static_cast<void>(::tcflush(_fileDescriptor, TCIFLUSH));
     synchronizeOutputLines();
-    if (!isOpen()) {
-        // An observer of the lines closed the port.
-        return;
-    }
+}
+
+void ORSSerialPort::startWorkers() {
+    const auto self = shared_from_this();
     // Queued ahead of the reader's first bytes, yet told only if there is a reader.
     const auto hasWorkers = std::make_shared<bool>(false);
     _mainQueue->async([self, hasWorkers] {
@@ -136,6 +178,7 @@ bool ORSSerialPort::close() {
 bool ORSSerialPort::closeOpening() {
     const bool isClosed = _opening->close(isSending() ? longestDrain : longestClose);
     _endOfLast = _opening->end();
+    _endOfRest = steady_clock::now() + longestRest;
     if (_opening->staysLocked()) {
         logLine(u"Unable to leave exclusive mode on %1"_s.arg(description()));
     }

@@ -1,6 +1,6 @@
 #include "serial/PortOpening.h"
 
-#include "serial/PortClosing.h"
+#include "serial/DriverCall.h"
 
 #include <utility>
 
@@ -14,7 +14,10 @@ bool PortOpening::startWorkers(const std::shared_ptr<ORSSerialPort>& port,
 
 bool PortOpening::close(std::chrono::milliseconds limit) {
     const auto device = std::exchange(_device, nullptr);
-    _end = PortClosing::close(device, limit);
+    // From here, so that a worker which waits for this thread gives up.
+    device->stopWorkers();
+    _end = DriverCall::run(
+        "port closing", [device] { return device->close(); }, limit);
     if (_end.wait_for(std::chrono::milliseconds{0}) != std::future_status::ready) {
         return true;
     }

@@ -1,8 +1,10 @@
 // A driver that does not answer.
 
 #include "tests/serial/PortBench.h"
+#include "tests/support/LogKeeper.h"
 #include "tests/support/RegisteredTest.h"
 
+#include <QDir>
 #include <QElapsedTimer>
 #include <QSemaphore>
 
@@ -107,6 +109,82 @@ class ORSSerialPortHangTest : public QObject {
         });
         bench.port->open();
         QVERIFY(bench.port->isOpen());
+    }
+
+    /// A driver that is asked while it closes answers when it has closed, if ever.
+    void aDeviceThatIsNotLetGoOfIsWaitedForOnceAndNotAsked() {
+        PortBench bench;
+        QVERIFY(bench.open());
+        Hang hang(bench.faults, SystemCall::TcSetAttr);
+        QVERIFY(bench.port->close());
+        const int opens = bench.faults.count(SystemCall::Open);
+        bench.port->open();
+        QVERIFY(!bench.port->isOpen());
+        const LogKeeper log;
+        QElapsedTimer time;
+        time.start();
+        for (int attempt = 0; attempt < 5; ++attempt) {
+            bench.port->open();
+            QVERIFY(!bench.port->isOpen());
+        }
+        QVERIFY2(time.elapsed() < 1000, qPrintable(QString::number(time.elapsed())));
+        QCOMPARE(log.lines(), QStringList(5, u"The driver of line has not let go of it yet"_s));
+        QCOMPARE(bench.faults.count(SystemCall::Open), opens);
+        QTRY_COMPARE(bench.delegate.count(u"error"_s), 6);
+        hang.end();
+        QTRY_VERIFY((bench.port->open(), bench.port->isOpen()));
+    }
+
+    void openingDoesNotWaitForADriverThatHangs_data() {
+        QTest::addColumn<SystemCall>("call");
+        QTest::newRow("in the open") << SystemCall::Open;
+        QTest::newRow("in the lock") << SystemCall::Flock;
+        QTest::newRow("in the open for input") << SystemCall::OpenAt;
+        QTest::newRow("in a request") << SystemCall::Ioctl;
+    }
+
+    void openingDoesNotWaitForADriverThatHangs() {
+        QFETCH(const SystemCall, call);
+        PortBench bench;
+        const LogKeeper log;
+        Hang hang(bench.faults, call);
+        QElapsedTimer time;
+        time.start();
+        bench.port->open();
+        QVERIFY2(time.elapsed() < 5000, qPrintable(QString::number(time.elapsed())));
+        QVERIFY(!bench.port->isOpen());
+        QCOMPARE(hang.waiting(), 1);
+        QTRY_COMPARE(bench.delegate.events(), QStringList{u"error"_s});
+        // Who tries again does not wait again.
+        time.restart();
+        bench.port->open();
+        QVERIFY2(time.elapsed() < 1000, qPrintable(QString::number(time.elapsed())));
+        QVERIFY(!bench.port->isOpen());
+        QCOMPARE(hang.waiting(), 1);
+        QCOMPARE(log.lines(), (QStringList{u"The driver of line does not answer"_s,
+                                           u"The driver of line has not let go of it yet"_s}));
+        hang.end();
+        // What came of it too late has been given back.
+        QTRY_VERIFY((bench.port->open(), bench.port->isOpen()));
+        QVERIFY(bench.line.write("y"));
+        QTRY_COMPARE(bench.delegate.received(), "y"_ba);
+    }
+
+    void aPortThatIsLeftWhileItsDriverHangsEndsAtOnce() {
+        const auto descriptors = QDir(u"/proc/self/fd"_s).count();
+        {
+            PortBench bench;
+            Hang hang(bench.faults, SystemCall::Flock);
+            const std::weak_ptr<ORSSerialPort> watched = bench.port;
+            bench.port->open();
+            QVERIFY(!bench.port->isOpen());
+            QTRY_COMPARE(bench.delegate.events(), QStringList{u"error"_s});
+            bench.port.reset();
+            QVERIFY(watched.expired());
+            hang.end();
+            bench.port = ORSSerialPort::serialPortWithDevice(bench.device);
+        }
+        QTRY_COMPARE(QDir(u"/proc/self/fd"_s).count(), descriptors);
     }
 
     /// Though the thread that waits for the driver is the last one to know it.

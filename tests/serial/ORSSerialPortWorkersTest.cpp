@@ -37,8 +37,8 @@ class ORSSerialPortWorkersTest : public QObject {
 
     void aPortWithoutWorkersDoesNotOpen_data() {
         QTest::addColumn<int>("call");
-        QTest::newRow("no reader") << 1;
-        QTest::newRow("no poller") << 2;
+        QTest::newRow("no reader") << 2;
+        QTest::newRow("no poller") << 3;
     }
 
     void aPortWithoutWorkersDoesNotOpen() {
@@ -50,6 +50,23 @@ class ORSSerialPortWorkersTest : public QObject {
         QVERIFY(!bench.port->isOpen());
         QTRY_COMPARE(bench.delegate.events(), QStringList{u"error"_s});
 
+        verifyTransfer(bench);
+    }
+
+    /// Nobody but the caller is left to wait for the driver.
+    void aPortIsOpenedAndClosedWithoutAThreadForIt() {
+        PortBench bench;
+        failingCall = 1;
+        verifyTransfer(bench);
+        QCOMPARE(failingCall, 0);
+        failingCall = 1;
+        QVERIFY(bench.port->close());
+        QCOMPARE(failingCall, 0);
+        QVERIFY(!bench.port->isOpen());
+    }
+
+  private:
+    static void verifyTransfer(PortBench& bench) {
         QVERIFY(bench.open());
         QVERIFY(bench.line.write("x"));
         QTRY_COMPARE(bench.delegate.received(), QByteArray("x"));

@@ -163,12 +163,14 @@ void PortLifeCycleSoak::nothingIsLeftOfThePortsThatCameAndWent() {
         }
     }
     QCOMPARE(manager.countOfAvailablePorts(), 0);
+    // A driver may keep its thread and descriptor longer than a port waits for them, and the system
+    // lists a thread a moment longer than whoever has joined it waits.
+    QTRY_COMPARE(Census().threads, before.threads);
+    QTRY_COMPARE(Census().descriptors, before.descriptors);
     const Census after;
     const auto lives = static_cast<size_t>(cycles);
     qInfo("descriptors %lld, %lld; threads %lld, %lld; heap %zu, %zu bytes", before.descriptors,
           after.descriptors, before.threads, after.threads, early->heap, after.heap);
-    QCOMPARE(after.descriptors, before.descriptors);
-    QCOMPARE(after.threads, before.threads);
     QVERIFY(after.heap <= early->heap + heapSlack + heapSlackOfEach * lives);
 }
 

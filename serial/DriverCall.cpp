@@ -1,4 +1,4 @@
-#include "serial/PortClosing.h"
+#include "serial/DriverCall.h"
 
 #include "platform/WorkerThread.h"
 
@@ -45,45 +45,42 @@ class LastWait {
     const std::shared_ptr<Count> count = std::make_shared<Count>();
 };
 
-class Closing {
+class Call {
   public:
-    Closing(std::shared_ptr<OpenedDevice> device, std::shared_ptr<Count> count)
-        : _device(std::move(device)), _count(std::move(count)) {
+    Call(std::function<bool()> work, std::shared_ptr<Count> count)
+        : _work(std::move(work)), _count(std::move(count)) {
         _count->add(1);
     }
 
     void run() {
-        const bool isClosed = _device->close();
-        _device.reset();
-        _isClosed.set_value(isClosed);
+        const bool result = _work();
+        _work = nullptr;
+        _result.set_value(result);
         _count->add(-1);
     }
 
-    std::shared_future<bool> isClosed() { return _isClosed.get_future().share(); }
+    std::shared_future<bool> result() { return _result.get_future().share(); }
 
   private:
-    std::shared_ptr<OpenedDevice> _device;
+    std::function<bool()> _work;
     std::shared_ptr<Count> _count;
-    std::promise<bool> _isClosed;
+    std::promise<bool> _result;
 };
 
 } // namespace
 
-std::shared_future<bool> PortClosing::close(const std::shared_ptr<OpenedDevice>& device,
-                                            std::chrono::milliseconds limit) {
+std::shared_future<bool> DriverCall::run(const char* name, std::function<bool()> work,
+                                         std::chrono::milliseconds limit) {
     static const LastWait lastWaitOfProgram;
-    // From here, so that a worker which waits for this thread gives up.
-    device->stopWorkers();
-    const auto closing = std::make_shared<Closing>(device, lastWaitOfProgram.count);
-    const auto isClosed = closing->isClosed();
+    const auto call = std::make_shared<Call>(std::move(work), lastWaitOfProgram.count);
+    const auto result = call->result();
     try {
-        auto thread =
-            startWorker("port closing", [closing](const std::stop_token&) { closing->run(); });
-        if (isClosed.wait_for(limit) != std::future_status::ready) {
+        auto thread = startWorker(name, [call](const std::stop_token&) { call->run(); });
+        if (result.wait_for(limit) != std::future_status::ready) {
             thread.detach();
         }
     } catch (const std::system_error&) {
-        closing->run();
+        call->run();
     }
-    return isClosed;
+    return result;
 }
