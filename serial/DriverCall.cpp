@@ -34,36 +34,36 @@ class Count {
     int _count = 0;
 };
 
-/// The threads that are not waited for in the end have their share in the count.
+/// Never destroyed: a thread that nobody waits for has its share in it to the very end, and so has
+/// whoever closes a port while the program exits.
+Count& underWay() {
+    static auto* const count = new Count;
+    return *count;
+}
+
 class LastWait {
   public:
     LastWait() = default;
     LastWait(const LastWait&) = delete;
     LastWait& operator=(const LastWait&) = delete;
-    ~LastWait() { count->awaitNone(lastWait); }
-
-    const std::shared_ptr<Count> count = std::make_shared<Count>();
+    ~LastWait() { underWay().awaitNone(lastWait); }
 };
 
 class Call {
   public:
-    Call(std::function<bool()> work, std::shared_ptr<Count> count)
-        : _work(std::move(work)), _count(std::move(count)) {
-        _count->add(1);
-    }
+    explicit Call(std::function<bool()> work) : _work(std::move(work)) { underWay().add(1); }
 
     void run() {
         const bool result = _work();
         _work = nullptr;
         _result.set_value(result);
-        _count->add(-1);
+        underWay().add(-1);
     }
 
     std::shared_future<bool> result() { return _result.get_future().share(); }
 
   private:
     std::function<bool()> _work;
-    std::shared_ptr<Count> _count;
     std::promise<bool> _result;
 };
 
@@ -71,12 +71,12 @@ class Call {
 
 std::shared_future<bool> DriverCall::run(const char* name, std::function<bool()> work,
                                          std::chrono::milliseconds limit) {
-    static const LastWait lastWaitOfProgram;
-    const auto call = std::make_shared<Call>(std::move(work), lastWaitOfProgram.count);
+    const auto call = std::make_shared<Call>(std::move(work));
     const auto result = call->result();
     try {
         auto thread = startWorker(name, [call](const std::stop_token&) { call->run(); });
         if (result.wait_for(limit) != std::future_status::ready) {
+            static const LastWait lastWaitOfProgram;
             thread.detach();
         }
     } catch (const std::system_error&) {
