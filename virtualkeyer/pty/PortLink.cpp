@@ -29,6 +29,9 @@ FileDescriptor openDirectory(int parent, const std::string& name) {
                 .arg(QFile::decodeName(name.c_str()))
                 .toStdString());
     }
+    if ((status.st_mode & (S_IWGRP | S_IWOTH)) != 0) {
+        throw std::runtime_error("others may write to the directory " + name);
+    }
     return directory;
 }
 

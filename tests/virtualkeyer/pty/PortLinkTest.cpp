@@ -85,6 +85,9 @@ class PortLinkTest : public QObject {
     void init();
     void aFreshLinkPointsAtTheTerminalAndGoesWithItsOwner();
     void theDirectoriesAreForTheirOwnerOnly();
+    void aDirectoryThatOthersMayWriteToIsRefused_data();
+    void aDirectoryThatOthersMayWriteToIsRefused();
+    void aDirectoryBehindALinkIsRefused();
     void thePortsDirectoryHoldsTheLinkOnly();
     void nothingIsLeftBesideThePortsAfterwards();
     void aCrashedKeyersLinkIsReplaced_data();
@@ -148,6 +151,34 @@ void PortLinkTest::theDirectoriesAreForTheirOwnerOnly() {
         QCOMPARE(::stat(QFile::encodeName(path).constData(), &status), 0);
         QCOMPARE(status.st_mode & 0777U, 0700U);
     }
+}
+
+void PortLinkTest::aDirectoryThatOthersMayWriteToIsRefused_data() {
+    QTest::addColumn<QString>("directory");
+    QTest::addColumn<uint>("mode");
+    QTest::newRow("the group, to the upper one") << u"/quorvel"_s << 0770U;
+    QTest::newRow("anybody, to the ports'") << u"/quorvel/ports"_s << 0707U;
+}
+
+/// Whoever may put a link there would have the keyer's place.
+void PortLinkTest::aDirectoryThatOthersMayWriteToIsRefused() {
+    QFETCH(const QString, directory);
+    QFETCH(const uint, mode);
+    QVERIFY(QDir().mkpath(ports()));
+    const auto path = QFile::encodeName(_directory->path() + directory);
+    QCOMPARE(::chmod(path.constData(), mode), 0);
+    QVERIFY_THROWS_EXCEPTION(std::runtime_error,
+                             PortLink(runtime(), "usbserial-virtual", "/dev/null"));
+    QCOMPARE(portNames(), QStringList());
+}
+
+void PortLinkTest::aDirectoryBehindALinkIsRefused() {
+    const QTemporaryDir elsewhere;
+    QVERIFY(QDir(_directory->path()).mkdir(u"quorvel"_s));
+    QVERIFY(QFile::link(elsewhere.path(), ports()));
+    QVERIFY_THROWS_EXCEPTION(std::runtime_error,
+                             PortLink(runtime(), "usbserial-virtual", "/dev/null"));
+    QVERIFY(QDir(elsewhere.path()).isEmpty());
 }
 
 void PortLinkTest::thePortsDirectoryHoldsTheLinkOnly() {
