@@ -17,8 +17,4 @@ namespace DeviceNaming {
 /// Whether a link of that name can be a port: there is no control character in it.
 [[nodiscard]] bool isPresentable(const QString& name);
 
-/// The name with the characters written out, as \uXXXX, that nobody sees: those that turn the
-/// direction of what follows, or have no width, make one name look like another.
-[[nodiscard]] QString visible(const QString& name);
-
 } // namespace DeviceNaming

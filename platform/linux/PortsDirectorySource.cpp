@@ -2,6 +2,7 @@
 
 #include "platform/FileDescriptor.h"
 #include "platform/Log.h"
+#include "platform/VisibleText.h"
 #include "platform/linux/DeviceNaming.h"
 #include "platform/linux/TerminalNode.h"
 
@@ -189,7 +190,7 @@ std::optional<SerialDevice> PortsDirectorySource::deviceAt(const QFileInfo& link
     return SerialDevice{.identity = identityOf(link),
                         .calloutPath = terminal,
                         .dialinPath = link.filePath(),
-                        .baseName = DeviceNaming::visible(link.fileName()),
+                        .baseName = visibleText(link.fileName()),
                         .suffixes = {QString()}};
 }
 
@@ -208,8 +209,7 @@ bool PortsDirectorySource::isItsTerminal(const QString& identity, const QString&
     _known.erase(identity);
     if (!_passedOver.contains(identity)) {
         _passedOver.insert(identity);
-        logLine(u"%1 is no port: %2 was made after it, for somebody else"_s.arg(
-            DeviceNaming::visible(link), terminal));
+        logLine(u"%1 is no port: %2 was made after it, for somebody else"_s.arg(link, terminal));
     }
     return false;
 }

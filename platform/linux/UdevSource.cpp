@@ -1,6 +1,7 @@
 #include "platform/linux/UdevSource.h"
 
 #include "platform/Log.h"
+#include "platform/VisibleText.h"
 #include "platform/linux/DeviceNaming.h"
 #include "platform/linux/TtyDevice.h"
 
@@ -50,7 +51,7 @@ QString usbSerialNumber(udev_device* device, udev_device* adapter) {
             return each.category() == QChar::Other_Control || each.isSpace() || each == u'/';
         },
         QChar(u'_'));
-    return DeviceNaming::visible(number);
+    return visibleText(number);
 }
 
 /// The device's links that lead to it. Of adapters with equal serial numbers, each claims the
