@@ -317,10 +317,19 @@ void MainWindow::comeToFront(const QString& activationToken) {
     activateWindow();
 }
 
-/// Nobody sees the warning of a window that is closed.
+/// The program goes on where another window is open, and nobody would see what is on the air, nor
+/// have Stop at hand.
 void MainWindow::closeEvent(QCloseEvent* event) {
-    _tuneSwitch->letGo();
+    if (hasSomethingToStop()) {
+        stop();
+    }
     QMainWindow::closeEvent(event);
+}
+
+bool MainWindow::hasSomethingToStop() const {
+    const bool hasUnsentText = _engine.outputBufferIndex() < _engine.keyboardBuffer().size();
+    return _engine.mayBeKeying() || _engine.beaconState() != 0 || hasUnsentText ||
+           !_heldMessages->isEmpty();
 }
 
 void MainWindow::changeEvent(QEvent* event) {

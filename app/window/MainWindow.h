@@ -85,6 +85,7 @@ class MainWindow final : public QMainWindow {
     void showNotice();
     void showWaiting();
     void showTitle();
+    [[nodiscard]] bool hasSomethingToStop() const;
 
     WinKeyerUsb& _engine;
     std::unique_ptr<Ui::MainWindow> _ui;

@@ -19,7 +19,8 @@ KEY_UP_AFTER_SILENCE = 3.4
 # Bytes, as patterns. Text may be on its way.
 TEXT = "([45][0-9a-f] )*"
 ONE_ON_ITS_WAY = "([45][0-9a-f])?"
-SILENCE = "0b 00 0a"
+CLEAR = "0a"
+SILENCE = f"0b 00 {CLEAR}"
 HOST_CLOSE = "00 03"
 LEAVING = f"{TEXT}{SILENCE} {HOST_CLOSE}"
 GUARDS_WORDS = f"{'13 ' * 15}{SILENCE} {HOST_CLOSE}"
@@ -65,7 +66,8 @@ class Quit(Ending):
 
 
 class WindowClosed(Ending):
-    """The main window goes first, and tune with it. An alert keeps it from being closed."""
+    """The main window goes first, and with it all that is keyed or waits to be. An alert keeps it
+    from being closed."""
 
     def end(self, station, state):
         station.dismiss_alerts()
@@ -78,18 +80,19 @@ class WindowClosed(Ending):
                                                           lambda: self._other_window(station)))
 
     def bytes(self, state):
-        """Tune ends with its window, whatever windows are left."""
-        if state in KEY_IS_DOWN and state in HAS_ALERT | HAS_PREFERENCES:
+        if state in HAS_ALERT | HAS_PREFERENCES | {"memory load", "idle"}:
             return HOST_CLOSE
-        return f"{KEY_UP_BYTES} {LEAVING}" if state == "tune" else super().bytes(state)
+        if state == "beacon waiting":
+            return f"{CLEAR} {HOST_CLOSE}"
+        return f"{self._stop(state)} {SILENCE} {HOST_CLOSE}"
+
+    def _stop(self, state):
+        return f"{KEY_UP_BYTES} {CLEAR}" if state in KEY_IS_DOWN else f"{TEXT}{CLEAR}"
 
     def _expect_of_main_window(self, station, state):
-        """Text goes on: it can be stopped in any window."""
-        if state in KEY_IS_DOWN:
-            station.expect_key_up()
-            station.expect_written(KEY_UP_BYTES)
-        elif state in NOTHING_IS_KEYED:
-            station.expect_written("")
+        """It is over before the other window goes."""
+        station.expect_key_up()
+        station.expect_written("" if state == "memory load" else self._stop(state))
 
     def _other_window(self, station):
         number = station.desktop.xdotool("getactivewindow")

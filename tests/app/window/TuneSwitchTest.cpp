@@ -211,7 +211,7 @@ void TuneSwitchTest::quittingKeysUpAlsoWhenTheKeyerTellsNothingOfATune() {
 void TuneSwitchTest::closingTheWindowLetsGo() {
     tune();
     _window->close();
-    QCOMPARE(_bench->written(), "0b 00");
+    QCOMPARE(_bench->written(), "0b 00 0a");
     QCOMPARE(_bench->engine().tuneState(), 0);
 }
 
@@ -220,7 +220,7 @@ void TuneSwitchTest::letsGoWhateverTheButtonShows() {
     const QSignalBlocker nobodyFollows(_bench->engine());
     _window->close();
     QVERIFY(_button->isChecked());
-    QCOMPARE(_bench->written(), "0b 00");
+    QCOMPARE(_bench->written(), "0b 00 0a");
 }
 
 void TuneSwitchTest::aKeyerThatIsGreetedAgainIsKeyedUp() {
