@@ -36,14 +36,16 @@ class Accessible:
     @staticmethod
     def application(pid):
         """The application of a process; None while there is none."""
+        return next((each for process, each in Accessible.applications() if process == pid), None)
+
+    @staticmethod
+    def applications():
+        """All of them, each with its process."""
         context = GLib.MainContext.default()
         while context.iteration(False):
             pass
-        desktop = Accessible(Atspi.get_desktop(0))
-        for child in desktop.children():
-            if _reading(child._element.get_process_id, 0) == pid:
-                return child
-        return None
+        for child in Accessible(Atspi.get_desktop(0)).children():
+            yield _reading(child._element.get_process_id, 0), child
 
     def name(self):
         return _reading(self._element.get_name, "")
@@ -92,6 +94,12 @@ class Accessible:
         """On the screen."""
         extents = Atspi.Component.get_extents(self._element, Atspi.CoordType.SCREEN)
         return extents.x + extents.width // 2, extents.y + extents.height // 2
+
+    def size(self):
+        """Width and height."""
+        extents = _reading(lambda: Atspi.Component.get_extents(self._element,
+                                                               Atspi.CoordType.WINDOW), None)
+        return (extents.width, extents.height) if extents else (0, 0)
 
     def refresh(self):
         """Forgets what was read earlier, which may be out of date."""

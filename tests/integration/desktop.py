@@ -53,6 +53,10 @@ class Desktop:
         pid = self.xdotool("getactivewindow", "getwindowpid")
         return int(pid) if pid else None
 
+    def active_title(self):
+        """What stands over the window that has the keyboard."""
+        return self.xdotool("getactivewindow", "getwindowname") or ""
+
     def press(self, keys):
         assert self.xdotool("key", keys) is not None
 

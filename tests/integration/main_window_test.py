@@ -127,7 +127,7 @@ class MainWindowTest(ProgramTest):
         self.desktop.press("alt+h")
         quorvel.wait_for("the menu", lambda: self.is_menu_open(window, "Guide"))
         self.desktop.press("g")
-        quorvel.wait_for("the guide", lambda: "Guide" in self.active_title())
+        quorvel.wait_for("the guide", lambda: "Guide" in self.desktop.active_title())
         self.desktop.press("Escape")
         keyer.wait_for("the key to rise", lambda: not keyer.is_key_down())
         self.active_window(quorvel)
@@ -156,7 +156,7 @@ class MainWindowTest(ProgramTest):
     def test_the_preferences_take_no_message_key_and_let_quit(self):
         keyer, quorvel, window = self.start_connected()
         self.desktop.press("ctrl+comma")
-        quorvel.wait_for("the preferences", lambda: "General" in self.active_title())
+        quorvel.wait_for("the preferences", lambda: "General" in self.desktop.active_title())
         self.desktop.press("F1")
         self.desktop.press("ctrl+q")
         self.assertEqual(quorvel.status(), 0)
@@ -195,9 +195,6 @@ class MainWindowTest(ProgramTest):
     def is_menu_open(self, window, item):
         return any(each.name() == item and each.is_in_state("showing")
                    for each in window.all() if "menu" in each.role())
-
-    def active_title(self):
-        return self.desktop.xdotool("getactivewindow", "getwindowname") or ""
 
     def focused(self, window):
         return next((each.name() for each in window.all() if each.is_in_state("focused")), None)

@@ -88,12 +88,13 @@ class ProgramTest(unittest.TestCase):
 
     # What an alert says while it takes no keys.
     shielded = "Takes keys when you have stopped typing for a second"
+    desktop_kind = Desktop
 
     @classmethod
     def setUpClass(cls):
         cls.directory = pathlib.Path(tempfile.mkdtemp(prefix="quorvel-test."))
         cls.addClassCleanup(shutil.rmtree, cls.directory)
-        cls.desktop = Desktop(cls.directory)
+        cls.desktop = cls.desktop_kind(cls.directory)
         cls.addClassCleanup(cls.desktop.close)
 
     def setUp(self):
