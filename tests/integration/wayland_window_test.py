@@ -21,7 +21,6 @@ class WaylandWindowTest(alerts_test.AlertsTest, held_key_test.HeldKeyTest,
 # Where the compositor has a hand in it: keys, clicks, menus, and which window has the keyboard.
 CHOSEN = [
     "test_what_is_typed_answers_nothing",
-    "test_the_cable_is_pulled_and_plugged_in_again",
     "test_escape_stops",
     "test_escape_stops_from_a_menu_and_from_the_guide",
     "test_a_screen_repeats_a_held_key",
