@@ -55,7 +55,10 @@ bool MainQueue::sync(Work work, const std::stop_token& stop) {
     return job->state == Job::State::Finished;
 }
 
+// Whoever holds the queue longest may end it on a thread of his own, which the notifier, while it
+// is on, would not bear: the event loop would go on to tell it of its descriptor.
 void MainQueue::shutDown() {
+    _notifier.setEnabled(false);
     std::deque<std::shared_ptr<Job>> dropped;
     {
         const std::scoped_lock lock(_mutex);

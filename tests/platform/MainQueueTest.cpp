@@ -3,6 +3,7 @@
 #include "tests/support/RegisteredTest.h"
 
 #include <QEventLoop>
+#include <QRegularExpression>
 #include <QTest>
 #include <QThread>
 
@@ -10,8 +11,10 @@
 #include <atomic>
 #include <memory>
 #include <thread>
+#include <utility>
 #include <vector>
 
+using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
 class MainQueueTest : public QObject {
@@ -46,6 +49,15 @@ class MainQueueTest : public QObject {
         }
         QTRY_COMPARE(next[0] + next[1], 2 * each);
         QVERIFY(isInOrder);
+    }
+
+    void itMayEndOnAnotherThread() {
+        auto queue = std::make_shared<MainQueue>();
+        queue->async([] {});
+        queue->shutDown();
+        QTest::failOnWarning(QRegularExpression(u"Socket notifiers"_s));
+        std::jthread([last = std::exchange(queue, nullptr)]() mutable { last.reset(); }).join();
+        QTest::qWait(1); // a notifier that is left is told of its descriptor
     }
 
     void syncReturnsWhenTheWorkHasRunOnTheMainThread() {
