@@ -20,6 +20,7 @@
 
 extern "C" {
 int replayDecodeMessage(const std::uint8_t* data, std::size_t size);
+int replayEnteredText(const std::uint8_t* data, std::size_t size);
 int replayLoggerDatagrams(const std::uint8_t* data, std::size_t size);
 int replayPortNames(const std::uint8_t* data, std::size_t size);
 int replayReceivePath(const std::uint8_t* data, std::size_t size);
@@ -36,7 +37,8 @@ struct Target {
     int (*run)(const std::uint8_t* data, std::size_t size);
 };
 
-constexpr std::array<Target, 8> targets{{{"decode-message", &replayDecodeMessage},
+constexpr std::array<Target, 9> targets{{{"decode-message", &replayDecodeMessage},
+                                         {"entered-text", &replayEnteredText},
                                          {"logger-datagrams", &replayLoggerDatagrams},
                                          {"port-names", &replayPortNames},
                                          {"receive-path", &replayReceivePath},
