@@ -17,20 +17,50 @@ bool isLetter(QChar character) {
            !noLetters.characterIsMember(character);
 }
 
+/// What a merge may be followed by for its letters to come yet, or to have come.
+bool isLetterOrDropped(QChar character) {
+    return !noLetters.characterIsMember(character.toUpper());
+}
+
 } // namespace
 
+/// Looks no further than a merge reaches, whatever the text around it. What cannot be typed at all
+/// does not stay in the text.
 KeptText::Stretch KeptText::openMergeAt(const QString& text, qsizetype place) {
-    const auto start = place > 0 ? text.lastIndexOf(u'{', place - 1) : -1;
-    if (start < 0) {
+    auto start = place - 1;
+    while (start >= 0 && place - start < mergeLength && isLetterOrDropped(text.at(start))) {
+        --start;
+    }
+    if (start < 0 || text.at(start) != u'{') {
         return {};
     }
-    qsizetype length = 1;
-    while (length < mergeLength && start + length < text.size() &&
-           isLetter(text.at(start + length).toUpper())) {
-        ++length;
+    auto end = start + 1;
+    int letters = 0;
+    while (letters < mergeLength - 1 && end < text.size() && isLetterOrDropped(text.at(end))) {
+        letters += isLetter(text.at(end).toUpper()) ? 1 : 0;
+        ++end;
     }
-    const bool isOpen = length < mergeLength && place <= start + length;
-    return isOpen ? Stretch{start, length} : Stretch();
+    const bool isOpen = letters < mergeLength - 1 && place <= end;
+    return isOpen ? Stretch{start, end - start} : Stretch();
+}
+
+qsizetype KeptText::mergeOpenAtEnd(QStringView text, qsizetype begin) {
+    // A place that no "{" reaches beyond is one that the sending comes to.
+    const auto isReached = [&](qsizetype place) {
+        const auto from = std::max(begin, place - mergeLength + 1);
+        return from < place && text.sliced(from, place - from).contains(u'{');
+    };
+    auto place = std::max(begin, text.size() - mergeLength + 1);
+    while (isReached(place)) {
+        --place;
+    }
+    while (place < text.size()) {
+        if (text.at(place) == u'{' && text.size() - place < mergeLength) {
+            return place;
+        }
+        place += text.at(place) == u'{' ? mergeLength : 1;
+    }
+    return -1;
 }
 
 void KeptText::add(const QString& typed) {

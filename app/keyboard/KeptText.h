@@ -19,6 +19,9 @@ class KeptText {
     /// The "{" next before `place` in `text` that lacks one of its letters or both, with what it
     /// has of them; an empty stretch where there is none, or the place is behind the letter.
     [[nodiscard]] static Stretch openMergeAt(const QString& text, qsizetype place);
+    /// Where the "{" stands that a sending which goes on at `begin` would come upon with fewer than
+    /// two characters behind it, at the end of `text`; -1 without one.
+    [[nodiscard]] static qsizetype mergeOpenAtEnd(QStringView text, qsizetype begin);
 
     /// Adds what was typed. Of what follows "{", only what the keyer keys as a letter counts; the
     /// rest is dropped.

@@ -66,7 +66,8 @@ void KeyboardView::takeOperatorsText() {
 void KeyboardView::takeText(const QString& typed) {
     const auto before = _engine.keyboardBuffer();
     const auto handedOver = _engine.outputBufferIndex();
-    giveToEngine(withoutBrokenMerge(typed, TextChange::between(before, typed)));
+    const auto merge = takeBrokenMerge(typed, TextChange::between(before, typed));
+    giveToEngine(QString(typed).remove(merge.position, merge.length));
     breakParagraphs();
     if (const auto change = TextChange::between(before, _engine.keyboardBuffer());
         !change.isEmpty()) {
@@ -103,19 +104,30 @@ void KeyboardView::recordEdit(const TextChange& change, qsizetype handedOver) {
                     {former, _messageEnd});
 }
 
-KeptText::Stretch KeyboardView::unsentMergeAt(const QString& text, qsizetype place) const {
-    const auto merge = KeptText::openMergeAt(text, place);
-    return merge.position < _engine.outputBufferIndex() ? KeptText::Stretch() : merge;
+/// Where the "{" stands that is to be sent and that a message ends with, if `text` ends with it.
+qsizetype KeyboardView::mergeLeftOpenIn(QStringView text) const {
+    return KeptText::mergeOpenAtEnd(text, _engine.outputBufferIndex());
 }
 
-/// An edit that takes a letter from "{" has the rest of it wait for one again.
-QString KeyboardView::withoutBrokenMerge(const QString& text, const TextChange& change) {
-    const auto merge = unsentMergeAt(text, change.position + change.inserted.size());
-    if (merge.length > 0) {
-        _kept.add(text.mid(merge.position, merge.length));
+/// What of `text` is not to be sent. An edit that takes a letter from "{" has the rest of it wait
+/// for one again, where it stood. What is typed behind a message is no letter of it, and the
+/// message by itself would be sent without its "{".
+KeptText::Stretch KeyboardView::takeBrokenMerge(const QString& text, const TextChange& change) {
+    if (change.removed.isEmpty() && change.position == _messageEnd) {
+        const auto sign = mergeLeftOpenIn(QStringView(text).first(change.position));
+        return sign >= 0 ? KeptText::Stretch{sign, 1} : KeptText::Stretch();
     }
-    auto rest = text;
-    return rest.remove(merge.position, merge.length);
+    const auto merge = KeptText::openMergeAt(text, change.position);
+    if (merge.length == 0 || merge.position < _engine.outputBufferIndex()) {
+        return {};
+    }
+    _kept.add(text.mid(merge.position, merge.length));
+    if (!_isDropping) {
+        auto caret = textCursor();
+        caret.setPosition(static_cast<int>(merge.position));
+        setTextCursor(caret);
+    }
+    return merge;
 }
 
 /// The space that was put behind a message, and the first character of the word.
@@ -199,12 +211,17 @@ void KeyboardView::showEnginesText() {
     if (_isEngineTakingText) {
         return; // there is more to come
     }
-    const auto change = TextChange::between(text(), _engine.keyboardBuffer());
+    const auto before = text();
+    const auto size = _engine.keyboardBuffer().size();
+    const bool isAdded = size > before.size() && _engine.keyboardBuffer().startsWith(before);
+    if (isAdded) {
+        keepMessageApart(before);
+    }
+    const auto change = TextChange::between(before, _engine.keyboardBuffer());
     if (change.isEmpty()) {
         return;
     }
-    const auto former = _messageEnd;
-    noteMessage(change);
+    const auto former = std::exchange(_messageEnd, isAdded ? _engine.keyboardBuffer().size() : -1);
     _history.record(change, _engine.outputBufferIndex(), EditHistory::Kind::Whole,
                     {former, _messageEnd});
     showChange(change);
@@ -213,10 +230,12 @@ void KeyboardView::showEnginesText() {
     }
 }
 
-void KeyboardView::noteMessage(const TextChange& change) {
-    const auto end = change.position + change.inserted.size();
-    const bool isAdded = change.removed.isEmpty() && end == _engine.keyboardBuffer().size();
-    _messageEnd = isAdded ? end : -1;
+/// A message that ends with "{" is not joined to the one that is added behind it.
+void KeyboardView::keepMessageApart(const QString& before) {
+    if (const auto sign = mergeLeftOpenIn(before); sign >= 0) {
+        const QScopedValueRollback guard(_isEngineTakingText, true);
+        _engine.setKeyboardBuffer(_engine.keyboardBuffer().remove(sign, 1));
+    }
 }
 
 void KeyboardView::showChange(const TextChange& change) {

@@ -106,9 +106,9 @@ class KeyboardView final : public QPlainTextEdit {
     void dropCurrentFormat();
     [[nodiscard]] QString readied(const QString& typed, const QTextCursor& place);
     [[nodiscard]] QString releasedText();
-    [[nodiscard]] KeptText::Stretch unsentMergeAt(const QString& text, qsizetype place) const;
-    void takeBackMerge(const QTextCursor& place);
-    [[nodiscard]] QString withoutBrokenMerge(const QString& text, const TextChange& change);
+    [[nodiscard]] qsizetype mergeLeftOpenIn(QStringView text) const;
+    void keepMessageApart(const QString& before);
+    [[nodiscard]] KeptText::Stretch takeBrokenMerge(const QString& text, const TextChange& change);
     void recordEdit(const TextChange& change, qsizetype handedOver);
     [[nodiscard]] bool isBeginOfWord(const TextChange& change) const;
     [[nodiscard]] qsizetype messageEndAfter(const TextChange& change) const;
@@ -126,7 +126,6 @@ class KeyboardView final : public QPlainTextEdit {
     void endComposition();
     void keepSelection(int begin, int end, bool isReversed);
 
-    void noteMessage(const TextChange& change);
     void followCaret();
     void followLink();
     void takeProgress();

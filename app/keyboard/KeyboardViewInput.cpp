@@ -46,9 +46,6 @@ void KeyboardView::enter(const QString& text) {
 
 /// What is to go into the text at `place`, instead of its selection, of what was typed there.
 QString KeyboardView::readied(const QString& typed, const QTextCursor& place) {
-    if (!typed.isEmpty()) {
-        takeBackMerge(place);
-    }
     const auto before = _text.characterAt(place.selectionStart() - 1);
     const auto after = _text.characterAt(place.selectionEnd());
     _kept.add(KeyboardText::inOneLine(typed, before, after));
@@ -60,20 +57,6 @@ QString KeyboardView::readied(const QString& typed, const QTextCursor& place) {
         return u' ' + complete;
     }
     return complete;
-}
-
-/// A message may end in "{". What is typed right behind it, before it is sent, completes it.
-void KeyboardView::takeBackMerge(const QTextCursor& place) {
-    const auto shown = text();
-    const auto merge = unsentMergeAt(shown, place.selectionStart());
-    if (merge.length == 0 || merge.position + merge.length != place.selectionStart()) {
-        return;
-    }
-    auto cursor = place;
-    cursor.setPosition(static_cast<int>(merge.position));
-    cursor.setPosition(place.selectionStart(), QTextCursor::KeepAnchor);
-    _kept.add(shown.mid(merge.position, merge.length));
-    cursor.removeSelectedText();
 }
 
 bool KeyboardView::isPaddleInUse() const {

@@ -35,9 +35,9 @@ class KeyboardViewMergeTest : public QObject {
     void oneThatLosesALetterWaitsForIt();
     void takingItApartIsUndone();
     void oneThatIsSentIsLeftAlone();
-    void aMessageThatEndsInOneIsCompleted_data();
-    void aMessageThatEndsInOneIsCompleted();
-    void aPasteBehindAMessageCompletesItToo();
+    void whatIsNoLetterTakesItApart_data();
+    void whatIsNoLetterTakesItApart();
+    void whatCannotBeTypedLeavesItWhole();
     void whatIsMadeAgainTakesItsPlace();
 
   private:
@@ -307,43 +307,52 @@ void KeyboardViewMergeTest::oneThatIsSentIsLeftAlone() {
     QCOMPARE(written(), "4b");
 }
 
-void KeyboardViewMergeTest::aMessageThatEndsInOneIsCompleted_data() {
-    QTest::addColumn<QString>("message");
+void KeyboardViewMergeTest::whatIsNoLetterTakesItApart_data() {
+    QTest::addColumn<QString>("way");
+    QTest::addColumn<int>("place");
+    QTest::addColumn<QString>("waiting");
+    QTest::addColumn<QString>("rest");
     QTest::addColumn<QString>("typed");
     QTest::addColumn<QString>("result");
-    QTest::addRow("none of its letters") << u"cq {"_s << u"sn k"_s << u"CQ {SN K"_s;
-    QTest::addRow("one of them") << u"cq {s"_s << u"nk"_s << u"CQ {SNK"_s;
-    QTest::addRow("no letters at first") << u"cq {"_s << u" ~s?"_s << u"CQ {S?"_s;
+    QTest::addRow("a space between its letters")
+        << u" "_s << 4 << u"{A"_s << u"E  RT"_s << u"n"_s << u"E {AN RT"_s;
+    QTest::addRow("a space ahead of them")
+        << u" "_s << 3 << u"{"_s << u"E  ART"_s << u"sn"_s << u"E {SN ART"_s;
+    QTest::addRow("a token") << u"~"_s << 4 << u"{A"_s << u"E ~RT"_s << u"n"_s << u"E {AN~RT"_s;
+    QTest::addRow("my call") << u"`"_s << 4 << u"{A"_s << u"E N0CALLRT"_s << u"n"_s
+                             << u"E {ANN0CALLRT"_s;
+    QTest::addRow("another merge")
+        << u"{sn"_s << 4 << u"{A"_s << u"E {SNRT"_s << u"n"_s << u"E {AN{SNRT"_s;
 }
 
-void KeyboardViewMergeTest::aMessageThatEndsInOneIsCompleted() {
-    QFETCH(const QString, message);
+void KeyboardViewMergeTest::whatIsNoLetterTakesItApart() {
+    QFETCH(const QString, way);
+    QFETCH(const int, place);
     QFETCH(const QString, typed);
-    _station->keys(u"e"_s);
-    _station->engine().appendMessage(message);
-    static_cast<void>(written());
-    _station->keys(typed);
-    QFETCH(const QString, result);
-    QCOMPARE(text(), u"E "_s + result);
+    _station->pause();
+    _station->keys(u"e {art"_s);
+    auto caret = _station->view.textCursor();
+    caret.setPosition(place);
+    _station->view.setTextCursor(caret);
+    _station->keys(way);
+    QTEST(text(), "rest");
+    QTEST(kept(), "waiting");
     QCOMPARE(_station->view.text(), text());
-    QByteArray sent;
-    for (int i = 0; i < 20; ++i) {
-        _station->echo();
-        sent += written().append(' ');
-    }
-    const auto merge = result.indexOf(u'{');
-    QVERIFY(sent.contains("1b " + result.mid(merge + 1, 2).toLatin1().toHex(' ')));
+    _station->keys(typed);
+    QTEST(text(), "result");
+    QCOMPARE(kept(), u""_s);
+    QCOMPARE(_station->view.text(), text());
 }
 
-void KeyboardViewMergeTest::aPasteBehindAMessageCompletesItToo() {
+void KeyboardViewMergeTest::whatCannotBeTypedLeavesItWhole() {
     _station->pause();
-    _station->engine().appendMessage(u"cq {"_s);
-    QGuiApplication::clipboard()->setText(u"sn de {ar"_s);
-    _station->keys(QKeySequence::Paste);
-    QCOMPARE(text(), u"CQ {SN DE {AR"_s);
-    _station->keys(QKeySequence::Undo);
-    _station->keys(QKeySequence::Undo);
-    QCOMPARE(text(), u"CQ {"_s);
+    _station->keys(u"{ar"_s);
+    _station->key(Qt::Key_Left);
+    _station->keys(u"!"_s);
+    QCOMPARE(text(), u"{AR"_s);
+    QCOMPARE(kept(), u""_s);
+    _station->keys(u"s"_s);
+    QCOMPARE(text(), u"{ASR"_s);
 }
 
 void KeyboardViewMergeTest::whatIsMadeAgainTakesItsPlace() {
