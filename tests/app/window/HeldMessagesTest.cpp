@@ -36,6 +36,7 @@ class HeldMessagesTest : public QObject, private MainWindowFixture {
     void whatIsHeldIsCounted();
     void whatIsTypedBehindAHeldMessageComesBehindIt_data();
     void whatIsTypedBehindAHeldMessageComesBehindIt();
+    void aHeldMessageThatEndsInASignJoinsNothing();
     void heldTextIsDroppedWithTheMessages();
 
   private:
@@ -282,6 +283,16 @@ void HeldMessagesTest::whatIsTypedBehindAHeldMessageComesBehindIt() {
     QCOMPARE(counted, text().size());
     QCOMPARE(view().text(), text());
     QVERIFY(!view().isHoldingText());
+}
+
+void HeldMessagesTest::aHeldMessageThatEndsInASignJoinsNothing() {
+    _bench->settings().setObject(u"tu {a"_s, u"Message7"_s);
+    press(Qt::Key_F7);
+    type(u"sn"_s);
+    press(Qt::Key_F2);
+    _bench->receive({0xC0});
+    QCOMPARE(text(), u"TU A SN 5NN NH"_s);
+    QCOMPARE(view().text(), text());
 }
 
 void HeldMessagesTest::heldTextIsDroppedWithTheMessages() {
