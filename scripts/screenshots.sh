@@ -169,6 +169,56 @@ shoot_traffic() {
     stop quorvel
 }
 
+# start_login_service: which tells of the machine's sleep, on a system bus of its own.
+start_login_service() {
+    export DBUS_SYSTEM_BUS_ADDRESS=unix:path=$private_directory/system-bus
+    start bus dbus-daemon --session --nofork --nopidfile --address="$DBUS_SYSTEM_BUS_ADDRESS"
+    wait_while bus 10 test -S "$private_directory/system-bus"
+    start login told_to_sleep /usr/bin/python3 -B tests/integration/login_service.py \
+        >"$private_directory/login"
+    wait_while login 20 login_answered ready
+}
+
+# told_to_sleep COMMAND...: whose standard input tells it to.
+told_to_sleep() {
+    exec "$@" <"$private_directory/sleep"
+}
+
+login_answered() {
+    [[ $(tail -n 1 "$private_directory/login") == "$1"* ]]
+}
+
+# say_login WORD: has the login service announce it, and waits until that is through.
+say_login() {
+    : >"$private_directory/login"
+    echo "$1" >&8
+    wait_while login 20 test -s "$private_directory/login"
+}
+
+# shoot_sleep: the strips after a sleep, which stopped a sending, and during which text was entered.
+shoot_sleep() {
+    write_settings "WKPortName=$port"
+    open_window
+    xdotool key F1
+    wait_while quorvel 60 keyed CQTESTN0CA
+    say_login sleep
+    sleep 1
+    picture asleep
+    say_login wake
+    sleep 2
+    picture woken-up
+    xdotool key Escape
+    say_login sleep
+    xdotool type --delay 40 "tu 73"
+    sleep 1
+    picture asleep-text
+    say_login wake
+    sleep 3
+    picture woken-up-text
+    xdotool key Escape
+    stop quorvel
+}
+
 # shoot_question: which a port brings that is plugged in.
 shoot_question() {
     write_settings
@@ -220,6 +270,7 @@ shoot() {
     shoot_question
     shoot_window
     shoot_traffic
+    shoot_sleep
     shoot_pages
     for pane in General Messages WinKeyer; do
         shoot_pane "$pane"
@@ -237,13 +288,14 @@ port=usbserial-virtual
 make_private_directory
 mkdir -m 700 "$private_directory/runtime"
 mkdir -p "$private_directory/config/quorvel"
-mkfifo "$private_directory/paddle"
-exec 9<>"$private_directory/paddle"
+mkfifo "$private_directory/paddle" "$private_directory/sleep"
+exec 9<>"$private_directory/paddle" 8<>"$private_directory/sleep"
 export XDG_RUNTIME_DIR=$private_directory/runtime
 export XDG_CONFIG_HOME=$private_directory/config
 export XDG_STATE_HOME=$private_directory/state
 export DBUS_SESSION_BUS_ADDRESS=disabled:
 export QT_QPA_PLATFORM=xcb
+start_login_service
 # It goes by what the windows say, in English.
 export LC_ALL=C.UTF-8
 
