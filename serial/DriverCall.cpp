@@ -72,7 +72,7 @@ class Call {
 std::shared_future<bool> DriverCall::run(const char* name, std::function<bool()> work,
                                          std::chrono::milliseconds limit) {
     const auto call = std::make_shared<Call>(std::move(work));
-    const auto result = call->result();
+    auto result = call->result();
     try {
         auto thread = startWorker(name, [call](const std::stop_token&) { call->run(); });
         if (result.wait_for(limit) != std::future_status::ready) {
