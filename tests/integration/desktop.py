@@ -14,8 +14,9 @@ REPEAT_INTERVAL = "30"
 
 
 class Desktop:
-    def __init__(self, directory):
+    def __init__(self, directory, repeat_delay=REPEAT_DELAY):
         self._directory = directory
+        self._repeat_delay = repeat_delay
         self._processes = []
         self._logs = directory / "logs"
         self._logs.mkdir()
@@ -96,7 +97,7 @@ class Desktop:
         """One more screen, without a window manager; its process and the name of its display."""
         process, number = self._start_and_ask(
             ["Xvfb", "-displayfd", "{descriptor}", "-screen", "0", "1280x960x24", "-nolisten",
-             "tcp", "-noreset", "-ardelay", REPEAT_DELAY, "-arinterval", REPEAT_INTERVAL])
+             "tcp", "-noreset", "-ardelay", self._repeat_delay, "-arinterval", REPEAT_INTERVAL])
         return process, f":{number}"
 
     @contextlib.contextmanager

@@ -8,7 +8,7 @@ import sys
 import tempfile
 import unittest
 
-from desktop import Desktop
+from desktop import REPEAT_DELAY, Desktop
 from port import Port
 from process import Process
 
@@ -90,11 +90,14 @@ class ProgramTest(unittest.TestCase):
     shielded = "Takes keys when you have stopped typing for a second"
     desktop_kind = Desktop
 
+    # Milliseconds until a held key repeats.
+    repeat_delay = REPEAT_DELAY
+
     @classmethod
     def setUpClass(cls):
         cls.directory = pathlib.Path(tempfile.mkdtemp(prefix="quorvel-test."))
         cls.addClassCleanup(shutil.rmtree, cls.directory)
-        cls.desktop = cls.desktop_kind(cls.directory)
+        cls.desktop = cls.desktop_kind(cls.directory, cls.repeat_delay)
         cls.addClassCleanup(cls.desktop.close)
 
     def setUp(self):
