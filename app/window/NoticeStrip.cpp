@@ -4,7 +4,6 @@
 #include <QApplication>
 #include <QLabel>
 #include <QPushButton>
-#include <QStyle>
 #include <QToolButton>
 
 using namespace Qt::StringLiterals;
@@ -15,8 +14,8 @@ NoticeStrip::NoticeStrip(QWidget* parent) : Strip(parent) {
     closeButton->setObjectName(u"closeNoticeButton"_s);
     closeButton->setAccessibleName(tr("Close notice"));
     closeButton->setToolTip(tr("Close this notice"));
-    closeButton->setIcon(style()->standardIcon(QStyle::SP_TitleBarCloseButton));
-    closeButton->setAutoRaise(true);
+    // A theme's icon may be as dark as the strip. In its own frame a letter is seen on any.
+    closeButton->setText(u"×"_s);
     connect(closeButton, &QToolButton::clicked, this, &NoticeStrip::putAway);
     append(*closeButton);
 }
