@@ -1,5 +1,7 @@
 """What a screen reader sees."""
 
+import contextlib
+
 import gi
 
 gi.require_version("Atspi", "2.0")
@@ -79,6 +81,11 @@ class Accessible:
     def press(self):
         """Does what a click on it does."""
         self._act(lambda action: action != "SetFocus")
+
+    def press_unanswered(self):
+        """As press(), where the program may end before it answers."""
+        with contextlib.suppress(GLib.Error):
+            self.press()
 
     def focus(self):
         self._act(lambda action: action == "SetFocus")

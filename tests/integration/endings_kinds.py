@@ -60,7 +60,7 @@ class Quit(Ending):
     def end(self, station, state):
         if state in HAS_ALERT:
             # The first keys of an alert are kept from it.
-            station.choose_from_menu("Quit")
+            station.menu_item("Quit").press_unanswered()
         else:
             station.desktop.press("ctrl+q")
 

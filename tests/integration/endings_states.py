@@ -94,7 +94,7 @@ def preferences_over_sending(station):
 
 
 def preferences(station):
-    station.choose_from_menu("Preferences…")
+    station.menu_item("Preferences…").press()
     station.find("WinKeyer")
 
 

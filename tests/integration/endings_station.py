@@ -65,9 +65,9 @@ class EndingStation(ProgramTest):
         """In whichever window it is."""
         return self.quorvel.wait_for(name, lambda: self.application.find(name))
 
-    def choose_from_menu(self, name):
-        next(each for each in self.window.all()
-             if "menu item" in each.role() and each.name() == name).press()
+    def menu_item(self, name):
+        return next(each for each in self.window.all()
+                    if "menu item" in each.role() and each.name() == name)
 
     def begin_ending(self):
         self.begin_held_up = self.held_up()

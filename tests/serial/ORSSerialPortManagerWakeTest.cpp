@@ -32,6 +32,11 @@ class ORSSerialPortManagerWakeTest : public ManagerBench {
 
   private:
     void takeAll() { _taken.release(1000); }
+    /// Whether anybody may open the device. It is let go of again, or it would stay locked.
+    [[nodiscard]] bool isFree() const {
+        const auto device = ExclusiveDevice::open(_line->path());
+        return device.isValid() && ExclusiveDevice::release(device.descriptor);
+    }
     void pass(Clock::Duration duration) { clock().advance(duration); }
 
     QSemaphore _taken;
@@ -66,7 +71,7 @@ void ORSSerialPortManagerWakeTest::cleanup() {
     takeAll();
     _port->setDelegate(nullptr);
     QVERIFY(_port->close());
-    QTRY_VERIFY(ExclusiveDevice::open(_line->path()).isValid());
+    QTRY_VERIFY(isFree());
     _port.reset();
     _faults.reset();
     _taken.acquire(_taken.available());
@@ -81,7 +86,7 @@ void ORSSerialPortManagerWakeTest::theSleepWaitsForADeviceThatIsAboutToBeThrough
         takeAll();
     });
     post(NSWorkspaceWillSleepNotification);
-    QVERIFY(ExclusiveDevice::open(_line->path()).isValid());
+    QVERIFY(isFree());
     post(NSWorkspaceDidWakeNotification);
     QVERIFY(_port->isOpen());
 }
@@ -125,7 +130,7 @@ void ORSSerialPortManagerWakeTest::asleepAgainThePortStaysClosedUntilTheNextWake
     QCOMPARE(manager().portsToReopenAfterSleep(), Ports{_port});
     pass(1h);
     QVERIFY(!_port->isOpen());
-    QTRY_VERIFY(ExclusiveDevice::open(_line->path()).isValid());
+    QTRY_VERIFY(isFree());
     post(NSWorkspaceDidWakeNotification);
     QVERIFY(_port->isOpen());
     QCOMPARE(_delegate->errors().size(), 0);
@@ -136,7 +141,7 @@ void ORSSerialPortManagerWakeTest::aPortThatGoesMeanwhileStaysClosed() {
     post(NSWorkspaceDidWakeNotification);
     devices().unplug(_device);
     takeAll();
-    QTRY_VERIFY(ExclusiveDevice::open(_line->path()).isValid());
+    QTRY_VERIFY(isFree());
     pass(1h);
     QVERIFY(!_port->isOpen());
     QCOMPARE(_delegate->errors().size(), 0);

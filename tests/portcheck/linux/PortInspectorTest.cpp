@@ -124,11 +124,12 @@ void PortInspectorTest::aRefusedNodeIsNoticed() {
     if (process == 0) {
         const bool isNobody = ::geteuid() != 0 || (::setgroups(0, nullptr) == 0 &&
                                                    ::setgid(nobody) == 0 && ::setuid(nobody) == 0);
+        // Where the tests do not run as root, the node's group is their user's.
+        const auto told = ::getegid() == nobody
+                              ? u"You may not open it: the members of the group"_s
+                              : u"You may not open it yet: you are a member of the group"_s;
         const auto report = PortJudge::judge(facts());
-        ::_exit(isNobody && report.asText().contains(u"You may not open it: the members of the "
-                                                     "group"_s)
-                    ? 0
-                    : 1);
+        ::_exit(isNobody && report.asText().contains(told) ? 0 : 1);
     }
     int status = 1;
     QCOMPARE(::waitpid(process, &status, 0), process);
