@@ -22,7 +22,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int badArguments = 2;
-constexpr auto askKeyer = "--ask-keyer"_L1;
+constexpr auto askOption = "--ask-keyer"_L1;
 
 /// Nothing here brings an alert up.
 class NoAlerts final : public Application {
@@ -73,7 +73,7 @@ int ask(const QString& name, const PortReport& report) {
 } // namespace
 
 int PortCheckCommand::run(const QStringList& arguments) {
-    const bool asks = arguments.size() == 2 && arguments[0] == askKeyer;
+    const bool asks = arguments.size() == 2 && arguments[0] == askOption;
     if (!arguments.isEmpty() && !asks) {
         std::fputs("Usage: quorvel --check-ports [--ask-keyer PORT]\n", stderr);
         return badArguments;
