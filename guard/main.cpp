@@ -92,7 +92,6 @@ void stepAside(int port, int channel) {
     sigset_t all;
     ::sigfillset(&all);
     ::sigprocmask(SIG_SETMASK, &all, nullptr);
-    ::setsid();
     [[maybe_unused]] const int result = ::chdir("/");
     const auto lower = static_cast<unsigned>(std::min(port, channel));
     const auto upper = static_cast<unsigned>(std::max(port, channel));
