@@ -1,5 +1,7 @@
 """The states in which the application is ended. Each takes a station that is connected."""
 
+IMAGE = 256  # bytes, behind the command
+
 
 def idle(_station):
     pass
@@ -50,7 +52,8 @@ def memory_load(station):
     standalone_messages(station)
     before = len(station.line("keyer"))
     station.find("Save to keyer").press()
-    station.quorvel.wait_for("the load", lambda: len(station.line("keyer")) > before)
+    # The adapter takes all of it at once, and notes it in pieces.
+    station.quorvel.wait_for("the load", lambda: len(station.line("keyer")) > before + IMAGE)
 
 
 def alert_open(station):
