@@ -188,7 +188,7 @@ def run(image, virtual_keyer, names, report):
         guest = AdapterTest.guest = Guest(image, directory, environment)
         stack.callback(guest.end)
         print(f"the guest has booted ({time.monotonic() - begin:.1f} s)", flush=True)
-        AdapterTest.quorvel = pathlib.Path(virtual_keyer).with_name("quorvel")
+        AdapterTest.quorvel = pathlib.Path(virtual_keyer).resolve().with_name("quorvel")
         far_end = AdapterTest.far_end = FarEnd(virtual_keyer, guest.wire(), directory, environment)
         stack.callback(far_end.end)
         loader = unittest.TestLoader()
