@@ -26,6 +26,9 @@ PseudoTerminalPair::PseudoTerminalPair()
 
 PseudoTerminalPair::~PseudoTerminalPair() {
     hangUp();
+    if (_numberHolder >= 0) {
+        ::close(_numberHolder);
+    }
 }
 
 bool PseudoTerminalPair::write(const QByteArray& data) const {
@@ -57,6 +60,7 @@ QByteArray PseudoTerminalPair::read(qsizetype count, std::chrono::milliseconds l
 
 void PseudoTerminalPair::hangUp() {
     if (_farEnd >= 0) {
+        _numberHolder = ::open(qPrintable(_path), O_RDWR | O_NOCTTY | O_NONBLOCK | O_CLOEXEC);
         ::close(_farEnd);
         _farEnd = -1;
     }

@@ -29,10 +29,14 @@ class PseudoTerminalPair {
     [[nodiscard]] QByteArray read(qsizetype count,
                                   std::chrono::milliseconds limit = std::chrono::seconds(5)) const;
 
-    /// Closes the far end, as a pulled adapter does.
+    /// Closes the far end, as a pulled adapter does. No other terminal gets the node's name while
+    /// this lives, unless the node is locked by who has it open.
     void hangUp();
 
   private:
     int _farEnd;
+    /// The near end: the system gives a terminal's number to the next one when both ends are
+    /// closed, and the other tests open terminals all the time.
+    int _numberHolder = -1;
     QString _path;
 };
