@@ -1,8 +1,11 @@
 #include "app/MenuShield.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QKeyEvent>
 #include <QMenu>
+
+#include <algorithm>
 
 namespace {
 
@@ -28,6 +31,33 @@ bool walksThroughMenus(const QKeyEvent& event) {
     }
 }
 
+bool choosesActiveItem(const QKeyEvent& event) {
+    switch (event.key()) {
+    case Qt::Key_Space:
+    case Qt::Key_Select:
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        return true;
+    default:
+        return false;
+    }
+}
+
+bool hasLetter(const QAction& item, const QString& typed) {
+    return !typed.isEmpty() &&
+           QKeySequence::mnemonic(item.text()) ==
+               QKeySequence(Qt::ALT | static_cast<Qt::Key>(typed.front().toUpper().unicode()));
+}
+
+bool choosesWhatSends(const QMenu& menu, const QKeyEvent& event) {
+    const auto items = menu.actions();
+    return std::any_of(items.begin(), items.end(), [&](const QAction* item) {
+        return item->property("sends").toBool() &&
+               (choosesActiveItem(event) ? item == menu.activeAction()
+                                         : hasLetter(*item, event.text()));
+    });
+}
+
 } // namespace
 
 MenuShield::MenuShield(QObject* parent) : QObject(parent) {
@@ -38,12 +68,14 @@ bool MenuShield::eventFilter(QObject* watched, QEvent* event) {
     switch (event->type()) {
     case QEvent::MouseButtonPress:
         _isMouseInUse = true;
+        _isTakenOver = false;
         break;
     case QEvent::KeyPress:
         if (QApplication::activePopupWidget() == nullptr) {
             _isMouseInUse = false;
-        } else if (qobject_cast<QMenu*>(watched) != nullptr) {
-            return !takesKey(*static_cast<QKeyEvent*>(event));
+            _isTakenOver = false;
+        } else if (const auto* menu = qobject_cast<QMenu*>(watched)) {
+            return !takesKey(*menu, *static_cast<QKeyEvent*>(event));
         }
         break;
     default:
@@ -52,7 +84,10 @@ bool MenuShield::eventFilter(QObject* watched, QEvent* event) {
     return QObject::eventFilter(watched, event);
 }
 
-bool MenuShield::takesKey(const QKeyEvent& event) {
-    _isMouseInUse = _isMouseInUse && !walksThroughMenus(event);
-    return !_isMouseInUse || !typesText(event);
+bool MenuShield::takesKey(const QMenu& menu, const QKeyEvent& event) {
+    _isTakenOver = _isTakenOver || walksThroughMenus(event);
+    if (_isTakenOver) {
+        return true;
+    }
+    return _isMouseInUse ? !typesText(event) : !choosesWhatSends(menu, event);
 }

@@ -617,20 +617,12 @@ Die eigenen Optionen des Toolkits wie -platform und -style gelten auch. Die Anle
         <translation>&amp;Rückgängig</translation>
     </message>
     <message>
-        <source>&amp;Redo</source>
-        <translation>&amp;Wiederholen</translation>
-    </message>
-    <message>
         <source>Cu&amp;t</source>
         <translation>&amp;Ausschneiden</translation>
     </message>
     <message>
         <source>&amp;Copy</source>
         <translation>&amp;Kopieren</translation>
-    </message>
-    <message>
-        <source>&amp;Paste</source>
-        <translation>&amp;Einfügen</translation>
     </message>
     <message>
         <source>Select &amp;All</source>
@@ -641,20 +633,8 @@ Die eigenen Optionen des Toolkits wie -platform und -style gelten auch. Die Anle
         <translation>&amp;Stopp</translation>
     </message>
     <message>
-        <source>&amp;Tune</source>
-        <translation>&amp;Abstimmen</translation>
-    </message>
-    <message>
-        <source>&amp;Pause</source>
-        <translation>&amp;Pause</translation>
-    </message>
-    <message>
         <source>&amp;High-speed CW</source>
         <translation>&amp;High-Speed-CW (HSCW)</translation>
-    </message>
-    <message>
-        <source>&amp;Beacon</source>
-        <translation>&amp;Bake</translation>
     </message>
     <message>
         <source>&amp;Their Call</source>
@@ -784,6 +764,14 @@ Die eigenen Optionen des Toolkits wie -platform und -style gelten auch. Die Anle
         <source>⚠ TRANSMITTING: tune is on. Press Esc to let go.</source>
         <translation>⚠ SENDER GETASTET: Abstimmen ist ein. Esc lässt los.</translation>
     </message>
+    <message>
+        <source>Redo</source>
+        <translation>Wiederholen</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Einfügen</translation>
+    </message>
 </context>
 <context>
     <name>MemoryGauge</name>
@@ -828,10 +816,6 @@ Die eigenen Optionen des Toolkits wie -platform und -style gelten auch. Die Anle
     <message>
         <source>%1  %2</source>
         <translation>%1  %2</translation>
-    </message>
-    <message>
-        <source>&amp;%1  %2</source>
-        <translation>&amp;%1  %2</translation>
     </message>
 </context>
 <context>

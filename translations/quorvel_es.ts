@@ -617,20 +617,12 @@ También valen las opciones de la biblioteca gráfica, como -platform y -style. 
         <translation>&amp;Deshacer</translation>
     </message>
     <message>
-        <source>&amp;Redo</source>
-        <translation>&amp;Rehacer</translation>
-    </message>
-    <message>
         <source>Cu&amp;t</source>
         <translation>Cor&amp;tar</translation>
     </message>
     <message>
         <source>&amp;Copy</source>
         <translation>&amp;Copiar</translation>
-    </message>
-    <message>
-        <source>&amp;Paste</source>
-        <translation>&amp;Pegar</translation>
     </message>
     <message>
         <source>Select &amp;All</source>
@@ -641,20 +633,8 @@ También valen las opciones de la biblioteca gráfica, como -platform y -style. 
         <translation>&amp;Parar</translation>
     </message>
     <message>
-        <source>&amp;Tune</source>
-        <translation>&amp;Sintonía</translation>
-    </message>
-    <message>
-        <source>&amp;Pause</source>
-        <translation>&amp;Pausa</translation>
-    </message>
-    <message>
         <source>&amp;High-speed CW</source>
         <translation>CW &amp;rápida (HSCW)</translation>
-    </message>
-    <message>
-        <source>&amp;Beacon</source>
-        <translation>&amp;Baliza</translation>
     </message>
     <message>
         <source>&amp;Their Call</source>
@@ -784,6 +764,14 @@ También valen las opciones de la biblioteca gráfica, como -platform y -style. 
         <source>⚠ TRANSMITTING: tune is on. Press Esc to let go.</source>
         <translation>⚠ TRANSMITIENDO: sintonía activada. Esc la suelta.</translation>
     </message>
+    <message>
+        <source>Redo</source>
+        <translation>Rehacer</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Pegar</translation>
+    </message>
 </context>
 <context>
     <name>MemoryGauge</name>
@@ -828,10 +816,6 @@ También valen las opciones de la biblioteca gráfica, como -platform y -style. 
     <message>
         <source>%1  %2</source>
         <translation>%1  %2</translation>
-    </message>
-    <message>
-        <source>&amp;%1  %2</source>
-        <translation>&amp;%1  %2</translation>
     </message>
 </context>
 <context>

@@ -617,20 +617,12 @@ Les options de la bibliothèque graphique, comme -platform et -style, sont admis
         <translation>&amp;Annuler</translation>
     </message>
     <message>
-        <source>&amp;Redo</source>
-        <translation>&amp;Rétablir</translation>
-    </message>
-    <message>
         <source>Cu&amp;t</source>
         <translation>Co&amp;uper</translation>
     </message>
     <message>
         <source>&amp;Copy</source>
         <translation>&amp;Copier</translation>
-    </message>
-    <message>
-        <source>&amp;Paste</source>
-        <translation>C&amp;oller</translation>
     </message>
     <message>
         <source>Select &amp;All</source>
@@ -641,20 +633,8 @@ Les options de la bibliothèque graphique, comme -platform et -style, sont admis
         <translation>&amp;Stop</translation>
     </message>
     <message>
-        <source>&amp;Tune</source>
-        <translation>&amp;Accord</translation>
-    </message>
-    <message>
-        <source>&amp;Pause</source>
-        <translation>&amp;Pause</translation>
-    </message>
-    <message>
         <source>&amp;High-speed CW</source>
         <translation>CW &amp;rapide</translation>
-    </message>
-    <message>
-        <source>&amp;Beacon</source>
-        <translation>&amp;Balise</translation>
     </message>
     <message>
         <source>&amp;Their Call</source>
@@ -784,6 +764,14 @@ Les options de la bibliothèque graphique, comme -platform et -style, sont admis
         <source>⚠ TRANSMITTING: tune is on. Press Esc to let go.</source>
         <translation>⚠ ÉMISSION&#xa0;: accord en cours. Échap pour relâcher.</translation>
     </message>
+    <message>
+        <source>Redo</source>
+        <translation>Rétablir</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Coller</translation>
+    </message>
 </context>
 <context>
     <name>MemoryGauge</name>
@@ -828,10 +816,6 @@ Les options de la bibliothèque graphique, comme -platform et -style, sont admis
     <message>
         <source>%1  %2</source>
         <translation>%1  %2</translation>
-    </message>
-    <message>
-        <source>&amp;%1  %2</source>
-        <translation>&amp;%1  %2</translation>
     </message>
 </context>
 <context>

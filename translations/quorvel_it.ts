@@ -617,20 +617,12 @@ Valgono anche le opzioni della libreria grafica, come -platform e -style. La gui
         <translation>&amp;Annulla</translation>
     </message>
     <message>
-        <source>&amp;Redo</source>
-        <translation>&amp;Ripeti</translation>
-    </message>
-    <message>
         <source>Cu&amp;t</source>
         <translation>&amp;Taglia</translation>
     </message>
     <message>
         <source>&amp;Copy</source>
         <translation>&amp;Copia</translation>
-    </message>
-    <message>
-        <source>&amp;Paste</source>
-        <translation>&amp;Incolla</translation>
     </message>
     <message>
         <source>Select &amp;All</source>
@@ -641,20 +633,8 @@ Valgono anche le opzioni della libreria grafica, come -platform e -style. La gui
         <translation>&amp;Stop</translation>
     </message>
     <message>
-        <source>&amp;Tune</source>
-        <translation>&amp;Accordo</translation>
-    </message>
-    <message>
-        <source>&amp;Pause</source>
-        <translation>&amp;Pausa</translation>
-    </message>
-    <message>
         <source>&amp;High-speed CW</source>
         <translation>CW &amp;veloce</translation>
-    </message>
-    <message>
-        <source>&amp;Beacon</source>
-        <translation>&amp;Beacon</translation>
     </message>
     <message>
         <source>&amp;Their Call</source>
@@ -784,6 +764,14 @@ Valgono anche le opzioni della libreria grafica, come -platform e -style. La gui
         <source>⚠ TRANSMITTING: tune is on. Press Esc to let go.</source>
         <translation>⚠ IN TRASMISSIONE: accordo attivo. Esc lo rilascia.</translation>
     </message>
+    <message>
+        <source>Redo</source>
+        <translation>Ripeti</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Incolla</translation>
+    </message>
 </context>
 <context>
     <name>MemoryGauge</name>
@@ -828,10 +816,6 @@ Valgono anche le opzioni della libreria grafica, come -platform e -style. La gui
     <message>
         <source>%1  %2</source>
         <translation>%1  %2</translation>
-    </message>
-    <message>
-        <source>&amp;%1  %2</source>
-        <translation>&amp;%1  %2</translation>
     </message>
 </context>
 <context>

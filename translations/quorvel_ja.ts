@@ -617,20 +617,12 @@ WinKeyer USB キーヤーを通してモールス符号を送信します。
         <translation>元に戻す(&amp;U)</translation>
     </message>
     <message>
-        <source>&amp;Redo</source>
-        <translation>やり直す(&amp;R)</translation>
-    </message>
-    <message>
         <source>Cu&amp;t</source>
         <translation>切り取り(&amp;T)</translation>
     </message>
     <message>
         <source>&amp;Copy</source>
         <translation>コピー(&amp;C)</translation>
-    </message>
-    <message>
-        <source>&amp;Paste</source>
-        <translation>貼り付け(&amp;P)</translation>
     </message>
     <message>
         <source>Select &amp;All</source>
@@ -641,20 +633,8 @@ WinKeyer USB キーヤーを通してモールス符号を送信します。
         <translation>停止(&amp;S)</translation>
     </message>
     <message>
-        <source>&amp;Tune</source>
-        <translation>チューン(&amp;T)</translation>
-    </message>
-    <message>
-        <source>&amp;Pause</source>
-        <translation>一時停止(&amp;P)</translation>
-    </message>
-    <message>
         <source>&amp;High-speed CW</source>
         <translation>高速 CW(&amp;H)</translation>
-    </message>
-    <message>
-        <source>&amp;Beacon</source>
-        <translation>ビーコン(&amp;B)</translation>
     </message>
     <message>
         <source>&amp;Their Call</source>
@@ -784,6 +764,14 @@ WinKeyer USB キーヤーを通してモールス符号を送信します。
         <source>⚠ TRANSMITTING: tune is on. Press Esc to let go.</source>
         <translation>⚠ 送信中: チューンがオンです。Esc で止まります。</translation>
     </message>
+    <message>
+        <source>Redo</source>
+        <translation>やり直す</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>貼り付け</translation>
+    </message>
 </context>
 <context>
     <name>MemoryGauge</name>
@@ -828,10 +816,6 @@ WinKeyer USB キーヤーを通してモールス符号を送信します。
     <message>
         <source>%1  %2</source>
         <translation>%1  %2</translation>
-    </message>
-    <message>
-        <source>&amp;%1  %2</source>
-        <translation>&amp;%1  %2</translation>
     </message>
 </context>
 <context>

@@ -248,9 +248,13 @@ void KeyboardView::mousePressEvent(QMouseEvent* event) {
     followCaretWithKept();
 }
 
+/// The middle button would paste whatever was selected last on the desktop, and so key it. It is
+/// the wheel, which is pressed by a slip when it is turned.
 void KeyboardView::mouseReleaseEvent(QMouseEvent* event) {
     _scrollRest.noteUse();
-    QPlainTextEdit::mouseReleaseEvent(event);
+    if (event->button() != Qt::MiddleButton) {
+        QPlainTextEdit::mouseReleaseEvent(event);
+    }
 }
 
 void KeyboardView::contextMenuEvent(QContextMenuEvent* event) {
@@ -264,6 +268,11 @@ void KeyboardView::contextMenuEvent(QContextMenuEvent* event) {
         redo->disconnect();
         redo->setEnabled(canRedoTyping());
         QObject::connect(redo, &QAction::triggered, this, &KeyboardView::redoTyping);
+    }
+    for (const auto& name : {u"edit-redo"_s, u"edit-paste"_s}) {
+        if (auto* action = menu->findChild<QAction*>(name)) {
+            action->setProperty("sends", true);
+        }
     }
     menu->exec(event->globalPos());
     _scrollRest.noteUse();

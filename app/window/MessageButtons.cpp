@@ -77,7 +77,7 @@ void MessageButtons::show() {
         button->setToolTip(toolTipOf(text));
         const auto key = action->shortcut().toString(QKeySequence::NativeText);
         button->setText(tr("%1  %2").arg(key, withoutMnemonic(label)));
-        action->setText(tr("&%1  %2").arg(i + 1).arg(withoutMnemonic(shortened(label))));
+        action->setText(tr("%1  %2").arg(i + 1).arg(withoutMnemonic(shortened(label))));
     }
 }
 

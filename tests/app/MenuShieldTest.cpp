@@ -26,10 +26,15 @@ class MenuShieldTest : public QObject {
     void theMouseChooses();
     void anArrowTakesItOver();
     void aMenuOfTheKeyboardTakesLetters();
+    void whatIsTypedSendsNothingInAMenuOfTheKeyboard_data();
+    void whatIsTypedSendsNothingInAMenuOfTheKeyboard();
+    void anArrowTakesAMenuOfTheKeyboardOver();
+    void aMenuIsTakenOverOnce();
     void aClickBeforehandDoesNotMatter();
 
   private:
     void clickMenuTitle();
+    void pressMenuKey();
     void type(const QString& text);
     void press(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
         QTest::keyClick(_window->windowHandle(), key, modifiers);
@@ -39,15 +44,20 @@ class MenuShieldTest : public QObject {
     std::optional<QMainWindow> _window;
     QMenu* _menu = nullptr;
     int _tunes = 0;
+    int _guides = 0;
 };
 
 void MenuShieldTest::init() {
     _tunes = 0;
+    _guides = 0;
     _shield.emplace();
     _window.emplace();
     _menu = _window->menuBar()->addMenu(u"&Keyer"_s);
-    QObject::connect(_menu->addAction(u"&Tune"_s), &QAction::triggered, this, [this] { ++_tunes; });
-    _menu->addAction(u"&Pause"_s);
+    auto* tune = _menu->addAction(u"&Tune"_s);
+    tune->setProperty("sends", true);
+    QObject::connect(tune, &QAction::triggered, this, [this] { ++_tunes; });
+    QObject::connect(_menu->addAction(u"&Guide"_s), &QAction::triggered, this,
+                     [this] { ++_guides; });
     _window->resize(400, 300);
     _window->show();
     QVERIFY(QTest::qWaitForWindowActive(&*_window));
@@ -62,6 +72,11 @@ void MenuShieldTest::clickMenuTitle() {
     const auto* bar = _window->menuBar();
     const auto title = bar->actionGeometry(_menu->menuAction()).center();
     QTest::mouseClick(_window->windowHandle(), Qt::LeftButton, {}, bar->mapTo(&*_window, title));
+    QVERIFY(QTest::qWaitForWindowExposed(_menu));
+}
+
+void MenuShieldTest::pressMenuKey() {
+    press(Qt::Key_K, Qt::AltModifier);
     QVERIFY(QTest::qWaitForWindowExposed(_menu));
 }
 
@@ -94,8 +109,8 @@ void MenuShieldTest::aContextMenuOfTheMouseIsNoDifferent() {
     QTest::mouseClick(_window->windowHandle(), Qt::RightButton);
     _menu->popup(_window->mapToGlobal(QPoint(50, 50)));
     QVERIFY(QTest::qWaitForWindowExposed(_menu));
-    type(u"t t "_s);
-    QCOMPARE(_tunes, 0);
+    type(u"t t g "_s);
+    QCOMPARE(_tunes + _guides, 0);
 }
 
 void MenuShieldTest::escapeClosesIt() {
@@ -120,9 +135,39 @@ void MenuShieldTest::anArrowTakesItOver() {
 }
 
 void MenuShieldTest::aMenuOfTheKeyboardTakesLetters() {
-    press(Qt::Key_K, Qt::AltModifier);
-    QVERIFY(QTest::qWaitForWindowExposed(_menu));
-    type(u"t"_s);
+    pressMenuKey();
+    type(u"g"_s);
+    QCOMPARE(_guides, 1);
+}
+
+void MenuShieldTest::whatIsTypedSendsNothingInAMenuOfTheKeyboard_data() {
+    QTest::addColumn<QString>("text");
+    QTest::newRow("the letter of an item") << u"tu 73"_s;
+    QTest::newRow("a space, which goes to the first item") << u" "_s;
+    QTest::newRow("a line end") << u"\r"_s;
+}
+
+void MenuShieldTest::whatIsTypedSendsNothingInAMenuOfTheKeyboard() {
+    QFETCH(const QString, text);
+    pressMenuKey();
+    QCOMPARE(_menu->activeAction(), _menu->actions().constFirst());
+    type(text);
+    QCOMPARE(_tunes, 0);
+    QVERIFY(_menu->isVisible());
+}
+
+void MenuShieldTest::anArrowTakesAMenuOfTheKeyboardOver() {
+    pressMenuKey();
+    press(Qt::Key_Down);
+    press(Qt::Key_Up);
+    press(Qt::Key_Return);
+    QCOMPARE(_tunes, 1);
+}
+
+void MenuShieldTest::aMenuIsTakenOverOnce() {
+    anArrowTakesAMenuOfTheKeyboardOver();
+    pressMenuKey();
+    type(u" "_s);
     QCOMPARE(_tunes, 1);
 }
 

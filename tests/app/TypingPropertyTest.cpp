@@ -33,13 +33,14 @@ class TypingPropertyTest : public QObject {
     void noTypedTextKeysDown();
 
   private:
-    enum class Deed { ClickControl, ClickMenu, RightClick, Type, Hear, Alarm, Wait };
+    enum class Deed { ClickControl, ClickMenu, RightClick, OpenMenu, Type, Hear, Alarm, Wait };
 
     void act(Deed deed);
     static void click(const QWidget& widget, QPoint place, Qt::MouseButton button = Qt::LeftButton);
     void clickSomeControl();
     void clickSomeMenu();
     void openContextMenu();
+    void openMenuByKey();
     void type();
     void raiseAlert();
     [[nodiscard]] QWidget* frontWindow();
@@ -90,9 +91,10 @@ void TypingPropertyTest::noTypedTextKeysDown() {
     QFETCH(const quint32, seed);
     _random.seed(seed);
     const QList<Deed> deeds{Deed::ClickControl, Deed::ClickControl, Deed::ClickControl,
-                            Deed::ClickMenu,    Deed::RightClick,   Deed::Type,
-                            Deed::Type,         Deed::Type,         Deed::Type,
-                            Deed::Hear,         Deed::Alarm,        Deed::Wait};
+                            Deed::ClickMenu,    Deed::RightClick,   Deed::OpenMenu,
+                            Deed::OpenMenu,     Deed::Type,         Deed::Type,
+                            Deed::Type,         Deed::Type,         Deed::Hear,
+                            Deed::Alarm,        Deed::Wait};
     for (int step = 0; step < 60 && !QTest::currentTestFailed(); ++step) {
         const auto deed = someOf(deeds);
         act(deed);
@@ -114,6 +116,9 @@ void TypingPropertyTest::act(Deed deed) {
         break;
     case Deed::RightClick:
         openContextMenu();
+        break;
+    case Deed::OpenMenu:
+        openMenuByKey();
         break;
     case Deed::Type:
         type();
@@ -158,6 +163,16 @@ void TypingPropertyTest::openContextMenu() {
         const auto& label = *_window->findChild<QWidget*>(u"speedLabel"_s);
         click(label, label.rect().center(), Qt::RightButton);
         _window->findChild<QMenu*>(u"keyerMenu"_s)->popup(label.mapToGlobal(QPoint()));
+    }
+}
+
+/// By a slip: Alt instead of another key, or along with a letter.
+void TypingPropertyTest::openMenuByKey() {
+    auto* window = frontWindow()->windowHandle();
+    if (_random.bounded(2) == 0) {
+        QTest::keyClick(window, Qt::Key_Alt);
+    } else {
+        QTest::keyClick(window, someOf(QList{Qt::Key_E, Qt::Key_S, Qt::Key_K}), Qt::AltModifier);
     }
 }
 

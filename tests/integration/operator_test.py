@@ -106,6 +106,36 @@ class OperatorTest(ProgramTest):
         self.assertEqual(keyer.keyed(), "")
         self.expect_closed(keyer)
 
+    def test_what_is_typed_into_a_menu_sends_nothing(self):
+        """The keys that open one are beside others: Alt, and the menu key."""
+        keyer, quorvel, window = self.start_connected()
+        self.desktop.type("e")
+        keyer.has_keyed("E")
+        for keys in ("ctrl+a", "ctrl+c", "End"):
+            self.desktop.press(keys)
+        for keys, text in [("Menu", "p"), ("alt+e", "p"), ("alt+k", "t "), ("alt+s", "1 ")]:
+            self.desktop.press(keys)
+            self.desktop.type(text)
+            self.desktop.press("Escape")
+        self.desktop.type("k")
+        keyer.has_keyed("EK")
+        self.assertEqual(window.find("Keyboard").text(), "K")
+        self.terminate(keyer, quorvel)
+
+    def test_the_middle_button_sends_nothing(self):
+        """It is the wheel, and would paste what was selected last, anywhere."""
+        keyer, quorvel, window = self.start_connected()
+        self.desktop.press("ctrl+l")
+        self.desktop.type("w9xyz")
+        self.desktop.press("ctrl+a")
+        self.desktop.press("ctrl+k")
+        self.desktop.point(window.find("Keyboard"))
+        self.desktop.xdotool("click", "2")
+        self.desktop.type("k")
+        keyer.has_keyed("K")
+        self.assertEqual(window.find("Keyboard").text(), "K")
+        self.terminate(keyer, quorvel)
+
     def test_a_stop_ends_high_speed_too(self):
         keyer, quorvel, window = self.start_connected()
         self.desktop.press("ctrl+h")
