@@ -5,10 +5,8 @@ Usage: alerts_test.py QUORVEL VIRTUAL_KEYER [TEST...]
 
 import threading
 
-from program import PORT, SETTINGS, Keyer, ProgramTest, run_tests
+from program import PLUGGED_IN, UNPLUGGED, Keyer, ProgramTest, run_tests
 
-UNPLUGGED = f"The WinKeyer using serial port {PORT} has been unplugged."
-PLUGGED_IN = f"The serial port {PORT} has been plugged in."
 # With spaces, which press buttons, and letters that stand on some.
 SENTENCE = "yes and no one knows why " * 4
 

@@ -8,7 +8,6 @@ import time
 from endings_states import HAS_ALERT, HAS_PREFERENCES, KEY_IS_DOWN, NOTHING_IS_KEYED, RECORDS
 from endings_station import KEY_UP
 from helper import Helper
-from waiting import wait_for
 
 HERE = pathlib.Path(__file__).parent
 STOPPED = 10  # seconds

@@ -5,13 +5,11 @@ Usage: first_start_test.py QUORVEL VIRTUAL_KEYER [TEST...]
 
 import signal
 
-from program import PORT, ProgramTest, run_tests
+from program import NO_PORT, PLUGGED_IN, PORT, ProgramTest, run_tests
 from waiting import wait_for
 
 # Within what the speed pot spans by default.
 SPEED = 30
-NO_PORT = "There is no port defined for the WinKeyer."
-PLUGGED_IN = f"The serial port {PORT} has been plugged in."
 FIRST_MESSAGE = "CQTESTYOURCALLYOURCALL"
 
 

@@ -5,7 +5,7 @@ Usage: main_window_test.py QUORVEL VIRTUAL_KEYER [TEST...]
 
 import signal
 
-from program import PORT, SETTINGS, ProgramTest, run_tests
+from program import NO_PORT, PLUGGED_IN, PORT, SETTINGS, ProgramTest, run_tests
 
 # Button, key, and what the keyer keys of it.
 MESSAGES = [
@@ -166,10 +166,10 @@ class MainWindowTest(ProgramTest):
     def test_a_plugged_port_may_be_refused(self):
         self.write_settings(SETTINGS.replace(PORT, "None"))
         quorvel = self.start_quorvel()
-        self.answer_alert(quorvel, "There is no port defined for the WinKeyer.")
+        self.answer_alert(quorvel, NO_PORT)
         window = self.active_window(quorvel)
         keyer = self.start_keyer()
-        self.answer_alert(quorvel, f"The serial port {PORT} has been plugged in.", "Escape")
+        self.answer_alert(quorvel, PLUGGED_IN, "Escape")
         self.active_window(quorvel)
         self.desktop.type("k")
         quorvel.wait_for("the text", lambda: window.find("Keyboard").text() == "K")

@@ -8,9 +8,8 @@ import pathlib
 import subprocess
 
 from port import Port
-from program import PORT, QUORVEL, SETTINGS, ProgramTest, run_tests
+from program import NO_PORT, PORT, QUORVEL, SETTINGS, ProgramTest, run_tests
 
-NO_PORT = "There is no port defined for the WinKeyer."
 FREE = "OK: Nothing is in the way."
 ANSWERS = "OK: A keyer answers on it."
 
@@ -91,7 +90,7 @@ class PortCheckTest(ProgramTest):
         self.assertEqual(keyer.answers(), [])
         ask.press()
         quorvel.wait_for("the answer", lambda: self.entry(
-            self.check_window(quorvel)).find("OK: A keyer answers on it."))
+            self.check_window(quorvel)).find(ANSWERS))
         self.assertEqual(keyer.keyed(), "")
         self.assertEqual(quorvel.end(), 0)
         self.assertEqual(keyer.end(), 0)

@@ -5,7 +5,7 @@ Usage: preferences_input_test.py QUORVEL VIRTUAL_KEYER [TEST...]
 """
 
 from preferences_bench import PreferencesBench
-from program import run_tests
+from program import NO_PORT, run_tests
 
 # Name of a control, its tab, what is typed, what is told, and what is in force.
 OUT_OF_RANGE = [
@@ -131,7 +131,7 @@ class PreferencesInputTest(PreferencesBench):
     def test_every_tab_tells_that_no_keyer_is_connected(self):
         self.write_settings("[General]\nWKPortName=None\n")
         self.quorvel = self.start_quorvel()
-        self.answer_alert(self.quorvel, "There is no port defined for the WinKeyer.")
+        self.answer_alert(self.quorvel, NO_PORT)
         self.application = self.active_window(self.quorvel)
         self.open_preferences()
         self.wait_for("the state of the link",

@@ -15,6 +15,11 @@ from process import Process
 PORT = "usbserial-virtual"
 QUORVEL, VIRTUAL_KEYER = sys.argv[1:3]
 
+# What alerts say.
+NO_PORT = "There is no port defined for the WinKeyer."
+UNPLUGGED = f"The WinKeyer using serial port {PORT} has been unplugged."
+PLUGGED_IN = f"The serial port {PORT} has been plugged in."
+
 LONG_TEXT = "PARIS" * 200
 # Fast, so that a long text takes little time. A pot byte has room for 32 speeds.
 SPEED = 90

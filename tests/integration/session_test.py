@@ -10,7 +10,7 @@ import signal
 import subprocess
 import tty
 
-from program import PORT, QUORVEL, SETTINGS, ProgramTest, run_tests
+from program import NO_PORT, PORT, QUORVEL, SETTINGS, ProgramTest, run_tests
 
 
 def guards_of(quorvel):
@@ -36,7 +36,7 @@ class SessionTest(ProgramTest):
     def test_a_second_start_does_not_wait_for_one_that_hangs(self):
         self.write_settings(SETTINGS.replace(PORT, "None"))
         first = self.start_quorvel()
-        self.answer_alert(first, "There is no port defined for the WinKeyer.")
+        self.answer_alert(first, NO_PORT)
         os.kill(first.pid, signal.SIGSTOP)
         second = self.start_quorvel()
         second.wait_for("the message", lambda: "does not answer" in second.errors())
@@ -186,7 +186,7 @@ class SessionTest(ProgramTest):
         self.write_settings("this is no setting")
         quorvel = self.start_quorvel()
         self.answer_alert(quorvel, "Your settings could not be read.")
-        self.answer_alert(quorvel, "There is no port defined for the WinKeyer.")
+        self.answer_alert(quorvel, NO_PORT)
         self.assertEqual(quorvel.end(), 0)
         aside = list(self.settings.parent.glob("quorvel.conf.corrupt-*"))
         self.assertEqual([each.read_text() for each in aside], ["this is no setting"])

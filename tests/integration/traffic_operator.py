@@ -9,7 +9,8 @@ import itertools
 import string
 import time
 
-from traffic_station import MESSAGES, PLUGGED_IN, UNPLUGGED, on_the_key_line
+from program import PLUGGED_IN, UNPLUGGED
+from traffic_station import MESSAGES, on_the_key_line
 
 WORDS = ("CQ DE UR RST 5NN TNX FER CALL OP NAME QTH HR WX FB OM RIG ANT PWR 73 GL EE KN TEST R R "
          "= ? DR GM GA HW CPY").split()

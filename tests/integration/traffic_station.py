@@ -6,7 +6,7 @@ import time
 
 from endings_station import EndingStation
 from helper import Helper
-from program import PORT, SPEED
+from program import SPEED
 from waiting import wait_for
 
 HERE = pathlib.Path(__file__).parent
@@ -14,8 +14,6 @@ HERE = pathlib.Path(__file__).parent
 MESSAGES = {1: "CQ TEST ` `", 2: "5NN #", 3: "TU `", 4: "`", 5: "~", 6: "~ 5NN #", 7: "?",
             8: "PARIS " * 12 + "PARIS"}
 SETTINGS = "".join(f'Message{number}="{text}"\n' for number, text in MESSAGES.items())
-UNPLUGGED = f"The WinKeyer using serial port {PORT} has been unplugged."
-PLUGGED_IN = f"The serial port {PORT} has been plugged in."
 # For so many seconds nothing must come, where nothing may.
 QUIET = 0.4
 # Seconds between two letters of what goes on, on a busy machine.

@@ -14,7 +14,7 @@ import tty
 
 from port import Port
 from process import Process
-from program import PORT, SETTINGS, ProgramTest, run_tests
+from program import PORT, SETTINGS, UNPLUGGED, ProgramTest, run_tests
 from waiting import wait_for
 
 
@@ -79,7 +79,7 @@ class TroubleTest(ProgramTest):
         self.assertIn(f"Settings are not stored in {self.settings}: Is a directory",
                       quorvel.errors())
         keyer.end(signal.SIGKILL)
-        self.answer_alert(quorvel, f"The WinKeyer using serial port {PORT} has been unplugged.")
+        self.answer_alert(quorvel, UNPLUGGED)
         self.settings.rmdir()
         wait_for("the settings to be stored", self.settings.is_file)
         self.assertIn(PORT, self.settings.read_text())

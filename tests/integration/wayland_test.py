@@ -10,7 +10,7 @@ import struct
 import time
 
 from activation_proxy import ActivationProxy
-from program import LONG_TEXT, PORT, SETTINGS, ProgramTest, run_tests
+from program import LONG_TEXT, NO_PORT, PORT, SETTINGS, ProgramTest, run_tests
 from waiting import wait_for
 from wayland_desktop import SIZE, WaylandDesktop
 
@@ -40,12 +40,11 @@ class WaylandTest(ProgramTest):
     def test_an_alert_has_the_keyboard_wherever_it_stands(self):
         self.write_settings(SETTINGS.replace(PORT, "None"))
         quorvel = self.start_quorvel()
-        words = "There is no port defined for the WinKeyer."
-        alert = self.wait_for_alert(quorvel, words)
+        alert = self.wait_for_alert(quorvel, NO_PORT)
         self.assertGreater(alert.size(), (0, 0))
         for of_alert, of_screen in zip(alert.size(), SIZE):
             self.assertLess(of_alert, of_screen)
-        self.answer_alert(quorvel, words)
+        self.answer_alert(quorvel, NO_PORT)
         window = self.active_window(quorvel)
         self.desktop.type("k")
         quorvel.wait_for("the text", lambda: window.find("Keyboard").text() == "K")

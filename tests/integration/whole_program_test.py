@@ -6,7 +6,8 @@ Usage: whole_program_test.py QUORVEL VIRTUAL_KEYER [TEST...]
 import os
 import tty
 
-from program import LONG_TEXT, PORT, SETTINGS, SPEED, Keyer, ProgramTest, run_tests
+from program import (LONG_TEXT, NO_PORT, PLUGGED_IN, PORT, SETTINGS, SPEED, UNPLUGGED, Keyer,
+                     ProgramTest, run_tests)
 from waiting import wait_for
 
 
@@ -58,7 +59,7 @@ class WholeProgramTest(ProgramTest):
     def test_without_a_port(self):
         self.write_settings(SETTINGS.replace(PORT, "None"))
         quorvel = self.start_quorvel()
-        self.answer_alert(quorvel, "There is no port defined for the WinKeyer.")
+        self.answer_alert(quorvel, NO_PORT)
         window = self.active_window(quorvel)
         self.desktop.type("cq")
         quorvel.wait_for("the text", lambda: window.find("Keyboard").text() == "CQ")
@@ -70,10 +71,10 @@ class WholeProgramTest(ProgramTest):
         self.desktop.press("F8")
         keyer.wait_for("some of the text", lambda: len(keyer.keyed()) > 5)
         self.assertEqual(keyer.end(), 0)
-        self.answer_alert(quorvel, f"The WinKeyer using serial port {PORT} has been unplugged.")
+        self.answer_alert(quorvel, UNPLUGGED)
 
         keyer = Keyer(self.environment, self.home)
-        self.answer_alert(quorvel, f"The serial port {PORT} has been plugged in.")
+        self.answer_alert(quorvel, PLUGGED_IN)
         self.wait_for_speed(quorvel, window)
         self.active_window(quorvel)
         self.desktop.type("test")
@@ -119,7 +120,7 @@ class WholeProgramTest(ProgramTest):
         keyer.wait_for("the key", keyer.is_key_down)
         (self.runtime / "quorvel/ports" / PORT).unlink()
         keyer.wait_for("the key to rise", lambda: not keyer.is_key_down())
-        self.answer_alert(quorvel, f"The WinKeyer using serial port {PORT} has been unplugged.")
+        self.answer_alert(quorvel, UNPLUGGED)
         self.assertEqual(quorvel.end(), 0)
 
 
