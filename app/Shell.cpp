@@ -66,6 +66,8 @@ void Shell::connectPreferences() {
                      [this] { _preferences.showPreferences(&_window); });
     QObject::connect(&_window, &MainWindow::portRequested, &_preferences,
                      [this] { _preferences.showPortChoice(&_window); });
+    QObject::connect(&_preferences, &PreferencesController::guideRequested, &_window,
+                     &MainWindow::showGuide);
     QObject::connect(&_delegate, &QuorvelDelegate::serialPortNameArrayChanged, &_preferences,
                      [this] { _preferences.setSerialPortNames(_delegate.serialPortNameArray()); });
 }

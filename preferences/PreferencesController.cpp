@@ -1,5 +1,6 @@
 #include "preferences/PreferencesController.h"
 
+#include "preferences/GuideButton.h"
 #include "preferences/MBPreferencesController.h"
 #include "preferences/PreferencesGeneralViewController.h"
 #include "preferences/PreferencesMessagesViewController.h"
@@ -27,6 +28,10 @@ void PreferencesController::awakeFromNib() {
             std::make_shared<PreferencesWinKeyerViewController>(_engine)});
     for (const auto& pane : *panes) {
         pane->view()->resize(pane->view()->sizeHint());
+        for (const auto* button : pane->view()->findChildren<GuideButton*>()) {
+            connect(button, &GuideButton::guideRequested, this,
+                    &PreferencesController::guideRequested);
+        }
     }
     MBPreferencesController::sharedController().setModules(panes);
     if (!_portNames.isEmpty()) {

@@ -31,6 +31,10 @@ class PreferencesController final : public QObject {
     /// The serial ports that can be chosen, "None" among them.
     void setSerialPortNames(const QStringList& names);
 
+  Q_SIGNALS:
+    /// The guide is wanted, at the chapter of that name.
+    void guideRequested(const QString& chapter);
+
   private:
     WinKeyerUsb& _engine;
     QStringList _portNames;

@@ -6,10 +6,12 @@
 #include "keyer/WinKeyerUsb.h"
 #include "platform/Platform.h"
 #include "platform/SettingsStore.h"
+#include "preferences/GuideButton.h"
 #include "preferences/KeyerNotice.h"
 #include "ui_PreferencesWinKeyerPane.h"
 
 #include <QCheckBox>
+#include <QHBoxLayout>
 
 using namespace Qt::StringLiterals;
 
@@ -18,9 +20,7 @@ PreferencesWinKeyerViewController::PreferencesWinKeyerViewController(WinKeyerUsb
       _view(std::make_unique<QWidget>()),
       _ui(std::make_unique<Ui::PreferencesWinKeyerPane>()) {
     _ui->setupUi(_view.get());
-    auto* notice = new KeyerNotice(_ui->groups);
-    notice->follow(engine);
-    _ui->groups->setCornerWidget(notice); // beside the tabs, seen from each
+    setUpCorner();
     _ui->keyedWave->follow(engine);
     _ui->standaloneMessages->follow(engine);
     _binder = std::make_unique<SettingBinder>(*_view, *this, keyerSettings);
@@ -31,6 +31,20 @@ PreferencesWinKeyerViewController::PreferencesWinKeyerViewController(WinKeyerUsb
 }
 
 PreferencesWinKeyerViewController::~PreferencesWinKeyerViewController() = default;
+
+/// Beside the tabs, where it is seen from each.
+void PreferencesWinKeyerViewController::setUpCorner() {
+    auto* corner = new QWidget(_ui->groups);
+    auto* notice = new KeyerNotice(corner);
+    notice->follow(_engine);
+    auto* guideButton = new GuideButton(corner);
+    guideButton->follow(*_ui->groups);
+    auto* layout = new QHBoxLayout(corner);
+    layout->setContentsMargins({});
+    layout->addWidget(notice);
+    layout->addWidget(guideButton);
+    _ui->groups->setCornerWidget(corner);
+}
 
 QString PreferencesWinKeyerViewController::title() const {
     return tr("WinKeyer");

@@ -65,6 +65,7 @@ class PreferencesWinKeyerViewController final : public QObject, public MBPrefere
 
   private:
     /// Tells when neither output is on, as the transmitter stays silent then for no other reason.
+    void setUpCorner();
     void showWhetherKeyed();
 
     WinKeyerUsb& _engine;

@@ -220,19 +220,61 @@ Die eigenen Optionen des Toolkits wie -platform und -style gelten auch. Die Anle
     </message>
 </context>
 <context>
+    <name>Guide</name>
+    <message>
+        <source>en</source>
+        <extracomment>The folder of docs/guide that is in this language; as it is where there is none.</extracomment>
+        <translation>de</translation>
+    </message>
+</context>
+<context>
+    <name>GuideButton</name>
+    <message>
+        <source>Guide to these settings</source>
+        <translation>Anleitung zu diesen Einstellungen</translation>
+    </message>
+    <message>
+        <source>Opens the guide where these settings are explained.</source>
+        <translation>Öffnet die Anleitung dort, wo diese Einstellungen erklärt sind.</translation>
+    </message>
+</context>
+<context>
     <name>GuideWindow</name>
     <message>
         <source>Quorvel Guide</source>
         <translation>Quorvel-Anleitung</translation>
     </message>
     <message>
-        <source>Guide</source>
-        <translation>Anleitung</translation>
+        <source>Search</source>
+        <translation>Suche</translation>
     </message>
     <message>
-        <source>guide.md</source>
-        <extracomment>The guide&apos;s file, docs/guide.md, in this language; as it is where there is none.</extracomment>
-        <translation>guide.de.md</translation>
+        <source>Searches all chapters (Ctrl+F). Enter goes to the next place.</source>
+        <translation>Sucht in allen Kapiteln (Strg+F). Enter geht zur nächsten Stelle.</translation>
+    </message>
+    <message>
+        <source>Contents</source>
+        <translation>Inhalt</translation>
+    </message>
+    <message>
+        <source>Places found</source>
+        <translation>Gefundene Stellen</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Nothing found</source>
+        <translation>Nichts gefunden</translation>
+    </message>
+    <message>
+        <source>Places found: %1</source>
+        <translation>Gefundene Stellen: %1</translation>
+    </message>
+    <message>
+        <source>Place %1 of %2</source>
+        <translation>Stelle %1 von %2</translation>
     </message>
 </context>
 <context>

@@ -220,19 +220,61 @@ También valen las opciones de la biblioteca gráfica, como -platform y -style. 
     </message>
 </context>
 <context>
+    <name>Guide</name>
+    <message>
+        <source>en</source>
+        <extracomment>The folder of docs/guide that is in this language; as it is where there is none.</extracomment>
+        <translation>es</translation>
+    </message>
+</context>
+<context>
+    <name>GuideButton</name>
+    <message>
+        <source>Guide to these settings</source>
+        <translation>Guía de estos ajustes</translation>
+    </message>
+    <message>
+        <source>Opens the guide where these settings are explained.</source>
+        <translation>Abre la guía donde se explican estos ajustes.</translation>
+    </message>
+</context>
+<context>
     <name>GuideWindow</name>
     <message>
         <source>Quorvel Guide</source>
         <translation>Guía de Quorvel</translation>
     </message>
     <message>
-        <source>Guide</source>
-        <translation>Guía</translation>
+        <source>Search</source>
+        <translation>Buscar</translation>
     </message>
     <message>
-        <source>guide.md</source>
-        <extracomment>The guide&apos;s file, docs/guide.md, in this language; as it is where there is none.</extracomment>
-        <translation>guide.es.md</translation>
+        <source>Searches all chapters (Ctrl+F). Enter goes to the next place.</source>
+        <translation>Busca en todos los capítulos (Ctrl+F). Intro va al lugar siguiente.</translation>
+    </message>
+    <message>
+        <source>Contents</source>
+        <translation>Contenido</translation>
+    </message>
+    <message>
+        <source>Places found</source>
+        <translation>Lugares encontrados</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Nothing found</source>
+        <translation>No se encontró nada</translation>
+    </message>
+    <message>
+        <source>Places found: %1</source>
+        <translation>Lugares encontrados: %1</translation>
+    </message>
+    <message>
+        <source>Place %1 of %2</source>
+        <translation>Lugar %1 de %2</translation>
     </message>
 </context>
 <context>

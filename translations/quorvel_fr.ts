@@ -220,19 +220,61 @@ Les options de la bibliothèque graphique, comme -platform et -style, sont admis
     </message>
 </context>
 <context>
+    <name>Guide</name>
+    <message>
+        <source>en</source>
+        <extracomment>The folder of docs/guide that is in this language; as it is where there is none.</extracomment>
+        <translation>fr</translation>
+    </message>
+</context>
+<context>
+    <name>GuideButton</name>
+    <message>
+        <source>Guide to these settings</source>
+        <translation>Guide de ces réglages</translation>
+    </message>
+    <message>
+        <source>Opens the guide where these settings are explained.</source>
+        <translation>Ouvre le guide là où ces réglages sont expliqués.</translation>
+    </message>
+</context>
+<context>
     <name>GuideWindow</name>
     <message>
         <source>Quorvel Guide</source>
         <translation>Guide de Quorvel</translation>
     </message>
     <message>
-        <source>Guide</source>
-        <translation>Guide</translation>
+        <source>Search</source>
+        <translation>Recherche</translation>
     </message>
     <message>
-        <source>guide.md</source>
-        <extracomment>The guide&apos;s file, docs/guide.md, in this language; as it is where there is none.</extracomment>
-        <translation>guide.fr.md</translation>
+        <source>Searches all chapters (Ctrl+F). Enter goes to the next place.</source>
+        <translation>Cherche dans tous les chapitres (Ctrl+F). Entrée va à l’endroit suivant.</translation>
+    </message>
+    <message>
+        <source>Contents</source>
+        <translation>Sommaire</translation>
+    </message>
+    <message>
+        <source>Places found</source>
+        <translation>Endroits trouvés</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1 : %2</translation>
+    </message>
+    <message>
+        <source>Nothing found</source>
+        <translation>Rien trouvé</translation>
+    </message>
+    <message>
+        <source>Places found: %1</source>
+        <translation>Endroits trouvés : %1</translation>
+    </message>
+    <message>
+        <source>Place %1 of %2</source>
+        <translation>Endroit %1 sur %2</translation>
     </message>
 </context>
 <context>

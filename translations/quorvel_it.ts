@@ -220,19 +220,61 @@ Valgono anche le opzioni della libreria grafica, come -platform e -style. La gui
     </message>
 </context>
 <context>
+    <name>Guide</name>
+    <message>
+        <source>en</source>
+        <extracomment>The folder of docs/guide that is in this language; as it is where there is none.</extracomment>
+        <translation>it</translation>
+    </message>
+</context>
+<context>
+    <name>GuideButton</name>
+    <message>
+        <source>Guide to these settings</source>
+        <translation>Guida a queste impostazioni</translation>
+    </message>
+    <message>
+        <source>Opens the guide where these settings are explained.</source>
+        <translation>Apre la guida dove queste impostazioni sono spiegate.</translation>
+    </message>
+</context>
+<context>
     <name>GuideWindow</name>
     <message>
         <source>Quorvel Guide</source>
         <translation>Guida di Quorvel</translation>
     </message>
     <message>
-        <source>Guide</source>
-        <translation>Guida</translation>
+        <source>Search</source>
+        <translation>Ricerca</translation>
     </message>
     <message>
-        <source>guide.md</source>
-        <extracomment>The guide&apos;s file, docs/guide.md, in this language; as it is where there is none.</extracomment>
-        <translation>guide.it.md</translation>
+        <source>Searches all chapters (Ctrl+F). Enter goes to the next place.</source>
+        <translation>Cerca in tutti i capitoli (Ctrl+F). Invio va al punto seguente.</translation>
+    </message>
+    <message>
+        <source>Contents</source>
+        <translation>Indice</translation>
+    </message>
+    <message>
+        <source>Places found</source>
+        <translation>Punti trovati</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Nothing found</source>
+        <translation>Nessun risultato</translation>
+    </message>
+    <message>
+        <source>Places found: %1</source>
+        <translation>Punti trovati: %1</translation>
+    </message>
+    <message>
+        <source>Place %1 of %2</source>
+        <translation>Punto %1 di %2</translation>
     </message>
 </context>
 <context>

@@ -220,19 +220,61 @@ WinKeyer USB キーヤーを通してモールス符号を送信します。
     </message>
 </context>
 <context>
+    <name>Guide</name>
+    <message>
+        <source>en</source>
+        <extracomment>The folder of docs/guide that is in this language; as it is where there is none.</extracomment>
+        <translation>ja</translation>
+    </message>
+</context>
+<context>
+    <name>GuideButton</name>
+    <message>
+        <source>Guide to these settings</source>
+        <translation>この設定のガイド</translation>
+    </message>
+    <message>
+        <source>Opens the guide where these settings are explained.</source>
+        <translation>この設定を説明しているところでガイドを開きます。</translation>
+    </message>
+</context>
+<context>
     <name>GuideWindow</name>
     <message>
         <source>Quorvel Guide</source>
         <translation>Quorvel ガイド</translation>
     </message>
     <message>
-        <source>Guide</source>
-        <translation>ガイド</translation>
+        <source>Search</source>
+        <translation>検索</translation>
     </message>
     <message>
-        <source>guide.md</source>
-        <extracomment>The guide&apos;s file, docs/guide.md, in this language; as it is where there is none.</extracomment>
-        <translation>guide.ja.md</translation>
+        <source>Searches all chapters (Ctrl+F). Enter goes to the next place.</source>
+        <translation>すべての章を検索します (Ctrl+F)。Enter で次の箇所に進みます。</translation>
+    </message>
+    <message>
+        <source>Contents</source>
+        <translation>目次</translation>
+    </message>
+    <message>
+        <source>Places found</source>
+        <translation>見つかった箇所</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Nothing found</source>
+        <translation>見つかりません</translation>
+    </message>
+    <message>
+        <source>Places found: %1</source>
+        <translation>見つかった箇所: %1</translation>
+    </message>
+    <message>
+        <source>Place %1 of %2</source>
+        <translation>%2 箇所中 %1 番目</translation>
     </message>
 </context>
 <context>

@@ -1,15 +1,28 @@
 #include "app/window/GuideWindow.h"
 
+#include <QAccessible>
 #include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
 #include <QScreen>
+#include <QShortcut>
+#include <QSignalBlocker>
+#include <QSplitter>
+#include <QStackedWidget>
+#include <QTextBrowser>
+#include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The width is that of its pictures.
-constexpr QSize preferredSize(820, 640);
+/// The page's width is that of its pictures.
+constexpr int pageWidth = 800;
+constexpr int listWidth = 220;
+constexpr int preferredHeight = 640;
 constexpr int margin = 12;
+constexpr int markOpacity = 90;
 
 /// What a window manager puts around a window, as told by one that is open.
 QSize frameOf(const QWidget* widget) {
@@ -17,23 +30,198 @@ QSize frameOf(const QWidget* widget) {
     return window.frameGeometry().size() - window.size();
 }
 
-} // namespace
-
-GuideWindow::GuideWindow(QWidget* parent) : QTextBrowser(parent) {
-    setWindowFlag(Qt::Window);
-    setWindowTitle(tr("Quorvel Guide"));
-    setAccessibleName(tr("Guide"));
-    setOpenExternalLinks(true);
-    //: The guide's file, docs/guide.md, in this language; as it is where there is none.
-    setSource(QUrl(u"qrc:/"_s + tr("guide.md")), QTextDocument::MarkdownResource);
-    document()->setDocumentMargin(margin);
-    resize(preferredSize.boundedTo(screen()->availableSize() - frameOf(parent)));
+QTextCursor cursorOf(const Guide::Match& match, QTextDocument& document) {
+    QTextCursor cursor(&document);
+    cursor.setPosition(static_cast<int>(match.position));
+    cursor.setPosition(static_cast<int>(match.position + match.length), QTextCursor::KeepAnchor);
+    return cursor;
 }
 
-void GuideWindow::keyPressEvent(QKeyEvent* event) {
-    if (event->matches(QKeySequence::Cancel) || event->matches(QKeySequence::Close)) {
-        close();
+} // namespace
+
+GuideWindow::GuideWindow(QWidget* parent)
+    : QWidget(parent, Qt::Window),
+      _searchField(new QLineEdit),
+      _result(new QLabel),
+      _lists(new QStackedWidget),
+      _contents(new QListWidget),
+      _matches(new QListWidget),
+      _page(new QTextBrowser) {
+    setWindowTitle(tr("Quorvel Guide"));
+    setUpSearch();
+    setUpLists();
+    setUpPage();
+    layOut();
+    turnTo(0);
+    resize(QSize(listWidth + pageWidth, preferredHeight)
+               .boundedTo(screen()->availableSize() - frameOf(parent)));
+    _contents->setFocus();
+}
+
+void GuideWindow::setUpSearch() {
+    _searchField->setObjectName(u"guideSearchField"_s);
+    _searchField->setAccessibleName(tr("Search"));
+    _searchField->setPlaceholderText(tr("Search"));
+    _searchField->setToolTip(tr("Searches all chapters (Ctrl+F). Enter goes to the next place."));
+    _searchField->setClearButtonEnabled(true);
+    _result->setObjectName(u"guideResult"_s);
+    _result->setTextFormat(Qt::PlainText);
+    _result->setWordWrap(true);
+    _result->hide();
+    connect(_searchField, &QLineEdit::textChanged, this, &GuideWindow::search);
+    connect(_searchField, &QLineEdit::returnPressed, this, [this] { goOn(1); });
+    const auto* back = new QShortcut(Qt::SHIFT | Qt::Key_Return, _searchField);
+    connect(back, &QShortcut::activated, this, [this] { goOn(-1); });
+    const auto* find = new QShortcut(QKeySequence::Find, this);
+    connect(find, &QShortcut::activated, this, [this] {
+        _searchField->setFocus(Qt::ShortcutFocusReason);
+        _searchField->selectAll();
+    });
+}
+
+void GuideWindow::setUpLists() {
+    _contents->setObjectName(u"guideContents"_s);
+    _contents->setAccessibleName(tr("Contents"));
+    _matches->setObjectName(u"guideMatches"_s);
+    _matches->setAccessibleName(tr("Places found"));
+    _matches->setWordWrap(true);
+    for (const auto& chapter : _guide.chapters()) {
+        _contents->addItem(chapter.title);
+    }
+    connect(_contents, &QListWidget::currentRowChanged, this, &GuideWindow::turnTo);
+    connect(_matches, &QListWidget::currentRowChanged, this, &GuideWindow::showMatch);
+}
+
+void GuideWindow::setUpPage() {
+    _page->setObjectName(u"guidePage"_s);
+    _page->setOpenExternalLinks(true);
+    // A screen reader reads it line by line where the caret goes.
+    _page->setTextInteractionFlags(Qt::TextBrowserInteraction | Qt::TextSelectableByKeyboard);
+    connect(_page, &QTextBrowser::historyChanged, this, &GuideWindow::followPage);
+}
+
+void GuideWindow::layOut() {
+    _lists->addWidget(_contents);
+    _lists->addWidget(_matches);
+    auto* side = new QWidget;
+    auto* column = new QVBoxLayout(side);
+    column->setContentsMargins({});
+    column->addWidget(_searchField);
+    column->addWidget(_result);
+    column->addWidget(_lists, 1);
+    auto* splitter = new QSplitter;
+    splitter->addWidget(side);
+    splitter->addWidget(_page);
+    splitter->setStretchFactor(1, 1);
+    splitter->setSizes({listWidth, pageWidth});
+    splitter->setChildrenCollapsible(false);
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins({});
+    layout->addWidget(splitter);
+    for (QWidget* each :
+         std::initializer_list<QWidget*>{_searchField, _contents, _matches, _page}) {
+        each->installEventFilter(this);
+    }
+}
+
+void GuideWindow::showChapter(const QString& name) {
+    _searchField->clear();
+    turnTo(_guide.indexOf(name));
+    _page->setFocus();
+}
+
+void GuideWindow::turnTo(qsizetype chapter) {
+    if (chapter >= 0 && _guide.chapters()[chapter].source != _page->source()) {
+        _page->setSource(_guide.chapters()[chapter].source);
+    }
+}
+
+/// A link may have led to another chapter.
+void GuideWindow::followPage() {
+    const auto chapter = _guide.indexOf(_page->source());
+    if (chapter < 0) {
         return;
     }
-    QTextBrowser::keyPressEvent(event);
+    const QSignalBlocker blocker(_contents);
+    _contents->setCurrentRow(static_cast<int>(chapter));
+    _page->setAccessibleName(_guide.chapters()[chapter].title);
+    _page->document()->setDocumentMargin(margin);
+    markMatches();
+}
+
+void GuideWindow::search() {
+    const auto text = _searchField->text();
+    _found = _guide.find(text);
+    {
+        const QSignalBlocker blocker(_matches);
+        _matches->clear();
+        for (const auto& match : _found) {
+            _matches->addItem(
+                tr("%1: %2").arg(_guide.chapters()[match.chapter].title, match.surroundings));
+        }
+    }
+    _lists->setCurrentWidget(_found.isEmpty() ? _contents : _matches);
+    _result->setHidden(text.trimmed().isEmpty());
+    tell(_found.isEmpty() ? tr("Nothing found") : tr("Places found: %1").arg(_found.size()));
+    markMatches();
+}
+
+void GuideWindow::goOn(int step) {
+    const auto count = _matches->count();
+    if (count == 0) {
+        return;
+    }
+    const auto row = _matches->currentRow();
+    _matches->setCurrentRow(row < 0 ? (step > 0 ? 0 : count - 1) : (row + step + count) % count);
+}
+
+void GuideWindow::showMatch(int row) {
+    if (row < 0) {
+        return;
+    }
+    const auto& match = _found[row];
+    turnTo(match.chapter);
+    _page->setTextCursor(cursorOf(match, *_page->document()));
+    _page->ensureCursorVisible();
+    tell(tr("Place %1 of %2").arg(row + 1).arg(_found.size()));
+}
+
+void GuideWindow::markMatches() {
+    const auto chapter = _guide.indexOf(_page->source());
+    QList<QTextEdit::ExtraSelection> marks;
+    auto color = palette().color(QPalette::Highlight);
+    color.setAlpha(markOpacity);
+    for (const auto& match : _found) {
+        if (match.chapter == chapter) {
+            QTextEdit::ExtraSelection mark;
+            mark.cursor = cursorOf(match, *_page->document());
+            mark.format.setBackground(color);
+            marks.append(mark);
+        }
+    }
+    _page->setExtraSelections(marks);
+}
+
+/// Seen, and spoken by a screen reader, whose user is in the field.
+void GuideWindow::tell(const QString& result) {
+    if (_result->text() == result) {
+        return;
+    }
+    _result->setText(result);
+    _result->setAccessibleName(result);
+    if (_result->isVisible()) {
+        QAccessibleEvent alert(_result, QAccessible::Alert);
+        QAccessible::updateAccessibility(&alert);
+    }
+}
+
+bool GuideWindow::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::KeyPress) {
+        const auto& press = static_cast<const QKeyEvent&>(*event);
+        if (press.matches(QKeySequence::Cancel) || press.matches(QKeySequence::Close)) {
+            close();
+            return true;
+        }
+    }
+    return QWidget::eventFilter(watched, event);
 }

@@ -242,7 +242,7 @@ void MainWindow::setUpMenus() {
                                                            .paste = _ui->pasteAction,
                                                            .selectAll = _ui->selectAllAction});
     new SettingAction(*_ui->acceptLoggersAction, AcceptLoggers, this);
-    QObject::connect(_ui->guideAction, &QAction::triggered, this, &MainWindow::showGuide);
+    QObject::connect(_ui->guideAction, &QAction::triggered, this, [this] { showGuide(); });
     QObject::connect(_ui->checkPortsAction, &QAction::triggered, this,
                      &MainWindow::portCheckRequested);
     QObject::connect(_ui->aboutAction, &QAction::triggered, this,
@@ -297,9 +297,12 @@ void MainWindow::offerVirtualKeyer() {
     _ui->virtualKeyerAction->setVisible(true);
 }
 
-void MainWindow::showGuide() {
+void MainWindow::showGuide(const QString& chapter) {
     if (_guide == nullptr) {
         _guide = new GuideWindow(this);
+    }
+    if (!chapter.isEmpty()) {
+        _guide->showChapter(chapter);
     }
     _guide->show();
     _guide->raise();

@@ -49,6 +49,8 @@ class MainWindow final : public QMainWindow {
     void offerVirtualKeyer();
     /// Says in the status line what there is to say of loggers; an empty text for nothing.
     void showLoggers(const QString& notice);
+    /// Shows the guide, at the chapter of that name, as "tune", if there is one.
+    void showGuide(const QString& chapter = {});
     /// Has the operator see the window, also when it is minimised or closed; with the token that
     /// the desktop gave for that, or an empty one.
     void comeToFront(const QString& activationToken);
@@ -81,7 +83,6 @@ class MainWindow final : public QMainWindow {
     void setUpMenus();
     void setUpFirstSteps();
     void enlargeFonts();
-    void showGuide();
     void showNotice();
     void showWaiting();
     void showTitle();

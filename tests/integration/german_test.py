@@ -59,9 +59,9 @@ class GermanTest(ProgramTest):
         self.desktop.press("alt+h")
         self.desktop.press("a")
         quorvel.wait_for("the guide", lambda: any(
-            "Anleitung zu Quorvel" in each.text()
+            "Beim ersten Start sagt Quorvel" in each.text()
             for window in self.desktop.application(quorvel.pid).children()
-            for each in window.all() if each.name() == "Anleitung" and "menu" not in each.role()))
+            for each in window.all() if each.name() == "Erster Start"))
         self.assertEqual(quorvel.end(), 0)
 
     def test_the_command_lines_are_german(self):

@@ -3,7 +3,6 @@
 #include "tests/support/RegisteredTest.h"
 
 #include <QCoreApplication>
-#include <QFile>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -31,7 +30,6 @@ class TranslationsTest : public QObject {
     void theTextsAreInTheLanguage_data();
     void theTextsAreInTheLanguage();
     void theyGoWithTheObject();
-    void everyLanguageHasItsGuide();
 };
 
 void TranslationsTest::theLanguagesAreThere() {
@@ -87,14 +85,6 @@ void TranslationsTest::theyGoWithTheObject() {
         QCOMPARE(yes(), u"Ja"_s);
     }
     QCOMPARE(yes(), u"Yes"_s);
-}
-
-void TranslationsTest::everyLanguageHasItsGuide() {
-    for (const auto& each : Translations::languages()) {
-        const Translations translations{QLocale(each)};
-        const auto guide = QCoreApplication::translate("GuideWindow", "guide.md");
-        QVERIFY2(guide == u"guide.md" || QFile::exists(u":/"_s + guide), qPrintable(guide));
-    }
 }
 
 static const RegisteredTest<TranslationsTest> registered;

@@ -11,6 +11,8 @@ class GuideOutline:
     # How many cells each row of the tables has.
     rows: tuple
     images: tuple
+    # Where the links lead, in no order: a language has its own.
+    links: tuple
     # What stands between backticks: tokens, commands, files.
     code: tuple
     # How many entries there are in the lists.
@@ -24,6 +26,7 @@ class GuideOutline:
             rows=tuple(each.replace(r"\|", "").count("|") for each in lines
                        if each.startswith("|")),
             images=tuple(re.findall(r"!\[[^]]+\]\(([^)]+)\)", text)),
+            links=tuple(sorted(re.findall(r"(?<!!)\[[^]]+\]\(([^)]+)\)", text))),
             # What stands for the user's name is a word like another.
             code=tuple(sorted(re.sub(r"[A-Z-]{6,}", "", each)
                               for each in re.findall(r"(?<!`)`(?!`)([^`\n]+)`(?!`)", text))),
