@@ -2,6 +2,7 @@
 
 #include "virtualkeyer/NamedProfiles.h"
 #include "virtualkeyer/pty/PortLink.h"
+#include "virtualkeyer/script/ScriptParser.h"
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
@@ -70,8 +71,34 @@ struct Options {
         u"paddle"_s,
         CommandLine::tr("Standard input works the paddle: \".\" and \"-\" each close a "
                         "contact, and anything else opens both.")};
+    QCommandLineOption script{
+        u"script"_s,
+        CommandLine::tr("Works the keyer as %1 says, \"-\" for standard input, and ends with it; "
+                        "the exit status is 3 if what it expects did not happen. Lines of it are: "
+                        "%2")
+            .arg(u"FILE"_s, scriptUsage()),
+        u"FILE"_s};
+    QCommandLineOption fast{
+        u"fast"_s, CommandLine::tr("The script's time passes as fast as it can, and no port is "
+                                   "plugged in.")};
     QCommandLineOption link{u"link"_s, linkHelp(), u"NAME"_s, standardLink};
 };
+
+/// What is wrong with the script's options; empty when nothing is.
+QString readScript(const QCommandLineParser& parser, const Options& options, CommandLine& result) {
+    result.scriptPath = parser.value(options.script);
+    result.isFast = parser.isSet(options.fast);
+    if (parser.isSet(options.script) && result.scriptPath.isEmpty()) {
+        return CommandLine::tr("The script needs a file name.");
+    }
+    if (result.isFast && result.scriptPath.isEmpty()) {
+        return CommandLine::tr("Only a script can be fast.");
+    }
+    if (result.isPaddled && result.scriptPath == u"-"_s) {
+        return CommandLine::tr("Standard input is either the script or the paddle.");
+    }
+    return {};
+}
 
 /// What is wrong with the values; empty when nothing is.
 QString readValues(const QCommandLineParser& parser, const Options& options, CommandLine& result) {
@@ -107,7 +134,7 @@ QString readValues(const QCommandLineParser& parser, const Options& options, Com
     }
     result.profile = profileNamed(profileNames.toStdString()).value();
     result.profile.potWpm = speed;
-    return {};
+    return readScript(parser, options, result);
 }
 
 } // namespace
@@ -121,7 +148,8 @@ CommandLine CommandLine::parse(const QStringList& arguments) {
     const QCommandLineOption help({u"h"_s, u"help"_s}, tr("Shows this text."));
     const QCommandLineOption version({u"v"_s, u"version"_s}, tr("Shows the version."));
     parser.addOptions({help, version, options.headless, options.transcript, options.registers,
-                       options.speed, options.profile, options.paddle, options.link});
+                       options.speed, options.profile, options.paddle, options.script, options.fast,
+                       options.link});
 
     CommandLine result;
     if (!parser.parse(arguments)) {

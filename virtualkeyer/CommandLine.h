@@ -27,6 +27,10 @@ struct CommandLine {
     QString transcriptPath;
     /// Empty for no file of registers.
     QString registersPath;
+    /// Empty for no script, "-" for standard input.
+    QString scriptPath;
+    /// Whether the script's time passes as fast as it can, without a port.
+    bool isFast = false;
 
     /// Reads the program's arguments, its own name first.
     [[nodiscard]] static CommandLine parse(const QStringList& arguments);

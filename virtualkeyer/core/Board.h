@@ -15,7 +15,7 @@ struct Board {
     Board(const Board&) = delete;
     Board& operator=(const Board&) = delete;
 
-    const Profile profile;
+    Profile profile;
     Registers registers;
     Outbox outbox;
     Status status{outbox};

@@ -8,6 +8,18 @@ Keyer::Keyer(const Profile& profile) : _machine(std::make_unique<Machine>(profil
 
 Keyer::~Keyer() = default;
 
+void Keyer::restart(Time at) {
+    _machine->restart(at);
+}
+
+void Keyer::setProfile(const Profile& profile, Time at) {
+    _machine->setProfile(profile, at);
+}
+
+void Keyer::playMessage(int number, Time at) {
+    _machine->playMessage(number, at);
+}
+
 void Keyer::portOpened(Time at) {
     _machine->portOpened(at);
 }
@@ -46,6 +58,10 @@ const Registers& Keyer::registers() const {
 
 const Memory& Keyer::memory() const {
     return _machine->memory();
+}
+
+std::uint8_t Keyer::status() const {
+    return _machine->status();
 }
 
 } // namespace virtualkeyer

@@ -20,6 +20,17 @@ class Keyer {
     explicit Keyer(const Profile& profile = {});
     ~Keyer();
 
+    /// The keyer loses its power at `at` and has it again at once. What it keys ends, and the host
+    /// is told nothing; the memory, the speed pot and the traits stay.
+    void restart(Time at);
+
+    /// From `at` on it behaves as a keyer of another kind. Of the traits only those count that show
+    /// while it runs: the firmware's number, the buffer's size and the pot stay as they were made.
+    void setProfile(const Profile& profile, Time at);
+
+    /// Somebody at the keyer has message `number` (1 to 6) of its memory keyed, as the host can.
+    void playMessage(int number, Time at);
+
     /// The host has opened the port at `at`: a board with a boot loader restarts and is deaf for a
     /// while, any other takes no notice.
     void portOpened(Time at);
@@ -50,6 +61,9 @@ class Keyer {
 
     /// What the keyer keeps without power, for a panel or a test to read.
     [[nodiscard]] const Memory& memory() const;
+
+    /// The status byte that an open host would be told now.
+    [[nodiscard]] std::uint8_t status() const;
 
   private:
     class Machine;

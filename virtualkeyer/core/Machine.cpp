@@ -2,11 +2,34 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 namespace virtualkeyer {
 
 Keyer::Machine::Machine(const Profile& profile) : _board(profile) {
     standAlone();
+}
+
+void Keyer::Machine::restart(Time at) {
+    advance(at);
+    _dit = false;
+    _dah = false;
+    coldStart();
+    _board.status.setPushButtons(0, _now);
+}
+
+void Keyer::Machine::setProfile(const Profile& profile, Time at) {
+    advance(at);
+    const Profile before = std::exchange(_board.profile, profile);
+    _board.profile.firmware = before.firmware;
+    _board.profile.bufferSize = before.bufferSize;
+    _board.profile.potWpm = before.potWpm;
+}
+
+void Keyer::Machine::playMessage(int number, Time at) {
+    advance(at);
+    play(number);
+    settle();
 }
 
 void Keyer::Machine::portOpened(Time at) {

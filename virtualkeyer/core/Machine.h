@@ -16,6 +16,9 @@ class Keyer::Machine {
   public:
     explicit Machine(const Profile& profile);
 
+    void restart(Time at);
+    void setProfile(const Profile& profile, Time at);
+    void playMessage(int number, Time at);
     void portOpened(Time at);
     void receive(std::uint8_t byte, Time at);
     void setPaddle(bool dit, bool dah, Time at);
@@ -26,6 +29,7 @@ class Keyer::Machine {
     [[nodiscard]] std::vector<Event> takeEvents() { return _board.outbox.take(); }
     [[nodiscard]] const Registers& registers() const { return _board.registers; }
     [[nodiscard]] const Memory& memory() const { return _memory; }
+    [[nodiscard]] std::uint8_t status() const { return _board.status.byte(); }
 
   private:
     void runNext(Time now);
@@ -48,6 +52,7 @@ class Keyer::Machine {
     void keyImmediate(bool isDown);
     void clear();
     void touchPaddle();
+    void play(int number);
 
     Board _board;
     Memory _memory;

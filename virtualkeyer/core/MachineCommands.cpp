@@ -39,10 +39,7 @@ void Keyer::Machine::obeyAdmin(const Command& command) {
     case AdminCommand::LoadMemory:
         return loadMemory(command.parameters);
     case AdminCommand::PlayMessage:
-        if (!_paddle.isBreakingIn()) {
-            _sender.play(_memory.message(command.parameters[0]), _now);
-        }
-        return;
+        return play(command.parameters[0]);
     case AdminCommand::Baud9600:
         return setBaud(9600);
     case AdminCommand::Baud1200:
@@ -162,6 +159,12 @@ void Keyer::Machine::loadMemory(const std::vector<std::uint8_t>& bytes) {
     _memory.load(std::span(bytes).first<Memory::size>());
     if (!_board.outbox.isOpen()) {
         standAlone();
+    }
+}
+
+void Keyer::Machine::play(int number) {
+    if (!_paddle.isBreakingIn()) {
+        _sender.play(_memory.message(number), _now);
     }
 }
 

@@ -35,10 +35,10 @@ class Status {
     void selectVersion2(Time at);
     /// The buttons held down: bits 0, 1, 2 and 4.
     void setPushButtons(std::uint8_t mask, Time at);
-
-  private:
+    /// The status byte as it would be sent now.
     [[nodiscard]] std::uint8_t byte() const;
 
+  private:
     Outbox& _outbox;
     unsigned _reasons = 0;
     bool _isVersion2 = false;

@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <array>
 #include <poll.h>
-#include <unistd.h>
+#include <utility>
 
 namespace virtualkeyer {
 
@@ -23,31 +23,41 @@ timespec timeoutOf(Time wait) {
 
 } // namespace
 
-KeyerLoop::KeyerLoop(SerialKeyer& keyer, PseudoTerminal& terminal, int paddle)
-    : _keyer(keyer), _terminal(terminal), _paddle(paddle), _start(Clock::now()) {}
+KeyerLoop::KeyerLoop(SerialKeyer& keyer, KeyerPort& port, std::vector<Operator*> operators)
+    : _keyer(keyer),
+      _port(port),
+      _operators(std::move(operators)),
+      _isReadable(_operators.size()),
+      _start(Clock::now()) {}
 
 void KeyerLoop::run(int stopDescriptor) {
-    while (waitForWork(stopDescriptor)) {
+    while (!hasEnded() && waitForWork(stopDescriptor)) {
+        // What an operator does is due at a time that may lie before this moment, and so comes
+        // first.
+        letOperatorsWork();
+        followPlug();
         noticeOpenings();
-        workPaddle();
         receiveFromHost();
         advance();
     }
+    // Whoever writes down what was keyed writes it to its end.
+    advance();
 }
 
 /// False when it is time to stop.
 bool KeyerLoop::waitForWork(int stopDescriptor) {
+    const bool isPluggedIn = _port.isPluggedIn();
     // A negative descriptor is not waited for: bytes that find no room stay in the terminal.
-    std::array<pollfd, 4> descriptors{{{stopDescriptor, POLLIN, 0},
-                                       {_terminal.watch(), POLLIN, 0},
-                                       {_keyer.hasRoom() ? _terminal.master() : -1, POLLIN, 0},
-                                       {_paddle, POLLIN, 0}}};
-    timespec timeout{};
-    auto due = _keyer.nextEvent();
-    if (_terminal.watch() < 0) {
-        const Time look = now() + timeBetweenLooks;
-        due = due ? std::min(*due, look) : look;
+    std::vector<pollfd> descriptors{
+        {stopDescriptor, POLLIN, 0},
+        {isPluggedIn ? _port.terminal().watch() : -1, POLLIN, 0},
+        {isPluggedIn && _keyer.hasRoom() ? _port.terminal().master() : -1, POLLIN, 0}};
+    const std::size_t fixed = descriptors.size();
+    for (const Operator* each : _operators) {
+        descriptors.push_back({each->descriptor(), POLLIN, 0});
     }
+    timespec timeout{};
+    const auto due = nextDue();
     if (due) {
         timeout = timeoutOf(*due - now());
     }
@@ -55,30 +65,58 @@ bool KeyerLoop::waitForWork(int stopDescriptor) {
         errno != EINTR) {
         throwSystemFailure("cannot wait for the host");
     }
-    _isPaddleToBeWorked = descriptors.back().revents != 0;
+    for (std::size_t i = 0; i < _operators.size(); ++i) {
+        _isReadable[i] = descriptors[fixed + i].revents != 0;
+    }
     return descriptors.front().revents == 0;
 }
 
+std::optional<Time> KeyerLoop::nextDue() const {
+    auto next = _keyer.nextEvent();
+    const auto consider = [&next](std::optional<Time> due) {
+        if (due && (!next || *due < *next)) {
+            next = due;
+        }
+    };
+    for (const Operator* each : _operators) {
+        consider(each->nextWish());
+    }
+    if (_port.isPluggedIn() && _port.terminal().watch() < 0) {
+        consider(now() + timeBetweenLooks);
+    }
+    return next;
+}
+
+bool KeyerLoop::hasEnded() const {
+    return std::ranges::any_of(_operators, &Operator::hasEnded);
+}
+
+void KeyerLoop::letOperatorsWork() {
+    for (std::size_t i = 0; i < _operators.size(); ++i) {
+        _operators[i]->work(_keyer, _isReadable[i], now());
+    }
+}
+
+void KeyerLoop::followPlug() {
+    if (_keyer.isPluggedIn()) {
+        _port.plugIn();
+    } else {
+        _port.pull();
+    }
+}
+
 void KeyerLoop::noticeOpenings() {
-    for (int openings = _terminal.takeOpenings(); openings > 0; --openings) {
+    if (!_port.isPluggedIn()) {
+        return;
+    }
+    for (int openings = _port.terminal().takeOpenings(); openings > 0; --openings) {
         _keyer.portOpened(now());
     }
 }
 
-void KeyerLoop::workPaddle() {
-    if (!_isPaddleToBeWorked) {
-        return;
-    }
-    char contact = ' ';
-    if (::read(_paddle, &contact, 1) <= 0) {
-        _paddle = -1;
-    }
-    _keyer.setPaddle(contact == '.', contact == '-', now());
-}
-
 void KeyerLoop::receiveFromHost() {
     std::array<std::uint8_t, 1> byte{};
-    while (_keyer.hasRoom() && _terminal.read(byte) > 0) {
+    while (_port.isPluggedIn() && _keyer.hasRoom() && _port.terminal().read(byte) > 0) {
         _keyer.send(byte.front(), now());
     }
 }
@@ -86,7 +124,9 @@ void KeyerLoop::receiveFromHost() {
 void KeyerLoop::advance() {
     _keyer.advance(now());
     for (const std::uint8_t byte : _keyer.takeArrived()) {
-        _terminal.write(byte);
+        if (_port.isPluggedIn()) {
+            _port.terminal().write(byte);
+        }
     }
 }
 

@@ -1,24 +1,25 @@
 #pragma once
 
 #include "virtualkeyer/core/Event.h"
-#include "virtualkeyer/pty/PseudoTerminal.h"
+#include "virtualkeyer/pty/KeyerPort.h"
+#include "virtualkeyer/pty/Operator.h"
 #include "virtualkeyer/pty/SerialKeyer.h"
 
 #include <chrono>
+#include <optional>
+#include <vector>
 
 namespace virtualkeyer {
 
-/// Runs a keyer in real time on a pseudo-terminal. Blocks in the kernel whenever nothing is due.
+/// Runs a keyer in real time on its port. Blocks in the kernel whenever nothing is due.
 class KeyerLoop {
   public:
     /// All must outlive the loop. The keyer's time starts here.
-    /// The paddle is worked by what is read from the descriptor `paddle`, if it is none below 0:
-    /// "." closes the dit contact and "-" the other one, and anything else opens both, as does the
-    /// end of what is read.
-    KeyerLoop(SerialKeyer& keyer, PseudoTerminal& terminal, int paddle = -1);
+    KeyerLoop(SerialKeyer& keyer, KeyerPort& port, std::vector<Operator*> operators = {});
 
-    /// Runs until `stopDescriptor` is readable. Failures of the system and of the keyer's listener
-    /// are thrown. Runs on the calling thread.
+    /// Runs until `stopDescriptor` is readable or an operator ends it. The port is plugged in and
+    /// pulled as the keyer is. Failures of the system and of the keyer's listeners are thrown. Runs
+    /// on the calling thread.
     void run(int stopDescriptor);
 
   private:
@@ -26,15 +27,18 @@ class KeyerLoop {
 
     [[nodiscard]] Time now() const { return Clock::now() - _start; }
     [[nodiscard]] bool waitForWork(int stopDescriptor);
+    [[nodiscard]] std::optional<Time> nextDue() const;
+    [[nodiscard]] bool hasEnded() const;
     void noticeOpenings();
-    void workPaddle();
+    void letOperatorsWork();
+    void followPlug();
     void receiveFromHost();
     void advance();
 
     SerialKeyer& _keyer;
-    PseudoTerminal& _terminal;
-    int _paddle;
-    bool _isPaddleToBeWorked = false;
+    KeyerPort& _port;
+    std::vector<Operator*> _operators;
+    std::vector<bool> _isReadable;
     Clock::time_point _start;
 };
 

@@ -10,7 +10,9 @@ SerialKeyer::SerialKeyer(const Profile& profile, std::vector<KeyerListener*> lis
 }
 
 void SerialKeyer::send(std::uint8_t byte, Time at) {
-    _fromHost.put(byte, at);
+    if (_isPluggedIn) {
+        _fromHost.put(byte, at);
+    }
 }
 
 void SerialKeyer::portOpened(Time at) {
@@ -21,7 +23,57 @@ void SerialKeyer::portOpened(Time at) {
 
 void SerialKeyer::setPaddle(bool dit, bool dah, Time at) {
     advance(at);
-    _keyer.setPaddle(dit, dah, at);
+    _dit = dit;
+    _dah = dah;
+    if (_isPluggedIn) {
+        _keyer.setPaddle(dit, dah, at);
+    }
+    handOn();
+}
+
+void SerialKeyer::setPot(int wpm, Time at) {
+    advance(at);
+    _keyer.setPot(wpm, at);
+    handOn();
+}
+
+void SerialKeyer::setPushButtons(std::uint8_t mask, Time at) {
+    advance(at);
+    _pushButtons = mask;
+    if (_isPluggedIn) {
+        _keyer.setPushButtons(mask, at);
+    }
+    handOn();
+}
+
+void SerialKeyer::playMessage(int number, Time at) {
+    advance(at);
+    if (_isPluggedIn) {
+        _keyer.playMessage(number, at);
+    }
+    handOn();
+}
+
+void SerialKeyer::setProfile(const Profile& profile, Time at) {
+    advance(at);
+    _keyer.setProfile(profile, at);
+}
+
+void SerialKeyer::pull(Time at) {
+    advance(at);
+    _isPluggedIn = false;
+    _keyer.restart(at);
+    handOn();
+    _fromHost = PacedLine(initialBaud);
+    _toHost = PacedLine(initialBaud);
+    _arrived.clear();
+}
+
+void SerialKeyer::plugIn(Time at) {
+    advance(at);
+    _isPluggedIn = true;
+    _keyer.setPushButtons(_pushButtons, at);
+    _keyer.setPaddle(_dit, _dah, at);
     handOn();
 }
 

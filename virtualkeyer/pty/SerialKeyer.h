@@ -35,6 +35,29 @@ class SerialKeyer {
     /// The paddle's contacts are closed or open from `at` on.
     void setPaddle(bool dit, bool dah, Time at);
 
+    /// The speed pot stands at `wpm` from `at` on.
+    void setPot(int wpm, Time at);
+
+    /// The push-buttons held down from `at` on: bits 0, 1, 2 and 4.
+    void setPushButtons(std::uint8_t mask, Time at);
+
+    /// Somebody at the keyer has message `number` (1 to 6) of its memory keyed.
+    void playMessage(int number, Time at);
+
+    /// From `at` on the keyer is of another kind, as Keyer::setProfile() has it.
+    void setProfile(const Profile& profile, Time at);
+
+    /// The adapter, which gives the keyer its power, is pulled: what was on the line is lost, and
+    /// the keyer does nothing until plugIn(). Paddle, knob and buttons stay as they are held.
+    void pull(Time at);
+    /// The keyer has power again, and starts as it did in the beginning, but for its memory.
+    void plugIn(Time at);
+    /// True from the beginning.
+    [[nodiscard]] bool isPluggedIn() const { return _isPluggedIn; }
+
+    /// The keyer itself, to be looked at.
+    [[nodiscard]] const Keyer& keyer() const { return _keyer; }
+
     /// Lets time pass until `until`.
     void advance(Time until);
 
@@ -54,6 +77,10 @@ class SerialKeyer {
     PacedLine _fromHost{initialBaud};
     PacedLine _toHost{initialBaud};
     std::vector<std::uint8_t> _arrived;
+    bool _isPluggedIn = true;
+    bool _dit = false;
+    bool _dah = false;
+    std::uint8_t _pushButtons = 0;
 };
 
 } // namespace virtualkeyer

@@ -438,6 +438,12 @@ void VirtualKeyerProgramTest::badOptionsAreRefused_data() {
                          "slash, and does not begin with a dot."_s;
     row("a name with a slash", {u"--link"_s, u"../keyer"_s}, name.arg(u"../keyer"_s));
     row("an empty name", {u"--link="_s}, name.arg(QString()));
+    row("a script without a name", {u"--script="_s}, u"The script needs a file name."_s);
+    row("a script that is missing", {u"--script"_s, u"/nowhere/at/all"_s},
+        u"cannot read the script /nowhere/at/all: No such file or directory"_s);
+    row("fast time without a script", {u"--fast"_s}, u"Only a script can be fast."_s);
+    row("two for standard input", {u"--paddle"_s, u"--script"_s, u"-"_s},
+        u"Standard input is either the script or the paddle."_s);
     row("a transcript without a name", {u"--transcript="_s},
         u"The transcript needs a file name."_s);
     row("registers without a name", {u"--registers="_s}, u"The registers need a file name."_s);

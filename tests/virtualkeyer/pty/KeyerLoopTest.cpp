@@ -3,6 +3,7 @@
 #include "tests/support/RegisteredTest.h"
 
 #include <QElapsedTimer>
+#include <QTemporaryDir>
 #include <QTest>
 
 #include <fcntl.h>
@@ -16,8 +17,8 @@ using virtualkeyer::Event;
 using virtualkeyer::FileDescriptor;
 using virtualkeyer::KeyerListener;
 using virtualkeyer::KeyerLoop;
+using virtualkeyer::KeyerPort;
 using virtualkeyer::Profile;
-using virtualkeyer::PseudoTerminal;
 using virtualkeyer::Registers;
 using virtualkeyer::SerialKeyer;
 
@@ -29,7 +30,7 @@ class RunningKeyer {
     explicit RunningKeyer(const std::vector<KeyerListener*>& listeners = {})
         : _stop(::eventfd(0, EFD_CLOEXEC)),
           _keyer(Profile{}, listeners),
-          _loop(_keyer, _terminal),
+          _loop(_keyer, _port),
           _end(std::async(std::launch::async, [this] { _loop.run(_stop.number()); })) {}
     ~RunningKeyer() {
         if (_end.valid()) {
@@ -39,7 +40,7 @@ class RunningKeyer {
 
     [[nodiscard]] FileDescriptor openPort() const {
         return FileDescriptor(
-            ::open(_terminal.slavePath().c_str(), O_RDWR | O_NOCTTY | O_CLOEXEC | O_NONBLOCK));
+            ::open(_port.path().c_str(), O_RDWR | O_NOCTTY | O_CLOEXEC | O_NONBLOCK));
     }
     void stop() {
         const std::uint64_t one = 1;
@@ -53,7 +54,8 @@ class RunningKeyer {
 
   private:
     FileDescriptor _stop;
-    PseudoTerminal _terminal;
+    QTemporaryDir _runtime;
+    KeyerPort _port{_runtime.path().toStdString(), "keyer"};
     SerialKeyer _keyer;
     KeyerLoop _loop;
     std::future<void> _end;
@@ -150,9 +152,10 @@ void KeyerLoopTest::aListenersFailureEndsTheLoop() {
 
 void KeyerLoopTest::aStopRequestBeforeTheStartEndsItAtOnce() {
     const FileDescriptor stop(::eventfd(1, EFD_CLOEXEC));
-    PseudoTerminal terminal;
+    const QTemporaryDir runtime;
+    KeyerPort port(runtime.path().toStdString(), "keyer");
     SerialKeyer keyer(Profile{}, {});
-    KeyerLoop(keyer, terminal).run(stop.number());
+    KeyerLoop(keyer, port).run(stop.number());
     std::uint64_t value = 0;
     QCOMPARE(::read(stop.number(), &value, sizeof value), 8);
 }
