@@ -71,6 +71,9 @@ struct Options {
         u"paddle"_s,
         CommandLine::tr("Standard input works the paddle: \".\" and \"-\" each close a "
                         "contact, and anything else opens both.")};
+    QCommandLineOption wav{u"wav"_s,
+                           CommandLine::tr("Saves the sidetone to %1, a WAV file.").arg(u"FILE"_s),
+                           u"FILE"_s};
     QCommandLineOption script{
         u"script"_s,
         CommandLine::tr("Works the keyer as %1 says, \"-\" for standard input, and ends with it; "
@@ -132,6 +135,10 @@ QString readValues(const QCommandLineParser& parser, const Options& options, Com
     if (parser.isSet(options.registers) && result.registersPath.isEmpty()) {
         return CommandLine::tr("The registers need a file name.");
     }
+    result.wavPath = parser.value(options.wav);
+    if (parser.isSet(options.wav) && result.wavPath.isEmpty()) {
+        return CommandLine::tr("The sound needs a file name.");
+    }
     result.profile = profileNamed(profileNames.toStdString()).value();
     result.profile.potWpm = speed;
     return readScript(parser, options, result);
@@ -148,8 +155,8 @@ CommandLine CommandLine::parse(const QStringList& arguments) {
     const QCommandLineOption help({u"h"_s, u"help"_s}, tr("Shows this text."));
     const QCommandLineOption version({u"v"_s, u"version"_s}, tr("Shows the version."));
     parser.addOptions({help, version, options.headless, options.transcript, options.registers,
-                       options.speed, options.profile, options.paddle, options.script, options.fast,
-                       options.link});
+                       options.speed, options.profile, options.paddle, options.wav, options.script,
+                       options.fast, options.link});
 
     CommandLine result;
     if (!parser.parse(arguments)) {

@@ -27,6 +27,8 @@ struct CommandLine {
     QString transcriptPath;
     /// Empty for no file of registers.
     QString registersPath;
+    /// Empty for no sound.
+    QString wavPath;
     /// Empty for no script, "-" for standard input.
     QString scriptPath;
     /// Whether the script's time passes as fast as it can, without a port.

@@ -43,6 +43,7 @@ Session::Session(const CommandLine& commandLine)
     : _commandLine(commandLine), _listeners{&_printer} {
     writeTo(commandLine.transcriptPath, _transcript, _listeners);
     writeTo(commandLine.registersPath, _registers, _listeners);
+    writeTo(commandLine.wavPath, _wav, _listeners);
     if (commandLine.isPaddled) {
         _operators.push_back(&_paddle.emplace(STDIN_FILENO));
     }
@@ -82,6 +83,13 @@ void Session::openScript() {
 }
 
 void Session::run(int stopDescriptor) {
+    runKeyer(stopDescriptor);
+    if (_wav) {
+        _wav->finish();
+    }
+}
+
+void Session::runKeyer(int stopDescriptor) {
     if (!_commandLine.isFast) {
         return runInRealTime(stopDescriptor);
     }

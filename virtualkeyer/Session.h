@@ -10,6 +10,7 @@
 #include "virtualkeyer/pty/TypedPaddle.h"
 #include "virtualkeyer/script/ScriptPlayer.h"
 #include "virtualkeyer/script/ScriptReader.h"
+#include "virtualkeyer/sidetone/WavWriter.h"
 
 #include <optional>
 #include <vector>
@@ -45,6 +46,7 @@ class Session {
 
   private:
     void openScript();
+    void runKeyer(int stopDescriptor);
     void runInRealTime(int stopDescriptor);
     void tellWhere(const std::string& path) const;
 
@@ -54,6 +56,7 @@ class Session {
     TextPrinter _printer;
     std::optional<TranscriptWriter> _transcript;
     std::optional<RegisterWriter> _registers;
+    std::optional<WavWriter> _wav;
     std::optional<TypedPaddle> _paddle;
     FileDescriptor _scriptFile;
     std::optional<ScriptPlayer> _script;

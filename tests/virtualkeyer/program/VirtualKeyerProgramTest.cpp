@@ -441,6 +441,9 @@ void VirtualKeyerProgramTest::badOptionsAreRefused_data() {
     row("a script without a name", {u"--script="_s}, u"The script needs a file name."_s);
     row("a script that is missing", {u"--script"_s, u"/nowhere/at/all"_s},
         u"cannot read the script /nowhere/at/all: No such file or directory"_s);
+    row("a sound without a name", {u"--wav="_s}, u"The sound needs a file name."_s);
+    row("a sound that is a directory", {u"--wav"_s, u"/"_s},
+        u"cannot write the sound /: Is a directory"_s);
     row("fast time without a script", {u"--fast"_s}, u"Only a script can be fast."_s);
     row("two for standard input", {u"--paddle"_s, u"--script"_s, u"-"_s},
         u"Standard input is either the script or the paddle."_s);
