@@ -24,6 +24,9 @@ inline constexpr QLatin1StringView AcceptLoggers{"AcceptLoggers"};
 /// The UDP port on which they are heard.
 inline constexpr Setting LoggerPort{QLatin1StringView{"LoggerPort"}, 6789, {}, Range{1024, 65535}};
 
+/// How many plain characters may be with the keyer beyond its echo, for a keyer far away.
+inline constexpr Setting CharactersAhead{QLatin1StringView{"CharactersAhead"}, 1, {}, Range{1, 8}};
+
 /// What WKPortName holds while no port is chosen.
 inline constexpr QLatin1StringView noPortName{QT_TRANSLATE_NOOP("Setting", "None")};
 
@@ -33,4 +36,5 @@ inline constexpr auto generalSettings = std::to_array<Setting>({
     TuneLimit,
     {AcceptLoggers, false},
     LoggerPort,
+    CharactersAhead,
 });

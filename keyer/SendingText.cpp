@@ -35,16 +35,23 @@ void SendingText::acknowledge() {
     }
 }
 
+void SendingText::keepInFlight(qsizetype place) {
+    _inFlightIndex = std::min(place, _index);
+}
+
 void SendingText::takeBack() {
     endCallsign();
     _index = _inFlightIndex;
 }
 
+std::optional<char> SendingText::peek() const {
+    return _index < _text.size() ? std::optional(byteOf(_text.at(_index))) : std::nullopt;
+}
+
 std::optional<char> SendingText::next() {
-    if (_index >= _text.size()) {
-        return std::nullopt;
-    }
-    return byteOf(_text.at(_index++));
+    const auto character = peek();
+    _index += character ? 1 : 0;
+    return character;
 }
 
 std::optional<std::pair<char, char>> SendingText::nextTwo() {

@@ -29,10 +29,14 @@ class SendingText {
     [[nodiscard]] bool hasUnsent() const { return _inFlightIndex < _text.size(); }
     /// What has been taken is told to be sent. Within a call sign nothing is, until its end.
     void acknowledge();
+    /// What has been taken from `place` on is still to be told to be sent.
+    void keepInFlight(qsizetype place);
     /// What has been taken and not acknowledged is to be taken once more, a call sign from its
     /// beginning.
     void takeBack();
 
+    /// The next character, in upper case, which is not taken yet; nothing at the end.
+    [[nodiscard]] std::optional<char> peek() const;
     /// The next character, in upper case; nothing at the end.
     [[nodiscard]] std::optional<char> next();
     /// The next two; nothing, and nothing is taken, where only one is left.

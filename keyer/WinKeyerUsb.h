@@ -1,6 +1,7 @@
 #pragma once
 
 #include "keyer/CharacterSet.h"
+#include "keyer/CharactersOnTheirWay.h"
 #include "keyer/KeyerActivity.h"
 #include "keyer/KeyerMemory.h"
 #include "keyer/SendingText.h"
@@ -16,14 +17,15 @@
 
 #include <memory>
 #include <optional>
+#include <utility>
 
 /// The keyer engine: the one object that owns the link to the keyer, and everything that is sent
 /// over it and read from it.
 ///
-/// Its concerns stand in files of their own: connection, receive path, sending, output, keyboard,
-/// modes, memory.
-/// All sending is paced by the keyer: one plain character is on its way, and its echo lets the
-/// next one go. Main thread only.
+/// Its concerns stand in files of their own: connection, receive path, sending, progress, output,
+/// keyboard, modes, memory.
+/// All sending is paced by the keyer: one plain character is on its way, or as many as the operator
+/// allows for a keyer far away, and the echo lets the next one go. Main thread only.
 class WinKeyerUsb final : public QObject, public ORSSerialPortDelegate {
     Q_OBJECT
     Q_PROPERTY(QString speedString READ speedString NOTIFY speedStringChanged)
@@ -133,9 +135,11 @@ class WinKeyerUsb final : public QObject, public ORSSerialPortDelegate {
     /// Sends the next character of the text, with the control sequences before it.
     void send();
     /// Whether text is being handed to the keyer: neither exhausted nor held back.
-    [[nodiscard]] bool isSending() const { return _sendingState && _pauseState == 0; }
+    [[nodiscard]] bool isSending() const {
+        return (_sendingState || _onTheirWay.holdCommandsBack()) && _pauseState == 0;
+    }
     /// Whether a character is on its way to the keyer, which has not told that it is sent.
-    [[nodiscard]] bool isAwaitingEcho() const { return _isAwaitingEcho; }
+    [[nodiscard]] bool isAwaitingEcho() const { return _onTheirWay.areAwaited(); }
     /// Forgets all text, sent or not, and switches the beacon off.
     void clearSending();
     /// Empties the keyer's buffer and forgets all text.
@@ -251,6 +255,8 @@ class WinKeyerUsb final : public QObject, public ORSSerialPortDelegate {
     void reopeningFailed();
     /// A byte has come from the keyer, and has been handled.
     void heard();
+    /// The keyer is idle and says nothing more: what was on its way counts as keyed.
+    void countedAsKeyed();
     /// Text, or a change of speed within it, is about to be written.
     void willSend();
     /// The keyer was told to go back to a speed that is not set by the computer.
@@ -302,6 +308,17 @@ class WinKeyerUsb final : public QObject, public ORSSerialPortDelegate {
     void handleByte(std::uint8_t byte);
     void handleStatus(std::uint8_t status);
     void handleIdle();
+    void handleBreakIn();
+    void takeEcho(std::uint8_t echo);
+
+    void followEchoes();
+    void tellSentCall();
+    void endCallsign();
+    void takeBackUnheard();
+    void forgetOnTheirWay();
+    void awaitSilence();
+    void endSilence();
+    void countAsKeyed();
 
     void beginMemoryLoad();
     void endMemoryLoad();
@@ -318,7 +335,7 @@ class WinKeyerUsb final : public QObject, public ORSSerialPortDelegate {
     [[nodiscard]] Step mergeLetters();
     void sendText(const QByteArray& bytes);
     [[nodiscard]] Step sendPlain(char character);
-    void takeBackUnheard();
+    [[nodiscard]] bool isNextHeldBack() const;
     [[nodiscard]] qint64 hscwSpeed() const;
     void noteHighSpeed(qint64 speed);
 
@@ -344,7 +361,12 @@ class WinKeyerUsb final : public QObject, public ORSSerialPortDelegate {
     SendingText _text;
     bool _sendingState = false;
     bool _sendIsDue = false;
-    bool _isAwaitingEcho = false;
+    CharactersOnTheirWay _onTheirWay;
+    /// Where in the text begins what is sent with the next plain character.
+    qsizetype _unitBegin = 0;
+    /// A call sign that is not yet keyed as a whole, and the place of its sign.
+    std::optional<std::pair<qsizetype, QString>> _sentCall;
+    std::shared_ptr<Timer> _silenceTimer;
     int _runLimit = 0;
     Clock::Duration _runIsOut{0};
     std::shared_ptr<Timer> _runTimer;

@@ -173,6 +173,7 @@ bool WinKeyerUsb::echoTest(Error* error) {
 }
 
 bool WinKeyerUsb::openHostMode(Error* error) {
+    forgetOnTheirWay();
     beginHostMode();
     if (hostOpen(error) && setWK2Mode(error)) {
         completeHostMode();

@@ -44,12 +44,14 @@ void WinKeyerUsb::textDidEndEditing(const QObject*) {}
 void WinKeyerUsb::textDidChange() {
     if (_text.text().isEmpty()) {
         _text.restrictToText();
+        _onTheirWay.restrictPlaces(0);
         Q_EMIT sendingProgressed();
         return;
     }
     const auto typed = filtered(_text.text().toUpper(), morseKeyboardCharacterSet());
     setKeyboardBuffer(sendable(substituteTokens(typed)));
     _text.restrictToText();
+    _onTheirWay.restrictPlaces(_text.index());
     Q_EMIT sendingProgressed();
     if (pauseState() == 0 && !_sendingState) {
         send();

@@ -60,5 +60,8 @@ void WinKeyerUsb::setPauseState(int state) {
     }
     if (_pauseState == 0) {
         send();
+        awaitSilence();
+    } else {
+        endSilence();
     }
 }

@@ -53,8 +53,7 @@ void WinKeyerUsb::handleByte(std::uint8_t byte) {
         handleStatus(byte);
         break;
     case ReceivedByte::Echo:
-        _isAwaitingEcho = false;
-        send();
+        takeEcho(byte);
         break;
     }
     Q_EMIT heard();
@@ -67,16 +66,21 @@ void WinKeyerUsb::handleStatus(std::uint8_t status) {
         return;
     }
     _lastStatus = status;
-    _mayBeKeying = (status & KeyerStatus::anything) != 0;
+    endSilence();
+    const bool isIdle = (status & KeyerStatus::anything) == 0;
+    if (isIdle && _onTheirWay.isOneAtATime()) {
+        _onTheirWay.clear();
+    }
+    _mayBeKeying = !isIdle || _onTheirWay.areAwaited();
     _isKeyerPlaying = _isKeyerPlaying && _mayBeKeying;
-    if ((status & KeyerStatus::anything) == 0) {
+    if (isIdle) {
         handleIdle();
     }
     if ((status & KeyerStatus::bufferNearlyFull) != 0) {
         setPauseState(1);
     }
     if ((status & KeyerStatus::breakIn) != 0) {
-        clearSending();
+        handleBreakIn();
     }
     if ((status & KeyerStatus::busy) != 0 && beaconState() != 0 && _beaconTimer) {
         _beaconTimer->invalidate();
@@ -102,7 +106,6 @@ void WinKeyerUsb::announceActivity() {
 }
 
 void WinKeyerUsb::handleIdle() {
-    _isAwaitingEcho = false;
     if (pauseState() != 0) {
         setPauseState(0);
     }
@@ -117,6 +120,7 @@ void WinKeyerUsb::handleIdle() {
         _beaconTimer = clock.scheduleTimer(rest, this, [this] { repeatMessage(); });
     }
     send();
+    awaitSilence();
 }
 
 std::optional<Clock::Duration> WinKeyerUsb::beaconDue() const {

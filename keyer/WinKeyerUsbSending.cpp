@@ -12,6 +12,8 @@
 #include "platform/Platform.h"
 
 #include <algorithm>
+#include <string_view>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -24,6 +26,10 @@ struct ButtonBit {
 };
 
 constexpr auto buttonBits = std::to_array<ButtonBit>({{0x01, 0}, {0x02, 1}, {0x04, 2}, {0x10, 3}});
+
+/// What acts in the keyer behind the text before it, or is read when its turn comes. A half space
+/// is text.
+constexpr std::string_view commandSigns = "%^{~";
 
 constexpr auto callToken = u'`';
 constexpr auto numberToken = u'#';
@@ -91,7 +97,7 @@ void WinKeyerUsb::send() {
     if (isRunUnderWay()) {
         return; // it goes on by itself, up to the next character
     }
-    _text.acknowledge();
+    followEchoes();
     _runIsOut = {};
     continueRun();
 }
@@ -126,18 +132,31 @@ WinKeyerUsb::Step WinKeyerUsb::sendNext() {
         _sendIsDue = true;
         return Step::WaitForEcho;
     }
+    if (!_onTheirWay.hasRoom()) {
+        return Step::WaitForEcho;
+    }
     if (_text.isReadingCallsign()) {
         return sendNextOfHisCallsign();
+    }
+    if (isNextHeldBack()) {
+        _sendingState = true;
+        return Step::WaitForEcho;
     }
     const auto character = _text.next();
     _sendingState = character.has_value();
     return character ? sendCharacter(*character) : Step::WaitForEcho;
 }
 
+bool WinKeyerUsb::isNextHeldBack() const {
+    const auto next = _text.peek();
+    return next && commandSigns.find(*next) != std::string_view::npos &&
+           _onTheirWay.holdCommandsBack();
+}
+
 WinKeyerUsb::Step WinKeyerUsb::sendNextOfHisCallsign() {
     const auto character = _text.nextOfCallsign();
     if (!character) {
-        Q_EMIT callsignSent(_text.index() - 1, _text.takenOfCallsign());
+        endCallsign();
         return Step::GoOn;
     }
     _sendingState = true;
@@ -164,18 +183,15 @@ WinKeyerUsb::Step WinKeyerUsb::sendCharacter(char character) {
 }
 
 WinKeyerUsb::Step WinKeyerUsb::sendPlain(char character) {
-    _isAwaitingEcho = true;
-    sendText(QByteArray(1, character));
-    return Step::WaitForEcho;
-}
-
-void WinKeyerUsb::takeBackUnheard() {
-    if (_isAwaitingEcho) {
-        _text.takeBack();
-        _isAwaitingEcho = false;
-        _sendingState = false;
-        Q_EMIT sendingProgressed();
+    _onTheirWay.addPlain(character, _unitBegin);
+    if (!_text.isReadingCallsign()) {
+        _unitBegin = _text.index();
     }
+    if (_silenceTimer) {
+        awaitSilence();
+    }
+    sendText(QByteArray(1, character));
+    return _onTheirWay.isOneAtATime() ? Step::WaitForEcho : Step::GoOn;
 }
 
 WinKeyerUsb::Step WinKeyerUsb::beginHSCW() {
@@ -204,6 +220,8 @@ WinKeyerUsb::Step WinKeyerUsb::mergeLetters() {
         // sends what then follows it as plain characters.
         return Step::WaitForEcho;
     }
+    _onTheirWay.addJoined(letters->first, _unitBegin);
+    _onTheirWay.addJoined(letters->second, _unitBegin);
     sendText(KeyerCommand::mergeLetters(letters->first, letters->second));
     return Step::GoOn;
 }
@@ -227,7 +245,9 @@ void WinKeyerUsb::clearSending() {
     _text.rewind();
     _sendingState = false;
     _sendIsDue = false;
-    _isAwaitingEcho = false;
+    _onTheirWay.abandon();
+    _sentCall.reset();
+    endSilence();
     if (_runTimer) {
         _runTimer->invalidate();
     }

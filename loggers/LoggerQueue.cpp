@@ -27,6 +27,7 @@ LoggerQueue::LoggerQueue(WinKeyerUsb& engine, ChosenSpeed& speed, QObject* paren
     : QObject(parent), _engine(engine), _speed(speed), _engineText(engine.keyboardBuffer()) {
     _tuneSwitch.setProperty("state", 1);
     QObject::connect(&_engine, &WinKeyerUsb::heard, this, &LoggerQueue::advance);
+    QObject::connect(&_engine, &WinKeyerUsb::countedAsKeyed, this, &LoggerQueue::advance);
     QObject::connect(&_engine, &WinKeyerUsb::keyboardBufferChanged, this, &LoggerQueue::followText);
     QObject::connect(&_engine, &WinKeyerUsb::tuneStateChanged, this, &LoggerQueue::followTune);
     QObject::connect(&_engine, &WinKeyerUsb::activityChanged, this, &LoggerQueue::followKeyer);

@@ -80,6 +80,7 @@ const QList<std::pair<const char*, QVariant>>& expectedDefaults() {
         {"TuneLimit", u"Off"_s},
         {"AcceptLoggers", false},
         {"LoggerPort", 6789},
+        {"CharactersAhead", 1},
     };
     return all;
 }

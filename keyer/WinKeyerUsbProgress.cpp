@@ -1,0 +1,101 @@
+// How much of the text is keyed: what the keyer's answers say of the characters on their way to it.
+
+#include "keyer/GeneralSettings.h"
+#include "keyer/KeyerCommand.h"
+#include "keyer/ReceivedByte.h"
+#include "keyer/WinKeyerUsb.h"
+#include "platform/Platform.h"
+
+#include <utility>
+
+namespace {
+
+/// There and back, and the keyer's lead-in: what it was given before it fell silent for so long, it
+/// has begun to key.
+constexpr Clock::Duration longestAnswer = std::chrono::seconds(2);
+
+} // namespace
+
+/// Takes note of what is keyed by now.
+void WinKeyerUsb::followEchoes() {
+    _onTheirWay.setLimit(SettingsStore::standardUserDefaults().integerForKey(CharactersAhead.key));
+    const auto oldest = _onTheirWay.isOneAtATime() ? std::nullopt : _onTheirWay.oldestPlace();
+    if (oldest) {
+        _text.keepInFlight(*oldest);
+    } else {
+        _text.acknowledge();
+        _unitBegin = _text.inFlightIndex();
+    }
+    if (_sentCall && oldest.value_or(_text.index()) > _sentCall->first) {
+        tellSentCall();
+    }
+}
+
+void WinKeyerUsb::tellSentCall() {
+    if (const auto sent = std::exchange(_sentCall, std::nullopt)) {
+        Q_EMIT callsignSent(sent->first, sent->second);
+    }
+}
+
+/// The last letters of it may be on their way yet.
+void WinKeyerUsb::endCallsign() {
+    tellSentCall();
+    _sentCall.emplace(_text.index() - 1, _text.takenOfCallsign());
+    _unitBegin = _text.index();
+    followEchoes();
+}
+
+void WinKeyerUsb::takeBackUnheard() {
+    if (isAwaitingEcho()) {
+        _text.takeBack();
+        forgetOnTheirWay();
+        _sendingState = false;
+        Q_EMIT sendingProgressed();
+    }
+}
+
+void WinKeyerUsb::forgetOnTheirWay() {
+    _onTheirWay.clear();
+    _sentCall.reset();
+    endSilence();
+}
+
+void WinKeyerUsb::takeEcho(std::uint8_t echo) {
+    _onTheirWay.takeEcho(echo);
+    send();
+    awaitSilence();
+}
+
+/// A paddle far away may be at rest again before the keyer hears that it is to drop what it was
+/// given meanwhile: that would be keyed behind it.
+void WinKeyerUsb::handleBreakIn() {
+    if (_onTheirWay.holdCommandsBack()) {
+        putToWinKeyer(KeyerCommand::clearBuffer());
+    }
+    clearSending();
+}
+
+/// What a keyer far away tells of being idle may be older than what is on its way to it. Only when
+/// nothing comes behind it were echoes lost.
+void WinKeyerUsb::awaitSilence() {
+    endSilence();
+    const bool isIdle = _lastStatus && (*_lastStatus & KeyerStatus::anything) == 0;
+    if (isIdle && !_onTheirWay.isOneAtATime() && _onTheirWay.oldestPlace()) {
+        _silenceTimer = Platform::current().clock().scheduleTimer(longestAnswer, this,
+                                                                  [this] { countAsKeyed(); });
+    }
+}
+
+void WinKeyerUsb::endSilence() {
+    if (_silenceTimer) {
+        std::exchange(_silenceTimer, nullptr)->invalidate();
+    }
+}
+
+void WinKeyerUsb::countAsKeyed() {
+    _onTheirWay.clear();
+    _silenceTimer.reset();
+    _mayBeKeying = false;
+    send();
+    Q_EMIT countedAsKeyed();
+}
