@@ -60,8 +60,6 @@ void WinKeyerUsb::setPauseState(int state) {
     }
     if (_pauseState == 0) {
         send();
-        awaitSilence();
-    } else {
-        endSilence();
     }
+    awaitSilence();
 }

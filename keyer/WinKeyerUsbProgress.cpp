@@ -76,11 +76,12 @@ void WinKeyerUsb::handleBreakIn() {
 }
 
 /// What a keyer far away tells of being idle may be older than what is on its way to it. Only when
-/// nothing comes behind it were echoes lost.
+/// nothing comes behind it were echoes lost. A keyer that is paused says nothing in any case.
 void WinKeyerUsb::awaitSilence() {
     endSilence();
-    const bool isIdle = _lastStatus && (*_lastStatus & KeyerStatus::anything) == 0;
-    if (isIdle && !_onTheirWay.isOneAtATime() && _onTheirWay.oldestPlace()) {
+    const bool isIdle = (_lastStatus.value_or(0) & KeyerStatus::anything) == 0;
+    const bool isOpen = _mayBeKeying || _onTheirWay.oldestPlace();
+    if (isIdle && isOpen && _pauseState == 0 && !_onTheirWay.isOneAtATime()) {
         _silenceTimer = Platform::current().clock().scheduleTimer(longestAnswer, this,
                                                                   [this] { countAsKeyed(); });
     }

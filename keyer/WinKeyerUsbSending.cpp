@@ -247,7 +247,7 @@ void WinKeyerUsb::clearSending() {
     _sendIsDue = false;
     _onTheirWay.abandon();
     _sentCall.reset();
-    endSilence();
+    awaitSilence();
     if (_runTimer) {
         _runTimer->invalidate();
     }

@@ -36,6 +36,8 @@ class WinKeyerUsbAheadTest : public QObject {
     void anIdleReportIsOlderThanWhatIsOnItsWay();
     void echoesThatWereLostEndWithTheKeyersSilence();
     void aPauseIsNoSilence();
+    void anEchoWhilePausedIsNoSilenceEither();
+    void aStopAtRestIsOverWithTheKeyersSilence();
     void answersToTheGreetingAreNoEchoes();
     void unheardTextIsSentOnceMore();
     void aNewLinkHasNothingOnItsWay();
@@ -288,6 +290,29 @@ void WinKeyerUsbAheadTest::aPauseIsNoSilence() {
     engine().setPauseState(0);
     _bench->clock().advance(2s);
     QCOMPARE(flight(), Flight(3, 5));
+}
+
+/// The letter that a stop found under way is echoed behind the report that it has been done.
+void WinKeyerUsbAheadTest::anEchoWhilePausedIsNoSilenceEither() {
+    engine().appendMessage(u"5NN"_s);
+    engine().stopMessageSending(nullptr);
+    engine().appendMessage(u"K"_s);
+    _bench->receive({0xC4});
+    _bench->receive({0xC0});
+    engine().setPauseState(1);
+    _bench->receive({'5'});
+    _bench->clock().advance(1h);
+    QCOMPARE(flight(), Flight(0, 1));
+    QVERIFY(engine().mayBeKeying());
+}
+
+/// A keyer that was not yet keying answers a Clear Buffer with nothing.
+void WinKeyerUsbAheadTest::aStopAtRestIsOverWithTheKeyersSilence() {
+    engine().appendMessage(u"CQ"_s);
+    engine().stopMessageSending(nullptr);
+    QVERIFY(engine().mayBeKeying());
+    _bench->clock().advance(2s);
+    QVERIFY(!engine().mayBeKeying());
 }
 
 void WinKeyerUsbAheadTest::answersToTheGreetingAreNoEchoes() {
