@@ -4,7 +4,7 @@
 
 #include <QCheckBox>
 
-/// A setting that is on or off.
+/// A setting that is on or off. A box that is neither stands for off, and acts as such.
 class BoundCheckBox final : public BoundControl {
     Q_OBJECT
   public:
@@ -14,5 +14,9 @@ class BoundCheckBox final : public BoundControl {
     void showStored() override;
 
   private:
+    void takeState();
+    [[nodiscard]] bool isStoredOn() const;
+    [[nodiscard]] bool isOn() const { return _box.checkState() == Qt::Checked; }
+
     QCheckBox& _box;
 };
