@@ -27,6 +27,7 @@ Shell::Shell(WinKeyerUsb& engine, DesktopApplication& alerts, SettingsStore& set
       _keyingRecord(engine, KeyingRecord::standardPath()),
       _window(engine),
       _loggerQueue(engine, _window.speed()),
+      _windowWatch(_window),
       _loggerSocket(_loggerQueue, settings),
       _preferences(engine),
       _portCheck(engine, _window),
@@ -95,6 +96,9 @@ void Shell::connectLoggers() {
     const auto show = [this] { _window.showLoggers(_loggerSocket.notice()); };
     QObject::connect(&_loggerSocket, &LoggerSocket::noticeChanged, &_window, show);
     show();
+    _loggerQueue.setWatched(_window.isVisible());
+    QObject::connect(&_windowWatch, &WindowWatch::visibleChanged, &_loggerQueue,
+                     &LoggerQueue::setWatched);
     // What they sent on the way out would be keyed by a program that nobody sees any more.
     QObject::connect(&_termination, &Termination::begun, &_loggerSocket, &LoggerSocket::close);
 }

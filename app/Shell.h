@@ -12,6 +12,7 @@
 #include "app/TerminationSignals.h"
 #include "app/TypingWatch.h"
 #include "app/VirtualKeyer.h"
+#include "app/WindowWatch.h"
 #include "app/window/MainWindow.h"
 #include "loggers/LoggerQueue.h"
 #include "loggers/LoggerSocket.h"
@@ -57,6 +58,7 @@ class Shell final {
     KeyingRecord _keyingRecord;
     MainWindow _window;
     LoggerQueue _loggerQueue;
+    WindowWatch _windowWatch;
     LoggerSocket _loggerSocket;
     PreferencesController _preferences;
     PortCheck _portCheck;

@@ -155,7 +155,7 @@ QList<QByteArray> LoggerQueue::takeAskedBy(const LoggerAddress& from) {
 }
 
 bool LoggerQueue::mayTake() const {
-    if (isHeldBack() || (_engine.tuneState() != 0 && !isTuning())) {
+    if (!_isWatched || isHeldBack() || (_engine.tuneState() != 0 && !isTuning())) {
         return false;
     }
     switch (_engine.activity()) {
@@ -354,6 +354,13 @@ void LoggerQueue::followPause() {
     _isKeyersPause = _engine.pauseState() != 0 && _engine.activity() == KeyerActivity::BufferFull;
     if (isHeldBack()) {
         dropWaiting();
+    }
+}
+
+void LoggerQueue::setWatched(bool isWatched) {
+    _isWatched = isWatched;
+    if (!isWatched) {
+        stop();
     }
 }
 

@@ -19,9 +19,9 @@ class WinKeyerUsb;
 ///
 /// A logger's text is handed to the engine only when all that the operator has sent is keyed, one
 /// at a time. Whatever stops the sending drops them all, as does the paddle. While no keyer is
-/// there, the operator has it paused or tunes, or uses the paddle, text is not taken, nor kept for
-/// later, and neither is what comes faster than any logger sends. Whoever has asked for a reply
-/// gets it when the text has been keyed, or is told "break". Main thread only.
+/// there, nobody watches, the operator has it paused or tunes, or uses the paddle, text is not
+/// taken, nor kept for later, and neither is what comes faster than any logger sends. Whoever has
+/// asked for a reply gets it when the text has been keyed, or is told "break". Main thread only.
 class LoggerQueue final : public QObject {
     Q_OBJECT
   public:
@@ -33,6 +33,9 @@ class LoggerQueue final : public QObject {
     ~LoggerQueue() override;
 
     void take(const LoggerRequest::Request& request, const LoggerAddress& from);
+    /// Whether somebody sees what is sent and has Stop at hand, as at first. Nothing is taken while
+    /// nobody does, and what was taken before is dropped.
+    void setWatched(bool isWatched);
     /// Ends what a logger has being sent, and forgets what waits and what was asked for.
     void reset();
 
@@ -121,6 +124,7 @@ class LoggerQueue final : public QObject {
     std::shared_ptr<Timer> _tuneTimer;
     RequestRate _rate;
     bool _isWordMode = false;
+    bool _isWatched = true;
     /// Whether it is for want of room in its buffer that the keyer is paused.
     bool _isKeyersPause = false;
     /// Whether a logger has changed the keyer's parameters, and the speed that one has asked for.

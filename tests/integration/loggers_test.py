@@ -102,6 +102,26 @@ class LoggersTest(LoggerStationTest):
         self.terminate(keyer, quorvel)
         self.assertEqual(sender.wait(30), NOT_KEYED)
 
+    def test_without_the_main_window_nothing_is_keyed(self):
+        keyer, quorvel, window = self.start_listening()
+        main = self.desktop.xdotool("getactivewindow")
+        self.desktop.press("ctrl+comma")
+        quorvel.wait_for("the preferences", lambda: self.desktop.xdotool(
+            "getactivewindow") not in (main, None))
+        sender = self.sender("--wait", "--speed", "20", "paris " * 20)
+        keyer.wait_for("its begin", lambda: keyer.keyed().startswith("PA"))
+        # As the desktop closes a window that is not the active one.
+        self.assertIsNotNone(self.desktop.xdotool("windowactivate", "--sync", main))
+        self.desktop.press("alt+F4")
+        self.assertEqual(sender.wait(30), NOT_KEYED)
+        quorvel.wait_for("the keyer to be idle", lambda: keyer.answers()[-1] == "C0")
+        keyed = keyer.keyed()
+        self.assertTrue(("PARIS" * 20).startswith(keyed), keyed)
+        self.assertLess(len(keyed), 50)
+        self.assertEqual(self.send("--wait", "e"), NOT_KEYED)
+        self.assertEqual(keyer.keyed(), keyed)
+        self.terminate(keyer, quorvel)
+
     def test_a_flood_holds_up_no_escape(self):
         keyer, quorvel, _ = self.start_listening()
         self.desktop.press("ctrl+t")

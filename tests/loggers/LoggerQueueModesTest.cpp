@@ -29,6 +29,9 @@ class LoggerQueueModesTest : public QObject, private LoggerQueueFixture {
     void nothingIsStored();
     void aFloodIsBounded();
     void theBeaconRepeatsNoLoggersText();
+    void whileNobodyWatchesNothingIsTaken();
+    void whatIsSentEndsWhenNobodyWatchesAnyMore();
+    void tuneLetsGoWhenNobodyWatchesAnyMore();
 };
 
 void LoggerQueueModesTest::speedIsChosen() {
@@ -221,6 +224,41 @@ void LoggerQueueModesTest::theBeaconRepeatsNoLoggersText() {
     static_cast<void>(_bench->written());
     _bench->clock().advance(1min);
     QCOMPARE(_bench->written(), "");
+}
+
+void LoggerQueueModesTest::whileNobodyWatchesNothingIsTaken() {
+    _queue->setWatched(false);
+    take("\x1Bh1");
+    take("cq");
+    QCOMPARE(replies(), QStringList{u"4001 break"_s});
+    take("\x1B"
+         "c5");
+    QCOMPARE(_bench->written(), "");
+    _queue->setWatched(true);
+    _bench->receive({0xC0});
+    QCOMPARE(_bench->written(), "");
+    take("cq");
+    QCOMPARE(_bench->written(), "43");
+}
+
+void LoggerQueueModesTest::whatIsSentEndsWhenNobodyWatchesAnyMore() {
+    take("\x1Bh1");
+    take("cq");
+    take("\x1Bh2", other);
+    take("de", other);
+    QCOMPARE(_bench->written(), "43");
+    _queue->setWatched(false);
+    QCOMPARE(_bench->written(), "0a");
+    QCOMPARE(replies(), (QStringList{u"4001 break"_s, u"4002 break"_s}));
+    QCOMPARE(echo(), "");
+}
+
+void LoggerQueueModesTest::tuneLetsGoWhenNobodyWatchesAnyMore() {
+    take("\x1B"
+         "c5");
+    QCOMPARE(_bench->written(), "0b 01");
+    _queue->setWatched(false);
+    QCOMPARE(_bench->written(), "0b 00");
 }
 
 static const RegisteredTest<LoggerQueueModesTest> registered;
