@@ -1302,6 +1302,18 @@ Die eigenen Optionen des Toolkits wie -platform und -style gelten auch. Die Anle
         <source>The UDP port of this machine on which loggers are heard. Nearly all of them send to 6789.</source>
         <translation>Der UDP-Port dieses Rechners, an dem Logger gehört werden. Fast alle senden an 6789.</translation>
     </message>
+    <message>
+        <source>Characters a&amp;head</source>
+        <translation>Zeichen &amp;voraus</translation>
+    </message>
+    <message>
+        <source>Characters ahead</source>
+        <translation>Zeichen voraus</translation>
+    </message>
+    <message>
+        <source>How many characters may be with the keyer before it has echoed the first. 1 is right for a keyer at this machine; over a network, more keep the spaces exact.</source>
+        <translation>Wie viele Zeichen beim Keyer sein dürfen, bevor er das erste zurückgemeldet hat. 1 ist richtig für einen Keyer an diesem Rechner; über ein Netz halten mehr die Abstände genau.</translation>
+    </message>
 </context>
 <context>
     <name>PreferencesGeneralViewController</name>

@@ -1302,6 +1302,18 @@ También valen las opciones de la biblioteca gráfica, como -platform y -style. 
         <source>The UDP port of this machine on which loggers are heard. Nearly all of them send to 6789.</source>
         <translation>El puerto UDP de este equipo en el que se oye a los programas de log. Casi todos envían a 6789.</translation>
     </message>
+    <message>
+        <source>Characters a&amp;head</source>
+        <translation>&amp;Caracteres por adelantado</translation>
+    </message>
+    <message>
+        <source>Characters ahead</source>
+        <translation>Caracteres por adelantado</translation>
+    </message>
+    <message>
+        <source>How many characters may be with the keyer before it has echoed the first. 1 is right for a keyer at this machine; over a network, more keep the spaces exact.</source>
+        <translation>Cuántos caracteres puede tener el manipulador antes de haber devuelto el primero. 1 es lo correcto para un manipulador en este equipo; por una red, más mantienen exactos los espacios.</translation>
+    </message>
 </context>
 <context>
     <name>PreferencesGeneralViewController</name>

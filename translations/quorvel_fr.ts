@@ -1302,6 +1302,18 @@ Les options de la bibliothèque graphique, comme -platform et -style, sont admis
         <source>The UDP port of this machine on which loggers are heard. Nearly all of them send to 6789.</source>
         <translation>Le port UDP de cette machine où les logiciels de log sont écoutés. Presque tous envoient à 6789.</translation>
     </message>
+    <message>
+        <source>Characters a&amp;head</source>
+        <translation>&amp;Caractères d’avance</translation>
+    </message>
+    <message>
+        <source>Characters ahead</source>
+        <translation>Caractères d’avance</translation>
+    </message>
+    <message>
+        <source>How many characters may be with the keyer before it has echoed the first. 1 is right for a keyer at this machine; over a network, more keep the spaces exact.</source>
+        <translation>Combien de caractères peuvent être chez le manipulateur avant qu’il n’ait renvoyé le premier. 1 convient à un manipulateur branché à cette machine&#xa0;; par un réseau, davantage gardent les espaces exacts.</translation>
+    </message>
 </context>
 <context>
     <name>PreferencesGeneralViewController</name>

@@ -1302,6 +1302,18 @@ Valgono anche le opzioni della libreria grafica, come -platform e -style. La gui
         <source>The UDP port of this machine on which loggers are heard. Nearly all of them send to 6789.</source>
         <translation>La porta UDP di questo computer su cui si ascoltano i programmi di log. Quasi tutti inviano a 6789.</translation>
     </message>
+    <message>
+        <source>Characters a&amp;head</source>
+        <translation>&amp;Caratteri in anticipo</translation>
+    </message>
+    <message>
+        <source>Characters ahead</source>
+        <translation>Caratteri in anticipo</translation>
+    </message>
+    <message>
+        <source>How many characters may be with the keyer before it has echoed the first. 1 is right for a keyer at this machine; over a network, more keep the spaces exact.</source>
+        <translation>Quanti caratteri può avere il keyer prima di aver rimandato il primo. 1 è giusto per un keyer a questo computer; attraverso una rete, di più mantengono esatti gli spazi.</translation>
+    </message>
 </context>
 <context>
     <name>PreferencesGeneralViewController</name>

@@ -1302,6 +1302,18 @@ WinKeyer USB キーヤーを通してモールス符号を送信します。
         <source>The UDP port of this machine on which loggers are heard. Nearly all of them send to 6789.</source>
         <translation>ロガーを受け付ける、このコンピューターの UDP ポート。ほとんどのロガーは 6789 に送ります。</translation>
     </message>
+    <message>
+        <source>Characters a&amp;head</source>
+        <translation>先に送る文字数(&amp;H)</translation>
+    </message>
+    <message>
+        <source>Characters ahead</source>
+        <translation>先に送る文字数</translation>
+    </message>
+    <message>
+        <source>How many characters may be with the keyer before it has echoed the first. 1 is right for a keyer at this machine; over a network, more keep the spaces exact.</source>
+        <translation>キーヤーが最初の 1 文字を返す前に、何文字まで送っておいてよいか。このコンピューターにつないだキーヤーなら 1。ネットワーク越しでは、多くすると間隔が正確に保たれます。</translation>
+    </message>
 </context>
 <context>
     <name>PreferencesGeneralViewController</name>

@@ -2,6 +2,7 @@
 
 #include "keyer/GeneralSettings.h"
 #include "preferences/PreferencesGeneral.h"
+#include "preferences/binding/NumberBox.h"
 #include "tests/keyer/EngineBench.h"
 #include "tests/support/RegisteredTest.h"
 
@@ -76,6 +77,7 @@ class PreferencesGeneralViewControllerTest : public QObject {
     void theOwnCallTakesOnlyCallSigns();
     void theDefaultCallReadsAsItIs();
     void theLimitOfTuneIsChosen();
+    void charactersAheadAreOneToEight();
     void theLinkIsTold();
     void everyControlHasItsLabelsName();
 
@@ -305,6 +307,22 @@ void PreferencesGeneralViewControllerTest::theLimitOfTuneIsChosen() {
     QCOMPARE(stored(TuneLimit.key), u"30 s"_s);
 }
 
+void PreferencesGeneralViewControllerTest::charactersAheadAreOneToEight() {
+    show();
+    auto& box = *_pane->view()->findChild<NumberBox*>(u"charactersAheadBox"_s);
+    QCOMPARE(box.value(), 1.0);
+    box.setFocus();
+    for (int i = 0; i < 9; ++i) {
+        QTest::keyClick(&box, Qt::Key_Up);
+    }
+    QCOMPARE(stored(CharactersAhead.key), u"8"_s);
+    for (int i = 0; i < 9; ++i) {
+        QTest::keyClick(&box, Qt::Key_Down);
+    }
+    QCOMPARE(stored(CharactersAhead.key), u"1"_s);
+    QCOMPARE(_bench->written(), "");
+}
+
 void PreferencesGeneralViewControllerTest::theLinkIsTold() {
     QCOMPARE(link(), u"Not connected"_s);
     _pane->setSerialPortNames({u"None"_s});
@@ -328,7 +346,7 @@ void PreferencesGeneralViewControllerTest::everyControlHasItsLabelsName() {
             ++count;
         }
     }
-    QCOMPARE(count, 4);
+    QCOMPARE(count, 5);
 }
 
 static const RegisteredTest<PreferencesGeneralViewControllerTest> registered;
