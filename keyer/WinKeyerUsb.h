@@ -6,6 +6,7 @@
 #include "keyer/KeyerMemory.h"
 #include "keyer/SendingText.h"
 #include "keyer/SentSettings.h"
+#include "keyer/TextSource.h"
 #include "platform/Clock.h"
 #include "platform/Error.h"
 #include "serial/ORSSerialPort.h"
@@ -150,6 +151,10 @@ class WinKeyerUsb final : public QObject, public ORSSerialPortDelegate {
     /// Whether the keyer may be keying, by what it was given and what it has told since. While tune
     /// is on it may: many a keyer tells nothing of a tune, and is idle by what it says.
     [[nodiscard]] bool mayBeKeying() const { return _mayBeKeying || _tuneState != 0; }
+    /// Who what is being added to the text is from: the operator, at the keyboard, while nobody
+    /// says otherwise. See TextSourceScope.
+    [[nodiscard]] const TextSource& textSource() const { return _textSource; }
+    void setTextSource(const TextSource& source) { _textSource = source; }
     /// The text with "`" replaced by the operator's call sign and "#" by the cut serial number.
     /// Where that would lengthen it beyond all use, both are left out, and the log says so.
     [[nodiscard]] QString substituteTokens(const QString& text) const;
@@ -240,6 +245,9 @@ class WinKeyerUsb final : public QObject, public ORSSerialPortDelegate {
     /// Index of the first character of keyboardBuffer that the keyer has been given and has not
     /// echoed; outputBufferIndex() when there is none.
     [[nodiscard]] qsizetype inFlightIndex() const { return _text.inFlightIndex(); }
+
+    /// What has been handed over of the call sign at the "~" that was come upon last.
+    [[nodiscard]] const QString& takenOfCallsign() const { return _text.takenOfCallsign(); }
 
   Q_SIGNALS:
     /// activity() or serialPortName() is another one now.
@@ -359,6 +367,7 @@ class WinKeyerUsb final : public QObject, public ORSSerialPortDelegate {
     QString _versionString;
 
     SendingText _text;
+    TextSource _textSource;
     bool _sendingState = false;
     bool _sendIsDue = false;
     CharactersOnTheirWay _onTheirWay;

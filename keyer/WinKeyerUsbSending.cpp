@@ -7,6 +7,7 @@
 #include "keyer/LineTime.h"
 #include "keyer/MessageSettings.h"
 #include "keyer/ReceivedByte.h"
+#include "keyer/TextSourceScope.h"
 #include "keyer/WinKeyerUsb.h"
 #include "platform/Log.h"
 #include "platform/Platform.h"
@@ -62,19 +63,23 @@ void WinKeyerUsb::sendMessage(const QObject* sender) {
     const auto text =
         SettingsStore::standardUserDefaults().stringForKey(messageSettings[tag].textKey);
     if (!text.isNull()) {
+        const TextSourceScope source(*this, {TextSource::Kind::Message, static_cast<int>(tag) + 1});
         appendMessage(substituteTokens(text));
     }
 }
 
 void WinKeyerUsb::handleButtonPressed() {
     QString text;
+    TextSource pressed{TextSource::Kind::PushButton};
     for (const auto& button : buttonBits) {
         if ((_wkStatus & button.mask) != 0) {
             text = SettingsStore::standardUserDefaults().stringForKey(
                 messageSettings[button.message].textKey);
+            pressed.number = static_cast<int>(button.message) + 1;
         }
     }
     if (!text.isNull()) {
+        const TextSourceScope source(*this, pressed);
         appendMessage(substituteTokens(text));
     }
 }
@@ -89,6 +94,7 @@ void WinKeyerUsb::appendMessage(const QString& message) {
 
 void WinKeyerUsb::repeatMessage() {
     if (beaconState() != 0 && !_beaconMessage.isNull()) {
+        const TextSourceScope source(*this, {TextSource::Kind::Beacon});
         appendMessage(_beaconMessage);
     }
 }

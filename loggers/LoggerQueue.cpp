@@ -4,6 +4,7 @@
 #include "keyer/KeyerCommand.h"
 #include "keyer/ReceivedByte.h"
 #include "keyer/StoredSettings.h"
+#include "keyer/TextSourceScope.h"
 #include "keyer/WinKeyerUsb.h"
 #include "platform/Platform.h"
 
@@ -272,6 +273,7 @@ void LoggerQueue::handOver(const QString& text) {
                           _lastSender == _current->from;
     {
         const QScopedValueRollback guard(_isHandingOver, true);
+        const TextSourceScope source(_engine, {TextSource::Kind::Logger, _current->from.port});
         _engine.setKeyboardBuffer(before + (isInWord ? u""_s : u" "_s) + text);
     }
     _end = _engine.keyboardBuffer().size();

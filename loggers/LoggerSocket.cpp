@@ -136,6 +136,9 @@ void LoggerSocket::noteSender(const LoggerAddress& logger) {
 }
 
 void LoggerSocket::showSender(const LoggerAddress& logger, const QString& name) {
+    if (!name.isEmpty()) {
+        Q_EMIT senderFound(logger.port, name);
+    }
     if (!isOpen() || _lastSender != logger) {
         return;
     }

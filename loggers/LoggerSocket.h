@@ -36,6 +36,8 @@ class LoggerSocket final : public QObject {
 
   Q_SIGNALS:
     void noticeChanged();
+    /// The name of the program that sends from that port.
+    void senderFound(quint16 port, const QString& name);
 
   private:
     void followSettings(const QString& key);

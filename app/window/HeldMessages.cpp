@@ -3,6 +3,7 @@
 #include "app/keyboard/KeyboardView.h"
 #include "keyer/Action.h"
 #include "keyer/MessageSettings.h"
+#include "keyer/TextSourceScope.h"
 #include "keyer/WinKeyerUsb.h"
 #include "platform/SettingsStore.h"
 
@@ -95,6 +96,8 @@ void HeldMessages::handOver() {
             _view.handOverHeldText(next.textAhead - handedOver);
             handedOver = next.textAhead;
         }
+        const TextSourceScope source(_engine,
+                                     {TextSource::Kind::Message, Action::tag(next.control) + 1});
         _engine.appendMessage(next.message);
     }
     if (_view.isHoldingText()) {
