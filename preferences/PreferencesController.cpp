@@ -5,6 +5,7 @@
 #include "preferences/PreferencesGeneralViewController.h"
 #include "preferences/PreferencesMessagesViewController.h"
 #include "preferences/PreferencesWinKeyerViewController.h"
+#include "preferences/UnspokenMaking.h"
 
 #include <QWidget>
 
@@ -20,6 +21,7 @@ void PreferencesController::awakeFromNib() {
     if (!_general.expired()) {
         return;
     }
+    const UnspokenMaking unspoken;
     const auto general = std::make_shared<PreferencesGeneralViewController>(_engine);
     _general = general;
     const auto panes =

@@ -2061,6 +2061,21 @@ Die eigenen Optionen des Toolkits wie -platform und -style gelten auch. Die Anle
     </message>
 </context>
 <context>
+    <name>SpokenChanges</name>
+    <message>
+        <source>%1: on</source>
+        <translation>%1: ein</translation>
+    </message>
+    <message>
+        <source>%1: off</source>
+        <translation>%1: aus</translation>
+    </message>
+    <message>
+        <source>Break-in: what waited was dropped</source>
+        <translation>BK: Was wartete, wurde verworfen</translation>
+    </message>
+</context>
+<context>
     <name>StandaloneMessages</name>
     <message>
         <source>Message &amp;1</source>
@@ -2231,6 +2246,10 @@ Die eigenen Optionen des Toolkits wie -platform und -style gelten auch. Die Anle
     <message>
         <source>%1 s</source>
         <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>Tune is off</source>
+        <translation>Abstimmen ist aus</translation>
     </message>
 </context>
 <context>

@@ -2061,6 +2061,21 @@ También valen las opciones de la biblioteca gráfica, como -platform y -style. 
     </message>
 </context>
 <context>
+    <name>SpokenChanges</name>
+    <message>
+        <source>%1: on</source>
+        <translation>%1: activado</translation>
+    </message>
+    <message>
+        <source>%1: off</source>
+        <translation>%1: desactivado</translation>
+    </message>
+    <message>
+        <source>Break-in: what waited was dropped</source>
+        <translation>Break-in: lo que esperaba se ha descartado</translation>
+    </message>
+</context>
+<context>
     <name>StandaloneMessages</name>
     <message>
         <source>Message &amp;1</source>
@@ -2231,6 +2246,10 @@ También valen las opciones de la biblioteca gráfica, como -platform y -style. 
     <message>
         <source>%1 s</source>
         <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>Tune is off</source>
+        <translation>La sintonía está desactivada</translation>
     </message>
 </context>
 <context>

@@ -2061,6 +2061,21 @@ Les options de la bibliothèque graphique, comme -platform et -style, sont admis
     </message>
 </context>
 <context>
+    <name>SpokenChanges</name>
+    <message>
+        <source>%1: on</source>
+        <translation>%1 : activé</translation>
+    </message>
+    <message>
+        <source>%1: off</source>
+        <translation>%1 : désactivé</translation>
+    </message>
+    <message>
+        <source>Break-in: what waited was dropped</source>
+        <translation>Break-in : ce qui attendait a été abandonné</translation>
+    </message>
+</context>
+<context>
     <name>StandaloneMessages</name>
     <message>
         <source>Message &amp;1</source>
@@ -2231,6 +2246,10 @@ Les options de la bibliothèque graphique, comme -platform et -style, sont admis
     <message>
         <source>%1 s</source>
         <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>Tune is off</source>
+        <translation>L’accord est arrêté</translation>
     </message>
 </context>
 <context>

@@ -2061,6 +2061,21 @@ Valgono anche le opzioni della libreria grafica, come -platform e -style. La gui
     </message>
 </context>
 <context>
+    <name>SpokenChanges</name>
+    <message>
+        <source>%1: on</source>
+        <translation>%1: attivo</translation>
+    </message>
+    <message>
+        <source>%1: off</source>
+        <translation>%1: disattivato</translation>
+    </message>
+    <message>
+        <source>Break-in: what waited was dropped</source>
+        <translation>Break-in: ciò che attendeva è stato scartato</translation>
+    </message>
+</context>
+<context>
     <name>StandaloneMessages</name>
     <message>
         <source>Message &amp;1</source>
@@ -2231,6 +2246,10 @@ Valgono anche le opzioni della libreria grafica, come -platform e -style. La gui
     <message>
         <source>%1 s</source>
         <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>Tune is off</source>
+        <translation>L’accordo è disattivato</translation>
     </message>
 </context>
 <context>

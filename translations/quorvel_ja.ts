@@ -2061,6 +2061,21 @@ WinKeyer USB キーヤーを通してモールス符号を送信します。
     </message>
 </context>
 <context>
+    <name>SpokenChanges</name>
+    <message>
+        <source>%1: on</source>
+        <translation>%1: オン</translation>
+    </message>
+    <message>
+        <source>%1: off</source>
+        <translation>%1: オフ</translation>
+    </message>
+    <message>
+        <source>Break-in: what waited was dropped</source>
+        <translation>ブレークイン: 待っていたものは取り消されました</translation>
+    </message>
+</context>
+<context>
     <name>StandaloneMessages</name>
     <message>
         <source>Message &amp;1</source>
@@ -2231,6 +2246,10 @@ WinKeyer USB キーヤーを通してモールス符号を送信します。
     <message>
         <source>%1 s</source>
         <translation>%1 秒</translation>
+    </message>
+    <message>
+        <source>Tune is off</source>
+        <translation>チューンはオフです</translation>
     </message>
 </context>
 <context>

@@ -1,6 +1,7 @@
 #include "app/window/GuideWindow.h"
 
-#include <QAccessible>
+#include "app/window/SpokenNotice.h"
+
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
@@ -9,7 +10,6 @@
 #include <QShortcut>
 #include <QSignalBlocker>
 #include <QSplitter>
-#include <QStackedWidget>
 #include <QTextBrowser>
 #include <QVBoxLayout>
 
@@ -18,8 +18,8 @@ using namespace Qt::StringLiterals;
 namespace {
 
 /// The page's width is that of its pictures.
-constexpr int pageWidth = 800;
-constexpr int listWidth = 220;
+constexpr int pageWidth = 812;
+constexpr int listWidth = 200;
 constexpr int preferredHeight = 640;
 constexpr int margin = 12;
 constexpr int markOpacity = 90;
@@ -37,13 +37,24 @@ QTextCursor cursorOf(const Guide::Match& match, QTextDocument& document) {
     return cursor;
 }
 
+/// Without a word to anybody: of a list without the focus a screen reader would hear that it has
+/// it.
+void choose(QListWidget& list, int row) {
+    {
+        const QSignalBlocker blocker(list.selectionModel());
+        list.setCurrentRow(row);
+    }
+    list.scrollToItem(list.item(row));
+    list.viewport()->update();
+}
+
 } // namespace
 
 GuideWindow::GuideWindow(QWidget* parent)
     : QWidget(parent, Qt::Window),
       _searchField(new QLineEdit),
       _result(new QLabel),
-      _lists(new QStackedWidget),
+      _spoken(new SpokenNotice(this)),
       _contents(new QListWidget),
       _matches(new QListWidget),
       _page(new QTextBrowser) {
@@ -74,7 +85,8 @@ void GuideWindow::setUpSearch() {
     connect(back, &QShortcut::activated, this, [this] { goOn(-1); });
     const auto* find = new QShortcut(QKeySequence::Find, this);
     connect(find, &QShortcut::activated, this, [this] {
-        _searchField->setFocus(Qt::ShortcutFocusReason);
+        // First the one and then the other, or a screen reader says neither.
+        _searchField->setFocus(Qt::OtherFocusReason);
         _searchField->selectAll();
     });
 }
@@ -82,6 +94,7 @@ void GuideWindow::setUpSearch() {
 void GuideWindow::setUpLists() {
     _contents->setObjectName(u"guideContents"_s);
     _contents->setAccessibleName(tr("Contents"));
+    _contents->setWordWrap(true);
     _matches->setObjectName(u"guideMatches"_s);
     _matches->setAccessibleName(tr("Places found"));
     _matches->setWordWrap(true);
@@ -101,14 +114,14 @@ void GuideWindow::setUpPage() {
 }
 
 void GuideWindow::layOut() {
-    _lists->addWidget(_contents);
-    _lists->addWidget(_matches);
     auto* side = new QWidget;
     auto* column = new QVBoxLayout(side);
     column->setContentsMargins({});
     column->addWidget(_searchField);
     column->addWidget(_result);
-    column->addWidget(_lists, 1);
+    column->addWidget(_contents, 1);
+    column->addWidget(_matches, 1);
+    _matches->hide();
     auto* splitter = new QSplitter;
     splitter->addWidget(side);
     splitter->addWidget(_page);
@@ -142,8 +155,7 @@ void GuideWindow::followPage() {
     if (chapter < 0) {
         return;
     }
-    const QSignalBlocker blocker(_contents);
-    _contents->setCurrentRow(static_cast<int>(chapter));
+    choose(*_contents, static_cast<int>(chapter));
     _page->setAccessibleName(_guide.chapters()[chapter].title);
     _page->document()->setDocumentMargin(margin);
     markMatches();
@@ -160,7 +172,8 @@ void GuideWindow::search() {
                 tr("%1: %2").arg(_guide.chapters()[match.chapter].title, match.surroundings));
         }
     }
-    _lists->setCurrentWidget(_found.isEmpty() ? _contents : _matches);
+    _contents->setVisible(_found.isEmpty());
+    _matches->setHidden(_found.isEmpty());
     _result->setHidden(text.trimmed().isEmpty());
     tell(_found.isEmpty() ? tr("Nothing found") : tr("Places found: %1").arg(_found.size()));
     markMatches();
@@ -172,7 +185,8 @@ void GuideWindow::goOn(int step) {
         return;
     }
     const auto row = _matches->currentRow();
-    _matches->setCurrentRow(row < 0 ? (step > 0 ? 0 : count - 1) : (row + step + count) % count);
+    choose(*_matches, row < 0 ? (step > 0 ? 0 : count - 1) : (row + step + count) % count);
+    showMatch(_matches->currentRow());
 }
 
 void GuideWindow::showMatch(int row) {
@@ -183,7 +197,7 @@ void GuideWindow::showMatch(int row) {
     turnTo(match.chapter);
     _page->setTextCursor(cursorOf(match, *_page->document()));
     _page->ensureCursorVisible();
-    tell(tr("Place %1 of %2").arg(row + 1).arg(_found.size()));
+    tell(tr("Place %1 of %2").arg(row + 1).arg(_found.size()), _matches->item(row)->text());
 }
 
 void GuideWindow::markMatches() {
@@ -202,16 +216,14 @@ void GuideWindow::markMatches() {
     _page->setExtraSelections(marks);
 }
 
-/// Seen, and spoken by a screen reader, whose user is in the field.
-void GuideWindow::tell(const QString& result) {
-    if (_result->text() == result) {
+/// Seen, and spoken by a screen reader, whose user is in the field and hears the place as well.
+void GuideWindow::tell(const QString& result, const QString& place) {
+    if (_result->text() == result && place.isEmpty()) {
         return;
     }
     _result->setText(result);
-    _result->setAccessibleName(result);
     if (_result->isVisible()) {
-        QAccessibleEvent alert(_result, QAccessible::Alert);
-        QAccessible::updateAccessibility(&alert);
+        _spoken->say(place.isEmpty() ? result : result + u". "_s + place);
     }
 }
 

@@ -7,8 +7,8 @@
 class QLabel;
 class QLineEdit;
 class QListWidget;
-class QStackedWidget;
 class QTextBrowser;
+class SpokenNotice;
 
 /// The operator's guide, in a window of its own that stays open beside the work: a page, the table
 /// of contents, and a search through all chapters. Escape closes it.
@@ -35,14 +35,14 @@ class GuideWindow final : public QWidget {
     void showMatch(int row);
     void followPage();
     void markMatches();
-    void tell(const QString& result);
+    void tell(const QString& result, const QString& place = {});
 
     const Guide _guide;
     QList<Guide::Match> _found;
 
     QLineEdit* _searchField;
     QLabel* _result;
-    QStackedWidget* _lists;
+    SpokenNotice* _spoken;
     QListWidget* _contents;
     QListWidget* _matches;
     QTextBrowser* _page;

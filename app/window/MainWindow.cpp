@@ -12,6 +12,7 @@
 #include "app/window/ModeSwitches.h"
 #include "app/window/SettingAction.h"
 #include "app/window/SleepNotice.h"
+#include "app/window/SpokenChanges.h"
 #include "app/window/TuneSwitch.h"
 #include "app/window/TuneTimer.h"
 #include "app/window/WindowPlace.h"
@@ -79,6 +80,7 @@ MainWindow::MainWindow(WinKeyerUsb& engine)
     setUpContact();
     setUpSwitches();
     setUpSpeed();
+    setUpSpeech();
     setUpMenus();
     setUpFirstSteps();
     new WindowPlace(*this, u"MainWindowPlace"_s, this);
@@ -193,6 +195,15 @@ void MainWindow::setUpSwitches() {
         _ui->beaconButton->setDetail(secondsToBeacon(_beaconCountdown->seconds()));
     });
     QObject::connect(_ui->stopButton, &QPushButton::clicked, this, &MainWindow::stop);
+}
+
+/// What is on the screen besides, a screen reader finds.
+void MainWindow::setUpSpeech() {
+    auto* changes = new SpokenChanges(_engine, *_keyboardView, this);
+    for (const auto* button : {_ui->pauseButton, _ui->hscwButton, _ui->beaconButton}) {
+        changes->follow(*button);
+    }
+    changes->follow(*_speed, *_ui->speedLabel);
 }
 
 void MainWindow::setUpSpeed() {

@@ -80,6 +80,7 @@ class MainWindow final : public QMainWindow {
     void setUpContact();
     void setUpSwitches();
     void setUpSpeed();
+    void setUpSpeech();
     void setUpMenus();
     void setUpFirstSteps();
     void enlargeFonts();

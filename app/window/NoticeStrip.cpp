@@ -1,6 +1,7 @@
 #include "app/window/NoticeStrip.h"
 
-#include <QAccessible>
+#include "app/window/SpokenNotice.h"
+
 #include <QApplication>
 #include <QLabel>
 #include <QPushButton>
@@ -8,7 +9,7 @@
 
 using namespace Qt::StringLiterals;
 
-NoticeStrip::NoticeStrip(QWidget* parent) : Strip(parent) {
+NoticeStrip::NoticeStrip(QWidget* parent) : Strip(parent), _spoken(new SpokenNotice(this)) {
     label().setObjectName(u"noticeLabel"_s);
     auto* closeButton = new QToolButton(this);
     closeButton->setObjectName(u"closeNoticeButton"_s);
@@ -32,8 +33,7 @@ void NoticeStrip::setOffer(const QString& offer) {
 void NoticeStrip::say(const QString& text) {
     setText(text);
     show();
-    QAccessibleEvent alert(this, QAccessible::Alert);
-    QAccessible::updateAccessibility(&alert);
+    _spoken->say(text);
 }
 
 void NoticeStrip::putAway() {

@@ -2,9 +2,11 @@
 
 #include "app/window/Strip.h"
 
+class SpokenNotice;
+
 /// A strip across the window that says what has happened while nobody may have looked. It stays
 /// until the operator closes it; what is said next takes its place. It may offer to do something
-/// about it. A screen reader announces it as an alert.
+/// about it. A screen reader speaks it.
 class NoticeStrip final : public Strip {
     Q_OBJECT
   public:
@@ -22,4 +24,7 @@ class NoticeStrip final : public Strip {
     void offerTaken();
     /// It was closed by the keyboard, which needs another place now.
     void hasGivenUpFocus();
+
+  private:
+    SpokenNotice* _spoken;
 };

@@ -1,9 +1,8 @@
 #include "app/window/TuneWarning.h"
 
+#include "app/window/SpokenNotice.h"
 #include "app/window/TuneTimer.h"
 #include "keyer/WinKeyerUsb.h"
-
-#include <QAccessible>
 
 using namespace Qt::StringLiterals;
 
@@ -12,7 +11,7 @@ namespace {
 constexpr QColor danger(0xB3, 0x00, 0x1E);
 } // namespace
 
-TuneWarning::TuneWarning(QWidget* parent) : QLabel(parent) {
+TuneWarning::TuneWarning(QWidget* parent) : QLabel(parent), _spoken(new SpokenNotice(this)) {
     setMargin(7);
     setAlignment(Qt::AlignCenter);
     setWordWrap(true);
@@ -36,11 +35,11 @@ void TuneWarning::setEngine(const WinKeyerUsb& engine, const TuneTimer& timer) {
 }
 
 void TuneWarning::setShown(bool isShown) {
-    setVisible(isShown);
-    if (isShown) {
-        QAccessibleEvent alert(this, QAccessible::Alert);
-        QAccessible::updateAccessibility(&alert);
+    if (isShown != isHidden()) {
+        return;
     }
+    setVisible(isShown);
+    _spoken->say(isShown ? _warning : tr("Tune is off"));
 }
 
 void TuneWarning::showSeconds(const TuneTimer& timer) {

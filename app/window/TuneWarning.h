@@ -2,11 +2,12 @@
 
 #include <QLabel>
 
+class SpokenNotice;
 class TuneTimer;
 class WinKeyerUsb;
 
 /// A strip across the window that is there while the operator tunes, and says so, and for how long.
-/// A screen reader announces it as an alert, once.
+/// A screen reader speaks it once, and that tune is off again.
 class TuneWarning final : public QLabel {
     Q_OBJECT
   public:
@@ -21,4 +22,5 @@ class TuneWarning final : public QLabel {
     void showSeconds(const TuneTimer& timer);
 
     QString _warning;
+    SpokenNotice* _spoken;
 };
