@@ -14,7 +14,7 @@ out=build/run
 # shellcheck disable=SC2120 # A run without display gives options, by way of its steps.
 start_keyer() {
     # In English, in which its word is waited for.
-    start keyer env LC_ALL=C.UTF-8 "$bin/quorvel-virtual-keyer" --headless "$@" \
+    start keyer env LC_ALL=C.UTF-8 "$bin/quorvel-virtual-keyer" "$@" \
         1>&"$keyed" 2>"$out/keyer.log"
     wait_while keyer 10 grep -q '^Plugged in as ' "$out/keyer.log" && return
     echo "The virtual keyer could not be plugged in:" >&2

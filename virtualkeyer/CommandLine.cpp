@@ -60,9 +60,7 @@ QString linkHelp() {
 }
 
 struct Options {
-    QCommandLineOption headless{
-        u"headless"_s, CommandLine::tr("Shows no window. There is none yet: without this option "
-                                       "the program says so, and does the same.")};
+    QCommandLineOption headless{u"headless"_s, CommandLine::tr("Shows no window.")};
     QCommandLineOption transcript{u"transcript"_s, transcriptHelp(), u"FILE"_s};
     QCommandLineOption registers{u"registers"_s, registersHelp(), u"FILE"_s};
     QCommandLineOption speed{u"speed"_s, speedHelp(), u"WPM"_s, QString::number(Profile{}.potWpm)};
@@ -139,6 +137,7 @@ QString readValues(const QCommandLineParser& parser, const Options& options, Com
     if (parser.isSet(options.wav) && result.wavPath.isEmpty()) {
         return CommandLine::tr("The sound needs a file name.");
     }
+    result.profileNames = profileNames;
     result.profile = profileNamed(profileNames.toStdString()).value();
     result.profile.potWpm = speed;
     return readScript(parser, options, result);

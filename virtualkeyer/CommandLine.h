@@ -17,11 +17,14 @@ struct CommandLine {
     QString answer;
     /// What is wrong with the options, for standard error; empty when nothing is.
     QString error;
-    /// Asked for no window, and so told nothing of there being none yet.
     bool isHeadless = false;
+    /// Whether there is to be a window and can be none.
+    bool lacksWindow = false;
     /// Whether standard input works the paddle.
     bool isPaddled = false;
     Profile profile;
+    /// As NamedProfiles takes them.
+    QString profileNames;
     QString linkName;
     /// Empty for no transcript.
     QString transcriptPath;

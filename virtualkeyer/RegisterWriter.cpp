@@ -1,8 +1,7 @@
 #include "virtualkeyer/RegisterWriter.h"
 
-#include "virtualkeyer/core/KeyLineDecoder.h"
+#include "virtualkeyer/MessageText.h"
 #include "virtualkeyer/core/Memory.h"
-#include "virtualkeyer/core/MorseTable.h"
 
 #include <QCoreApplication>
 #include <QFile>
@@ -30,14 +29,6 @@ std::string line(std::string_view name, int value) {
     return std::string(name) + ' ' + std::to_string(value) + '\n';
 }
 
-std::string textOf(const std::vector<std::string>& letters) {
-    std::string text;
-    for (const std::string& letter : letters) {
-        text += letter == " " ? ' ' : characterOf(letter).value_or(KeyLineDecoder::unknown);
-    }
-    return text;
-}
-
 } // namespace
 
 std::string registerText(const Registers& registers, const Memory& memory) {
@@ -54,7 +45,7 @@ std::string registerText(const Registers& registers, const Memory& memory) {
     text += line("memory-extra-flags", memory.image()[extraFlagsAt]);
     text += line("memory-command-speed", memory.image()[commandSpeedAt]);
     for (int number = 1; number <= messageCount; ++number) {
-        const std::string message = textOf(memory.message(number));
+        const std::string message = messageText(memory, number);
         text += "memory-message" + std::to_string(number) + (message.empty() ? "" : " ") + message +
                 '\n';
     }

@@ -82,6 +82,14 @@ void Session::openScript() {
     _listeners.push_back(&*_script);
 }
 
+void Session::add(KeyerListener& listener, Operator& keyerOperator) {
+    _listeners.push_back(&listener);
+    _operators.push_back(&keyerOperator);
+    if (_script) {
+        _script->stayAfterwards();
+    }
+}
+
 void Session::run(int stopDescriptor) {
     runKeyer(stopDescriptor);
     if (_wav) {
@@ -131,8 +139,8 @@ void Session::tellWhere(const std::string& path) const {
     auto text = QCoreApplication::translate("VirtualKeyer", "Plugged in as %1 (%2)")
                     .arg(_commandLine.linkName, QFile::decodeName(path.c_str())) +
                 u'\n';
-    if (!_commandLine.isHeadless) {
-        text += QCoreApplication::translate("VirtualKeyer", "There is no window yet. What is keyed "
+    if (_commandLine.lacksWindow) {
+        text += QCoreApplication::translate("VirtualKeyer", "No window can be shown. What is keyed "
                                                             "is printed here, until Ctrl+C.") +
                 u'\n';
     }

@@ -37,6 +37,10 @@ class Session {
     Session(const Session&) = delete;
     Session& operator=(const Session&) = delete;
 
+    /// Also has these watch and work the keyer, which must outlive the session. The keyer then goes
+    /// on after the script's end.
+    void add(KeyerListener& listener, Operator& keyerOperator);
+
     /// Runs the keyer until `stopDescriptor` is readable or the script ends it. Plugs it in as a
     /// port and says so, unless the time is to run fast. Throws what the system and the script do.
     void run(int stopDescriptor);

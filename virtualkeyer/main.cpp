@@ -1,6 +1,7 @@
 #include "translations/Translations.h"
 #include "virtualkeyer/CommandLine.h"
 #include "virtualkeyer/Session.h"
+#include "virtualkeyer/WindowProgram.h"
 #include "virtualkeyer/pty/StopSignals.h"
 #include "virtualkeyer/script/ScriptError.h"
 
@@ -31,12 +32,17 @@ int main(int argc, char* argv[]) {
     // A reader of the keyed text that goes away is an error like any other, not a sudden death.
     std::signal(SIGPIPE, SIG_IGN);
 
-    const CommandLine commandLine = CommandLine::parse(QCoreApplication::arguments());
+    CommandLine commandLine = CommandLine::parse(QCoreApplication::arguments());
     if (!commandLine.error.isEmpty()) {
         return complain(commandLine.error.toLocal8Bit().constData(), ExitStatus::BadOptions);
     }
     if (!commandLine.answer.isEmpty()) {
         return std::fputs(commandLine.answer.toLocal8Bit().constData(), stdout) < 0;
+    }
+
+    if (!commandLine.isHeadless && !commandLine.isFast) {
+        becomeWindowProgram(argv);
+        commandLine.lacksWindow = true;
     }
 
     std::optional<Session> session;

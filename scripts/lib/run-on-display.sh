@@ -1,6 +1,6 @@
 # The run in the user's own desktop session. To be sourced by run.sh.
 
-# What is keyed shows in the terminal, letter by letter.
+# What is keyed shows in the terminal, letter by letter, as well as in the keyer's own window.
 keyed=1
 
 start_quorvel() {

@@ -60,7 +60,7 @@ step() {
 show() {
     step "The screen in memory" start_screen &&
         step "Plugging in the virtual keyer" \
-            start_keyer --speed 40 --transcript "$out/transcript.txt" &&
+            start_keyer --headless --speed 40 --transcript "$out/transcript.txt" &&
         step "Opening the window" open_window &&
         step "Connecting to the keyer" wait_while quorvel 30 is_connected &&
         step "Keying the typed text" type_text &&

@@ -38,10 +38,11 @@ class Keyer(Process):
     # What it says once it is.
     plugged_in = "Plugged in as"
 
-    def __init__(self, environment, directory, speed=SPEED, profile="default", is_paddled=False):
+    def __init__(self, environment, directory, speed=SPEED, profile="default", is_paddled=False,
+                 is_headless=True):
         self._transcript = directory / "transcript.txt"
         self._registers = directory / "registers.txt"
-        super().__init__([VIRTUAL_KEYER, "--headless", "--speed", str(speed), "--profile", profile,
+        super().__init__([VIRTUAL_KEYER, *(["--headless"] if is_headless else []), "--speed", str(speed), "--profile", profile,
                           "--transcript", self._transcript, "--registers", self._registers,
                           *(["--paddle"] if is_paddled else [])],
                          environment, directory,

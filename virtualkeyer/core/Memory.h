@@ -20,6 +20,8 @@ class Memory {
     /// Factory settings and no messages.
     Memory();
 
+    bool operator==(const Memory&) const = default;
+
     [[nodiscard]] const Image& image() const { return _image; }
     void load(std::span<const std::uint8_t, size> image);
 

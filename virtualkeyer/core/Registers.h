@@ -44,6 +44,8 @@ class Registers {
 
     explicit Registers(int potWpm = 20) : _potWpm(potWpm) {}
 
+    bool operator==(const Registers&) const = default;
+
     /// Sets one register; a value outside its range leaves it as it was. A new speed cancels the
     /// temporary and the high speed.
     void set(Register which, std::uint8_t value);

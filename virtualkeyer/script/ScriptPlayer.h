@@ -33,6 +33,9 @@ class ScriptPlayer : public Operator, public KeyerListener {
     /// There are no more steps than those added.
     void close() { _isClosed = true; }
 
+    /// The keyer goes on when the script is over.
+    void stayAfterwards() { _stays = true; }
+
     /// Whether each expectation so far was met.
     [[nodiscard]] bool isContent() const { return _isContent; }
     /// The line of the step that is done next; nothing when all are done.
@@ -40,7 +43,7 @@ class ScriptPlayer : public Operator, public KeyerListener {
 
     void work(SerialKeyer& keyer, bool isReadable, Time now) override;
     [[nodiscard]] std::optional<Time> nextWish() const override;
-    [[nodiscard]] bool hasEnded() const override { return _isClosed && _steps.empty(); }
+    [[nodiscard]] bool hasEnded() const override { return _isClosed && _steps.empty() && !_stays; }
 
     void keyerDid(const Event& event, const Registers& registers) override;
     void timePassed(Time now) override;
@@ -65,6 +68,7 @@ class ScriptPlayer : public Operator, public KeyerListener {
     Disappointment _disappointment;
     std::deque<Waiting> _steps;
     bool _isClosed = false;
+    bool _stays = false;
     bool _isContent = true;
     bool _isWaiting = false; // for an expectation that still has time
     bool _hasChanged = false;

@@ -13,6 +13,9 @@ constexpr int patience = 10'000;
 KeyerProcess::KeyerProcess(const QTemporaryDir& runtime) : _runtime(runtime.path()) {
     auto environment = QProcessEnvironment::systemEnvironment();
     environment.insert(u"XDG_RUNTIME_DIR"_s, _runtime);
+    // Without a display there is no window.
+    environment.remove(u"DISPLAY"_s);
+    environment.remove(u"WAYLAND_DISPLAY"_s);
     // Without a locale of UTF-8 the toolkit has something to say on standard error.
     environment.insert(u"LC_ALL"_s, u"C.UTF-8"_s);
     _process.setProcessEnvironment(environment);

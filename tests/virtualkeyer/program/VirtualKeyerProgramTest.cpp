@@ -63,7 +63,7 @@ class VirtualKeyerProgramTest : public QObject {
   private Q_SLOTS:
     void init();
     void itSaysWhereItIsPluggedIn();
-    void itSaysThatThereIsNoWindowUnlessItIsHeadless();
+    void itSaysThatNoWindowCanBeShownUnlessItIsHeadless();
     void theHostsTextIsKeyedEchoedPrintedAndWrittenDown();
     void theTextIsPrintedAsItIsKeyed();
     void thePotStandsWhereItWasToldTo_data();
@@ -113,12 +113,12 @@ void VirtualKeyerProgramTest::itSaysWhereItIsPluggedIn() {
     QVERIFY(QFile::symLinkTarget(keyer.linkPath()).startsWith(u"/dev/pts/"_s));
 }
 
-void VirtualKeyerProgramTest::itSaysThatThereIsNoWindowUnlessItIsHeadless() {
+void VirtualKeyerProgramTest::itSaysThatNoWindowCanBeShownUnlessItIsHeadless() {
     KeyerProcess keyer(*_runtime);
     QVERIFY(keyer.plugIn());
     QTRY_COMPARE(keyer.errors(),
                  u"Plugged in as usbserial-virtual (%1)\n"
-                 "There is no window yet. What is keyed is printed here, until Ctrl+C.\n"_s.arg(
+                 "No window can be shown. What is keyed is printed here, until Ctrl+C.\n"_s.arg(
                      keyer.linkPath()));
 }
 

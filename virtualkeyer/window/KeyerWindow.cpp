@@ -1,0 +1,191 @@
+#include "virtualkeyer/window/KeyerWindow.h"
+
+#include "virtualkeyer/NamedProfiles.h"
+#include "virtualkeyer/window/KindList.h"
+#include "virtualkeyer/window/LampRow.h"
+#include "virtualkeyer/window/MessageList.h"
+#include "virtualkeyer/window/PaddlePanel.h"
+#include "virtualkeyer/window/RegisterTable.h"
+
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QPushButton>
+#include <QSignalBlocker>
+#include <QTabWidget>
+#include <QVBoxLayout>
+
+#include <array>
+
+namespace virtualkeyer {
+
+namespace {
+
+constexpr int slowest = 5;
+constexpr int fastest = 99;
+/// Lines of the keyed text that are kept.
+constexpr int longestText = 1000;
+
+} // namespace
+
+KeyerWindow::KeyerWindow(const CommandLine& commandLine, KeyerLink& link) : _link(link) {
+    setWindowTitle(tr("Virtual keyer"));
+    auto* middle = new QHBoxLayout;
+    middle->addWidget(makeHands(commandLine));
+    middle->addWidget(makeInside(commandLine), 1);
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(makeTop(commandLine.linkName));
+    layout->addLayout(middle, 2);
+    layout->addWidget(makeText(), 1);
+    connect(&link, &KeyerLink::changed, this, &KeyerWindow::refresh);
+    resize(sizeHint().expandedTo({40 * fontMetrics().height(), 0}));
+    // The paddle's keys work wherever the focus is, and a knob that turns by itself surprises.
+    _plug->setFocus();
+}
+
+QWidget* KeyerWindow::makeTop(const QString& port) {
+    auto* top = new QWidget;
+    _plug = new QCheckBox(tr("Plugged in as %1").arg(port));
+    _plug->setAccessibleName(tr("Plugged in"));
+    _plug->setToolTip(tr("Pulls the adapter and plugs it in again. Without it the keyer has no "
+                         "power, and forgets its host."));
+    _plug->setChecked(true);
+    connect(_plug, &QCheckBox::toggled, this, [this](bool isIn) {
+        _link.order([isIn](SerialKeyer& keyer, Time now) {
+            if (isIn) {
+                keyer.plugIn(now);
+            } else {
+                keyer.pull(now);
+            }
+        });
+    });
+    _lamps = new LampRow;
+    auto* layout = new QHBoxLayout(top);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(24);
+    layout->addWidget(_plug);
+    layout->addWidget(_lamps, 1);
+    return top;
+}
+
+QWidget* KeyerWindow::makeHands(const CommandLine& commandLine) {
+    auto* hands = new QWidget;
+    hands->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Preferred);
+    _paddle = new PaddlePanel;
+    connect(_paddle, &PaddlePanel::moved, this, [this](bool dit, bool dah) {
+        _link.order([dit, dah](SerialKeyer& keyer, Time now) { keyer.setPaddle(dit, dah, now); });
+    });
+    auto* layout = new QVBoxLayout(hands);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(makeKnob(commandLine.profile.potWpm));
+    layout->addWidget(makeButtons());
+    layout->addWidget(_paddle);
+    layout->addStretch();
+    return hands;
+}
+
+QWidget* KeyerWindow::makeKnob(int wpm) {
+    auto* box = new QGroupBox(tr("Speed knob"));
+    box->setToolTip(tr("Counts within the range that the host has set, and only while the host "
+                       "leaves the speed to it."));
+    _knob = new QDial;
+    _knob->setAccessibleName(tr("Speed knob"));
+    _knob->setRange(slowest, fastest);
+    _knob->setValue(wpm);
+    _knob->setNotchesVisible(true);
+    _knob->setWrapping(false);
+    const int size = 6 * fontMetrics().height();
+    _knob->setFixedSize(size, size);
+    _speed = new QLabel;
+    connect(_knob, &QDial::valueChanged, this, &KeyerWindow::turnKnob);
+    _speed->setText(tr("%1 WPM").arg(wpm));
+    auto* layout = new QHBoxLayout(box);
+    layout->addWidget(_knob);
+    layout->addWidget(_speed);
+    layout->addStretch();
+    return box;
+}
+
+QWidget* KeyerWindow::makeButtons() {
+    constexpr std::array<std::uint8_t, 4> bits{0x01, 0x02, 0x04, 0x10};
+    auto* box = new QGroupBox(tr("Push-buttons"));
+    box->setToolTip(tr("The host hears of them once it has asked for version 2 status."));
+    auto* layout = new QHBoxLayout(box);
+    for (std::size_t i = 0; i < bits.size(); ++i) {
+        const int number = static_cast<int>(i) + 1;
+        auto* button = new QPushButton(QString::number(number));
+        button->setAccessibleName(tr("Push-button %1").arg(number));
+        button->setMinimumWidth(fontMetrics().height() * 2);
+        layout->addWidget(button);
+        const std::uint8_t bit = bits.at(i);
+        connect(button, &QPushButton::pressed, this, [this, bit] { moveButton(bit, true); });
+        connect(button, &QPushButton::released, this, [this, bit] { moveButton(bit, false); });
+    }
+    return box;
+}
+
+QWidget* KeyerWindow::makeInside(const CommandLine& commandLine) {
+    auto* pages = new QTabWidget;
+    _registers = new RegisterTable;
+    _messages = new MessageList;
+    _kinds = new KindList(commandLine.profileNames);
+    pages->setMinimumWidth(20 * fontMetrics().height());
+    pages->addTab(_registers, tr("Registers"));
+    pages->addTab(_messages, tr("Memory"));
+    pages->addTab(_kinds, tr("Kind of keyer"));
+    connect(_messages, &MessageList::played, this, [this](int number) {
+        _link.order([number](SerialKeyer& keyer, Time now) { keyer.playMessage(number, now); });
+    });
+    connect(_kinds, &KindList::chosen, this, &KeyerWindow::changeKind);
+    return pages;
+}
+
+QWidget* KeyerWindow::makeText() {
+    auto* box = new QGroupBox(tr("Keyed text"));
+    _text = new QPlainTextEdit;
+    _text->setAccessibleName(tr("Keyed text"));
+    _text->setReadOnly(true);
+    _text->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    _text->setTabChangesFocus(true);
+    _text->setMaximumBlockCount(longestText);
+    _text->setPlaceholderText(tr("What is keyed, by the host or the paddle, is read back here from "
+                                 "the key line."));
+    auto* layout = new QVBoxLayout(box);
+    layout->addWidget(_text);
+    return box;
+}
+
+void KeyerWindow::turnKnob(int wpm) {
+    _speed->setText(tr("%1 WPM").arg(wpm));
+    _link.order([wpm](SerialKeyer& keyer, Time now) { keyer.setPot(wpm, now); });
+}
+
+void KeyerWindow::moveButton(std::uint8_t bit, bool isDown) {
+    _buttons = static_cast<std::uint8_t>(isDown ? _buttons | bit : _buttons & ~bit);
+    _link.order(
+        [buttons = _buttons](SerialKeyer& keyer, Time now) { keyer.setPushButtons(buttons, now); });
+}
+
+void KeyerWindow::changeKind(const QString& names) {
+    const Profile profile = profileNamed(names.toStdString()).value();
+    _link.order([profile](SerialKeyer& keyer, Time now) { keyer.setProfile(profile, now); });
+}
+
+void KeyerWindow::refresh() {
+    const KeyerState state = _link.state();
+    {
+        // A script may have moved it.
+        const QSignalBlocker blocker(_plug);
+        _plug->setChecked(state.isPluggedIn);
+    }
+    _lamps->show(state);
+    _registers->show(state.registers);
+    _messages->show(state.memory);
+    const QString text = _link.takeKeyedText();
+    if (!text.isEmpty()) {
+        _text->moveCursor(QTextCursor::End);
+        _text->insertPlainText(text);
+        _text->ensureCursorVisible();
+    }
+}
+
+} // namespace virtualkeyer

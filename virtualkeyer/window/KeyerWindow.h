@@ -1,0 +1,53 @@
+#pragma once
+
+#include "virtualkeyer/CommandLine.h"
+#include "virtualkeyer/window/KeyerLink.h"
+
+#include <QCheckBox>
+#include <QDial>
+#include <QLabel>
+#include <QPlainTextEdit>
+#include <QWidget>
+
+namespace virtualkeyer {
+
+class KindList;
+class LampRow;
+class MessageList;
+class PaddlePanel;
+class RegisterTable;
+
+/// The keyer as one has it on the table: its plug, knob, buttons and paddle, its lamps, and what is
+/// in it.
+class KeyerWindow : public QWidget {
+    Q_OBJECT
+  public:
+    /// `link` must outlive the window.
+    KeyerWindow(const CommandLine& commandLine, KeyerLink& link);
+
+  private:
+    [[nodiscard]] QWidget* makeTop(const QString& port);
+    [[nodiscard]] QWidget* makeHands(const CommandLine& commandLine);
+    [[nodiscard]] QWidget* makeKnob(int wpm);
+    [[nodiscard]] QWidget* makeButtons();
+    [[nodiscard]] QWidget* makeInside(const CommandLine& commandLine);
+    [[nodiscard]] QWidget* makeText();
+    void turnKnob(int wpm);
+    void moveButton(std::uint8_t bit, bool isDown);
+    void changeKind(const QString& names);
+    void refresh();
+
+    KeyerLink& _link;
+    QCheckBox* _plug = nullptr;
+    LampRow* _lamps = nullptr;
+    PaddlePanel* _paddle = nullptr;
+    QDial* _knob = nullptr;
+    QLabel* _speed = nullptr;
+    RegisterTable* _registers = nullptr;
+    MessageList* _messages = nullptr;
+    KindList* _kinds = nullptr;
+    QPlainTextEdit* _text = nullptr;
+    std::uint8_t _buttons = 0;
+};
+
+} // namespace virtualkeyer

@@ -1,0 +1,59 @@
+#include "translations/Translations.h"
+#include "virtualkeyer/CommandLine.h"
+#include "virtualkeyer/Session.h"
+#include "virtualkeyer/pty/StopSignals.h"
+#include "virtualkeyer/window/KeyerLink.h"
+#include "virtualkeyer/window/KeyerThread.h"
+#include "virtualkeyer/window/KeyerWindow.h"
+
+#include <QApplication>
+#include <QLocale>
+#include <QMessageBox>
+#include <QSocketNotifier>
+
+#include <csignal>
+#include <stdexcept>
+
+using namespace Qt::StringLiterals;
+using namespace virtualkeyer;
+
+namespace {
+
+int run(const CommandLine& commandLine, const StopSignals& stopSignals) {
+    KeyerLink link;
+    Session session(commandLine);
+    session.add(link, link);
+    KeyerWindow window(commandLine, link);
+    KeyerThread keyer(session);
+    QObject::connect(&keyer, &KeyerThread::failed, &window, [&window](const QString& reason) {
+        QMessageBox::critical(&window, {}, reason);
+        QApplication::quit();
+    });
+    const QSocketNotifier signal(stopSignals.descriptor(), QSocketNotifier::Read);
+    QObject::connect(&signal, &QSocketNotifier::activated, qApp, &QApplication::quit);
+    window.show();
+    QApplication::exec();
+    return static_cast<int>(keyer.end());
+}
+
+} // namespace
+
+/// The other program has read the arguments, and answered those that want no window.
+int main(int argc, char* argv[]) {
+    std::signal(SIGPIPE, SIG_IGN);
+    const StopSignals stopSignals;
+    const QApplication application(argc, argv);
+    QApplication::setApplicationName(u"quorvel-virtual-keyer"_s);
+    QApplication::setApplicationVersion(QStringLiteral(QUORVEL_VERSION));
+    const Translations translations{QLocale()};
+    const CommandLine commandLine = CommandLine::parse(QApplication::arguments());
+    try {
+        if (!commandLine.error.isEmpty()) {
+            throw std::runtime_error(commandLine.error.toStdString());
+        }
+        return run(commandLine, stopSignals);
+    } catch (const std::runtime_error& error) {
+        complain(error.what());
+        return static_cast<int>(ExitStatus::BadOptions);
+    }
+}
