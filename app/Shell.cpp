@@ -2,6 +2,7 @@
 
 #include "app/DesktopApplication.h"
 #include "app/SettingsFileAlert.h"
+#include "keyer/WinKeyerUsb.h"
 #include "platform/SettingsStore.h"
 #include "platform/linux/KeyGuardProcess.h"
 #include "platform/linux/SingleInstance.h"
@@ -26,6 +27,7 @@ Shell::Shell(WinKeyerUsb& engine, DesktopApplication& alerts, SettingsStore& set
       _guard(engine, KeyGuardProcess::standardProgram()),
       _keyingRecord(engine, KeyingRecord::standardPath()),
       _window(engine),
+      _sentRecord(engine, _window.speed(), settings, RecordStore::standardPath()),
       _loggerQueue(engine, _window.speed()),
       _windowWatch(_window),
       _loggerSocket(_loggerQueue, settings),
@@ -43,6 +45,7 @@ Shell::Shell(WinKeyerUsb& engine, DesktopApplication& alerts, SettingsStore& set
     connectHelp();
     connectWatchers();
     connectLoggers();
+    connectRecord();
     connectWaysOut();
     connectSettings();
 }
@@ -101,6 +104,26 @@ void Shell::connectLoggers() {
                      &LoggerQueue::setWatched);
     // What they sent on the way out would be keyed by a program that nobody sees any more.
     QObject::connect(&_termination, &Termination::begun, &_loggerSocket, &LoggerSocket::close);
+}
+
+void Shell::connectRecord() {
+    QObject::connect(&_loggerSocket, &LoggerSocket::senderFound, &_sentRecord,
+                     &SentRecord::nameLogger);
+    QObject::connect(&_sentRecord, &SentRecord::hasTrouble, &_window, &MainWindow::say);
+    QObject::connect(&_window, &MainWindow::sentRequested, &_sentRecord, [this] { showSent(); });
+}
+
+void Shell::showSent() {
+    if (_sentWindow == nullptr) {
+        _sentWindow = std::make_unique<SentWindow>(WinKeyerUsb::sharedInstance(),
+                                                   _sentRecord.store(), &_window);
+        QObject::connect(_sentWindow.get(), &SentWindow::sendRequested, &_window,
+                         &MainWindow::sendText);
+    }
+    _sentWindow->look();
+    _sentWindow->show();
+    _sentWindow->raise();
+    _sentWindow->activateWindow();
 }
 
 void Shell::connectWaysOut() {

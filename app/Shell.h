@@ -14,10 +14,14 @@
 #include "app/VirtualKeyer.h"
 #include "app/WindowWatch.h"
 #include "app/window/MainWindow.h"
+#include "app/window/SentWindow.h"
 #include "loggers/LoggerQueue.h"
 #include "loggers/LoggerSocket.h"
 #include "platform/linux/SessionBus.h"
 #include "preferences/PreferencesController.h"
+#include "record/SentRecord.h"
+
+#include <memory>
 
 class DesktopApplication;
 class SettingsStore;
@@ -44,6 +48,8 @@ class Shell final {
     void connectHelp();
     void connectWatchers();
     void connectLoggers();
+    void connectRecord();
+    void showSent();
     void connectWaysOut();
     void connectSettings();
     void finishLaunching();
@@ -57,6 +63,9 @@ class Shell final {
     /// Ahead of whatever sends: a key that was left down is let go of first.
     KeyingRecord _keyingRecord;
     MainWindow _window;
+    SentRecord _sentRecord;
+    /// Made when it is first asked for.
+    std::unique_ptr<SentWindow> _sentWindow;
     LoggerQueue _loggerQueue;
     WindowWatch _windowWatch;
     LoggerSocket _loggerSocket;

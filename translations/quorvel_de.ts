@@ -814,6 +814,14 @@ Die eigenen Optionen des Toolkits wie -platform und -style gelten auch. Die Anle
         <source>Paste</source>
         <translation>Einfügen</translation>
     </message>
+    <message>
+        <source>W&amp;indow</source>
+        <translation>&amp;Fenster</translation>
+    </message>
+    <message>
+        <source>&amp;Sent</source>
+        <translation>&amp;Gesendetes</translation>
+    </message>
 </context>
 <context>
     <name>MemoryGauge</name>
@@ -1890,6 +1898,382 @@ Die eigenen Optionen des Toolkits wie -platform und -style gelten auch. Die Anle
     </message>
 </context>
 <context>
+    <name>RegisterWords</name>
+    <message>
+        <source>on</source>
+        <translation type="unfinished">ein</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <translation type="unfinished">aus</translation>
+    </message>
+    <message>
+        <source>%1 ms</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 WPM</source>
+        <translation type="unfinished">%1 WPM</translation>
+    </message>
+    <message>
+        <source>%1 WPM, from the knob</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1; %2 WPM for now</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>iambic A</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>ultimatic</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>bug</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>iambic B</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>dah</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>dit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the last one closed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 Hz, for the paddle only</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 Hz</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 to %2 WPM</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 and 2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation type="unfinished">Tempo</translation>
+    </message>
+    <message>
+        <source>Knob&apos;s range</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Farnsworth</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Weighting</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dah to dit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 to 1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Key compensation</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>First extension</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Word space</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 dits</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Paddle keying</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ultimatic priority</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Paddle swapped</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Paddle memory</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>after %1 dit lengths</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Paddle watchdog</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Autospace</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Paddle echo</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Serial echo</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sidetone</source>
+        <translation type="unfinished">Mithörton</translation>
+    </message>
+    <message>
+        <source>Key outputs</source>
+        <translation type="unfinished">Tastausgänge</translation>
+    </message>
+    <message>
+        <source>PTT</source>
+        <translation type="unfinished">PTT</translation>
+    </message>
+    <message>
+        <source>Lead-in</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tail</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hang time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>word space and %1 dits</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>RunText</name>
+    <message>
+        <source>UTC</source>
+        <translation>UTC</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Tempo</translation>
+    </message>
+    <message>
+        <source>Sent by</source>
+        <translation>Gesendet von</translation>
+    </message>
+    <message>
+        <source>How it ended</source>
+        <translation>Wie es endete</translation>
+    </message>
+    <message>
+        <source>%1 LPM</source>
+        <translation>%1 BpM</translation>
+    </message>
+    <message>
+        <source>%1 WPM</source>
+        <translation>%1 WPM</translation>
+    </message>
+    <message>
+        <source>Typed</source>
+        <translation>Getippt</translation>
+    </message>
+    <message>
+        <source>F%1 %2</source>
+        <translation>F%1 %2</translation>
+    </message>
+    <message>
+        <source>Push-button %1 %2</source>
+        <translation>Taster %1 %2</translation>
+    </message>
+    <message>
+        <source>Beacon</source>
+        <translation>Bake</translation>
+    </message>
+    <message>
+        <source>Logger, port %1</source>
+        <translation>Logger, Port %1</translation>
+    </message>
+    <message>
+        <source>Logger %1</source>
+        <translation>Logger %1</translation>
+    </message>
+    <message>
+        <source>Sent</source>
+        <translation>Gesendet</translation>
+    </message>
+    <message>
+        <source>Stopped at character %1</source>
+        <translation>Gestoppt beim %1. Zeichen</translation>
+    </message>
+    <message>
+        <source>Broken in on at character %1</source>
+        <translation>Unterbrochen beim %1. Zeichen</translation>
+    </message>
+    <message>
+        <source>Link lost at character %1</source>
+        <translation>Verbindung verloren beim %1. Zeichen</translation>
+    </message>
+</context>
+<context>
+    <name>SentRecord</name>
+    <message>
+        <source>What you send cannot be recorded in %1: %2.</source>
+        <translation>Was Sie senden, kann nicht in %1 festgehalten werden: %2.</translation>
+    </message>
+    <message>
+        <source>The record of what was sent was damaged. It is kept as %1, and a new one has been begun.</source>
+        <translation>Die Aufzeichnung des Gesendeten war beschädigt. Sie ist als %1 aufgehoben, und eine neue wurde begonnen.</translation>
+    </message>
+</context>
+<context>
+    <name>SentWindow</name>
+    <message>
+        <source>Sent</source>
+        <translation>Gesendet</translation>
+    </message>
+    <message>
+        <source>&amp;Find:</source>
+        <translation>&amp;Suchen:</translation>
+    </message>
+    <message>
+        <source>Find</source>
+        <translation>Suchen</translation>
+    </message>
+    <message>
+        <source>Words, a call sign, a key, a logger or a date</source>
+        <translation>Wörter, ein Rufzeichen, eine Taste, ein Logger oder ein Datum</translation>
+    </message>
+    <message>
+        <source>&amp;Keep a record of what is sent, for</source>
+        <translation>Gesendetes &amp;aufzeichnen, für</translation>
+    </message>
+    <message>
+        <source>How long what is sent is kept</source>
+        <translation>Wie lange Gesendetes aufgehoben wird</translation>
+    </message>
+    <message>
+        <source>Send &amp;Again</source>
+        <translation>&amp;Erneut senden</translation>
+    </message>
+    <message>
+        <source>&amp;Make Message</source>
+        <translation>Als &amp;Nachricht</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Kopieren</translation>
+    </message>
+    <message>
+        <source>&amp;Save as CSV…</source>
+        <translation>Als &amp;CSV sichern …</translation>
+    </message>
+    <message>
+        <source>C&amp;lose</source>
+        <translation>Sch&amp;ließen</translation>
+    </message>
+    <message>
+        <source>%1 sent</source>
+        <translation>%1 gesendet</translation>
+    </message>
+    <message>
+        <source>%1 found</source>
+        <translation>%1 gefunden</translation>
+    </message>
+    <message>
+        <source>The newest %1 found</source>
+        <translation>Die neuesten %1 gefunden</translation>
+    </message>
+    <message>
+        <source>Sends the text of the chosen line, as if it were typed</source>
+        <translation>Sendet den Text der gewählten Zeile, als wäre er getippt</translation>
+    </message>
+    <message>
+        <source>No keyer is connected</source>
+        <translation>Kein Keyer ist verbunden</translation>
+    </message>
+    <message>
+        <source>Puts the text of the chosen line under a message key</source>
+        <translation>Legt den Text der gewählten Zeile auf eine Nachrichtentaste</translation>
+    </message>
+    <message>
+        <source>F&amp;%1  %2</source>
+        <translation>F&amp;%1  %2</translation>
+    </message>
+    <message>
+        <source>Replace the text of F%1?</source>
+        <translation>Den Text von F%1 ersetzen?</translation>
+    </message>
+    <message>
+        <source>It is “%1” now, and will be “%2”.</source>
+        <translation>Jetzt ist er „%1“, dann „%2“.</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Ersetzen</translation>
+    </message>
+    <message>
+        <source>Save as CSV</source>
+        <translation>Als CSV sichern</translation>
+    </message>
+    <message>
+        <source>Values separated by commas (*.csv)</source>
+        <translation>Durch Kommas getrennte Werte (*.csv)</translation>
+    </message>
+    <message>
+        <source>sent.csv</source>
+        <translation>gesendet.csv</translation>
+    </message>
+    <message>
+        <source>Saved as %1</source>
+        <translation>Gesichert als %1</translation>
+    </message>
+    <message>
+        <source>Not saved: %1</source>
+        <translation>Nicht gesichert: %1</translation>
+    </message>
+</context>
+<context>
     <name>Setting</name>
     <message>
         <source>Off</source>
@@ -1950,6 +2334,22 @@ Die eigenen Optionen des Toolkits wie -platform und -style gelten auch. Die Anle
     <message>
         <source>%1 lpm</source>
         <translation>%1 BpM</translation>
+    </message>
+    <message>
+        <source>1 month</source>
+        <translation>1 Monat</translation>
+    </message>
+    <message>
+        <source>3 months</source>
+        <translation>3 Monate</translation>
+    </message>
+    <message>
+        <source>1 year</source>
+        <translation>1 Jahr</translation>
+    </message>
+    <message>
+        <source>5 years</source>
+        <translation>5 Jahre</translation>
     </message>
 </context>
 <context>
@@ -2263,10 +2663,6 @@ Die eigenen Optionen des Toolkits wie -platform und -style gelten auch. Die Anle
         <translation>Eingesteckt als %1 (%2)</translation>
     </message>
     <message>
-        <source>There is no window yet. What is keyed is printed here, until Ctrl+C.</source>
-        <translation>Es gibt noch kein Fenster. Was getastet wird, wird hier ausgegeben, bis Strg+C.</translation>
-    </message>
-    <message>
         <source>a running virtual keyer already holds the name %1</source>
         <translation>ein laufender virtueller Keyer hat den Namen %1 schon</translation>
     </message>
@@ -2294,6 +2690,34 @@ Die eigenen Optionen des Toolkits wie -platform und -style gelten auch. Die Anle
         <source>The virtual keyer does not run: %1</source>
         <translation>Der virtuelle Keyer läuft nicht: %1</translation>
     </message>
+    <message>
+        <source>cannot read the script %1: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a profile that --help lists</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1:%2: &quot;%3&quot; is not understood; possible is: %4</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1:%2: expected %3, but it is %4</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1:%2: not done before the end</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No window can be shown. What is keyed is printed here, until Ctrl+C.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>cannot write the sound %1</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>VirtualKeyerCommandLine</name>
@@ -2316,10 +2740,6 @@ Die eigenen Optionen des Toolkits wie -platform und -style gelten auch. Die Anle
     <message>
         <source>The serial port&apos;s name, %1 by default. The port is a link in quorvel/ports in the runtime directory.</source>
         <translation>Der Name des seriellen Ports, ohne Angabe %1. Der Port ist ein Link in quorvel/ports im Laufzeitverzeichnis.</translation>
-    </message>
-    <message>
-        <source>Shows no window. There is none yet: without this option the program says so, and does the same.</source>
-        <translation>Zeigt kein Fenster. Es gibt noch keines: Ohne diese Option sagt das Programm das und tut dasselbe.</translation>
     </message>
     <message>
         <source>Unknown profile &apos;%1&apos;; --help lists them.</source>
@@ -2362,6 +2782,38 @@ das ihn öffnet, und gibt auf der Standardausgabe aus, was er tastet.</translati
     <message>
         <source>Standard input works the paddle: &quot;.&quot; and &quot;-&quot; each close a contact, and anything else opens both.</source>
         <translation>Die Standardeingabe bedient das Paddle: „.“ und „-“ schließen je einen Kontakt, alles andere öffnet beide.</translation>
+    </message>
+    <message>
+        <source>Shows no window.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Saves the sidetone to %1, a WAV file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Works the keyer as %1 says, &quot;-&quot; for standard input, and ends with it; the exit status is 3 if what it expects did not happen. Lines of it are: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The script&apos;s time passes as fast as it can, and no port is plugged in.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The script needs a file name.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Only a script can be fast.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Standard input is either the script or the paddle.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The sound needs a file name.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2443,6 +2895,199 @@ das ihn öffnet, und gibt auf der Standardausgabe aus, was er tastet.</translati
     <message>
         <source>Quorvel is running already, and does not answer. End it, then start it again.</source>
         <translation>Quorvel läuft bereits und antwortet nicht. Beenden Sie es, und starten Sie es dann noch einmal.</translation>
+    </message>
+</context>
+<context>
+    <name>virtualkeyer::KeyerWindow</name>
+    <message>
+        <source>Virtual keyer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Plugged in as %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Plugged in</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pulls the adapter and plugs it in again. Without it the keyer has no power, and forgets its host.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Speed knob</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Counts within the range that the host has set, and only while the host leaves the speed to it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 WPM</source>
+        <translation type="unfinished">%1 WPM</translation>
+    </message>
+    <message>
+        <source>Push-buttons</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The host hears of them once it has asked for version 2 status.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Push-button %1</source>
+        <translation type="unfinished">Taster %1</translation>
+    </message>
+    <message>
+        <source>Registers</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Memory</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Kind of keyer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Keyed text</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What is keyed, by the host or the paddle, is read back here from the key line.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>virtualkeyer::KindList</name>
+    <message>
+        <source>Kinds of keyer</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>virtualkeyer::Lamp</name>
+    <message>
+        <source>%1: on</source>
+        <translation type="unfinished">%1: ein</translation>
+    </message>
+    <message>
+        <source>%1: off</source>
+        <translation type="unfinished">%1: aus</translation>
+    </message>
+</context>
+<context>
+    <name>virtualkeyer::LampRow</name>
+    <message>
+        <source>Key</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>PTT</source>
+        <translation type="unfinished">PTT</translation>
+    </message>
+    <message>
+        <source>Busy</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Break-in</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>XOFF</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Wait</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The transmitter would be keyed. Nothing here is on the air.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The transmitter would be switched on.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The host&apos;s text, the paddle or the tune command keys.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The paddle has the key, and the host&apos;s text has gone.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The buffer is nearly full; the host has to wait.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A wait or a key-down of the host&apos;s, with a time of its own, or a tune.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>virtualkeyer::MessageList</name>
+    <message>
+        <source>Play %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Play message %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>empty</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Message %1: %2</source>
+        <translation type="unfinished">Nachricht %1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>virtualkeyer::PaddlePanel</name>
+    <message>
+        <source>Paddle</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dit (F)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dah (J)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hold a button, or the keys F and J; both at once for a squeeze.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dit paddle</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dah paddle</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>virtualkeyer::RegisterTable</name>
+    <message>
+        <source>Registers</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Register</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 </TS>

@@ -814,6 +814,14 @@ También valen las opciones de la biblioteca gráfica, como -platform y -style. 
         <source>Paste</source>
         <translation>Pegar</translation>
     </message>
+    <message>
+        <source>W&amp;indow</source>
+        <translation>Vi&amp;sta</translation>
+    </message>
+    <message>
+        <source>&amp;Sent</source>
+        <translation>&amp;Transmitido</translation>
+    </message>
 </context>
 <context>
     <name>MemoryGauge</name>
@@ -1890,6 +1898,382 @@ También valen las opciones de la biblioteca gráfica, como -platform y -style. 
     </message>
 </context>
 <context>
+    <name>RegisterWords</name>
+    <message>
+        <source>on</source>
+        <translation type="unfinished">activado</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <translation type="unfinished">desactivado</translation>
+    </message>
+    <message>
+        <source>%1 ms</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 WPM</source>
+        <translation type="unfinished">%1 WPM</translation>
+    </message>
+    <message>
+        <source>%1 WPM, from the knob</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1; %2 WPM for now</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>iambic A</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>ultimatic</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>bug</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>iambic B</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>dah</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>dit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the last one closed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 Hz, for the paddle only</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 Hz</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 to %2 WPM</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 and 2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation type="unfinished">Velocidad</translation>
+    </message>
+    <message>
+        <source>Knob&apos;s range</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Farnsworth</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Weighting</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dah to dit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 to 1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Key compensation</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>First extension</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Word space</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 dits</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Paddle keying</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ultimatic priority</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Paddle swapped</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Paddle memory</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>after %1 dit lengths</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Paddle watchdog</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Autospace</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Paddle echo</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Serial echo</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sidetone</source>
+        <translation type="unfinished">Tono lateral</translation>
+    </message>
+    <message>
+        <source>Key outputs</source>
+        <translation type="unfinished">Salidas de manipulación</translation>
+    </message>
+    <message>
+        <source>PTT</source>
+        <translation type="unfinished">PTT</translation>
+    </message>
+    <message>
+        <source>Lead-in</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tail</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hang time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>word space and %1 dits</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>RunText</name>
+    <message>
+        <source>UTC</source>
+        <translation>UTC</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Texto</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Velocidad</translation>
+    </message>
+    <message>
+        <source>Sent by</source>
+        <translation>Transmitido por</translation>
+    </message>
+    <message>
+        <source>How it ended</source>
+        <translation>Cómo acabó</translation>
+    </message>
+    <message>
+        <source>%1 LPM</source>
+        <translation>%1 LPM</translation>
+    </message>
+    <message>
+        <source>%1 WPM</source>
+        <translation>%1 WPM</translation>
+    </message>
+    <message>
+        <source>Typed</source>
+        <translation>Tecleado</translation>
+    </message>
+    <message>
+        <source>F%1 %2</source>
+        <translation>F%1 %2</translation>
+    </message>
+    <message>
+        <source>Push-button %1 %2</source>
+        <translation>Pulsador %1 %2</translation>
+    </message>
+    <message>
+        <source>Beacon</source>
+        <translation>Baliza</translation>
+    </message>
+    <message>
+        <source>Logger, port %1</source>
+        <translation>Log, puerto %1</translation>
+    </message>
+    <message>
+        <source>Logger %1</source>
+        <translation>Log %1</translation>
+    </message>
+    <message>
+        <source>Sent</source>
+        <translation>Transmitido</translation>
+    </message>
+    <message>
+        <source>Stopped at character %1</source>
+        <translation>Parado en el carácter %1</translation>
+    </message>
+    <message>
+        <source>Broken in on at character %1</source>
+        <translation>Interrumpido en el carácter %1</translation>
+    </message>
+    <message>
+        <source>Link lost at character %1</source>
+        <translation>Enlace perdido en el carácter %1</translation>
+    </message>
+</context>
+<context>
+    <name>SentRecord</name>
+    <message>
+        <source>What you send cannot be recorded in %1: %2.</source>
+        <translation>Lo que transmite no se puede registrar en %1: %2.</translation>
+    </message>
+    <message>
+        <source>The record of what was sent was damaged. It is kept as %1, and a new one has been begun.</source>
+        <translation>El registro de lo transmitido estaba dañado. Se conserva como %1 y se ha empezado uno nuevo.</translation>
+    </message>
+</context>
+<context>
+    <name>SentWindow</name>
+    <message>
+        <source>Sent</source>
+        <translation>Transmitido</translation>
+    </message>
+    <message>
+        <source>&amp;Find:</source>
+        <translation>&amp;Buscar:</translation>
+    </message>
+    <message>
+        <source>Find</source>
+        <translation>Buscar</translation>
+    </message>
+    <message>
+        <source>Words, a call sign, a key, a logger or a date</source>
+        <translation>Palabras, un indicativo, una tecla, un log o una fecha</translation>
+    </message>
+    <message>
+        <source>&amp;Keep a record of what is sent, for</source>
+        <translation>&amp;Guardar lo que se transmite, durante</translation>
+    </message>
+    <message>
+        <source>How long what is sent is kept</source>
+        <translation>Cuánto tiempo se guarda lo transmitido</translation>
+    </message>
+    <message>
+        <source>Send &amp;Again</source>
+        <translation>&amp;Transmitir de nuevo</translation>
+    </message>
+    <message>
+        <source>&amp;Make Message</source>
+        <translation>Hacer &amp;mensaje</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Copiar</translation>
+    </message>
+    <message>
+        <source>&amp;Save as CSV…</source>
+        <translation>Guardar como CS&amp;V…</translation>
+    </message>
+    <message>
+        <source>C&amp;lose</source>
+        <translation>C&amp;errar</translation>
+    </message>
+    <message>
+        <source>%1 sent</source>
+        <translation>%1 transmitidos</translation>
+    </message>
+    <message>
+        <source>%1 found</source>
+        <translation>%1 encontrados</translation>
+    </message>
+    <message>
+        <source>The newest %1 found</source>
+        <translation>Los %1 más recientes encontrados</translation>
+    </message>
+    <message>
+        <source>Sends the text of the chosen line, as if it were typed</source>
+        <translation>Transmite el texto de la línea elegida, como si se tecleara</translation>
+    </message>
+    <message>
+        <source>No keyer is connected</source>
+        <translation>No hay ningún manipulador conectado</translation>
+    </message>
+    <message>
+        <source>Puts the text of the chosen line under a message key</source>
+        <translation>Pone el texto de la línea elegida en una tecla de mensaje</translation>
+    </message>
+    <message>
+        <source>F&amp;%1  %2</source>
+        <translation>F&amp;%1  %2</translation>
+    </message>
+    <message>
+        <source>Replace the text of F%1?</source>
+        <translation>¿Reemplazar el texto de F%1?</translation>
+    </message>
+    <message>
+        <source>It is “%1” now, and will be “%2”.</source>
+        <translation>Ahora es «%1» y será «%2».</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Reemplazar</translation>
+    </message>
+    <message>
+        <source>Save as CSV</source>
+        <translation>Guardar como CSV</translation>
+    </message>
+    <message>
+        <source>Values separated by commas (*.csv)</source>
+        <translation>Valores separados por comas (*.csv)</translation>
+    </message>
+    <message>
+        <source>sent.csv</source>
+        <translation>transmitido.csv</translation>
+    </message>
+    <message>
+        <source>Saved as %1</source>
+        <translation>Guardado como %1</translation>
+    </message>
+    <message>
+        <source>Not saved: %1</source>
+        <translation>No guardado: %1</translation>
+    </message>
+</context>
+<context>
     <name>Setting</name>
     <message>
         <source>Off</source>
@@ -1950,6 +2334,22 @@ También valen las opciones de la biblioteca gráfica, como -platform y -style. 
     <message>
         <source>%1 lpm</source>
         <translation>%1 lpm</translation>
+    </message>
+    <message>
+        <source>1 month</source>
+        <translation>1 mes</translation>
+    </message>
+    <message>
+        <source>3 months</source>
+        <translation>3 meses</translation>
+    </message>
+    <message>
+        <source>1 year</source>
+        <translation>1 año</translation>
+    </message>
+    <message>
+        <source>5 years</source>
+        <translation>5 años</translation>
     </message>
 </context>
 <context>
@@ -2263,10 +2663,6 @@ También valen las opciones de la biblioteca gráfica, como -platform y -style. 
         <translation>Enchufado como %1 (%2)</translation>
     </message>
     <message>
-        <source>There is no window yet. What is keyed is printed here, until Ctrl+C.</source>
-        <translation>Aún no hay ventana. Lo que se manipula se escribe aquí, hasta Ctrl+C.</translation>
-    </message>
-    <message>
         <source>a running virtual keyer already holds the name %1</source>
         <translation>un manipulador virtual en marcha ya tiene el nombre %1</translation>
     </message>
@@ -2294,6 +2690,34 @@ También valen las opciones de la biblioteca gráfica, como -platform y -style. 
         <source>The virtual keyer does not run: %1</source>
         <translation>El manipulador virtual no funciona: %1</translation>
     </message>
+    <message>
+        <source>cannot read the script %1: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a profile that --help lists</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1:%2: &quot;%3&quot; is not understood; possible is: %4</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1:%2: expected %3, but it is %4</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1:%2: not done before the end</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No window can be shown. What is keyed is printed here, until Ctrl+C.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>cannot write the sound %1</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>VirtualKeyerCommandLine</name>
@@ -2316,10 +2740,6 @@ También valen las opciones de la biblioteca gráfica, como -platform y -style. 
     <message>
         <source>The serial port&apos;s name, %1 by default. The port is a link in quorvel/ports in the runtime directory.</source>
         <translation>El nombre del puerto serie, %1 si no se indica. El puerto es un enlace en quorvel/ports del directorio de ejecución.</translation>
-    </message>
-    <message>
-        <source>Shows no window. There is none yet: without this option the program says so, and does the same.</source>
-        <translation>No muestra ventana. Aún no hay ninguna: sin esta opción el programa lo dice, y hace lo mismo.</translation>
     </message>
     <message>
         <source>Unknown profile &apos;%1&apos;; --help lists them.</source>
@@ -2362,6 +2782,38 @@ que lo abre, y escribe lo que manipula en la salida estándar.</translation>
     <message>
         <source>Standard input works the paddle: &quot;.&quot; and &quot;-&quot; each close a contact, and anything else opens both.</source>
         <translation>La entrada estándar maneja las palas: «.» y «-» cierran un contacto cada uno, y todo lo demás abre los dos.</translation>
+    </message>
+    <message>
+        <source>Shows no window.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Saves the sidetone to %1, a WAV file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Works the keyer as %1 says, &quot;-&quot; for standard input, and ends with it; the exit status is 3 if what it expects did not happen. Lines of it are: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The script&apos;s time passes as fast as it can, and no port is plugged in.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The script needs a file name.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Only a script can be fast.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Standard input is either the script or the paddle.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The sound needs a file name.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2443,6 +2895,199 @@ que lo abre, y escribe lo que manipula en la salida estándar.</translation>
     <message>
         <source>Quorvel is running already, and does not answer. End it, then start it again.</source>
         <translation>Quorvel ya está en marcha y no responde. Ciérrelo y arránquelo de nuevo.</translation>
+    </message>
+</context>
+<context>
+    <name>virtualkeyer::KeyerWindow</name>
+    <message>
+        <source>Virtual keyer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Plugged in as %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Plugged in</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pulls the adapter and plugs it in again. Without it the keyer has no power, and forgets its host.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Speed knob</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Counts within the range that the host has set, and only while the host leaves the speed to it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 WPM</source>
+        <translation type="unfinished">%1 WPM</translation>
+    </message>
+    <message>
+        <source>Push-buttons</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The host hears of them once it has asked for version 2 status.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Push-button %1</source>
+        <translation type="unfinished">Pulsador %1</translation>
+    </message>
+    <message>
+        <source>Registers</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Memory</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Kind of keyer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Keyed text</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What is keyed, by the host or the paddle, is read back here from the key line.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>virtualkeyer::KindList</name>
+    <message>
+        <source>Kinds of keyer</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>virtualkeyer::Lamp</name>
+    <message>
+        <source>%1: on</source>
+        <translation type="unfinished">%1: activado</translation>
+    </message>
+    <message>
+        <source>%1: off</source>
+        <translation type="unfinished">%1: desactivado</translation>
+    </message>
+</context>
+<context>
+    <name>virtualkeyer::LampRow</name>
+    <message>
+        <source>Key</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>PTT</source>
+        <translation type="unfinished">PTT</translation>
+    </message>
+    <message>
+        <source>Busy</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Break-in</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>XOFF</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Wait</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The transmitter would be keyed. Nothing here is on the air.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The transmitter would be switched on.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The host&apos;s text, the paddle or the tune command keys.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The paddle has the key, and the host&apos;s text has gone.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The buffer is nearly full; the host has to wait.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A wait or a key-down of the host&apos;s, with a time of its own, or a tune.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>virtualkeyer::MessageList</name>
+    <message>
+        <source>Play %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Play message %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>empty</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Message %1: %2</source>
+        <translation type="unfinished">Mensaje %1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>virtualkeyer::PaddlePanel</name>
+    <message>
+        <source>Paddle</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dit (F)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dah (J)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hold a button, or the keys F and J; both at once for a squeeze.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dit paddle</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dah paddle</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>virtualkeyer::RegisterTable</name>
+    <message>
+        <source>Registers</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Register</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 </TS>

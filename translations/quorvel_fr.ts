@@ -814,6 +814,14 @@ Les options de la bibliothèque graphique, comme -platform et -style, sont admis
         <source>Paste</source>
         <translation>Coller</translation>
     </message>
+    <message>
+        <source>W&amp;indow</source>
+        <translation>V&amp;ue</translation>
+    </message>
+    <message>
+        <source>&amp;Sent</source>
+        <translation>&amp;Émis</translation>
+    </message>
 </context>
 <context>
     <name>MemoryGauge</name>
@@ -1890,6 +1898,382 @@ Les options de la bibliothèque graphique, comme -platform et -style, sont admis
     </message>
 </context>
 <context>
+    <name>RegisterWords</name>
+    <message>
+        <source>on</source>
+        <translation type="unfinished">activé</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <translation type="unfinished">désactivé</translation>
+    </message>
+    <message>
+        <source>%1 ms</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 WPM</source>
+        <translation type="unfinished">%1 WPM</translation>
+    </message>
+    <message>
+        <source>%1 WPM, from the knob</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1; %2 WPM for now</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>iambic A</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>ultimatic</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>bug</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>iambic B</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>dah</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>dit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the last one closed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 Hz, for the paddle only</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 Hz</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 to %2 WPM</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 and 2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation type="unfinished">Vitesse</translation>
+    </message>
+    <message>
+        <source>Knob&apos;s range</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Farnsworth</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Weighting</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dah to dit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 to 1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Key compensation</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>First extension</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Word space</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 dits</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Paddle keying</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ultimatic priority</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Paddle swapped</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Paddle memory</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>after %1 dit lengths</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Paddle watchdog</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Autospace</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Paddle echo</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Serial echo</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sidetone</source>
+        <translation type="unfinished">Effet local</translation>
+    </message>
+    <message>
+        <source>Key outputs</source>
+        <translation type="unfinished">Sorties de clé</translation>
+    </message>
+    <message>
+        <source>PTT</source>
+        <translation type="unfinished">PTT</translation>
+    </message>
+    <message>
+        <source>Lead-in</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tail</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hang time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>word space and %1 dits</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>RunText</name>
+    <message>
+        <source>UTC</source>
+        <translation>UTC</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Texte</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Vitesse</translation>
+    </message>
+    <message>
+        <source>Sent by</source>
+        <translation>Émis par</translation>
+    </message>
+    <message>
+        <source>How it ended</source>
+        <translation>Fin</translation>
+    </message>
+    <message>
+        <source>%1 LPM</source>
+        <translation>%1 LPM</translation>
+    </message>
+    <message>
+        <source>%1 WPM</source>
+        <translation>%1 WPM</translation>
+    </message>
+    <message>
+        <source>Typed</source>
+        <translation>Saisi</translation>
+    </message>
+    <message>
+        <source>F%1 %2</source>
+        <translation>F%1 %2</translation>
+    </message>
+    <message>
+        <source>Push-button %1 %2</source>
+        <translation>Bouton %1 %2</translation>
+    </message>
+    <message>
+        <source>Beacon</source>
+        <translation>Balise</translation>
+    </message>
+    <message>
+        <source>Logger, port %1</source>
+        <translation>Log, port %1</translation>
+    </message>
+    <message>
+        <source>Logger %1</source>
+        <translation>Log %1</translation>
+    </message>
+    <message>
+        <source>Sent</source>
+        <translation>Émis</translation>
+    </message>
+    <message>
+        <source>Stopped at character %1</source>
+        <translation>Arrêté au caractère %1</translation>
+    </message>
+    <message>
+        <source>Broken in on at character %1</source>
+        <translation>Interrompu au caractère %1</translation>
+    </message>
+    <message>
+        <source>Link lost at character %1</source>
+        <translation>Liaison perdue au caractère %1</translation>
+    </message>
+</context>
+<context>
+    <name>SentRecord</name>
+    <message>
+        <source>What you send cannot be recorded in %1: %2.</source>
+        <translation>Ce que vous émettez ne peut être consigné dans %1&#xa0;: %2.</translation>
+    </message>
+    <message>
+        <source>The record of what was sent was damaged. It is kept as %1, and a new one has been begun.</source>
+        <translation>Le journal des émissions était endommagé. Il est conservé sous %1, et un nouveau a été commencé.</translation>
+    </message>
+</context>
+<context>
+    <name>SentWindow</name>
+    <message>
+        <source>Sent</source>
+        <translation>Émis</translation>
+    </message>
+    <message>
+        <source>&amp;Find:</source>
+        <translation>C&amp;hercher&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Find</source>
+        <translation>Chercher</translation>
+    </message>
+    <message>
+        <source>Words, a call sign, a key, a logger or a date</source>
+        <translation>Des mots, un indicatif, une touche, un log ou une date</translation>
+    </message>
+    <message>
+        <source>&amp;Keep a record of what is sent, for</source>
+        <translation>&amp;Garder la trace de ce qui est émis, pendant</translation>
+    </message>
+    <message>
+        <source>How long what is sent is kept</source>
+        <translation>Combien de temps la trace est gardée</translation>
+    </message>
+    <message>
+        <source>Send &amp;Again</source>
+        <translation>É&amp;mettre de nouveau</translation>
+    </message>
+    <message>
+        <source>&amp;Make Message</source>
+        <translation>En faire un me&amp;ssage</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Copier</translation>
+    </message>
+    <message>
+        <source>&amp;Save as CSV…</source>
+        <translation>Enregistre&amp;r en CSV…</translation>
+    </message>
+    <message>
+        <source>C&amp;lose</source>
+        <translation>&amp;Fermer</translation>
+    </message>
+    <message>
+        <source>%1 sent</source>
+        <translation>%1 émis</translation>
+    </message>
+    <message>
+        <source>%1 found</source>
+        <translation>%1 trouvés</translation>
+    </message>
+    <message>
+        <source>The newest %1 found</source>
+        <translation>Les %1 plus récents trouvés</translation>
+    </message>
+    <message>
+        <source>Sends the text of the chosen line, as if it were typed</source>
+        <translation>Émet le texte de la ligne choisie, comme s’il était saisi</translation>
+    </message>
+    <message>
+        <source>No keyer is connected</source>
+        <translation>Aucun manipulateur n’est connecté</translation>
+    </message>
+    <message>
+        <source>Puts the text of the chosen line under a message key</source>
+        <translation>Met le texte de la ligne choisie sous une touche de message</translation>
+    </message>
+    <message>
+        <source>F&amp;%1  %2</source>
+        <translation>F&amp;%1  %2</translation>
+    </message>
+    <message>
+        <source>Replace the text of F%1?</source>
+        <translation>Remplacer le texte de F%1&#xa0;?</translation>
+    </message>
+    <message>
+        <source>It is “%1” now, and will be “%2”.</source>
+        <translation>C’est «&#xa0;%1&#xa0;» maintenant, ce sera «&#xa0;%2&#xa0;».</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Remplacer</translation>
+    </message>
+    <message>
+        <source>Save as CSV</source>
+        <translation>Enregistrer en CSV</translation>
+    </message>
+    <message>
+        <source>Values separated by commas (*.csv)</source>
+        <translation>Valeurs séparées par des virgules (*.csv)</translation>
+    </message>
+    <message>
+        <source>sent.csv</source>
+        <translation>emis.csv</translation>
+    </message>
+    <message>
+        <source>Saved as %1</source>
+        <translation>Enregistré sous %1</translation>
+    </message>
+    <message>
+        <source>Not saved: %1</source>
+        <translation>Pas enregistré&#xa0;: %1</translation>
+    </message>
+</context>
+<context>
     <name>Setting</name>
     <message>
         <source>Off</source>
@@ -1950,6 +2334,22 @@ Les options de la bibliothèque graphique, comme -platform et -style, sont admis
     <message>
         <source>%1 lpm</source>
         <translation>%1 lpm</translation>
+    </message>
+    <message>
+        <source>1 month</source>
+        <translation>1 mois</translation>
+    </message>
+    <message>
+        <source>3 months</source>
+        <translation>3 mois</translation>
+    </message>
+    <message>
+        <source>1 year</source>
+        <translation>1 an</translation>
+    </message>
+    <message>
+        <source>5 years</source>
+        <translation>5 ans</translation>
     </message>
 </context>
 <context>
@@ -2263,10 +2663,6 @@ Les options de la bibliothèque graphique, comme -platform et -style, sont admis
         <translation>Branché sous le nom %1 (%2)</translation>
     </message>
     <message>
-        <source>There is no window yet. What is keyed is printed here, until Ctrl+C.</source>
-        <translation>Il n’y a pas encore de fenêtre. Ce qui est manipulé est affiché ici, jusqu’à Ctrl+C.</translation>
-    </message>
-    <message>
         <source>a running virtual keyer already holds the name %1</source>
         <translation>un manipulateur virtuel en marche porte déjà le nom %1</translation>
     </message>
@@ -2294,6 +2690,34 @@ Les options de la bibliothèque graphique, comme -platform et -style, sont admis
         <source>The virtual keyer does not run: %1</source>
         <translation>Le manipulateur virtuel ne tourne pas&#xa0;: %1</translation>
     </message>
+    <message>
+        <source>cannot read the script %1: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a profile that --help lists</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1:%2: &quot;%3&quot; is not understood; possible is: %4</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1:%2: expected %3, but it is %4</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1:%2: not done before the end</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No window can be shown. What is keyed is printed here, until Ctrl+C.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>cannot write the sound %1</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>VirtualKeyerCommandLine</name>
@@ -2316,10 +2740,6 @@ Les options de la bibliothèque graphique, comme -platform et -style, sont admis
     <message>
         <source>The serial port&apos;s name, %1 by default. The port is a link in quorvel/ports in the runtime directory.</source>
         <translation>Le nom du port série, %1 par défaut. Le port est un lien dans quorvel/ports du répertoire d’exécution.</translation>
-    </message>
-    <message>
-        <source>Shows no window. There is none yet: without this option the program says so, and does the same.</source>
-        <translation>N’affiche pas de fenêtre. Il n’y en a pas encore&#xa0;: sans cette option, le programme le dit, et fait de même.</translation>
     </message>
     <message>
         <source>Unknown profile &apos;%1&apos;; --help lists them.</source>
@@ -2362,6 +2782,38 @@ qui l’ouvre, et écrit ce qu’il manipule sur la sortie standard.</translatio
     <message>
         <source>Standard input works the paddle: &quot;.&quot; and &quot;-&quot; each close a contact, and anything else opens both.</source>
         <translation>L’entrée standard manœuvre les palettes : « . » et « - » ferment chacun un contact, tout le reste ouvre les deux.</translation>
+    </message>
+    <message>
+        <source>Shows no window.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Saves the sidetone to %1, a WAV file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Works the keyer as %1 says, &quot;-&quot; for standard input, and ends with it; the exit status is 3 if what it expects did not happen. Lines of it are: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The script&apos;s time passes as fast as it can, and no port is plugged in.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The script needs a file name.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Only a script can be fast.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Standard input is either the script or the paddle.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The sound needs a file name.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2443,6 +2895,199 @@ qui l’ouvre, et écrit ce qu’il manipule sur la sortie standard.</translatio
     <message>
         <source>Quorvel is running already, and does not answer. End it, then start it again.</source>
         <translation>Quorvel tourne déjà et ne répond pas. Arrêtez-le, puis démarrez-le de nouveau.</translation>
+    </message>
+</context>
+<context>
+    <name>virtualkeyer::KeyerWindow</name>
+    <message>
+        <source>Virtual keyer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Plugged in as %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Plugged in</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pulls the adapter and plugs it in again. Without it the keyer has no power, and forgets its host.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Speed knob</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Counts within the range that the host has set, and only while the host leaves the speed to it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 WPM</source>
+        <translation type="unfinished">%1 WPM</translation>
+    </message>
+    <message>
+        <source>Push-buttons</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The host hears of them once it has asked for version 2 status.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Push-button %1</source>
+        <translation type="unfinished">Bouton %1</translation>
+    </message>
+    <message>
+        <source>Registers</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Memory</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Kind of keyer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Keyed text</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What is keyed, by the host or the paddle, is read back here from the key line.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>virtualkeyer::KindList</name>
+    <message>
+        <source>Kinds of keyer</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>virtualkeyer::Lamp</name>
+    <message>
+        <source>%1: on</source>
+        <translation type="unfinished">%1 : activé</translation>
+    </message>
+    <message>
+        <source>%1: off</source>
+        <translation type="unfinished">%1 : désactivé</translation>
+    </message>
+</context>
+<context>
+    <name>virtualkeyer::LampRow</name>
+    <message>
+        <source>Key</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>PTT</source>
+        <translation type="unfinished">PTT</translation>
+    </message>
+    <message>
+        <source>Busy</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Break-in</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>XOFF</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Wait</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The transmitter would be keyed. Nothing here is on the air.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The transmitter would be switched on.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The host&apos;s text, the paddle or the tune command keys.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The paddle has the key, and the host&apos;s text has gone.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The buffer is nearly full; the host has to wait.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A wait or a key-down of the host&apos;s, with a time of its own, or a tune.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>virtualkeyer::MessageList</name>
+    <message>
+        <source>Play %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Play message %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>empty</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Message %1: %2</source>
+        <translation type="unfinished">Message %1&#xa0;: %2</translation>
+    </message>
+</context>
+<context>
+    <name>virtualkeyer::PaddlePanel</name>
+    <message>
+        <source>Paddle</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dit (F)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dah (J)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hold a button, or the keys F and J; both at once for a squeeze.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dit paddle</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dah paddle</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>virtualkeyer::RegisterTable</name>
+    <message>
+        <source>Registers</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Register</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 </TS>

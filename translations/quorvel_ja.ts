@@ -814,6 +814,14 @@ WinKeyer USB キーヤーを通してモールス符号を送信します。
         <source>Paste</source>
         <translation>貼り付け</translation>
     </message>
+    <message>
+        <source>W&amp;indow</source>
+        <translation>表示(&amp;I)</translation>
+    </message>
+    <message>
+        <source>&amp;Sent</source>
+        <translation>送信済み(&amp;S)</translation>
+    </message>
 </context>
 <context>
     <name>MemoryGauge</name>
@@ -1890,6 +1898,382 @@ WinKeyer USB キーヤーを通してモールス符号を送信します。
     </message>
 </context>
 <context>
+    <name>RegisterWords</name>
+    <message>
+        <source>on</source>
+        <translation type="unfinished">オン</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <translation type="unfinished">オフ</translation>
+    </message>
+    <message>
+        <source>%1 ms</source>
+        <translation type="unfinished">%1 ms</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 WPM</source>
+        <translation type="unfinished">%1 WPM</translation>
+    </message>
+    <message>
+        <source>%1 WPM, from the knob</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1; %2 WPM for now</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>iambic A</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>ultimatic</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>bug</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>iambic B</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>dah</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>dit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the last one closed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 Hz, for the paddle only</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 Hz</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 to %2 WPM</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 and 2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation type="unfinished">速度</translation>
+    </message>
+    <message>
+        <source>Knob&apos;s range</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Farnsworth</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Weighting</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dah to dit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 to 1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Key compensation</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>First extension</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Word space</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 dits</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Paddle keying</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ultimatic priority</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Paddle swapped</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Paddle memory</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>after %1 dit lengths</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Paddle watchdog</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Autospace</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Paddle echo</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Serial echo</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sidetone</source>
+        <translation type="unfinished">サイドトーン</translation>
+    </message>
+    <message>
+        <source>Key outputs</source>
+        <translation type="unfinished">キー出力</translation>
+    </message>
+    <message>
+        <source>PTT</source>
+        <translation type="unfinished">PTT</translation>
+    </message>
+    <message>
+        <source>Lead-in</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tail</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hang time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>word space and %1 dits</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>RunText</name>
+    <message>
+        <source>UTC</source>
+        <translation>UTC</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>文</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>速度</translation>
+    </message>
+    <message>
+        <source>Sent by</source>
+        <translation>送信元</translation>
+    </message>
+    <message>
+        <source>How it ended</source>
+        <translation>終わり方</translation>
+    </message>
+    <message>
+        <source>%1 LPM</source>
+        <translation>%1 字/分</translation>
+    </message>
+    <message>
+        <source>%1 WPM</source>
+        <translation>%1 WPM</translation>
+    </message>
+    <message>
+        <source>Typed</source>
+        <translation>入力</translation>
+    </message>
+    <message>
+        <source>F%1 %2</source>
+        <translation>F%1 %2</translation>
+    </message>
+    <message>
+        <source>Push-button %1 %2</source>
+        <translation>押しボタン %1 %2</translation>
+    </message>
+    <message>
+        <source>Beacon</source>
+        <translation>ビーコン</translation>
+    </message>
+    <message>
+        <source>Logger, port %1</source>
+        <translation>ロガー、ポート %1</translation>
+    </message>
+    <message>
+        <source>Logger %1</source>
+        <translation>ロガー %1</translation>
+    </message>
+    <message>
+        <source>Sent</source>
+        <translation>送信済み</translation>
+    </message>
+    <message>
+        <source>Stopped at character %1</source>
+        <translation>%1 文字目で停止</translation>
+    </message>
+    <message>
+        <source>Broken in on at character %1</source>
+        <translation>%1 文字目で割り込み</translation>
+    </message>
+    <message>
+        <source>Link lost at character %1</source>
+        <translation>%1 文字目で接続が切れた</translation>
+    </message>
+</context>
+<context>
+    <name>SentRecord</name>
+    <message>
+        <source>What you send cannot be recorded in %1: %2.</source>
+        <translation>送信したものを %1 に記録できません: %2。</translation>
+    </message>
+    <message>
+        <source>The record of what was sent was damaged. It is kept as %1, and a new one has been begun.</source>
+        <translation>送信の記録が壊れていました。%1 として残し、新しい記録を始めました。</translation>
+    </message>
+</context>
+<context>
+    <name>SentWindow</name>
+    <message>
+        <source>Sent</source>
+        <translation>送信済み</translation>
+    </message>
+    <message>
+        <source>&amp;Find:</source>
+        <translation>検索(&amp;F):</translation>
+    </message>
+    <message>
+        <source>Find</source>
+        <translation>検索</translation>
+    </message>
+    <message>
+        <source>Words, a call sign, a key, a logger or a date</source>
+        <translation>言葉、コールサイン、キー、ロガー、日付</translation>
+    </message>
+    <message>
+        <source>&amp;Keep a record of what is sent, for</source>
+        <translation>送信したものを記録する、期間(&amp;K)</translation>
+    </message>
+    <message>
+        <source>How long what is sent is kept</source>
+        <translation>送信の記録を残す期間</translation>
+    </message>
+    <message>
+        <source>Send &amp;Again</source>
+        <translation>もう一度送信(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;Make Message</source>
+        <translation>メッセージにする(&amp;M)</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>コピー(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Save as CSV…</source>
+        <translation>CSV で保存(&amp;S)…</translation>
+    </message>
+    <message>
+        <source>C&amp;lose</source>
+        <translation>閉じる(&amp;L)</translation>
+    </message>
+    <message>
+        <source>%1 sent</source>
+        <translation>送信 %1 件</translation>
+    </message>
+    <message>
+        <source>%1 found</source>
+        <translation>%1 件見つかりました</translation>
+    </message>
+    <message>
+        <source>The newest %1 found</source>
+        <translation>新しいほうから %1 件</translation>
+    </message>
+    <message>
+        <source>Sends the text of the chosen line, as if it were typed</source>
+        <translation>選んだ行の文を、入力したのと同じように送ります</translation>
+    </message>
+    <message>
+        <source>No keyer is connected</source>
+        <translation>キーヤーがつながっていません</translation>
+    </message>
+    <message>
+        <source>Puts the text of the chosen line under a message key</source>
+        <translation>選んだ行の文をメッセージキーに入れます</translation>
+    </message>
+    <message>
+        <source>F&amp;%1  %2</source>
+        <translation>F&amp;%1  %2</translation>
+    </message>
+    <message>
+        <source>Replace the text of F%1?</source>
+        <translation>F%1 の文を置き換えますか？</translation>
+    </message>
+    <message>
+        <source>It is “%1” now, and will be “%2”.</source>
+        <translation>今は「%1」で、「%2」になります。</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>置き換える</translation>
+    </message>
+    <message>
+        <source>Save as CSV</source>
+        <translation>CSV で保存</translation>
+    </message>
+    <message>
+        <source>Values separated by commas (*.csv)</source>
+        <translation>コンマ区切りの値 (*.csv)</translation>
+    </message>
+    <message>
+        <source>sent.csv</source>
+        <translation>sent.csv</translation>
+    </message>
+    <message>
+        <source>Saved as %1</source>
+        <translation>%1 に保存しました</translation>
+    </message>
+    <message>
+        <source>Not saved: %1</source>
+        <translation>保存できません: %1</translation>
+    </message>
+</context>
+<context>
     <name>Setting</name>
     <message>
         <source>Off</source>
@@ -1950,6 +2334,22 @@ WinKeyer USB キーヤーを通してモールス符号を送信します。
     <message>
         <source>%1 lpm</source>
         <translation>%1 字/分</translation>
+    </message>
+    <message>
+        <source>1 month</source>
+        <translation>1 か月</translation>
+    </message>
+    <message>
+        <source>3 months</source>
+        <translation>3 か月</translation>
+    </message>
+    <message>
+        <source>1 year</source>
+        <translation>1 年</translation>
+    </message>
+    <message>
+        <source>5 years</source>
+        <translation>5 年</translation>
     </message>
 </context>
 <context>
@@ -2263,10 +2663,6 @@ WinKeyer USB キーヤーを通してモールス符号を送信します。
         <translation>%1 として接続しました (%2)</translation>
     </message>
     <message>
-        <source>There is no window yet. What is keyed is printed here, until Ctrl+C.</source>
-        <translation>ウィンドウはまだありません。送信した符号を Ctrl+C までここに表示します。</translation>
-    </message>
-    <message>
         <source>a running virtual keyer already holds the name %1</source>
         <translation>動作中の仮想キーヤーがすでに %1 の名前を使っています</translation>
     </message>
@@ -2294,6 +2690,34 @@ WinKeyer USB キーヤーを通してモールス符号を送信します。
         <source>The virtual keyer does not run: %1</source>
         <translation>仮想キーヤーが動いていません: %1</translation>
     </message>
+    <message>
+        <source>cannot read the script %1: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a profile that --help lists</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1:%2: &quot;%3&quot; is not understood; possible is: %4</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1:%2: expected %3, but it is %4</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1:%2: not done before the end</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No window can be shown. What is keyed is printed here, until Ctrl+C.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>cannot write the sound %1</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>VirtualKeyerCommandLine</name>
@@ -2316,10 +2740,6 @@ WinKeyer USB キーヤーを通してモールス符号を送信します。
     <message>
         <source>The serial port&apos;s name, %1 by default. The port is a link in quorvel/ports in the runtime directory.</source>
         <translation>シリアルポートの名前。既定値は %1 です。ポートはランタイムディレクトリーの quorvel/ports にあるリンクです。</translation>
-    </message>
-    <message>
-        <source>Shows no window. There is none yet: without this option the program says so, and does the same.</source>
-        <translation>ウィンドウを表示しません。まだないので、このオプションがなければその旨を伝えて同じことをします。</translation>
     </message>
     <message>
         <source>Unknown profile &apos;%1&apos;; --help lists them.</source>
@@ -2362,6 +2782,38 @@ program that opens it, and prints what it keys to standard output.</source>
     <message>
         <source>Standard input works the paddle: &quot;.&quot; and &quot;-&quot; each close a contact, and anything else opens both.</source>
         <translation>標準入力でパドルを操作します。「.」と「-」はそれぞれ接点を閉じ、それ以外の文字は両方を開きます。</translation>
+    </message>
+    <message>
+        <source>Shows no window.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Saves the sidetone to %1, a WAV file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Works the keyer as %1 says, &quot;-&quot; for standard input, and ends with it; the exit status is 3 if what it expects did not happen. Lines of it are: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The script&apos;s time passes as fast as it can, and no port is plugged in.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The script needs a file name.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Only a script can be fast.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Standard input is either the script or the paddle.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The sound needs a file name.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2443,6 +2895,199 @@ program that opens it, and prints what it keys to standard output.</source>
     <message>
         <source>Quorvel is running already, and does not answer. End it, then start it again.</source>
         <translation>Quorvel はすでに動いていて、応答しません。終了させてから、もう一度起動してください。</translation>
+    </message>
+</context>
+<context>
+    <name>virtualkeyer::KeyerWindow</name>
+    <message>
+        <source>Virtual keyer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Plugged in as %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Plugged in</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pulls the adapter and plugs it in again. Without it the keyer has no power, and forgets its host.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Speed knob</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Counts within the range that the host has set, and only while the host leaves the speed to it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 WPM</source>
+        <translation type="unfinished">%1 WPM</translation>
+    </message>
+    <message>
+        <source>Push-buttons</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The host hears of them once it has asked for version 2 status.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Push-button %1</source>
+        <translation type="unfinished">押しボタン %1</translation>
+    </message>
+    <message>
+        <source>Registers</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Memory</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Kind of keyer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Keyed text</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What is keyed, by the host or the paddle, is read back here from the key line.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>virtualkeyer::KindList</name>
+    <message>
+        <source>Kinds of keyer</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>virtualkeyer::Lamp</name>
+    <message>
+        <source>%1: on</source>
+        <translation type="unfinished">%1: オン</translation>
+    </message>
+    <message>
+        <source>%1: off</source>
+        <translation type="unfinished">%1: オフ</translation>
+    </message>
+</context>
+<context>
+    <name>virtualkeyer::LampRow</name>
+    <message>
+        <source>Key</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>PTT</source>
+        <translation type="unfinished">PTT</translation>
+    </message>
+    <message>
+        <source>Busy</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Break-in</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>XOFF</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Wait</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The transmitter would be keyed. Nothing here is on the air.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The transmitter would be switched on.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The host&apos;s text, the paddle or the tune command keys.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The paddle has the key, and the host&apos;s text has gone.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The buffer is nearly full; the host has to wait.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A wait or a key-down of the host&apos;s, with a time of its own, or a tune.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>virtualkeyer::MessageList</name>
+    <message>
+        <source>Play %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Play message %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>empty</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Message %1: %2</source>
+        <translation type="unfinished">メッセージ %1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>virtualkeyer::PaddlePanel</name>
+    <message>
+        <source>Paddle</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dit (F)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dah (J)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hold a button, or the keys F and J; both at once for a squeeze.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dit paddle</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dah paddle</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>virtualkeyer::RegisterTable</name>
+    <message>
+        <source>Registers</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Register</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 </TS>

@@ -8,6 +8,7 @@
 #include "app/window/EditActions.h"
 #include "app/window/GuideWindow.h"
 #include "app/window/HeldMessages.h"
+#include "app/window/MenuBarFit.h"
 #include "app/window/MessageButtons.h"
 #include "app/window/ModeSwitches.h"
 #include "app/window/SettingAction.h"
@@ -252,7 +253,9 @@ void MainWindow::setUpMenus() {
                                                            .copy = _ui->copyAction,
                                                            .paste = _ui->pasteAction,
                                                            .selectAll = _ui->selectAllAction});
+    new MenuBarFit(*menuBar());
     new SettingAction(*_ui->acceptLoggersAction, AcceptLoggers, this);
+    QObject::connect(_ui->sentAction, &QAction::triggered, this, &MainWindow::sentRequested);
     QObject::connect(_ui->guideAction, &QAction::triggered, this, [this] { showGuide(); });
     QObject::connect(_ui->checkPortsAction, &QAction::triggered, this,
                      &MainWindow::portCheckRequested);
@@ -296,6 +299,12 @@ void MainWindow::silenceKeyer() {
 
 void MainWindow::say(const QString& notice) {
     _ui->noticeStrip->say(notice);
+}
+
+void MainWindow::sendText(const QString& text) {
+    const auto before = _keyboardView->text();
+    const bool isApart = before.isEmpty() || before.endsWith(u' ');
+    _keyboardView->replaceText(before.size(), before.size(), isApart ? text : u' ' + text);
 }
 
 void MainWindow::showFirstSteps() {

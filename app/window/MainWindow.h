@@ -47,6 +47,8 @@ class MainWindow final : public QMainWindow {
     void showFirstSteps();
     /// Offers to start a keyer made of software.
     void offerVirtualKeyer();
+    /// Sends the text as if the operator had typed it behind what is there.
+    void sendText(const QString& text);
     /// Says in the status line what there is to say of loggers; an empty text for nothing.
     void showLoggers(const QString& notice);
     /// Shows the guide, at the chapter of that name, as "tune", if there is one.
@@ -61,6 +63,8 @@ class MainWindow final : public QMainWindow {
     void portRequested();
     /// The check of the ports, in a window of its own.
     void portCheckRequested();
+    /// The record of what was sent.
+    void sentRequested();
     /// A keyer made of software.
     void virtualKeyerRequested();
     void quitRequested();
