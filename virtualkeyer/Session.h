@@ -41,6 +41,9 @@ class Session {
     /// on after the script's end.
     void add(KeyerListener& listener, Operator& keyerOperator);
 
+    /// Also has this watch the keyer; it must outlive the session.
+    void add(KeyerListener& listener) { _listeners.push_back(&listener); }
+
     /// Runs the keyer until `stopDescriptor` is readable or the script ends it. Plugs it in as a
     /// port and says so, unless the time is to run fast. Throws what the system and the script do.
     void run(int stopDescriptor);

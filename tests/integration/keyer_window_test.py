@@ -205,6 +205,13 @@ class KeyerWindowTest(ProgramTest):
         self.assertEqual(quorvel.end(), 0)
         self.assertEqual(keyer.end(), 0)
 
+    def test_without_a_sound_device_it_says_that_it_is_silent(self):
+        keyer, window = self.start_window()
+        keyer.wait_for("the word", lambda: window.find("No sound device: it is silent.")
+                       .is_in_state("showing"))
+        self.assertFalse(window.find("Volume").is_in_state("sensitive"))
+        self.assertEqual(keyer.end(), 0)
+
     def test_closing_the_window_pulls_the_plug(self):
         keyer, _ = self.start_window()
         self.desktop.press("alt+F4")

@@ -39,6 +39,14 @@ void SidetoneRenderer::render(std::span<float> samples) {
     }
 }
 
+bool SidetoneRenderer::skipTo(std::int64_t sample) {
+    const bool staysSilent = isSilent() && (_changes.empty() || _changes.front().sample >= sample);
+    if (staysSilent) {
+        _position = std::max(_position, sample);
+    }
+    return staysSilent;
+}
+
 void SidetoneRenderer::make(const Change& change) {
     if (isSilent()) {
         _phase = 0;

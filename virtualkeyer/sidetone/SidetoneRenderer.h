@@ -30,6 +30,13 @@ class SidetoneRenderer {
     /// How many samples were rendered.
     [[nodiscard]] std::int64_t position() const { return _position; }
 
+    /// Leaves samples out, up to `sample`, which nobody notices in a silence: false, and nothing is
+    /// left out, when there is a tone up to then.
+    bool skipTo(std::int64_t sample);
+
+    /// Whether the next sample is silent, unless a tone begins with it.
+    [[nodiscard]] bool isSilent() const { return !_sounds && _level == 0; }
+
     /// Renders the next samples, from -1 to 1.
     void render(std::span<float> samples);
 
@@ -39,7 +46,6 @@ class SidetoneRenderer {
         int frequency;
     };
 
-    [[nodiscard]] bool isSilent() const { return !_sounds && _level == 0; }
     void make(const Change& change);
     [[nodiscard]] float next();
 

@@ -1,6 +1,7 @@
 #include "virtualkeyer/window/KeyerWindow.h"
 
 #include "virtualkeyer/NamedProfiles.h"
+#include "virtualkeyer/sound/LiveSidetone.h"
 #include "virtualkeyer/window/KindList.h"
 #include "virtualkeyer/window/LampRow.h"
 #include "virtualkeyer/window/MessageList.h"
@@ -11,6 +12,7 @@
 #include <QHBoxLayout>
 #include <QPushButton>
 #include <QSignalBlocker>
+#include <QSlider>
 #include <QTabWidget>
 #include <QVBoxLayout>
 
@@ -22,15 +24,17 @@ namespace {
 
 constexpr int slowest = 5;
 constexpr int fastest = 99;
+constexpr int usualVolume = 40; // percent
 /// Lines of the keyed text that are kept.
 constexpr int longestText = 1000;
 
 } // namespace
 
-KeyerWindow::KeyerWindow(const CommandLine& commandLine, KeyerLink& link) : _link(link) {
+KeyerWindow::KeyerWindow(const CommandLine& commandLine, KeyerLink& link, LiveSidetone& sidetone)
+    : _link(link) {
     setWindowTitle(tr("Virtual keyer"));
     auto* middle = new QHBoxLayout;
-    middle->addWidget(makeHands(commandLine));
+    middle->addWidget(makeHands(commandLine, sidetone));
     middle->addWidget(makeInside(commandLine), 1);
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(makeTop(commandLine.linkName));
@@ -67,7 +71,7 @@ QWidget* KeyerWindow::makeTop(const QString& port) {
     return top;
 }
 
-QWidget* KeyerWindow::makeHands(const CommandLine& commandLine) {
+QWidget* KeyerWindow::makeHands(const CommandLine& commandLine, LiveSidetone& sidetone) {
     auto* hands = new QWidget;
     hands->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Preferred);
     _paddle = new PaddlePanel;
@@ -79,6 +83,7 @@ QWidget* KeyerWindow::makeHands(const CommandLine& commandLine) {
     layout->addWidget(makeKnob(commandLine.profile.potWpm));
     layout->addWidget(makeButtons());
     layout->addWidget(_paddle);
+    layout->addWidget(makeVolume(sidetone));
     layout->addStretch();
     return hands;
 }
@@ -102,6 +107,29 @@ QWidget* KeyerWindow::makeKnob(int wpm) {
     layout->addWidget(_knob);
     layout->addWidget(_speed);
     layout->addStretch();
+    return box;
+}
+
+QWidget* KeyerWindow::makeVolume(LiveSidetone& sidetone) {
+    auto* box = new QGroupBox(tr("Sidetone"));
+    box->setToolTip(tr("How loud this machine plays what is keyed; the host sets the pitch."));
+    auto* volume = new QSlider(Qt::Horizontal);
+    volume->setAccessibleName(tr("Volume"));
+    volume->setRange(0, 100);
+    volume->setPageStep(10);
+    connect(volume, &QSlider::valueChanged, &sidetone,
+            [&sidetone](int percent) { sidetone.setVolume(percent / 100.0); });
+    volume->setValue(usualVolume);
+    auto* silence = new QLabel(tr("No sound device: it is silent."));
+    silence->setWordWrap(true);
+    silence->hide();
+    connect(&sidetone, &LiveSidetone::silent, volume, [volume, silence] {
+        volume->setEnabled(false);
+        silence->show();
+    });
+    auto* layout = new QVBoxLayout(box);
+    layout->addWidget(volume);
+    layout->addWidget(silence);
     return box;
 }
 

@@ -11,6 +11,7 @@
 
 namespace virtualkeyer {
 
+class LiveSidetone;
 class KindList;
 class LampRow;
 class MessageList;
@@ -22,13 +23,14 @@ class RegisterTable;
 class KeyerWindow : public QWidget {
     Q_OBJECT
   public:
-    /// `link` must outlive the window.
-    KeyerWindow(const CommandLine& commandLine, KeyerLink& link);
+    /// Both must outlive the window.
+    KeyerWindow(const CommandLine& commandLine, KeyerLink& link, LiveSidetone& sidetone);
 
   private:
     [[nodiscard]] QWidget* makeTop(const QString& port);
-    [[nodiscard]] QWidget* makeHands(const CommandLine& commandLine);
+    [[nodiscard]] QWidget* makeHands(const CommandLine& commandLine, LiveSidetone& sidetone);
     [[nodiscard]] QWidget* makeKnob(int wpm);
+    [[nodiscard]] QWidget* makeVolume(LiveSidetone& sidetone);
     [[nodiscard]] QWidget* makeButtons();
     [[nodiscard]] QWidget* makeInside(const CommandLine& commandLine);
     [[nodiscard]] QWidget* makeText();

@@ -32,6 +32,12 @@ PaddlePanel::PaddlePanel(QWidget* parent)
     connect(qApp, &QGuiApplication::focusWindowChanged, this, &PaddlePanel::letGo);
 }
 
+/// The keyboard goes elsewhere when the window goes, and must not find half a panel.
+PaddlePanel::~PaddlePanel() {
+    qApp->disconnect(this);
+    qApp->removeEventFilter(this);
+}
+
 void PaddlePanel::letGo() {
     _ditKey = false;
     _dahKey = false;

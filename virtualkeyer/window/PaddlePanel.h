@@ -13,6 +13,7 @@ class PaddlePanel : public QGroupBox {
     Q_OBJECT
   public:
     explicit PaddlePanel(QWidget* parent = nullptr);
+    ~PaddlePanel() override;
 
     /// Opens both contacts, whoever holds them.
     void letGo();

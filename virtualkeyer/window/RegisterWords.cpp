@@ -76,10 +76,10 @@ QString farnsworth(const Registers& registers) {
 }
 
 QString knobRange(const Registers& registers) {
-    const int slowest = value(registers, Register::PotMinimum);
+    const int minimum = value(registers, Register::PotMinimum);
     return RegisterWords::tr("%1 to %2 WPM")
-        .arg(slowest)
-        .arg(slowest + value(registers, Register::PotRange));
+        .arg(minimum)
+        .arg(minimum + value(registers, Register::PotRange));
 }
 
 QString outputs(const Registers& registers) {

@@ -2,6 +2,7 @@
 #include "virtualkeyer/CommandLine.h"
 #include "virtualkeyer/Session.h"
 #include "virtualkeyer/pty/StopSignals.h"
+#include "virtualkeyer/sound/LiveSidetone.h"
 #include "virtualkeyer/window/KeyerLink.h"
 #include "virtualkeyer/window/KeyerThread.h"
 #include "virtualkeyer/window/KeyerWindow.h"
@@ -21,9 +22,11 @@ namespace {
 
 int run(const CommandLine& commandLine, const StopSignals& stopSignals) {
     KeyerLink link;
+    LiveSidetone sidetone;
     Session session(commandLine);
     session.add(link, link);
-    KeyerWindow window(commandLine, link);
+    session.add(sidetone);
+    KeyerWindow window(commandLine, link, sidetone);
     KeyerThread keyer(session);
     QObject::connect(&keyer, &KeyerThread::failed, &window, [&window](const QString& reason) {
         QMessageBox::critical(&window, {}, reason);
@@ -31,6 +34,7 @@ int run(const CommandLine& commandLine, const StopSignals& stopSignals) {
     });
     const QSocketNotifier signal(stopSignals.descriptor(), QSocketNotifier::Read);
     QObject::connect(&signal, &QSocketNotifier::activated, qApp, &QApplication::quit);
+    sidetone.start();
     window.show();
     QApplication::exec();
     return static_cast<int>(keyer.end());

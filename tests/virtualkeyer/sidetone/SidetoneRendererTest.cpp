@@ -214,7 +214,8 @@ void SidetoneRendererTest::aChangeThatComesLateTakesEffectAtOnce() {
 void SidetoneRendererTest::timesOfDaysAreStillExact() {
     const SidetoneRenderer renderer(48'000);
     constexpr std::int64_t day = 24 * 3600;
-    QCOMPARE(renderer.sampleAt(24h * 1000 + 1ms), day * 1000 * 48'000 + 48);
+    QCOMPARE(renderer.sampleAt(std::chrono::hours{24'000} + std::chrono::milliseconds{1}),
+             day * 1000 * 48'000 + 48);
     QCOMPARE(renderer.sampleAt(10416ns), 0);
     QCOMPARE(renderer.sampleAt(10417ns), 1);
 }
