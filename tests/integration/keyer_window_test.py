@@ -5,9 +5,10 @@ Usage: keyer_window_test.py QUORVEL VIRTUAL_KEYER [TEST...]
 """
 
 import signal
+import subprocess
 
 from port import Port
-from program import PORT, SETTINGS, Keyer, ProgramTest, run_tests
+from program import PORT, SETTINGS, VIRTUAL_KEYER, Keyer, ProgramTest, run_tests
 
 # Host mode, version 2 status, serial echo, the speed from the knob within 10 to 40.
 GREETING = b"\x00\x02\x00\x0b\x0e\x04\x05\x0a\x1e\x00\x02\x00"
@@ -211,6 +212,29 @@ class KeyerWindowTest(ProgramTest):
                        .is_in_state("showing"))
         self.assertFalse(window.find("Volume").is_in_state("sensitive"))
         self.assertEqual(keyer.end(), 0)
+
+    def test_a_recorded_script_does_the_same_again(self):
+        keyer, window = self.start_window()
+        window.find("Record a script").press()
+        with self.desktop.hold("j"):
+            keyer.wait_for("a dah", lambda: self.elements(keyer) >= 1)
+        keyer.wait_for("silence", lambda: self.holds_still(keyer))
+        window.find("Speed knob").set_value(31)
+        window.find("Record a script").press()
+        keyer.wait_for("the question", lambda: self.desktop.active_title() == "Save the script")
+        script = self.home / "recorded"
+        self.desktop.type(str(script))
+        self.desktop.press("Return")
+        keyer.wait_for("the script", script.exists)
+        keyed = keyer.keyed()
+        self.assertEqual(keyer.end(), 0)
+        lines = script.read_text().splitlines()
+        self.assertEqual([line.split(" ", 2)[2] for line in lines],
+                         ["paddle dah down", "paddle dah up", "knob 31"])
+        script.write_text(script.read_text() + "after 2\n")
+        again = subprocess.run([VIRTUAL_KEYER, "--fast", "--script", script], text=True,
+                               stdout=subprocess.PIPE, timeout=60, check=True)
+        self.assertEqual(again.stdout.replace(" ", ""), keyed)
 
     def test_closing_the_window_pulls_the_plug(self):
         keyer, _ = self.start_window()

@@ -14,7 +14,7 @@ namespace virtualkeyer {
 
 namespace {
 
-using What = decltype(ScriptStep::what);
+using What = ScriptAction;
 
 constexpr double longestTime = 1e6; // seconds
 constexpr double nanoseconds = 1e9;

@@ -2,14 +2,10 @@
 
 #include "virtualkeyer/core/Registers.h"
 #include "virtualkeyer/pty/SerialKeyer.h"
-
-#include <QByteArray>
+#include "virtualkeyer/script/ScriptLine.h"
 
 #include <algorithm>
-#include <array>
 #include <utility>
-
-using namespace Qt::StringLiterals;
 
 namespace virtualkeyer {
 
@@ -17,69 +13,14 @@ namespace {
 
 /// How long a button is held that is only pressed.
 constexpr Time pressTime = std::chrono::milliseconds{100};
-constexpr std::array<std::uint8_t, 4> buttonBits{0x01, 0x02, 0x04, 0x10};
-
-QString hexOf(const std::vector<std::uint8_t>& bytes) {
-    const QByteArray all(reinterpret_cast<const char*>(bytes.data()),
-                         static_cast<qsizetype>(bytes.size()));
-    return QString::fromLatin1(all.toHex(' ').toUpper());
-}
-
-/// An expectation in the words of a script.
-struct Wording {
-    QString operator()(const ExpectKeyed& keyed) const { return u"keyed \"%1\""_s.arg(keyed.text); }
-    QString operator()(const ExpectReply& reply) const { return u"reply "_s + hexOf(reply.bytes); }
-    QString operator()(const ExpectKey& key) const {
-        return key.isDown ? u"key down"_s : u"key up"_s;
-    }
-    QString operator()(const ExpectPtt& ptt) const { return ptt.isOn ? u"ptt on"_s : u"ptt off"_s; }
-};
 
 } // namespace
 
-struct ScriptPlayer::Hand {
-    ScriptPlayer& script;
-    SerialKeyer& keyer;
-    Time due;
-
-    void operator()(const std::monostate& /*nothing*/) const {}
-    void operator()(const MovePaddle& move) const {
-        script._dit = move.dit.value_or(script._dit);
-        script._dah = move.dah.value_or(script._dah);
-        keyer.setPaddle(script._dit, script._dah, due);
-    }
-    void operator()(const TurnKnob& turn) const { keyer.setPot(turn.wpm, due); }
-    void operator()(const MoveButton& move) const {
-        const std::uint8_t bit = buttonBits.at(static_cast<std::size_t>(move.number - 1));
-        const int buttons = *move.isDown ? script._buttons | bit : script._buttons & ~bit;
-        script._buttons = static_cast<std::uint8_t>(buttons);
-        keyer.setPushButtons(script._buttons, due);
-    }
-    void operator()(const PlayMessage& play) const { keyer.playMessage(play.number, due); }
-    void operator()(const MovePlug& move) const {
-        if (move.isIn) {
-            keyer.plugIn(due);
-        } else {
-            keyer.pull(due);
-        }
-    }
-    void operator()(const ChangeProfile& change) const {
-        keyer.setProfile(script._profileByName(change.names.toStdString()).value(), due);
-    }
-    void operator()(const SendBytes& send) const {
-        for (const std::uint8_t byte : send.bytes) {
-            keyer.send(byte, due);
-        }
-    }
-    void operator()(const Expect& /*met elsewhere*/) const {}
-};
-
 ScriptPlayer::ScriptPlayer(ProfileByName profileByName, Disappointment disappointment)
-    : _profileByName(std::move(profileByName)), _disappointment(std::move(disappointment)) {}
+    : _hand(std::move(profileByName)), _disappointment(std::move(disappointment)) {}
 
 bool ScriptPlayer::add(const ScriptStep& step, int line, Time notBefore) {
-    if (const auto* change = std::get_if<ChangeProfile>(&step.what);
-        change != nullptr && !_profileByName(change->names.toStdString())) {
+    if (!_hand.knows(step.what)) {
         return false;
     }
     if (const auto* move = std::get_if<MoveButton>(&step.what); move != nullptr && !move->isDown) {
@@ -156,7 +97,7 @@ bool ScriptPlayer::carryOut(SerialKeyer& keyer, Time due, Time now) {
     const Time moment = std::max(due, _now);
     const auto* expect = std::get_if<Expect>(&what);
     if (expect == nullptr) {
-        std::visit(Hand{*this, keyer, moment}, what);
+        _hand.act(what, keyer, moment);
         _last = moment;
         return true;
     }
@@ -176,8 +117,7 @@ bool ScriptPlayer::meet(const Expect& expect, Time due, Time now) {
     }
     if (!isDone) {
         _isContent = false;
-        _disappointment(_steps.front().line, std::visit(Wording{}, expect.what),
-                        found(expect.what));
+        _disappointment(_steps.front().line, scriptWords(expect.what), found(expect.what));
     }
     forget(expect.what);
     _last = now;
@@ -185,7 +125,7 @@ bool ScriptPlayer::meet(const Expect& expect, Time due, Time now) {
 }
 
 bool ScriptPlayer::isMet(const Expectation& expectation) const {
-    return found(expectation) == std::visit(Wording{}, expectation);
+    return found(expectation) == scriptWords(expectation);
 }
 
 /// What is there in place of what is expected, in the same words.
@@ -205,7 +145,7 @@ QString ScriptPlayer::found(const Expectation& expectation) const {
             return ExpectPtt{script._isPttOn};
         }
     };
-    return std::visit(Wording{}, std::visit(Reality{*this}, expectation));
+    return scriptWords(std::visit(Reality{*this}, expectation));
 }
 
 void ScriptPlayer::forget(const Expectation& expectation) {

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "virtualkeyer/core/KeyLineDecoder.h"
-#include "virtualkeyer/core/Profile.h"
 #include "virtualkeyer/pty/KeyerListener.h"
 #include "virtualkeyer/pty/Operator.h"
+#include "virtualkeyer/script/ScriptHand.h"
 #include "virtualkeyer/script/ScriptStep.h"
 
 #include <deque>
@@ -23,7 +23,6 @@ class ScriptPlayer : public Operator, public KeyerListener {
     /// What was expected and what was found instead, in the words of a script.
     using Disappointment =
         std::function<void(int line, const QString& expected, const QString& found)>;
-    using ProfileByName = std::function<std::optional<Profile>(std::string_view names)>;
 
     ScriptPlayer(ProfileByName profileByName, Disappointment disappointment);
 
@@ -54,8 +53,6 @@ class ScriptPlayer : public Operator, public KeyerListener {
         int line;
         Time notBefore;
     };
-    /// Carries each kind of step out.
-    struct Hand;
 
     [[nodiscard]] Time dueTime() const;
     [[nodiscard]] bool carryOut(SerialKeyer& keyer, Time due, Time now);
@@ -64,7 +61,7 @@ class ScriptPlayer : public Operator, public KeyerListener {
     [[nodiscard]] QString found(const Expectation& expectation) const;
     void forget(const Expectation& expectation);
 
-    ProfileByName _profileByName;
+    ScriptHand _hand;
     Disappointment _disappointment;
     std::deque<Waiting> _steps;
     bool _isClosed = false;
@@ -74,10 +71,6 @@ class ScriptPlayer : public Operator, public KeyerListener {
     bool _hasChanged = false;
     Time _last{0}; // of the step before
     Time _now{0};
-
-    bool _dit = false;
-    bool _dah = false;
-    std::uint8_t _buttons = 0;
 
     KeyLineDecoder _decoder;
     std::string _keyed;

@@ -89,14 +89,15 @@ struct Expect {
     bool operator==(const Expect&) const = default;
 };
 
+/// What somebody does at the keyer, or asks of it. std::monostate only lets the time come.
+using ScriptAction = std::variant<std::monostate, MovePaddle, TurnKnob, MoveButton, PlayMessage,
+                                  MovePlug, ChangeProfile, SendBytes, Expect>;
+
 /// One line of a script. Its time is `at` from the keyer's start, or `after` the line before it.
 struct ScriptStep {
     std::optional<Time> at;
     Time after{0};
-    /// std::monostate only lets the time come.
-    std::variant<std::monostate, MovePaddle, TurnKnob, MoveButton, PlayMessage, MovePlug,
-                 ChangeProfile, SendBytes, Expect>
-        what;
+    ScriptAction what;
     bool operator==(const ScriptStep&) const = default;
 };
 

@@ -1,6 +1,8 @@
 #include "virtualkeyer/window/KeyerLink.h"
 
+#include "virtualkeyer/NamedProfiles.h"
 #include "virtualkeyer/pty/SystemFailure.h"
+#include "virtualkeyer/script/ScriptLine.h"
 
 #include <sys/eventfd.h>
 #include <unistd.h>
@@ -9,11 +11,31 @@
 namespace virtualkeyer {
 
 KeyerLink::KeyerLink()
-    : _wake(checked(::eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK), "cannot join window and keyer")) {}
+    : _wake(checked(::eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK), "cannot join window and keyer")),
+      _hand(profileNamed) {}
 
-void KeyerLink::order(Deed deed) {
+void KeyerLink::order(const ScriptAction& action) {
     const std::lock_guard lock(_mutex);
-    _deeds.push_back(std::move(deed));
+    _orders.push_back(action);
+    wake();
+}
+
+void KeyerLink::beginRecording() {
+    const std::lock_guard lock(_mutex);
+    _recording.clear();
+    _records = true;
+    // The keyer's thread knows what time it is.
+    wake();
+}
+
+QString KeyerLink::endRecording() {
+    const std::lock_guard lock(_mutex);
+    _records = false;
+    _recordingStart.reset();
+    return std::exchange(_recording, {});
+}
+
+void KeyerLink::wake() {
     const std::uint64_t one = 1;
     checked(static_cast<int>(::write(_wake.number(), &one, sizeof one)), "cannot wake the keyer");
 }
@@ -34,15 +56,28 @@ void KeyerLink::work(SerialKeyer& keyer, bool isReadable, Time now) {
     if (!isReadable) {
         return;
     }
-    std::vector<Deed> deeds;
+    carryOut(keyer, now);
+}
+
+void KeyerLink::carryOut(SerialKeyer& keyer, Time now) {
+    std::vector<ScriptAction> orders;
     {
         const std::lock_guard lock(_mutex);
         std::uint64_t count = 0;
-        static_cast<void>(::read(_wake.number(), &count, sizeof count));
-        deeds.swap(_deeds);
+        checked(static_cast<int>(::read(_wake.number(), &count, sizeof count)),
+                "cannot hear from the window");
+        orders.swap(_orders);
+        if (_records && !_recordingStart) {
+            _recordingStart = now;
+        }
+        for (const ScriptAction& action : orders) {
+            if (_recordingStart) {
+                _recording += scriptLine(now - *_recordingStart, action) + u'\n';
+            }
+        }
     }
-    for (const Deed& deed : deeds) {
-        deed(keyer, now);
+    for (const ScriptAction& action : orders) {
+        _hand.act(action, keyer, now);
     }
 }
 

@@ -5,13 +5,15 @@
 #include "virtualkeyer/pty/KeyerListener.h"
 #include "virtualkeyer/pty/Operator.h"
 #include "virtualkeyer/pty/SerialKeyer.h"
+#include "virtualkeyer/script/ScriptHand.h"
+#include "virtualkeyer/script/ScriptStep.h"
 #include "virtualkeyer/window/KeyerState.h"
 
 #include <QObject>
 #include <QString>
 
-#include <functional>
 #include <mutex>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -22,12 +24,15 @@ namespace virtualkeyer {
 class KeyerLink : public QObject, public Operator, public KeyerListener {
     Q_OBJECT
   public:
-    using Deed = std::function<void(SerialKeyer& keyer, Time now)>;
-
     KeyerLink();
 
     /// Has the keyer's thread do this. Any thread.
-    void order(Deed deed);
+    void order(const ScriptAction& action);
+
+    /// From now on what is ordered is written down, with its times from now.
+    void beginRecording();
+    /// What was written down, as a script; no more is. The window's thread.
+    [[nodiscard]] QString endRecording();
 
     /// The keyer as it is now. The window's thread.
     [[nodiscard]] KeyerState state();
@@ -46,17 +51,23 @@ class KeyerLink : public QObject, public Operator, public KeyerListener {
     void changed();
 
   private:
+    void wake();
+    void carryOut(SerialKeyer& keyer, Time now);
     void keepUp();
 
     FileDescriptor _wake;
     std::mutex _mutex;
-    std::vector<Deed> _deeds;
+    std::vector<ScriptAction> _orders;
+    bool _records = false;
+    std::optional<Time> _recordingStart;
+    QString _recording;
     KeyerState _shown;
     std::string _keyed;
     bool _isAnnounced = false;
 
     // The keyer's thread alone.
     const SerialKeyer* _keyer = nullptr;
+    ScriptHand _hand;
     KeyLineDecoder _decoder;
     bool _isKeyDown = false;
     bool _isPttOn = false;

@@ -1,6 +1,5 @@
 #include "virtualkeyer/window/KeyerWindow.h"
 
-#include "virtualkeyer/NamedProfiles.h"
 #include "virtualkeyer/sound/LiveSidetone.h"
 #include "virtualkeyer/window/KindList.h"
 #include "virtualkeyer/window/LampRow.h"
@@ -8,15 +7,18 @@
 #include "virtualkeyer/window/PaddlePanel.h"
 #include "virtualkeyer/window/RegisterTable.h"
 
+#include <QFileDialog>
 #include <QGroupBox>
 #include <QHBoxLayout>
+#include <QMessageBox>
 #include <QPushButton>
+#include <QSaveFile>
 #include <QSignalBlocker>
 #include <QSlider>
 #include <QTabWidget>
 #include <QVBoxLayout>
 
-#include <array>
+#include <utility>
 
 namespace virtualkeyer {
 
@@ -24,6 +26,7 @@ namespace {
 
 constexpr int slowest = 5;
 constexpr int fastest = 99;
+constexpr int buttonCount = 4;
 constexpr int usualVolume = 40; // percent
 /// Lines of the keyed text that are kept.
 constexpr int longestText = 1000;
@@ -53,21 +56,20 @@ QWidget* KeyerWindow::makeTop(const QString& port) {
     _plug->setToolTip(tr("Pulls the adapter and plugs it in again. Without it the keyer has no "
                          "power, and forgets its host."));
     _plug->setChecked(true);
-    connect(_plug, &QCheckBox::toggled, this, [this](bool isIn) {
-        _link.order([isIn](SerialKeyer& keyer, Time now) {
-            if (isIn) {
-                keyer.plugIn(now);
-            } else {
-                keyer.pull(now);
-            }
-        });
-    });
+    connect(_plug, &QCheckBox::toggled, this, [this](bool isIn) { _link.order(MovePlug{isIn}); });
     _lamps = new LampRow;
     auto* layout = new QHBoxLayout(top);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(24);
     layout->addWidget(_plug);
     layout->addWidget(_lamps, 1);
+    auto* recording = new QPushButton(tr("Record a script"));
+    recording->setCheckable(true);
+    recording->setToolTip(tr("Writes down what is done here, for --script to do again: press once "
+                             "more to save it."));
+    // Later, so that whoever presses it by a screen reader does not wait for the file's name.
+    connect(recording, &QPushButton::toggled, this, &KeyerWindow::record, Qt::QueuedConnection);
+    layout->addWidget(recording);
     return top;
 }
 
@@ -75,9 +77,7 @@ QWidget* KeyerWindow::makeHands(const CommandLine& commandLine, LiveSidetone& si
     auto* hands = new QWidget;
     hands->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Preferred);
     _paddle = new PaddlePanel;
-    connect(_paddle, &PaddlePanel::moved, this, [this](bool dit, bool dah) {
-        _link.order([dit, dah](SerialKeyer& keyer, Time now) { keyer.setPaddle(dit, dah, now); });
-    });
+    connect(_paddle, &PaddlePanel::moved, this, &KeyerWindow::movePaddle);
     auto* layout = new QVBoxLayout(hands);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(makeKnob(commandLine.profile.potWpm));
@@ -134,19 +134,20 @@ QWidget* KeyerWindow::makeVolume(LiveSidetone& sidetone) {
 }
 
 QWidget* KeyerWindow::makeButtons() {
-    constexpr std::array<std::uint8_t, 4> bits{0x01, 0x02, 0x04, 0x10};
     auto* box = new QGroupBox(tr("Push-buttons"));
     box->setToolTip(tr("The host hears of them once it has asked for version 2 status."));
     auto* layout = new QHBoxLayout(box);
-    for (std::size_t i = 0; i < bits.size(); ++i) {
-        const int number = static_cast<int>(i) + 1;
+    for (int number = 1; number <= buttonCount; ++number) {
         auto* button = new QPushButton(QString::number(number));
         button->setAccessibleName(tr("Push-button %1").arg(number));
         button->setMinimumWidth(fontMetrics().height() * 2);
         layout->addWidget(button);
-        const std::uint8_t bit = bits.at(i);
-        connect(button, &QPushButton::pressed, this, [this, bit] { moveButton(bit, true); });
-        connect(button, &QPushButton::released, this, [this, bit] { moveButton(bit, false); });
+        connect(button, &QPushButton::pressed, this, [this, number] {
+            _link.order(MoveButton{number, true});
+        });
+        connect(button, &QPushButton::released, this, [this, number] {
+            _link.order(MoveButton{number, false});
+        });
     }
     return box;
 }
@@ -160,10 +161,10 @@ QWidget* KeyerWindow::makeInside(const CommandLine& commandLine) {
     pages->addTab(_registers, tr("Registers"));
     pages->addTab(_messages, tr("Memory"));
     pages->addTab(_kinds, tr("Kind of keyer"));
-    connect(_messages, &MessageList::played, this, [this](int number) {
-        _link.order([number](SerialKeyer& keyer, Time now) { keyer.playMessage(number, now); });
-    });
-    connect(_kinds, &KindList::chosen, this, &KeyerWindow::changeKind);
+    connect(_messages, &MessageList::played, this,
+            [this](int number) { _link.order(PlayMessage{number}); });
+    connect(_kinds, &KindList::chosen, this,
+            [this](const QString& names) { _link.order(ChangeProfile{names}); });
     return pages;
 }
 
@@ -182,20 +183,34 @@ QWidget* KeyerWindow::makeText() {
     return box;
 }
 
+/// Says what has changed, which is what a script would say.
+void KeyerWindow::movePaddle(bool dit, bool dah) {
+    const auto changed = [](bool& before, bool now) {
+        return std::exchange(before, now) == now ? std::nullopt : std::optional{now};
+    };
+    const auto ditMoved = changed(_dit, dit);
+    _link.order(MovePaddle{ditMoved, changed(_dah, dah)});
+}
+
 void KeyerWindow::turnKnob(int wpm) {
     _speed->setText(tr("%1 WPM").arg(wpm));
-    _link.order([wpm](SerialKeyer& keyer, Time now) { keyer.setPot(wpm, now); });
+    _link.order(TurnKnob{wpm});
 }
 
-void KeyerWindow::moveButton(std::uint8_t bit, bool isDown) {
-    _buttons = static_cast<std::uint8_t>(isDown ? _buttons | bit : _buttons & ~bit);
-    _link.order(
-        [buttons = _buttons](SerialKeyer& keyer, Time now) { keyer.setPushButtons(buttons, now); });
-}
-
-void KeyerWindow::changeKind(const QString& names) {
-    const Profile profile = profileNamed(names.toStdString()).value();
-    _link.order([profile](SerialKeyer& keyer, Time now) { keyer.setProfile(profile, now); });
+void KeyerWindow::record(bool isRecording) {
+    if (isRecording) {
+        return _link.beginRecording();
+    }
+    const QString script = _link.endRecording();
+    const QString path = QFileDialog::getSaveFileName(this, tr("Save the script"));
+    if (path.isEmpty()) {
+        return;
+    }
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(script.toUtf8()) < 0 || !file.commit()) {
+        QMessageBox::warning(this, {},
+                             tr("%1 cannot be written: %2").arg(path, file.errorString()));
+    }
 }
 
 void KeyerWindow::refresh() {

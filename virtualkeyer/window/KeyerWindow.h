@@ -34,9 +34,9 @@ class KeyerWindow : public QWidget {
     [[nodiscard]] QWidget* makeButtons();
     [[nodiscard]] QWidget* makeInside(const CommandLine& commandLine);
     [[nodiscard]] QWidget* makeText();
+    void movePaddle(bool dit, bool dah);
     void turnKnob(int wpm);
-    void moveButton(std::uint8_t bit, bool isDown);
-    void changeKind(const QString& names);
+    void record(bool isRecording);
     void refresh();
 
     KeyerLink& _link;
@@ -49,7 +49,8 @@ class KeyerWindow : public QWidget {
     MessageList* _messages = nullptr;
     KindList* _kinds = nullptr;
     QPlainTextEdit* _text = nullptr;
-    std::uint8_t _buttons = 0;
+    bool _dit = false;
+    bool _dah = false;
 };
 
 } // namespace virtualkeyer

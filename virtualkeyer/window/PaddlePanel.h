@@ -19,6 +19,7 @@ class PaddlePanel : public QGroupBox {
     void letGo();
 
   Q_SIGNALS:
+    /// The contacts as they are now.
     void moved(bool dit, bool dah);
 
   protected:
