@@ -2959,6 +2959,22 @@ das ihn öffnet, und gibt auf der Standardausgabe aus, was er tastet.</translati
         <source>What is keyed, by the host or the paddle, is read back here from the key line.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Record a script</source>
+        <translation>Skript aufnehmen</translation>
+    </message>
+    <message>
+        <source>Writes down what is done here, for --script to do again: press once more to save it.</source>
+        <translation>Schreibt mit, was hier getan wird, damit --script es noch einmal tut: nochmals drücken, um es zu speichern.</translation>
+    </message>
+    <message>
+        <source>Save the script</source>
+        <translation>Skript speichern</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2</source>
+        <translation>%1 kann nicht geschrieben werden: %2</translation>
+    </message>
 </context>
 <context>
     <name>virtualkeyer::KindList</name>

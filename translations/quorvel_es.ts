@@ -2959,6 +2959,22 @@ que lo abre, y escribe lo que manipula en la salida estándar.</translation>
         <source>What is keyed, by the host or the paddle, is read back here from the key line.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Record a script</source>
+        <translation>Grabar un guion</translation>
+    </message>
+    <message>
+        <source>Writes down what is done here, for --script to do again: press once more to save it.</source>
+        <translation>Anota lo que se hace aquí, para que --script lo repita: pulse otra vez para guardarlo.</translation>
+    </message>
+    <message>
+        <source>Save the script</source>
+        <translation>Guardar el guion</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2</source>
+        <translation>No se puede escribir %1: %2</translation>
+    </message>
 </context>
 <context>
     <name>virtualkeyer::KindList</name>

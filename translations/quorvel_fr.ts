@@ -2959,6 +2959,22 @@ qui l’ouvre, et écrit ce qu’il manipule sur la sortie standard.</translatio
         <source>What is keyed, by the host or the paddle, is read back here from the key line.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Record a script</source>
+        <translation>Enregistrer un script</translation>
+    </message>
+    <message>
+        <source>Writes down what is done here, for --script to do again: press once more to save it.</source>
+        <translation>Note ce qui est fait ici, pour que --script le refasse : appuyer de nouveau pour l’enregistrer.</translation>
+    </message>
+    <message>
+        <source>Save the script</source>
+        <translation>Enregistrer le script</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2</source>
+        <translation>%1 ne peut pas être écrit : %2</translation>
+    </message>
 </context>
 <context>
     <name>virtualkeyer::KindList</name>

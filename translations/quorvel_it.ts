@@ -2959,6 +2959,22 @@ che la apre, e scrive ciò che manipola sull’uscita standard.</translation>
         <source>What is keyed, by the host or the paddle, is read back here from the key line.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Record a script</source>
+        <translation>Registra uno script</translation>
+    </message>
+    <message>
+        <source>Writes down what is done here, for --script to do again: press once more to save it.</source>
+        <translation>Annota ciò che si fa qui, perché --script lo rifaccia: premere di nuovo per salvarlo.</translation>
+    </message>
+    <message>
+        <source>Save the script</source>
+        <translation>Salva lo script</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2</source>
+        <translation>Impossibile scrivere %1: %2</translation>
+    </message>
 </context>
 <context>
     <name>virtualkeyer::KindList</name>

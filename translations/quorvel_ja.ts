@@ -2959,6 +2959,22 @@ program that opens it, and prints what it keys to standard output.</source>
         <source>What is keyed, by the host or the paddle, is read back here from the key line.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Record a script</source>
+        <translation>スクリプトを記録</translation>
+    </message>
+    <message>
+        <source>Writes down what is done here, for --script to do again: press once more to save it.</source>
+        <translation>ここでの操作を書き留め、--script で再現できるようにします。もう一度押すと保存します。</translation>
+    </message>
+    <message>
+        <source>Save the script</source>
+        <translation>スクリプトの保存</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2</source>
+        <translation>%1 を書き込めません: %2</translation>
+    </message>
 </context>
 <context>
     <name>virtualkeyer::KindList</name>
