@@ -319,6 +319,7 @@ class WinKeyerUsb final : public QObject, public ORSSerialPortDelegate {
     void handleBreakIn();
     void takeEcho(std::uint8_t echo);
 
+    void restrictToText();
     void followEchoes();
     void tellSentCall();
     void endCallsign();

@@ -43,15 +43,13 @@ void WinKeyerUsb::textDidEndEditing(const QObject*) {}
 
 void WinKeyerUsb::textDidChange() {
     if (_text.text().isEmpty()) {
-        _text.restrictToText();
-        _onTheirWay.restrictPlaces(0);
+        restrictToText();
         Q_EMIT sendingProgressed();
         return;
     }
     const auto typed = filtered(_text.text().toUpper(), morseKeyboardCharacterSet());
     setKeyboardBuffer(sendable(substituteTokens(typed)));
-    _text.restrictToText();
-    _onTheirWay.restrictPlaces(_text.index());
+    restrictToText();
     Q_EMIT sendingProgressed();
     if (pauseState() == 0 && !_sendingState) {
         send();

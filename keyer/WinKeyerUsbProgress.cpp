@@ -6,6 +6,7 @@
 #include "keyer/WinKeyerUsb.h"
 #include "platform/Platform.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace {
@@ -15,6 +16,13 @@ namespace {
 constexpr Clock::Duration longestAnswer = std::chrono::seconds(2);
 
 } // namespace
+
+/// What was deleted is on its way all the same, and its places are where the text ends.
+void WinKeyerUsb::restrictToText() {
+    _text.restrictToText();
+    _onTheirWay.restrictPlaces(_text.index());
+    _unitBegin = std::min(_unitBegin, _text.index());
+}
 
 /// Takes note of what is keyed by now.
 void WinKeyerUsb::followEchoes() {

@@ -150,6 +150,7 @@ class Rehearsal {
         case What::Stop:
             _model.clear();
             engine.stopMessageSending(nullptr);
+            ++_clearsDue;
             break;
         case What::Pause:
             engine.setPauseState(1);
@@ -253,6 +254,7 @@ class Rehearsal {
         }
         const auto& given = _model.allGiven();
         RC_ASSERT(given.size() == cleared.size() + 1);
+        RC_ASSERT(cleared.size() == _clearsDue);
         auto keyed = _link.keyed().begin();
         const auto end = _link.keyed().end();
         for (std::size_t i = 0; i < given.size(); ++i) {
@@ -283,6 +285,7 @@ class Rehearsal {
     VirtualTimeLink& _link;
     FarKeyerModel _model;
     bool _isPaddleUsed = false;
+    std::size_t _clearsDue = 0;
 };
 
 } // namespace

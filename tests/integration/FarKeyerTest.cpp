@@ -18,6 +18,7 @@ class FarKeyerTest : public QObject {
     void nothingIsKeyedBehindAStop_data();
     void nothingIsKeyedBehindAStop();
     void aBreakInLeavesNothingToBeKeyed();
+    void whatArrivesBehindABreakInIsCleared();
     void aPauseHoldsWhatIsOnItsWay();
     void lostEchoesDelayTheRestAndEndNothing();
 
@@ -108,6 +109,30 @@ void FarKeyerTest::aBreakInLeavesNothingToBeKeyed() {
         // it is used; that lasts longer than the line does.
         QVERIFY2(QByteArray("CQ TEST DE N0CALL").startsWith(keyed(link)), keyed(link));
     }
+}
+
+/// The paddle is at rest again before the engine has heard of it.
+void FarKeyerTest::whatArrivesBehindABreakInIsCleared() {
+    VirtualTimeLink link({});
+    int strays = 0;
+    for (auto moment = 600ms; moment < 1200ms; moment += 7ms) {
+        link.startOver({.wpm = 99, .delay = 200ms, .charactersAhead = 8});
+        link.engine().appendMessage(u"CQ TEST DE N0CALL CQ TEST DE N0CALL"_s);
+        link.handOn();
+        link.pass(moment);
+        link.setPaddle(true, false);
+        link.pass(5ms);
+        link.setPaddle(false, false);
+        static_cast<void>(link.runUntilQuiet());
+        constexpr char clearBuffer = 0x0A;
+        QCOMPARE(static_cast<char>(link.arrived().back().value), clearBuffer);
+        const auto heard = link.arrived().back().at;
+        for (const auto& each : link.keyed()) {
+            QVERIFY(each.begun <= heard);
+            strays += each.begun > heard - 200ms ? 1 : 0;
+        }
+    }
+    QVERIFY(strays > 0); // or nothing was tried
 }
 
 void FarKeyerTest::aPauseHoldsWhatIsOnItsWay() {

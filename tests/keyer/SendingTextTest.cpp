@@ -32,6 +32,8 @@ class SendingTextTest : public QObject {
     void whatIsAppendedComesNext();
     void whatIsTakenIsInFlightUntilItIsAcknowledged();
     void whatIsInFlightCanBeTakenBack();
+    void partOfWhatIsTakenMayStayInFlight();
+    void whatIsPeekedAtIsNotTaken();
     void twoComeTogetherOrNotAtAll();
     void placesEndWhereTheTextEnds();
     void itRewinds();
@@ -95,6 +97,28 @@ void SendingTextTest::whatIsInFlightCanBeTakenBack() {
     text.takeBack();
     QCOMPARE(text.index(), 1);
     QCOMPARE(text.next(), 'B');
+}
+
+void SendingTextTest::partOfWhatIsTakenMayStayInFlight() {
+    SendingText text;
+    text.setText(u"ABC"_s);
+    for (int i = 0; i < 3; ++i) {
+        static_cast<void>(text.next());
+    }
+    text.keepInFlight(1);
+    QCOMPARE(text.inFlightIndex(), 1);
+    QVERIFY(text.hasUnsent());
+    text.keepInFlight(9);
+    QCOMPARE(text.inFlightIndex(), 3);
+}
+
+void SendingTextTest::whatIsPeekedAtIsNotTaken() {
+    SendingText text;
+    QCOMPARE(text.peek(), std::nullopt);
+    text.setText(u"a"_s);
+    QCOMPARE(text.peek(), 'A');
+    QCOMPARE(text.next(), 'A');
+    QCOMPARE(text.peek(), std::nullopt);
 }
 
 void SendingTextTest::twoComeTogetherOrNotAtAll() {

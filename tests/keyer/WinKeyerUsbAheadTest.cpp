@@ -33,8 +33,10 @@ class WinKeyerUsbAheadTest : public QObject {
     void aBreakInAtRestWritesNothing();
     void nothingNewGoesWhilePaused();
     void deletingKeepsTheFlightWithinTheText();
+    void whatReplacesDeletedTextIsInFlightUntilItsOwnEcho();
     void anIdleReportIsOlderThanWhatIsOnItsWay();
     void echoesThatWereLostEndWithTheKeyersSilence();
+    void whatIsTypedMeanwhileIsWaitedForAnew();
     void aPauseIsNoSilence();
     void anEchoWhilePausedIsNoSilenceEither();
     void aStopAtRestIsOverWithTheKeyersSilence();
@@ -247,6 +249,20 @@ void WinKeyerUsbAheadTest::deletingKeepsTheFlightWithinTheText() {
     QCOMPARE(flight(), Flight(1, 1));
 }
 
+void WinKeyerUsbAheadTest::whatReplacesDeletedTextIsInFlightUntilItsOwnEcho() {
+    _bench->type(u"CQ DX"_s);
+    _bench->type(u"C"_s);
+    _bench->type(u"CA"_s);
+    _bench->receive({'C'});
+    QCOMPARE(_bench->written(), "43 51 20 41");
+    for (const char echo : {'Q', ' '}) {
+        _bench->receive({echo});
+        QCOMPARE(flight(), Flight(1, 2));
+    }
+    _bench->receive({'A'});
+    QCOMPARE(flight(), Flight(2, 2));
+}
+
 void WinKeyerUsbAheadTest::anIdleReportIsOlderThanWhatIsOnItsWay() {
     engine().appendMessage(u"CQ DX"_s);
     static_cast<void>(_bench->written());
@@ -278,6 +294,17 @@ void WinKeyerUsbAheadTest::echoesThatWereLostEndWithTheKeyersSilence() {
     QVERIFY(!engine().isAwaitingEcho());
     QVERIFY(!engine().mayBeKeying());
     QCOMPARE(flight(), Flight(5, 5));
+}
+
+void WinKeyerUsbAheadTest::whatIsTypedMeanwhileIsWaitedForAnew() {
+    _bench->type(u"C"_s);
+    _bench->receive({0xC0});
+    _bench->clock().advance(1900ms);
+    _bench->type(u"CQ"_s);
+    _bench->clock().advance(1900ms);
+    QCOMPARE(flight(), Flight(0, 2));
+    _bench->clock().advance(100ms);
+    QCOMPARE(flight(), Flight(2, 2));
 }
 
 void WinKeyerUsbAheadTest::aPauseIsNoSilence() {
