@@ -1,3 +1,4 @@
+#include "keyer/GeneralSettings.h"
 #include "tests/loggers/LoggerQueueFixture.h"
 #include "tests/support/RegisteredTest.h"
 
@@ -29,6 +30,8 @@ class LoggerQueueModesTest : public QObject, private LoggerQueueFixture {
     void nothingIsStored();
     void aFloodIsBounded();
     void theBeaconRepeatsNoLoggersText();
+    void severalAheadAreKeyedWhenTheLastEchoHasCome();
+    void lostEchoesAreMadeUpForByTheKeyersSilence();
     void whileNobodyWatchesNothingIsTaken();
     void whatIsSentEndsWhenNobodyWatchesAnyMore();
     void tuneLetsGoWhenNobodyWatchesAnyMore();
@@ -224,6 +227,33 @@ void LoggerQueueModesTest::theBeaconRepeatsNoLoggersText() {
     static_cast<void>(_bench->written());
     _bench->clock().advance(1min);
     QCOMPARE(_bench->written(), "");
+}
+
+void LoggerQueueModesTest::severalAheadAreKeyedWhenTheLastEchoHasCome() {
+    _bench->settings().setObject(3, CharactersAhead.key);
+    take("\x1Bh1");
+    take("cq");
+    take("de", other);
+    QCOMPARE(_bench->written(), "43 51");
+    _bench->receive({'C'});
+    _bench->receive({0xC0}); // older than what is on its way
+    QCOMPARE(replies(), QStringList());
+    QCOMPARE(_bench->written(), "");
+    _bench->receive({'Q'});
+    QCOMPARE(replies(), QStringList{u"4001 h1"_s});
+    QCOMPARE(_bench->written(), "20 44 45");
+}
+
+void LoggerQueueModesTest::lostEchoesAreMadeUpForByTheKeyersSilence() {
+    _bench->settings().setObject(3, CharactersAhead.key);
+    take("\x1Bh1");
+    take("cq");
+    _bench->receive({0xC4});
+    _bench->receive({0xC0});
+    _bench->clock().advance(1999ms);
+    QCOMPARE(replies(), QStringList());
+    _bench->clock().advance(1ms);
+    QCOMPARE(replies(), QStringList{u"4001 h1"_s});
 }
 
 void LoggerQueueModesTest::whileNobodyWatchesNothingIsTaken() {
