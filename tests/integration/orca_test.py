@@ -128,6 +128,32 @@ class OrcaTest(ProgramTest):
         self.orca.hears("Serial port combo box.", "Where the keyer is plugged in.")
         self.terminate(keyer, quorvel)
 
+    def test_a_list_tells_its_choices_when_it_is_opened(self):
+        keyer, quorvel = self.start_at_the_keyboard()
+        self.press_with_control("comma", "General frame.", "My call text.")
+        for name in ("Serial port combo box.", "Tune: let go after combo box."):
+            self.desktop.press("Tab")
+            self.orca.hears("tab", name)
+        self.desktop.press("space")
+        self.orca.hears("List with 5 items.")
+        self.desktop.press("Down")
+        self.orca.hears("10 s.")
+        self.terminate(keyer, quorvel)
+
+    def test_the_question_mark_leads_to_a_page_that_is_read(self):
+        keyer, quorvel = self.start_at_the_keyboard()
+        self.press_with_control("comma", "General frame.", "My call text.")
+        for name in ("Serial port", "Tune: let go after", "Accept text from loggers",
+                     "Guide to these settings push button."):
+            self.desktop.press("Tab")
+            self.orca.hears("tab", name)
+        self.desktop.press("space")
+        self.orca.hears("Quorvel Guide.", "Preferences")
+        self.desktop.press("Down")
+        self.orca.hears("General has your call sign")
+        self.desktop.press("Tab")
+        self.terminate(keyer, quorvel)
+
     def test_what_the_guide_finds_is_told(self):
         keyer, quorvel = self.start_at_the_keyboard()
         self.desktop.press("alt+h")
