@@ -1901,183 +1901,183 @@ Die eigenen Optionen des Toolkits wie -platform und -style gelten auch. Die Anle
     <name>RegisterWords</name>
     <message>
         <source>on</source>
-        <translation type="unfinished">ein</translation>
+        <translation>ein</translation>
     </message>
     <message>
         <source>off</source>
-        <translation type="unfinished">aus</translation>
+        <translation>aus</translation>
     </message>
     <message>
         <source>%1 ms</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ms</translation>
     </message>
     <message>
         <source>%1 %</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 %</translation>
     </message>
     <message>
         <source>%1 WPM</source>
-        <translation type="unfinished">%1 WPM</translation>
+        <translation>%1 WPM</translation>
     </message>
     <message>
         <source>%1 WPM, from the knob</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 WPM, vom Knopf</translation>
     </message>
     <message>
         <source>%1; %2 WPM for now</source>
-        <translation type="unfinished"></translation>
+        <translation>%1; derzeit %2 WPM</translation>
     </message>
     <message>
         <source>iambic A</source>
-        <translation type="unfinished"></translation>
+        <translation>Iambic A</translation>
     </message>
     <message>
         <source>ultimatic</source>
-        <translation type="unfinished"></translation>
+        <translation>Ultimatic</translation>
     </message>
     <message>
         <source>bug</source>
-        <translation type="unfinished"></translation>
+        <translation>Bug</translation>
     </message>
     <message>
         <source>iambic B</source>
-        <translation type="unfinished"></translation>
+        <translation>Iambic B</translation>
     </message>
     <message>
         <source>dah</source>
-        <translation type="unfinished"></translation>
+        <translation>Strich</translation>
     </message>
     <message>
         <source>dit</source>
-        <translation type="unfinished"></translation>
+        <translation>Punkt</translation>
     </message>
     <message>
         <source>the last one closed</source>
-        <translation type="unfinished"></translation>
+        <translation>der zuletzt geschlossene Kontakt</translation>
     </message>
     <message>
         <source>%1 Hz, for the paddle only</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Hz, nur fürs Paddle</translation>
     </message>
     <message>
         <source>%1 Hz</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Hz</translation>
     </message>
     <message>
         <source>%1 to %2 WPM</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 bis %2 WPM</translation>
     </message>
     <message>
         <source>1 and 2</source>
-        <translation type="unfinished"></translation>
+        <translation>1 und 2</translation>
     </message>
     <message>
         <source>none</source>
-        <translation type="unfinished"></translation>
+        <translation>keiner</translation>
     </message>
     <message>
         <source>Speed</source>
-        <translation type="unfinished">Tempo</translation>
+        <translation>Tempo</translation>
     </message>
     <message>
         <source>Knob&apos;s range</source>
-        <translation type="unfinished"></translation>
+        <translation>Bereich des Knopfs</translation>
     </message>
     <message>
         <source>Farnsworth</source>
-        <translation type="unfinished"></translation>
+        <translation>Farnsworth</translation>
     </message>
     <message>
         <source>Weighting</source>
-        <translation type="unfinished"></translation>
+        <translation>Wichtung</translation>
     </message>
     <message>
         <source>Dah to dit</source>
-        <translation type="unfinished"></translation>
+        <translation>Strich zu Punkt</translation>
     </message>
     <message>
         <source>%1 to 1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 zu 1</translation>
     </message>
     <message>
         <source>Key compensation</source>
-        <translation type="unfinished"></translation>
+        <translation>Kompensation</translation>
     </message>
     <message>
         <source>First extension</source>
-        <translation type="unfinished"></translation>
+        <translation>Erstverlängerung</translation>
     </message>
     <message>
         <source>Word space</source>
-        <translation type="unfinished"></translation>
+        <translation>Wortabstand</translation>
     </message>
     <message>
         <source>%1 dits</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Punkte</translation>
     </message>
     <message>
         <source>Paddle keying</source>
-        <translation type="unfinished"></translation>
+        <translation>Paddle-Tastung</translation>
     </message>
     <message>
         <source>Ultimatic priority</source>
-        <translation type="unfinished"></translation>
+        <translation>Ultimatic-Vorrang</translation>
     </message>
     <message>
         <source>Paddle swapped</source>
-        <translation type="unfinished"></translation>
+        <translation>Paddles vertauscht</translation>
     </message>
     <message>
         <source>Paddle memory</source>
-        <translation type="unfinished"></translation>
+        <translation>Paddle-Speicher</translation>
     </message>
     <message>
         <source>after %1 dit lengths</source>
-        <translation type="unfinished"></translation>
+        <translation>nach %1 Punktlängen</translation>
     </message>
     <message>
         <source>Paddle watchdog</source>
-        <translation type="unfinished"></translation>
+        <translation>Paddle-Überwachung</translation>
     </message>
     <message>
         <source>Autospace</source>
-        <translation type="unfinished"></translation>
+        <translation>Autospace</translation>
     </message>
     <message>
         <source>Paddle echo</source>
-        <translation type="unfinished"></translation>
+        <translation>Paddle-Echo</translation>
     </message>
     <message>
         <source>Serial echo</source>
-        <translation type="unfinished"></translation>
+        <translation>Serielles Echo</translation>
     </message>
     <message>
         <source>Sidetone</source>
-        <translation type="unfinished">Mithörton</translation>
+        <translation>Mithörton</translation>
     </message>
     <message>
         <source>Key outputs</source>
-        <translation type="unfinished">Tastausgänge</translation>
+        <translation>Tastausgänge</translation>
     </message>
     <message>
         <source>PTT</source>
-        <translation type="unfinished">PTT</translation>
+        <translation>PTT</translation>
     </message>
     <message>
         <source>Lead-in</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorlauf</translation>
     </message>
     <message>
         <source>Tail</source>
-        <translation type="unfinished"></translation>
+        <translation>Nachlauf</translation>
     </message>
     <message>
         <source>Hang time</source>
-        <translation type="unfinished"></translation>
+        <translation>Haltezeit</translation>
     </message>
     <message>
         <source>word space and %1 dits</source>
-        <translation type="unfinished"></translation>
+        <translation>Wortabstand und %1 Punkte</translation>
     </message>
 </context>
 <context>
@@ -2692,31 +2692,31 @@ Die eigenen Optionen des Toolkits wie -platform und -style gelten auch. Die Anle
     </message>
     <message>
         <source>cannot read the script %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>kann das Skript %1 nicht lesen: %2</translation>
     </message>
     <message>
         <source>a profile that --help lists</source>
-        <translation type="unfinished"></translation>
+        <translation>ein Profil, das --help auflistet</translation>
     </message>
     <message>
         <source>%1:%2: &quot;%3&quot; is not understood; possible is: %4</source>
-        <translation type="unfinished"></translation>
+        <translation>%1:%2: „%3“ wird nicht verstanden; möglich ist: %4</translation>
     </message>
     <message>
         <source>%1:%2: expected %3, but it is %4</source>
-        <translation type="unfinished"></translation>
+        <translation>%1:%2: erwartet war %3, es ist aber %4</translation>
     </message>
     <message>
         <source>%1:%2: not done before the end</source>
-        <translation type="unfinished"></translation>
+        <translation>%1:%2: vor dem Ende nicht ausgeführt</translation>
     </message>
     <message>
         <source>No window can be shown. What is keyed is printed here, until Ctrl+C.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es kann kein Fenster gezeigt werden. Was getastet wird, erscheint hier, bis Strg+C.</translation>
     </message>
     <message>
         <source>cannot write the sound %1</source>
-        <translation type="unfinished"></translation>
+        <translation>kann den Ton %1 nicht schreiben</translation>
     </message>
 </context>
 <context>
@@ -2785,35 +2785,35 @@ das ihn öffnet, und gibt auf der Standardausgabe aus, was er tastet.</translati
     </message>
     <message>
         <source>Shows no window.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeigt kein Fenster.</translation>
     </message>
     <message>
         <source>Saves the sidetone to %1, a WAV file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Speichert den Mithörton in %1, einer WAV-Datei.</translation>
     </message>
     <message>
         <source>Works the keyer as %1 says, &quot;-&quot; for standard input, and ends with it; the exit status is 3 if what it expects did not happen. Lines of it are: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Bedient den Keyer, wie %1 sagt, „-“ für die Standardeingabe, und endet damit; der Endestatus ist 3, wenn nicht eintrat, was es erwartet. Seine Zeilen sind: %2</translation>
     </message>
     <message>
         <source>The script&apos;s time passes as fast as it can, and no port is plugged in.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Zeit des Skripts vergeht so schnell wie möglich, und es wird kein Port eingesteckt.</translation>
     </message>
     <message>
         <source>The script needs a file name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Skript braucht einen Dateinamen.</translation>
     </message>
     <message>
         <source>Only a script can be fast.</source>
-        <translation type="unfinished"></translation>
+        <translation>Schnell kann nur ein Skript sein.</translation>
     </message>
     <message>
         <source>Standard input is either the script or the paddle.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Standardeingabe ist entweder das Skript oder das Paddle.</translation>
     </message>
     <message>
         <source>The sound needs a file name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Ton braucht einen Dateinamen.</translation>
     </message>
 </context>
 <context>
@@ -2901,63 +2901,63 @@ das ihn öffnet, und gibt auf der Standardausgabe aus, was er tastet.</translati
     <name>virtualkeyer::KeyerWindow</name>
     <message>
         <source>Virtual keyer</source>
-        <translation type="unfinished"></translation>
+        <translation>Virtueller Keyer</translation>
     </message>
     <message>
         <source>Plugged in as %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Eingesteckt als %1</translation>
     </message>
     <message>
         <source>Plugged in</source>
-        <translation type="unfinished"></translation>
+        <translation>Eingesteckt</translation>
     </message>
     <message>
         <source>Pulls the adapter and plugs it in again. Without it the keyer has no power, and forgets its host.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zieht den Adapter ab und steckt ihn wieder ein. Ohne ihn hat der Keyer keinen Strom und vergisst seinen Host.</translation>
     </message>
     <message>
         <source>Speed knob</source>
-        <translation type="unfinished"></translation>
+        <translation>Tempo-Knopf</translation>
     </message>
     <message>
         <source>Counts within the range that the host has set, and only while the host leaves the speed to it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zählt innerhalb des Bereichs, den der Host eingestellt hat, und nur solange der Host ihm das Tempo überlässt.</translation>
     </message>
     <message>
         <source>%1 WPM</source>
-        <translation type="unfinished">%1 WPM</translation>
+        <translation>%1 WPM</translation>
     </message>
     <message>
         <source>Push-buttons</source>
-        <translation type="unfinished"></translation>
+        <translation>Drucktasten</translation>
     </message>
     <message>
         <source>The host hears of them once it has asked for version 2 status.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Host erfährt von ihnen, sobald er den Status der Version 2 verlangt hat.</translation>
     </message>
     <message>
         <source>Push-button %1</source>
-        <translation type="unfinished">Taster %1</translation>
+        <translation>Drucktaste %1</translation>
     </message>
     <message>
         <source>Registers</source>
-        <translation type="unfinished"></translation>
+        <translation>Register</translation>
     </message>
     <message>
         <source>Memory</source>
-        <translation type="unfinished"></translation>
+        <translation>Speicher</translation>
     </message>
     <message>
         <source>Kind of keyer</source>
-        <translation type="unfinished"></translation>
+        <translation>Art des Keyers</translation>
     </message>
     <message>
         <source>Keyed text</source>
-        <translation type="unfinished"></translation>
+        <translation>Getasteter Text</translation>
     </message>
     <message>
         <source>What is keyed, by the host or the paddle, is read back here from the key line.</source>
-        <translation type="unfinished"></translation>
+        <translation>Was der Host oder das Paddle tastet, wird hier von der Tastleitung zurückgelesen.</translation>
     </message>
     <message>
         <source>Record a script</source>
@@ -2975,135 +2975,151 @@ das ihn öffnet, und gibt auf der Standardausgabe aus, was er tastet.</translati
         <source>%1 cannot be written: %2</source>
         <translation>%1 kann nicht geschrieben werden: %2</translation>
     </message>
+    <message>
+        <source>Sidetone</source>
+        <translation>Mithörton</translation>
+    </message>
+    <message>
+        <source>How loud this machine plays what is keyed; the host sets the pitch.</source>
+        <translation>Wie laut dieser Rechner spielt, was getastet wird; die Tonhöhe stellt der Host ein.</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>Lautstärke</translation>
+    </message>
+    <message>
+        <source>No sound device: it is silent.</source>
+        <translation>Kein Audiogerät: Er ist stumm.</translation>
+    </message>
 </context>
 <context>
     <name>virtualkeyer::KindList</name>
     <message>
         <source>Kinds of keyer</source>
-        <translation type="unfinished"></translation>
+        <translation>Arten des Keyers</translation>
     </message>
 </context>
 <context>
     <name>virtualkeyer::Lamp</name>
     <message>
         <source>%1: on</source>
-        <translation type="unfinished">%1: ein</translation>
+        <translation>%1: ein</translation>
     </message>
     <message>
         <source>%1: off</source>
-        <translation type="unfinished">%1: aus</translation>
+        <translation>%1: aus</translation>
     </message>
 </context>
 <context>
     <name>virtualkeyer::LampRow</name>
     <message>
         <source>Key</source>
-        <translation type="unfinished"></translation>
+        <translation>Taste</translation>
     </message>
     <message>
         <source>PTT</source>
-        <translation type="unfinished">PTT</translation>
+        <translation>PTT</translation>
     </message>
     <message>
         <source>Busy</source>
-        <translation type="unfinished"></translation>
+        <translation>Beschäftigt</translation>
     </message>
     <message>
         <source>Break-in</source>
-        <translation type="unfinished"></translation>
+        <translation>BK</translation>
     </message>
     <message>
         <source>XOFF</source>
-        <translation type="unfinished"></translation>
+        <translation>XOFF</translation>
     </message>
     <message>
         <source>Wait</source>
-        <translation type="unfinished"></translation>
+        <translation>Warten</translation>
     </message>
     <message>
         <source>The transmitter would be keyed. Nothing here is on the air.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Sender würde getastet. Nichts von hier geht auf Sendung.</translation>
     </message>
     <message>
         <source>The transmitter would be switched on.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Sender würde eingeschaltet.</translation>
     </message>
     <message>
         <source>The host&apos;s text, the paddle or the tune command keys.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Text des Hosts, das Paddle oder der Befehl zum Abstimmen tastet.</translation>
     </message>
     <message>
         <source>The paddle has the key, and the host&apos;s text has gone.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Paddle hat die Taste, und der Text des Hosts ist verworfen.</translation>
     </message>
     <message>
         <source>The buffer is nearly full; the host has to wait.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Puffer ist fast voll; der Host muss warten.</translation>
     </message>
     <message>
         <source>A wait or a key-down of the host&apos;s, with a time of its own, or a tune.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Wartezeit oder ein Tastendruck des Hosts mit eigener Dauer, oder ein Abstimmen.</translation>
     </message>
 </context>
 <context>
     <name>virtualkeyer::MessageList</name>
     <message>
         <source>Play %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 abspielen</translation>
     </message>
     <message>
         <source>Play message %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Nachricht %1 abspielen</translation>
     </message>
     <message>
         <source>empty</source>
-        <translation type="unfinished"></translation>
+        <translation>leer</translation>
     </message>
     <message>
         <source>Message %1: %2</source>
-        <translation type="unfinished">Nachricht %1: %2</translation>
+        <translation>Nachricht %1: %2</translation>
     </message>
 </context>
 <context>
     <name>virtualkeyer::PaddlePanel</name>
     <message>
         <source>Paddle</source>
-        <translation type="unfinished"></translation>
+        <translation>Paddle</translation>
     </message>
     <message>
         <source>Dit (F)</source>
-        <translation type="unfinished"></translation>
+        <translation>Punkt (F)</translation>
     </message>
     <message>
         <source>Dah (J)</source>
-        <translation type="unfinished"></translation>
+        <translation>Strich (J)</translation>
     </message>
     <message>
         <source>Hold a button, or the keys F and J; both at once for a squeeze.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Schaltfläche oder die Tasten F und J halten; beide zugleich zum Quetschen.</translation>
     </message>
     <message>
         <source>Dit paddle</source>
-        <translation type="unfinished"></translation>
+        <translation>Punkt-Paddle</translation>
     </message>
     <message>
         <source>Dah paddle</source>
-        <translation type="unfinished"></translation>
+        <translation>Strich-Paddle</translation>
     </message>
 </context>
 <context>
     <name>virtualkeyer::RegisterTable</name>
     <message>
         <source>Registers</source>
-        <translation type="unfinished"></translation>
+        <translation>Register</translation>
     </message>
     <message>
         <source>Register</source>
-        <translation type="unfinished"></translation>
+        <translation>Register</translation>
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished"></translation>
+        <translation>Wert</translation>
     </message>
 </context>
 </TS>

@@ -1901,183 +1901,183 @@ También valen las opciones de la biblioteca gráfica, como -platform y -style. 
     <name>RegisterWords</name>
     <message>
         <source>on</source>
-        <translation type="unfinished">activado</translation>
+        <translation>sí</translation>
     </message>
     <message>
         <source>off</source>
-        <translation type="unfinished">desactivado</translation>
+        <translation>no</translation>
     </message>
     <message>
         <source>%1 ms</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ms</translation>
     </message>
     <message>
         <source>%1 %</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 %</translation>
     </message>
     <message>
         <source>%1 WPM</source>
-        <translation type="unfinished">%1 WPM</translation>
+        <translation>%1 WPM</translation>
     </message>
     <message>
         <source>%1 WPM, from the knob</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 WPM, del mando</translation>
     </message>
     <message>
         <source>%1; %2 WPM for now</source>
-        <translation type="unfinished"></translation>
+        <translation>%1; %2 WPM por ahora</translation>
     </message>
     <message>
         <source>iambic A</source>
-        <translation type="unfinished"></translation>
+        <translation>iámbico A</translation>
     </message>
     <message>
         <source>ultimatic</source>
-        <translation type="unfinished"></translation>
+        <translation>ultimatic</translation>
     </message>
     <message>
         <source>bug</source>
-        <translation type="unfinished"></translation>
+        <translation>bug</translation>
     </message>
     <message>
         <source>iambic B</source>
-        <translation type="unfinished"></translation>
+        <translation>iámbico B</translation>
     </message>
     <message>
         <source>dah</source>
-        <translation type="unfinished"></translation>
+        <translation>raya</translation>
     </message>
     <message>
         <source>dit</source>
-        <translation type="unfinished"></translation>
+        <translation>punto</translation>
     </message>
     <message>
         <source>the last one closed</source>
-        <translation type="unfinished"></translation>
+        <translation>el último contacto cerrado</translation>
     </message>
     <message>
         <source>%1 Hz, for the paddle only</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Hz, solo las palas</translation>
     </message>
     <message>
         <source>%1 Hz</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Hz</translation>
     </message>
     <message>
         <source>%1 to %2 WPM</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 a %2 WPM</translation>
     </message>
     <message>
         <source>1 and 2</source>
-        <translation type="unfinished"></translation>
+        <translation>1 y 2</translation>
     </message>
     <message>
         <source>none</source>
-        <translation type="unfinished"></translation>
+        <translation>ninguna</translation>
     </message>
     <message>
         <source>Speed</source>
-        <translation type="unfinished">Velocidad</translation>
+        <translation>Velocidad</translation>
     </message>
     <message>
         <source>Knob&apos;s range</source>
-        <translation type="unfinished"></translation>
+        <translation>Margen del mando</translation>
     </message>
     <message>
         <source>Farnsworth</source>
-        <translation type="unfinished"></translation>
+        <translation>Farnsworth</translation>
     </message>
     <message>
         <source>Weighting</source>
-        <translation type="unfinished"></translation>
+        <translation>Peso</translation>
     </message>
     <message>
         <source>Dah to dit</source>
-        <translation type="unfinished"></translation>
+        <translation>Raya a punto</translation>
     </message>
     <message>
         <source>%1 to 1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 a 1</translation>
     </message>
     <message>
         <source>Key compensation</source>
-        <translation type="unfinished"></translation>
+        <translation>Compensación</translation>
     </message>
     <message>
         <source>First extension</source>
-        <translation type="unfinished"></translation>
+        <translation>Extensión inicial</translation>
     </message>
     <message>
         <source>Word space</source>
-        <translation type="unfinished"></translation>
+        <translation>Espacio entre palabras</translation>
     </message>
     <message>
         <source>%1 dits</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 puntos</translation>
     </message>
     <message>
         <source>Paddle keying</source>
-        <translation type="unfinished"></translation>
+        <translation>Modo de las palas</translation>
     </message>
     <message>
         <source>Ultimatic priority</source>
-        <translation type="unfinished"></translation>
+        <translation>Prioridad ultimatic</translation>
     </message>
     <message>
         <source>Paddle swapped</source>
-        <translation type="unfinished"></translation>
+        <translation>Palas intercambiadas</translation>
     </message>
     <message>
         <source>Paddle memory</source>
-        <translation type="unfinished"></translation>
+        <translation>Memoria de las palas</translation>
     </message>
     <message>
         <source>after %1 dit lengths</source>
-        <translation type="unfinished"></translation>
+        <translation>tras %1 puntos de duración</translation>
     </message>
     <message>
         <source>Paddle watchdog</source>
-        <translation type="unfinished"></translation>
+        <translation>Vigilancia de las palas</translation>
     </message>
     <message>
         <source>Autospace</source>
-        <translation type="unfinished"></translation>
+        <translation>Autoespacio</translation>
     </message>
     <message>
         <source>Paddle echo</source>
-        <translation type="unfinished"></translation>
+        <translation>Eco de las palas</translation>
     </message>
     <message>
         <source>Serial echo</source>
-        <translation type="unfinished"></translation>
+        <translation>Eco serie</translation>
     </message>
     <message>
         <source>Sidetone</source>
-        <translation type="unfinished">Tono lateral</translation>
+        <translation>Tono lateral</translation>
     </message>
     <message>
         <source>Key outputs</source>
-        <translation type="unfinished">Salidas de manipulación</translation>
+        <translation>Salidas de manipulación</translation>
     </message>
     <message>
         <source>PTT</source>
-        <translation type="unfinished">PTT</translation>
+        <translation>PTT</translation>
     </message>
     <message>
         <source>Lead-in</source>
-        <translation type="unfinished"></translation>
+        <translation>Adelanto</translation>
     </message>
     <message>
         <source>Tail</source>
-        <translation type="unfinished"></translation>
+        <translation>Retardo</translation>
     </message>
     <message>
         <source>Hang time</source>
-        <translation type="unfinished"></translation>
+        <translation>Retención de las palas</translation>
     </message>
     <message>
         <source>word space and %1 dits</source>
-        <translation type="unfinished"></translation>
+        <translation>espacio entre palabras y %1 puntos</translation>
     </message>
 </context>
 <context>
@@ -2692,31 +2692,31 @@ También valen las opciones de la biblioteca gráfica, como -platform y -style. 
     </message>
     <message>
         <source>cannot read the script %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>no se puede leer el guion %1: %2</translation>
     </message>
     <message>
         <source>a profile that --help lists</source>
-        <translation type="unfinished"></translation>
+        <translation>un perfil que --help enumera</translation>
     </message>
     <message>
         <source>%1:%2: &quot;%3&quot; is not understood; possible is: %4</source>
-        <translation type="unfinished"></translation>
+        <translation>%1:%2: «%3» no se entiende; es posible: %4</translation>
     </message>
     <message>
         <source>%1:%2: expected %3, but it is %4</source>
-        <translation type="unfinished"></translation>
+        <translation>%1:%2: se esperaba %3, pero es %4</translation>
     </message>
     <message>
         <source>%1:%2: not done before the end</source>
-        <translation type="unfinished"></translation>
+        <translation>%1:%2: no se hizo antes del final</translation>
     </message>
     <message>
         <source>No window can be shown. What is keyed is printed here, until Ctrl+C.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede mostrar ninguna ventana. Lo que se manipula se imprime aquí, hasta Ctrl+C.</translation>
     </message>
     <message>
         <source>cannot write the sound %1</source>
-        <translation type="unfinished"></translation>
+        <translation>no se puede escribir el sonido %1</translation>
     </message>
 </context>
 <context>
@@ -2785,35 +2785,35 @@ que lo abre, y escribe lo que manipula en la salida estándar.</translation>
     </message>
     <message>
         <source>Shows no window.</source>
-        <translation type="unfinished"></translation>
+        <translation>No muestra ninguna ventana.</translation>
     </message>
     <message>
         <source>Saves the sidetone to %1, a WAV file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Guarda el tono lateral en %1, un archivo WAV.</translation>
     </message>
     <message>
         <source>Works the keyer as %1 says, &quot;-&quot; for standard input, and ends with it; the exit status is 3 if what it expects did not happen. Lines of it are: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Maneja el manipulador como dice %1, «-» para la entrada estándar, y termina con él; el estado de salida es 3 si no ocurrió lo que espera. Sus líneas son: %2</translation>
     </message>
     <message>
         <source>The script&apos;s time passes as fast as it can, and no port is plugged in.</source>
-        <translation type="unfinished"></translation>
+        <translation>El tiempo del guion pasa tan deprisa como puede, y no se enchufa ningún puerto.</translation>
     </message>
     <message>
         <source>The script needs a file name.</source>
-        <translation type="unfinished"></translation>
+        <translation>El guion necesita un nombre de archivo.</translation>
     </message>
     <message>
         <source>Only a script can be fast.</source>
-        <translation type="unfinished"></translation>
+        <translation>Solo un guion puede ser rápido.</translation>
     </message>
     <message>
         <source>Standard input is either the script or the paddle.</source>
-        <translation type="unfinished"></translation>
+        <translation>La entrada estándar es o el guion o las palas.</translation>
     </message>
     <message>
         <source>The sound needs a file name.</source>
-        <translation type="unfinished"></translation>
+        <translation>El sonido necesita un nombre de archivo.</translation>
     </message>
 </context>
 <context>
@@ -2901,63 +2901,63 @@ que lo abre, y escribe lo que manipula en la salida estándar.</translation>
     <name>virtualkeyer::KeyerWindow</name>
     <message>
         <source>Virtual keyer</source>
-        <translation type="unfinished"></translation>
+        <translation>Manipulador virtual</translation>
     </message>
     <message>
         <source>Plugged in as %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Enchufado como %1</translation>
     </message>
     <message>
         <source>Plugged in</source>
-        <translation type="unfinished"></translation>
+        <translation>Enchufado</translation>
     </message>
     <message>
         <source>Pulls the adapter and plugs it in again. Without it the keyer has no power, and forgets its host.</source>
-        <translation type="unfinished"></translation>
+        <translation>Desenchufa el adaptador y lo enchufa de nuevo. Sin él, el manipulador no tiene corriente y olvida su host.</translation>
     </message>
     <message>
         <source>Speed knob</source>
-        <translation type="unfinished"></translation>
+        <translation>Mando de velocidad</translation>
     </message>
     <message>
         <source>Counts within the range that the host has set, and only while the host leaves the speed to it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cuenta dentro del margen que ha fijado el host, y solo mientras este le deje la velocidad.</translation>
     </message>
     <message>
         <source>%1 WPM</source>
-        <translation type="unfinished">%1 WPM</translation>
+        <translation>%1 WPM</translation>
     </message>
     <message>
         <source>Push-buttons</source>
-        <translation type="unfinished"></translation>
+        <translation>Pulsadores</translation>
     </message>
     <message>
         <source>The host hears of them once it has asked for version 2 status.</source>
-        <translation type="unfinished"></translation>
+        <translation>El host se entera de ellos una vez que ha pedido el estado de versión 2.</translation>
     </message>
     <message>
         <source>Push-button %1</source>
-        <translation type="unfinished">Pulsador %1</translation>
+        <translation>Pulsador %1</translation>
     </message>
     <message>
         <source>Registers</source>
-        <translation type="unfinished"></translation>
+        <translation>Registros</translation>
     </message>
     <message>
         <source>Memory</source>
-        <translation type="unfinished"></translation>
+        <translation>Memoria</translation>
     </message>
     <message>
         <source>Kind of keyer</source>
-        <translation type="unfinished"></translation>
+        <translation>Tipo de manipulador</translation>
     </message>
     <message>
         <source>Keyed text</source>
-        <translation type="unfinished"></translation>
+        <translation>Texto manipulado</translation>
     </message>
     <message>
         <source>What is keyed, by the host or the paddle, is read back here from the key line.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo que manipulan el host o las palas se lee aquí de la línea de manipulación.</translation>
     </message>
     <message>
         <source>Record a script</source>
@@ -2975,135 +2975,151 @@ que lo abre, y escribe lo que manipula en la salida estándar.</translation>
         <source>%1 cannot be written: %2</source>
         <translation>No se puede escribir %1: %2</translation>
     </message>
+    <message>
+        <source>Sidetone</source>
+        <translation>Tono lateral</translation>
+    </message>
+    <message>
+        <source>How loud this machine plays what is keyed; the host sets the pitch.</source>
+        <translation>Con qué volumen reproduce esta máquina lo que se manipula; el tono lo fija el host.</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>Volumen</translation>
+    </message>
+    <message>
+        <source>No sound device: it is silent.</source>
+        <translation>No hay dispositivo de sonido: está mudo.</translation>
+    </message>
 </context>
 <context>
     <name>virtualkeyer::KindList</name>
     <message>
         <source>Kinds of keyer</source>
-        <translation type="unfinished"></translation>
+        <translation>Tipos de manipulador</translation>
     </message>
 </context>
 <context>
     <name>virtualkeyer::Lamp</name>
     <message>
         <source>%1: on</source>
-        <translation type="unfinished">%1: activado</translation>
+        <translation>%1: encendido</translation>
     </message>
     <message>
         <source>%1: off</source>
-        <translation type="unfinished">%1: desactivado</translation>
+        <translation>%1: apagado</translation>
     </message>
 </context>
 <context>
     <name>virtualkeyer::LampRow</name>
     <message>
         <source>Key</source>
-        <translation type="unfinished"></translation>
+        <translation>Manipulador</translation>
     </message>
     <message>
         <source>PTT</source>
-        <translation type="unfinished">PTT</translation>
+        <translation>PTT</translation>
     </message>
     <message>
         <source>Busy</source>
-        <translation type="unfinished"></translation>
+        <translation>Ocupado</translation>
     </message>
     <message>
         <source>Break-in</source>
-        <translation type="unfinished"></translation>
+        <translation>Break-in</translation>
     </message>
     <message>
         <source>XOFF</source>
-        <translation type="unfinished"></translation>
+        <translation>XOFF</translation>
     </message>
     <message>
         <source>Wait</source>
-        <translation type="unfinished"></translation>
+        <translation>Espera</translation>
     </message>
     <message>
         <source>The transmitter would be keyed. Nothing here is on the air.</source>
-        <translation type="unfinished"></translation>
+        <translation>El transmisor se manipularía. Nada de aquí sale al aire.</translation>
     </message>
     <message>
         <source>The transmitter would be switched on.</source>
-        <translation type="unfinished"></translation>
+        <translation>El transmisor se encendería.</translation>
     </message>
     <message>
         <source>The host&apos;s text, the paddle or the tune command keys.</source>
-        <translation type="unfinished"></translation>
+        <translation>Manipulan el texto del host, las palas o la orden de sintonía.</translation>
     </message>
     <message>
         <source>The paddle has the key, and the host&apos;s text has gone.</source>
-        <translation type="unfinished"></translation>
+        <translation>Las palas tienen el manipulador, y el texto del host se ha perdido.</translation>
     </message>
     <message>
         <source>The buffer is nearly full; the host has to wait.</source>
-        <translation type="unfinished"></translation>
+        <translation>El búfer está casi lleno; el host tiene que esperar.</translation>
     </message>
     <message>
         <source>A wait or a key-down of the host&apos;s, with a time of its own, or a tune.</source>
-        <translation type="unfinished"></translation>
+        <translation>Una espera o una pulsación del host con su propia duración, o una sintonía.</translation>
     </message>
 </context>
 <context>
     <name>virtualkeyer::MessageList</name>
     <message>
         <source>Play %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Reproducir %1</translation>
     </message>
     <message>
         <source>Play message %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Reproducir el mensaje %1</translation>
     </message>
     <message>
         <source>empty</source>
-        <translation type="unfinished"></translation>
+        <translation>vacío</translation>
     </message>
     <message>
         <source>Message %1: %2</source>
-        <translation type="unfinished">Mensaje %1: %2</translation>
+        <translation>Mensaje %1: %2</translation>
     </message>
 </context>
 <context>
     <name>virtualkeyer::PaddlePanel</name>
     <message>
         <source>Paddle</source>
-        <translation type="unfinished"></translation>
+        <translation>Palas</translation>
     </message>
     <message>
         <source>Dit (F)</source>
-        <translation type="unfinished"></translation>
+        <translation>Punto (F)</translation>
     </message>
     <message>
         <source>Dah (J)</source>
-        <translation type="unfinished"></translation>
+        <translation>Raya (J)</translation>
     </message>
     <message>
         <source>Hold a button, or the keys F and J; both at once for a squeeze.</source>
-        <translation type="unfinished"></translation>
+        <translation>Mantenga un botón, o las teclas F y J; ambos a la vez para apretar las dos palas.</translation>
     </message>
     <message>
         <source>Dit paddle</source>
-        <translation type="unfinished"></translation>
+        <translation>Pala de puntos</translation>
     </message>
     <message>
         <source>Dah paddle</source>
-        <translation type="unfinished"></translation>
+        <translation>Pala de rayas</translation>
     </message>
 </context>
 <context>
     <name>virtualkeyer::RegisterTable</name>
     <message>
         <source>Registers</source>
-        <translation type="unfinished"></translation>
+        <translation>Registros</translation>
     </message>
     <message>
         <source>Register</source>
-        <translation type="unfinished"></translation>
+        <translation>Registro</translation>
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished"></translation>
+        <translation>Valor</translation>
     </message>
 </context>
 </TS>

@@ -1901,183 +1901,183 @@ Les options de la bibliothèque graphique, comme -platform et -style, sont admis
     <name>RegisterWords</name>
     <message>
         <source>on</source>
-        <translation type="unfinished">activé</translation>
+        <translation>activé</translation>
     </message>
     <message>
         <source>off</source>
-        <translation type="unfinished">désactivé</translation>
+        <translation>désactivé</translation>
     </message>
     <message>
         <source>%1 ms</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ms</translation>
     </message>
     <message>
         <source>%1 %</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 %</translation>
     </message>
     <message>
         <source>%1 WPM</source>
-        <translation type="unfinished">%1 WPM</translation>
+        <translation>%1 WPM</translation>
     </message>
     <message>
         <source>%1 WPM, from the knob</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 WPM, du bouton</translation>
     </message>
     <message>
         <source>%1; %2 WPM for now</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ; %2 WPM pour l’instant</translation>
     </message>
     <message>
         <source>iambic A</source>
-        <translation type="unfinished"></translation>
+        <translation>iambic A</translation>
     </message>
     <message>
         <source>ultimatic</source>
-        <translation type="unfinished"></translation>
+        <translation>ultimatic</translation>
     </message>
     <message>
         <source>bug</source>
-        <translation type="unfinished"></translation>
+        <translation>bug</translation>
     </message>
     <message>
         <source>iambic B</source>
-        <translation type="unfinished"></translation>
+        <translation>iambic B</translation>
     </message>
     <message>
         <source>dah</source>
-        <translation type="unfinished"></translation>
+        <translation>trait</translation>
     </message>
     <message>
         <source>dit</source>
-        <translation type="unfinished"></translation>
+        <translation>point</translation>
     </message>
     <message>
         <source>the last one closed</source>
-        <translation type="unfinished"></translation>
+        <translation>le dernier contact fermé</translation>
     </message>
     <message>
         <source>%1 Hz, for the paddle only</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Hz, palettes seules</translation>
     </message>
     <message>
         <source>%1 Hz</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Hz</translation>
     </message>
     <message>
         <source>%1 to %2 WPM</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 à %2 WPM</translation>
     </message>
     <message>
         <source>1 and 2</source>
-        <translation type="unfinished"></translation>
+        <translation>1 et 2</translation>
     </message>
     <message>
         <source>none</source>
-        <translation type="unfinished"></translation>
+        <translation>aucune</translation>
     </message>
     <message>
         <source>Speed</source>
-        <translation type="unfinished">Vitesse</translation>
+        <translation>Vitesse</translation>
     </message>
     <message>
         <source>Knob&apos;s range</source>
-        <translation type="unfinished"></translation>
+        <translation>Plage du bouton</translation>
     </message>
     <message>
         <source>Farnsworth</source>
-        <translation type="unfinished"></translation>
+        <translation>Farnsworth</translation>
     </message>
     <message>
         <source>Weighting</source>
-        <translation type="unfinished"></translation>
+        <translation>Pondération</translation>
     </message>
     <message>
         <source>Dah to dit</source>
-        <translation type="unfinished"></translation>
+        <translation>Trait sur point</translation>
     </message>
     <message>
         <source>%1 to 1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 pour 1</translation>
     </message>
     <message>
         <source>Key compensation</source>
-        <translation type="unfinished"></translation>
+        <translation>Compensation</translation>
     </message>
     <message>
         <source>First extension</source>
-        <translation type="unfinished"></translation>
+        <translation>Extension initiale</translation>
     </message>
     <message>
         <source>Word space</source>
-        <translation type="unfinished"></translation>
+        <translation>Espace entre mots</translation>
     </message>
     <message>
         <source>%1 dits</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 points</translation>
     </message>
     <message>
         <source>Paddle keying</source>
-        <translation type="unfinished"></translation>
+        <translation>Manipulation des palettes</translation>
     </message>
     <message>
         <source>Ultimatic priority</source>
-        <translation type="unfinished"></translation>
+        <translation>Priorité ultimatic</translation>
     </message>
     <message>
         <source>Paddle swapped</source>
-        <translation type="unfinished"></translation>
+        <translation>Palettes inversées</translation>
     </message>
     <message>
         <source>Paddle memory</source>
-        <translation type="unfinished"></translation>
+        <translation>Mémoire des palettes</translation>
     </message>
     <message>
         <source>after %1 dit lengths</source>
-        <translation type="unfinished"></translation>
+        <translation>après %1 longueurs de point</translation>
     </message>
     <message>
         <source>Paddle watchdog</source>
-        <translation type="unfinished"></translation>
+        <translation>Surveillance des palettes</translation>
     </message>
     <message>
         <source>Autospace</source>
-        <translation type="unfinished"></translation>
+        <translation>Autospace</translation>
     </message>
     <message>
         <source>Paddle echo</source>
-        <translation type="unfinished"></translation>
+        <translation>Écho des palettes</translation>
     </message>
     <message>
         <source>Serial echo</source>
-        <translation type="unfinished"></translation>
+        <translation>Écho série</translation>
     </message>
     <message>
         <source>Sidetone</source>
-        <translation type="unfinished">Effet local</translation>
+        <translation>Effet local</translation>
     </message>
     <message>
         <source>Key outputs</source>
-        <translation type="unfinished">Sorties de clé</translation>
+        <translation>Sorties de manipulation</translation>
     </message>
     <message>
         <source>PTT</source>
-        <translation type="unfinished">PTT</translation>
+        <translation>PTT</translation>
     </message>
     <message>
         <source>Lead-in</source>
-        <translation type="unfinished"></translation>
+        <translation>Avance</translation>
     </message>
     <message>
         <source>Tail</source>
-        <translation type="unfinished"></translation>
+        <translation>Maintien</translation>
     </message>
     <message>
         <source>Hang time</source>
-        <translation type="unfinished"></translation>
+        <translation>Maintien des palettes</translation>
     </message>
     <message>
         <source>word space and %1 dits</source>
-        <translation type="unfinished"></translation>
+        <translation>espace entre mots et %1 points</translation>
     </message>
 </context>
 <context>
@@ -2692,31 +2692,31 @@ Les options de la bibliothèque graphique, comme -platform et -style, sont admis
     </message>
     <message>
         <source>cannot read the script %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>impossible de lire le script %1 : %2</translation>
     </message>
     <message>
         <source>a profile that --help lists</source>
-        <translation type="unfinished"></translation>
+        <translation>un profil que --help énumère</translation>
     </message>
     <message>
         <source>%1:%2: &quot;%3&quot; is not understood; possible is: %4</source>
-        <translation type="unfinished"></translation>
+        <translation>%1:%2 : « %3 » n’est pas compris ; possible : %4</translation>
     </message>
     <message>
         <source>%1:%2: expected %3, but it is %4</source>
-        <translation type="unfinished"></translation>
+        <translation>%1:%2 : %3 était attendu, mais c’est %4</translation>
     </message>
     <message>
         <source>%1:%2: not done before the end</source>
-        <translation type="unfinished"></translation>
+        <translation>%1:%2 : pas exécuté avant la fin</translation>
     </message>
     <message>
         <source>No window can be shown. What is keyed is printed here, until Ctrl+C.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune fenêtre ne peut être affichée. Ce qui est manipulé s’imprime ici, jusqu’à Ctrl+C.</translation>
     </message>
     <message>
         <source>cannot write the sound %1</source>
-        <translation type="unfinished"></translation>
+        <translation>impossible d’écrire le son %1</translation>
     </message>
 </context>
 <context>
@@ -2785,35 +2785,35 @@ qui l’ouvre, et écrit ce qu’il manipule sur la sortie standard.</translatio
     </message>
     <message>
         <source>Shows no window.</source>
-        <translation type="unfinished"></translation>
+        <translation>N’affiche pas de fenêtre.</translation>
     </message>
     <message>
         <source>Saves the sidetone to %1, a WAV file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistre l’effet local dans %1, un fichier WAV.</translation>
     </message>
     <message>
         <source>Works the keyer as %1 says, &quot;-&quot; for standard input, and ends with it; the exit status is 3 if what it expects did not happen. Lines of it are: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Manœuvre le manipulateur comme le dit %1, « - » pour l’entrée standard, et finit avec lui ; le code de fin est 3 si ce qu’il attend ne s’est pas produit. Ses lignes sont : %2</translation>
     </message>
     <message>
         <source>The script&apos;s time passes as fast as it can, and no port is plugged in.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le temps du script passe aussi vite que possible, et aucun port n’est branché.</translation>
     </message>
     <message>
         <source>The script needs a file name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le script a besoin d’un nom de fichier.</translation>
     </message>
     <message>
         <source>Only a script can be fast.</source>
-        <translation type="unfinished"></translation>
+        <translation>Seul un script peut être rapide.</translation>
     </message>
     <message>
         <source>Standard input is either the script or the paddle.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’entrée standard est soit le script, soit les palettes.</translation>
     </message>
     <message>
         <source>The sound needs a file name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le son a besoin d’un nom de fichier.</translation>
     </message>
 </context>
 <context>
@@ -2901,63 +2901,63 @@ qui l’ouvre, et écrit ce qu’il manipule sur la sortie standard.</translatio
     <name>virtualkeyer::KeyerWindow</name>
     <message>
         <source>Virtual keyer</source>
-        <translation type="unfinished"></translation>
+        <translation>Manipulateur virtuel</translation>
     </message>
     <message>
         <source>Plugged in as %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Branché sous le nom %1</translation>
     </message>
     <message>
         <source>Plugged in</source>
-        <translation type="unfinished"></translation>
+        <translation>Branché</translation>
     </message>
     <message>
         <source>Pulls the adapter and plugs it in again. Without it the keyer has no power, and forgets its host.</source>
-        <translation type="unfinished"></translation>
+        <translation>Débranche l’adaptateur et le rebranche. Sans lui, le manipulateur n’a pas de courant et oublie son hôte.</translation>
     </message>
     <message>
         <source>Speed knob</source>
-        <translation type="unfinished"></translation>
+        <translation>Bouton de vitesse</translation>
     </message>
     <message>
         <source>Counts within the range that the host has set, and only while the host leaves the speed to it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Compte dans la plage que l’hôte a réglée, et seulement tant que l’hôte lui laisse la vitesse.</translation>
     </message>
     <message>
         <source>%1 WPM</source>
-        <translation type="unfinished">%1 WPM</translation>
+        <translation>%1 WPM</translation>
     </message>
     <message>
         <source>Push-buttons</source>
-        <translation type="unfinished"></translation>
+        <translation>Boutons-poussoirs</translation>
     </message>
     <message>
         <source>The host hears of them once it has asked for version 2 status.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’hôte en est informé dès qu’il a demandé l’état de version 2.</translation>
     </message>
     <message>
         <source>Push-button %1</source>
-        <translation type="unfinished">Bouton %1</translation>
+        <translation>Bouton-poussoir %1</translation>
     </message>
     <message>
         <source>Registers</source>
-        <translation type="unfinished"></translation>
+        <translation>Registres</translation>
     </message>
     <message>
         <source>Memory</source>
-        <translation type="unfinished"></translation>
+        <translation>Mémoire</translation>
     </message>
     <message>
         <source>Kind of keyer</source>
-        <translation type="unfinished"></translation>
+        <translation>Type de manipulateur</translation>
     </message>
     <message>
         <source>Keyed text</source>
-        <translation type="unfinished"></translation>
+        <translation>Texte manipulé</translation>
     </message>
     <message>
         <source>What is keyed, by the host or the paddle, is read back here from the key line.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce que manipule l’hôte ou les palettes est relu ici sur la ligne de manipulation.</translation>
     </message>
     <message>
         <source>Record a script</source>
@@ -2975,135 +2975,151 @@ qui l’ouvre, et écrit ce qu’il manipule sur la sortie standard.</translatio
         <source>%1 cannot be written: %2</source>
         <translation>%1 ne peut pas être écrit : %2</translation>
     </message>
+    <message>
+        <source>Sidetone</source>
+        <translation>Effet local</translation>
+    </message>
+    <message>
+        <source>How loud this machine plays what is keyed; the host sets the pitch.</source>
+        <translation>Le volume auquel cette machine joue ce qui est manipulé ; l’hôte règle la hauteur.</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>Volume</translation>
+    </message>
+    <message>
+        <source>No sound device: it is silent.</source>
+        <translation>Pas de périphérique audio : il est muet.</translation>
+    </message>
 </context>
 <context>
     <name>virtualkeyer::KindList</name>
     <message>
         <source>Kinds of keyer</source>
-        <translation type="unfinished"></translation>
+        <translation>Types de manipulateur</translation>
     </message>
 </context>
 <context>
     <name>virtualkeyer::Lamp</name>
     <message>
         <source>%1: on</source>
-        <translation type="unfinished">%1 : activé</translation>
+        <translation>%1 : allumé</translation>
     </message>
     <message>
         <source>%1: off</source>
-        <translation type="unfinished">%1 : désactivé</translation>
+        <translation>%1 : éteint</translation>
     </message>
 </context>
 <context>
     <name>virtualkeyer::LampRow</name>
     <message>
         <source>Key</source>
-        <translation type="unfinished"></translation>
+        <translation>Manipulateur</translation>
     </message>
     <message>
         <source>PTT</source>
-        <translation type="unfinished">PTT</translation>
+        <translation>PTT</translation>
     </message>
     <message>
         <source>Busy</source>
-        <translation type="unfinished"></translation>
+        <translation>Occupé</translation>
     </message>
     <message>
         <source>Break-in</source>
-        <translation type="unfinished"></translation>
+        <translation>Break-in</translation>
     </message>
     <message>
         <source>XOFF</source>
-        <translation type="unfinished"></translation>
+        <translation>XOFF</translation>
     </message>
     <message>
         <source>Wait</source>
-        <translation type="unfinished"></translation>
+        <translation>Attente</translation>
     </message>
     <message>
         <source>The transmitter would be keyed. Nothing here is on the air.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’émetteur serait manipulé. Rien d’ici ne passe à l’antenne.</translation>
     </message>
     <message>
         <source>The transmitter would be switched on.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’émetteur serait mis en marche.</translation>
     </message>
     <message>
         <source>The host&apos;s text, the paddle or the tune command keys.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le texte de l’hôte, les palettes ou la commande d’accord manipulent.</translation>
     </message>
     <message>
         <source>The paddle has the key, and the host&apos;s text has gone.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les palettes ont la main, et le texte de l’hôte est perdu.</translation>
     </message>
     <message>
         <source>The buffer is nearly full; the host has to wait.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le tampon est presque plein ; l’hôte doit attendre.</translation>
     </message>
     <message>
         <source>A wait or a key-down of the host&apos;s, with a time of its own, or a tune.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une attente ou un appui de l’hôte d’une durée donnée, ou un accord.</translation>
     </message>
 </context>
 <context>
     <name>virtualkeyer::MessageList</name>
     <message>
         <source>Play %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Jouer %1</translation>
     </message>
     <message>
         <source>Play message %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Jouer le message %1</translation>
     </message>
     <message>
         <source>empty</source>
-        <translation type="unfinished"></translation>
+        <translation>vide</translation>
     </message>
     <message>
         <source>Message %1: %2</source>
-        <translation type="unfinished">Message %1&#xa0;: %2</translation>
+        <translation>Message %1 : %2</translation>
     </message>
 </context>
 <context>
     <name>virtualkeyer::PaddlePanel</name>
     <message>
         <source>Paddle</source>
-        <translation type="unfinished"></translation>
+        <translation>Palettes</translation>
     </message>
     <message>
         <source>Dit (F)</source>
-        <translation type="unfinished"></translation>
+        <translation>Point (F)</translation>
     </message>
     <message>
         <source>Dah (J)</source>
-        <translation type="unfinished"></translation>
+        <translation>Trait (J)</translation>
     </message>
     <message>
         <source>Hold a button, or the keys F and J; both at once for a squeeze.</source>
-        <translation type="unfinished"></translation>
+        <translation>Maintenir un bouton, ou les touches F et J ; les deux à la fois pour une pression double.</translation>
     </message>
     <message>
         <source>Dit paddle</source>
-        <translation type="unfinished"></translation>
+        <translation>Palette des points</translation>
     </message>
     <message>
         <source>Dah paddle</source>
-        <translation type="unfinished"></translation>
+        <translation>Palette des traits</translation>
     </message>
 </context>
 <context>
     <name>virtualkeyer::RegisterTable</name>
     <message>
         <source>Registers</source>
-        <translation type="unfinished"></translation>
+        <translation>Registres</translation>
     </message>
     <message>
         <source>Register</source>
-        <translation type="unfinished"></translation>
+        <translation>Registre</translation>
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished"></translation>
+        <translation>Valeur</translation>
     </message>
 </context>
 </TS>

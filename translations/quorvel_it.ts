@@ -1901,183 +1901,183 @@ Valgono anche le opzioni della libreria grafica, come -platform e -style. La gui
     <name>RegisterWords</name>
     <message>
         <source>on</source>
-        <translation type="unfinished">attivo</translation>
+        <translation>attivo</translation>
     </message>
     <message>
         <source>off</source>
-        <translation type="unfinished">disattivo</translation>
+        <translation>disattivato</translation>
     </message>
     <message>
         <source>%1 ms</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ms</translation>
     </message>
     <message>
         <source>%1 %</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 %</translation>
     </message>
     <message>
         <source>%1 WPM</source>
-        <translation type="unfinished">%1 WPM</translation>
+        <translation>%1 WPM</translation>
     </message>
     <message>
         <source>%1 WPM, from the knob</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 WPM, dalla manopola</translation>
     </message>
     <message>
         <source>%1; %2 WPM for now</source>
-        <translation type="unfinished"></translation>
+        <translation>%1; %2 WPM per ora</translation>
     </message>
     <message>
         <source>iambic A</source>
-        <translation type="unfinished"></translation>
+        <translation>iambic A</translation>
     </message>
     <message>
         <source>ultimatic</source>
-        <translation type="unfinished"></translation>
+        <translation>ultimatic</translation>
     </message>
     <message>
         <source>bug</source>
-        <translation type="unfinished"></translation>
+        <translation>bug</translation>
     </message>
     <message>
         <source>iambic B</source>
-        <translation type="unfinished"></translation>
+        <translation>iambic B</translation>
     </message>
     <message>
         <source>dah</source>
-        <translation type="unfinished"></translation>
+        <translation>linea</translation>
     </message>
     <message>
         <source>dit</source>
-        <translation type="unfinished"></translation>
+        <translation>punto</translation>
     </message>
     <message>
         <source>the last one closed</source>
-        <translation type="unfinished"></translation>
+        <translation>l’ultimo contatto chiuso</translation>
     </message>
     <message>
         <source>%1 Hz, for the paddle only</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Hz, solo paddle</translation>
     </message>
     <message>
         <source>%1 Hz</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Hz</translation>
     </message>
     <message>
         <source>%1 to %2 WPM</source>
-        <translation type="unfinished"></translation>
+        <translation>da %1 a %2 WPM</translation>
     </message>
     <message>
         <source>1 and 2</source>
-        <translation type="unfinished"></translation>
+        <translation>1 e 2</translation>
     </message>
     <message>
         <source>none</source>
-        <translation type="unfinished"></translation>
+        <translation>nessuna</translation>
     </message>
     <message>
         <source>Speed</source>
-        <translation type="unfinished">Velocità</translation>
+        <translation>Velocità</translation>
     </message>
     <message>
         <source>Knob&apos;s range</source>
-        <translation type="unfinished"></translation>
+        <translation>Campo della manopola</translation>
     </message>
     <message>
         <source>Farnsworth</source>
-        <translation type="unfinished"></translation>
+        <translation>Farnsworth</translation>
     </message>
     <message>
         <source>Weighting</source>
-        <translation type="unfinished"></translation>
+        <translation>Peso</translation>
     </message>
     <message>
         <source>Dah to dit</source>
-        <translation type="unfinished"></translation>
+        <translation>Linea a punto</translation>
     </message>
     <message>
         <source>%1 to 1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 a 1</translation>
     </message>
     <message>
         <source>Key compensation</source>
-        <translation type="unfinished"></translation>
+        <translation>Compensazione</translation>
     </message>
     <message>
         <source>First extension</source>
-        <translation type="unfinished"></translation>
+        <translation>Prolungamento iniziale</translation>
     </message>
     <message>
         <source>Word space</source>
-        <translation type="unfinished"></translation>
+        <translation>Spazio tra parole</translation>
     </message>
     <message>
         <source>%1 dits</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 punti</translation>
     </message>
     <message>
         <source>Paddle keying</source>
-        <translation type="unfinished"></translation>
+        <translation>Modo del paddle</translation>
     </message>
     <message>
         <source>Ultimatic priority</source>
-        <translation type="unfinished"></translation>
+        <translation>Priorità ultimatic</translation>
     </message>
     <message>
         <source>Paddle swapped</source>
-        <translation type="unfinished"></translation>
+        <translation>Paddle invertiti</translation>
     </message>
     <message>
         <source>Paddle memory</source>
-        <translation type="unfinished"></translation>
+        <translation>Memoria del paddle</translation>
     </message>
     <message>
         <source>after %1 dit lengths</source>
-        <translation type="unfinished"></translation>
+        <translation>dopo %1 lunghezze di punto</translation>
     </message>
     <message>
         <source>Paddle watchdog</source>
-        <translation type="unfinished"></translation>
+        <translation>Sorveglianza del paddle</translation>
     </message>
     <message>
         <source>Autospace</source>
-        <translation type="unfinished"></translation>
+        <translation>Autospazio</translation>
     </message>
     <message>
         <source>Paddle echo</source>
-        <translation type="unfinished"></translation>
+        <translation>Eco del paddle</translation>
     </message>
     <message>
         <source>Serial echo</source>
-        <translation type="unfinished"></translation>
+        <translation>Eco seriale</translation>
     </message>
     <message>
         <source>Sidetone</source>
-        <translation type="unfinished">Sidetone</translation>
+        <translation>Sidetone</translation>
     </message>
     <message>
         <source>Key outputs</source>
-        <translation type="unfinished">Uscite del tasto</translation>
+        <translation>Uscite di manipolazione</translation>
     </message>
     <message>
         <source>PTT</source>
-        <translation type="unfinished">PTT</translation>
+        <translation>PTT</translation>
     </message>
     <message>
         <source>Lead-in</source>
-        <translation type="unfinished"></translation>
+        <translation>Anticipo</translation>
     </message>
     <message>
         <source>Tail</source>
-        <translation type="unfinished"></translation>
+        <translation>Ritardo</translation>
     </message>
     <message>
         <source>Hang time</source>
-        <translation type="unfinished"></translation>
+        <translation>Tenuta del paddle</translation>
     </message>
     <message>
         <source>word space and %1 dits</source>
-        <translation type="unfinished"></translation>
+        <translation>spazio tra parole e %1 punti</translation>
     </message>
 </context>
 <context>
@@ -2692,31 +2692,31 @@ Valgono anche le opzioni della libreria grafica, come -platform e -style. La gui
     </message>
     <message>
         <source>cannot read the script %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>impossibile leggere lo script %1: %2</translation>
     </message>
     <message>
         <source>a profile that --help lists</source>
-        <translation type="unfinished"></translation>
+        <translation>un profilo che --help elenca</translation>
     </message>
     <message>
         <source>%1:%2: &quot;%3&quot; is not understood; possible is: %4</source>
-        <translation type="unfinished"></translation>
+        <translation>%1:%2: «%3» non è comprensibile; è possibile: %4</translation>
     </message>
     <message>
         <source>%1:%2: expected %3, but it is %4</source>
-        <translation type="unfinished"></translation>
+        <translation>%1:%2: si attendeva %3, ma è %4</translation>
     </message>
     <message>
         <source>%1:%2: not done before the end</source>
-        <translation type="unfinished"></translation>
+        <translation>%1:%2: non eseguito prima della fine</translation>
     </message>
     <message>
         <source>No window can be shown. What is keyed is printed here, until Ctrl+C.</source>
-        <translation type="unfinished"></translation>
+        <translation>Non è possibile mostrare alcuna finestra. Ciò che viene manipolato appare qui, fino a Ctrl+C.</translation>
     </message>
     <message>
         <source>cannot write the sound %1</source>
-        <translation type="unfinished"></translation>
+        <translation>impossibile scrivere il suono %1</translation>
     </message>
 </context>
 <context>
@@ -2785,35 +2785,35 @@ che la apre, e scrive ciò che manipola sull’uscita standard.</translation>
     </message>
     <message>
         <source>Shows no window.</source>
-        <translation type="unfinished"></translation>
+        <translation>Non mostra alcuna finestra.</translation>
     </message>
     <message>
         <source>Saves the sidetone to %1, a WAV file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Salva il sidetone in %1, un file WAV.</translation>
     </message>
     <message>
         <source>Works the keyer as %1 says, &quot;-&quot; for standard input, and ends with it; the exit status is 3 if what it expects did not happen. Lines of it are: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Aziona il keyer come dice %1, «-» per lo standard input, e finisce con esso; lo stato d’uscita è 3 se non è avvenuto ciò che si attende. Le sue righe sono: %2</translation>
     </message>
     <message>
         <source>The script&apos;s time passes as fast as it can, and no port is plugged in.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il tempo dello script passa il più in fretta possibile, e nessuna porta viene collegata.</translation>
     </message>
     <message>
         <source>The script needs a file name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo script ha bisogno di un nome di file.</translation>
     </message>
     <message>
         <source>Only a script can be fast.</source>
-        <translation type="unfinished"></translation>
+        <translation>Solo uno script può essere veloce.</translation>
     </message>
     <message>
         <source>Standard input is either the script or the paddle.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo standard input è o lo script o il paddle.</translation>
     </message>
     <message>
         <source>The sound needs a file name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il suono ha bisogno di un nome di file.</translation>
     </message>
 </context>
 <context>
@@ -2901,63 +2901,63 @@ che la apre, e scrive ciò che manipola sull’uscita standard.</translation>
     <name>virtualkeyer::KeyerWindow</name>
     <message>
         <source>Virtual keyer</source>
-        <translation type="unfinished"></translation>
+        <translation>Keyer virtuale</translation>
     </message>
     <message>
         <source>Plugged in as %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Collegato come %1</translation>
     </message>
     <message>
         <source>Plugged in</source>
-        <translation type="unfinished"></translation>
+        <translation>Collegato</translation>
     </message>
     <message>
         <source>Pulls the adapter and plugs it in again. Without it the keyer has no power, and forgets its host.</source>
-        <translation type="unfinished"></translation>
+        <translation>Scollega l’adattatore e lo ricollega. Senza di esso il keyer non ha corrente e dimentica il suo host.</translation>
     </message>
     <message>
         <source>Speed knob</source>
-        <translation type="unfinished"></translation>
+        <translation>Manopola di velocità</translation>
     </message>
     <message>
         <source>Counts within the range that the host has set, and only while the host leaves the speed to it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Conta entro il campo impostato dall’host, e solo finché l’host gli lascia la velocità.</translation>
     </message>
     <message>
         <source>%1 WPM</source>
-        <translation type="unfinished">%1 WPM</translation>
+        <translation>%1 WPM</translation>
     </message>
     <message>
         <source>Push-buttons</source>
-        <translation type="unfinished"></translation>
+        <translation>Pulsanti</translation>
     </message>
     <message>
         <source>The host hears of them once it has asked for version 2 status.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’host ne viene informato dopo aver chiesto lo stato di versione 2.</translation>
     </message>
     <message>
         <source>Push-button %1</source>
-        <translation type="unfinished">Pulsante %1</translation>
+        <translation>Pulsante %1</translation>
     </message>
     <message>
         <source>Registers</source>
-        <translation type="unfinished"></translation>
+        <translation>Registri</translation>
     </message>
     <message>
         <source>Memory</source>
-        <translation type="unfinished"></translation>
+        <translation>Memoria</translation>
     </message>
     <message>
         <source>Kind of keyer</source>
-        <translation type="unfinished"></translation>
+        <translation>Tipo di keyer</translation>
     </message>
     <message>
         <source>Keyed text</source>
-        <translation type="unfinished"></translation>
+        <translation>Testo manipolato</translation>
     </message>
     <message>
         <source>What is keyed, by the host or the paddle, is read back here from the key line.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ciò che manipola l’host o il paddle viene riletto qui dalla linea di manipolazione.</translation>
     </message>
     <message>
         <source>Record a script</source>
@@ -2975,135 +2975,151 @@ che la apre, e scrive ciò che manipola sull’uscita standard.</translation>
         <source>%1 cannot be written: %2</source>
         <translation>Impossibile scrivere %1: %2</translation>
     </message>
+    <message>
+        <source>Sidetone</source>
+        <translation>Sidetone</translation>
+    </message>
+    <message>
+        <source>How loud this machine plays what is keyed; the host sets the pitch.</source>
+        <translation>Il volume con cui questa macchina riproduce ciò che viene manipolato; l’altezza la imposta l’host.</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>Volume</translation>
+    </message>
+    <message>
+        <source>No sound device: it is silent.</source>
+        <translation>Nessun dispositivo audio: è muto.</translation>
+    </message>
 </context>
 <context>
     <name>virtualkeyer::KindList</name>
     <message>
         <source>Kinds of keyer</source>
-        <translation type="unfinished"></translation>
+        <translation>Tipi di keyer</translation>
     </message>
 </context>
 <context>
     <name>virtualkeyer::Lamp</name>
     <message>
         <source>%1: on</source>
-        <translation type="unfinished">%1: attivo</translation>
+        <translation>%1: acceso</translation>
     </message>
     <message>
         <source>%1: off</source>
-        <translation type="unfinished">%1: disattivato</translation>
+        <translation>%1: spento</translation>
     </message>
 </context>
 <context>
     <name>virtualkeyer::LampRow</name>
     <message>
         <source>Key</source>
-        <translation type="unfinished"></translation>
+        <translation>Tasto</translation>
     </message>
     <message>
         <source>PTT</source>
-        <translation type="unfinished">PTT</translation>
+        <translation>PTT</translation>
     </message>
     <message>
         <source>Busy</source>
-        <translation type="unfinished"></translation>
+        <translation>Occupato</translation>
     </message>
     <message>
         <source>Break-in</source>
-        <translation type="unfinished"></translation>
+        <translation>Break-in</translation>
     </message>
     <message>
         <source>XOFF</source>
-        <translation type="unfinished"></translation>
+        <translation>XOFF</translation>
     </message>
     <message>
         <source>Wait</source>
-        <translation type="unfinished"></translation>
+        <translation>Attesa</translation>
     </message>
     <message>
         <source>The transmitter would be keyed. Nothing here is on the air.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il trasmettitore sarebbe manipolato. Da qui nulla va in onda.</translation>
     </message>
     <message>
         <source>The transmitter would be switched on.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il trasmettitore sarebbe acceso.</translation>
     </message>
     <message>
         <source>The host&apos;s text, the paddle or the tune command keys.</source>
-        <translation type="unfinished"></translation>
+        <translation>Manipola il testo dell’host, il paddle o il comando di accordo.</translation>
     </message>
     <message>
         <source>The paddle has the key, and the host&apos;s text has gone.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il paddle ha il tasto, e il testo dell’host è andato.</translation>
     </message>
     <message>
         <source>The buffer is nearly full; the host has to wait.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il buffer è quasi pieno; l’host deve aspettare.</translation>
     </message>
     <message>
         <source>A wait or a key-down of the host&apos;s, with a time of its own, or a tune.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un’attesa o una pressione dell’host di durata propria, o un accordo.</translation>
     </message>
 </context>
 <context>
     <name>virtualkeyer::MessageList</name>
     <message>
         <source>Play %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Riproduci %1</translation>
     </message>
     <message>
         <source>Play message %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Riproduci il messaggio %1</translation>
     </message>
     <message>
         <source>empty</source>
-        <translation type="unfinished"></translation>
+        <translation>vuoto</translation>
     </message>
     <message>
         <source>Message %1: %2</source>
-        <translation type="unfinished">Messaggio %1: %2</translation>
+        <translation>Messaggio %1: %2</translation>
     </message>
 </context>
 <context>
     <name>virtualkeyer::PaddlePanel</name>
     <message>
         <source>Paddle</source>
-        <translation type="unfinished"></translation>
+        <translation>Paddle</translation>
     </message>
     <message>
         <source>Dit (F)</source>
-        <translation type="unfinished"></translation>
+        <translation>Punto (F)</translation>
     </message>
     <message>
         <source>Dah (J)</source>
-        <translation type="unfinished"></translation>
+        <translation>Linea (J)</translation>
     </message>
     <message>
         <source>Hold a button, or the keys F and J; both at once for a squeeze.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tenere premuto un pulsante, o i tasti F e J; entrambi insieme per la doppia pressione.</translation>
     </message>
     <message>
         <source>Dit paddle</source>
-        <translation type="unfinished"></translation>
+        <translation>Paddle dei punti</translation>
     </message>
     <message>
         <source>Dah paddle</source>
-        <translation type="unfinished"></translation>
+        <translation>Paddle delle linee</translation>
     </message>
 </context>
 <context>
     <name>virtualkeyer::RegisterTable</name>
     <message>
         <source>Registers</source>
-        <translation type="unfinished"></translation>
+        <translation>Registri</translation>
     </message>
     <message>
         <source>Register</source>
-        <translation type="unfinished"></translation>
+        <translation>Registro</translation>
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished"></translation>
+        <translation>Valore</translation>
     </message>
 </context>
 </TS>

@@ -1901,183 +1901,183 @@ WinKeyer USB キーヤーを通してモールス符号を送信します。
     <name>RegisterWords</name>
     <message>
         <source>on</source>
-        <translation type="unfinished">オン</translation>
+        <translation>オン</translation>
     </message>
     <message>
         <source>off</source>
-        <translation type="unfinished">オフ</translation>
+        <translation>オフ</translation>
     </message>
     <message>
         <source>%1 ms</source>
-        <translation type="unfinished">%1 ms</translation>
+        <translation>%1 ms</translation>
     </message>
     <message>
         <source>%1 %</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 %</translation>
     </message>
     <message>
         <source>%1 WPM</source>
-        <translation type="unfinished">%1 WPM</translation>
+        <translation>%1 WPM</translation>
     </message>
     <message>
         <source>%1 WPM, from the knob</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 WPM、つまみから</translation>
     </message>
     <message>
         <source>%1; %2 WPM for now</source>
-        <translation type="unfinished"></translation>
+        <translation>%1、今は %2 WPM</translation>
     </message>
     <message>
         <source>iambic A</source>
-        <translation type="unfinished"></translation>
+        <translation>アイアンビック A</translation>
     </message>
     <message>
         <source>ultimatic</source>
-        <translation type="unfinished"></translation>
+        <translation>アルティマティック</translation>
     </message>
     <message>
         <source>bug</source>
-        <translation type="unfinished"></translation>
+        <translation>バグキー</translation>
     </message>
     <message>
         <source>iambic B</source>
-        <translation type="unfinished"></translation>
+        <translation>アイアンビック B</translation>
     </message>
     <message>
         <source>dah</source>
-        <translation type="unfinished"></translation>
+        <translation>長点</translation>
     </message>
     <message>
         <source>dit</source>
-        <translation type="unfinished"></translation>
+        <translation>短点</translation>
     </message>
     <message>
         <source>the last one closed</source>
-        <translation type="unfinished"></translation>
+        <translation>最後に閉じた接点</translation>
     </message>
     <message>
         <source>%1 Hz, for the paddle only</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Hz、パドルのときだけ</translation>
     </message>
     <message>
         <source>%1 Hz</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Hz</translation>
     </message>
     <message>
         <source>%1 to %2 WPM</source>
-        <translation type="unfinished"></translation>
+        <translation>%1～%2 WPM</translation>
     </message>
     <message>
         <source>1 and 2</source>
-        <translation type="unfinished"></translation>
+        <translation>1 と 2</translation>
     </message>
     <message>
         <source>none</source>
-        <translation type="unfinished"></translation>
+        <translation>なし</translation>
     </message>
     <message>
         <source>Speed</source>
-        <translation type="unfinished">速度</translation>
+        <translation>速度</translation>
     </message>
     <message>
         <source>Knob&apos;s range</source>
-        <translation type="unfinished"></translation>
+        <translation>つまみの範囲</translation>
     </message>
     <message>
         <source>Farnsworth</source>
-        <translation type="unfinished"></translation>
+        <translation>ファーンズワース</translation>
     </message>
     <message>
         <source>Weighting</source>
-        <translation type="unfinished"></translation>
+        <translation>ウェイト</translation>
     </message>
     <message>
         <source>Dah to dit</source>
-        <translation type="unfinished"></translation>
+        <translation>長短点比</translation>
     </message>
     <message>
         <source>%1 to 1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 対 1</translation>
     </message>
     <message>
         <source>Key compensation</source>
-        <translation type="unfinished"></translation>
+        <translation>補正</translation>
     </message>
     <message>
         <source>First extension</source>
-        <translation type="unfinished"></translation>
+        <translation>先頭延長</translation>
     </message>
     <message>
         <source>Word space</source>
-        <translation type="unfinished"></translation>
+        <translation>語間</translation>
     </message>
     <message>
         <source>%1 dits</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 短点分</translation>
     </message>
     <message>
         <source>Paddle keying</source>
-        <translation type="unfinished"></translation>
+        <translation>パドルの方式</translation>
     </message>
     <message>
         <source>Ultimatic priority</source>
-        <translation type="unfinished"></translation>
+        <translation>優先するパドル</translation>
     </message>
     <message>
         <source>Paddle swapped</source>
-        <translation type="unfinished"></translation>
+        <translation>パドル入れ替え</translation>
     </message>
     <message>
         <source>Paddle memory</source>
-        <translation type="unfinished"></translation>
+        <translation>パドルの記憶</translation>
     </message>
     <message>
         <source>after %1 dit lengths</source>
-        <translation type="unfinished"></translation>
+        <translation>短点 %1 個分の後</translation>
     </message>
     <message>
         <source>Paddle watchdog</source>
-        <translation type="unfinished"></translation>
+        <translation>パドルの監視</translation>
     </message>
     <message>
         <source>Autospace</source>
-        <translation type="unfinished"></translation>
+        <translation>自動スペース</translation>
     </message>
     <message>
         <source>Paddle echo</source>
-        <translation type="unfinished"></translation>
+        <translation>パドルエコー</translation>
     </message>
     <message>
         <source>Serial echo</source>
-        <translation type="unfinished"></translation>
+        <translation>シリアルエコー</translation>
     </message>
     <message>
         <source>Sidetone</source>
-        <translation type="unfinished">サイドトーン</translation>
+        <translation>サイドトーン</translation>
     </message>
     <message>
         <source>Key outputs</source>
-        <translation type="unfinished">キー出力</translation>
+        <translation>キー出力</translation>
     </message>
     <message>
         <source>PTT</source>
-        <translation type="unfinished">PTT</translation>
+        <translation>PTT</translation>
     </message>
     <message>
         <source>Lead-in</source>
-        <translation type="unfinished"></translation>
+        <translation>送信前の待ち</translation>
     </message>
     <message>
         <source>Tail</source>
-        <translation type="unfinished"></translation>
+        <translation>送信後の保持</translation>
     </message>
     <message>
         <source>Hang time</source>
-        <translation type="unfinished"></translation>
+        <translation>パドル後の保持</translation>
     </message>
     <message>
         <source>word space and %1 dits</source>
-        <translation type="unfinished"></translation>
+        <translation>語間と短点 %1 個分</translation>
     </message>
 </context>
 <context>
@@ -2692,31 +2692,31 @@ WinKeyer USB キーヤーを通してモールス符号を送信します。
     </message>
     <message>
         <source>cannot read the script %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>スクリプト %1 を読めません: %2</translation>
     </message>
     <message>
         <source>a profile that --help lists</source>
-        <translation type="unfinished"></translation>
+        <translation>--help に載っているプロファイル</translation>
     </message>
     <message>
         <source>%1:%2: &quot;%3&quot; is not understood; possible is: %4</source>
-        <translation type="unfinished"></translation>
+        <translation>%1:%2: 「%3」は解釈できません。書き方: %4</translation>
     </message>
     <message>
         <source>%1:%2: expected %3, but it is %4</source>
-        <translation type="unfinished"></translation>
+        <translation>%1:%2: %3 のはずが %4 です</translation>
     </message>
     <message>
         <source>%1:%2: not done before the end</source>
-        <translation type="unfinished"></translation>
+        <translation>%1:%2: 終了までに実行されませんでした</translation>
     </message>
     <message>
         <source>No window can be shown. What is keyed is printed here, until Ctrl+C.</source>
-        <translation type="unfinished"></translation>
+        <translation>ウィンドウを表示できません。送出した文字は Ctrl+C までここに表示されます。</translation>
     </message>
     <message>
         <source>cannot write the sound %1</source>
-        <translation type="unfinished"></translation>
+        <translation>音声 %1 を書き込めません</translation>
     </message>
 </context>
 <context>
@@ -2785,35 +2785,35 @@ program that opens it, and prints what it keys to standard output.</source>
     </message>
     <message>
         <source>Shows no window.</source>
-        <translation type="unfinished"></translation>
+        <translation>ウィンドウを表示しません。</translation>
     </message>
     <message>
         <source>Saves the sidetone to %1, a WAV file.</source>
-        <translation type="unfinished"></translation>
+        <translation>サイドトーンを WAV ファイル %1 に保存します。</translation>
     </message>
     <message>
         <source>Works the keyer as %1 says, &quot;-&quot; for standard input, and ends with it; the exit status is 3 if what it expects did not happen. Lines of it are: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 のとおりにキーヤーを操作し (標準入力は「-」)、その終わりで終了します。期待したことが起きなければ終了ステータスは 3 です。行の書き方: %2</translation>
     </message>
     <message>
         <source>The script&apos;s time passes as fast as it can, and no port is plugged in.</source>
-        <translation type="unfinished"></translation>
+        <translation>スクリプトの時間をできるだけ速く進め、ポートは接続しません。</translation>
     </message>
     <message>
         <source>The script needs a file name.</source>
-        <translation type="unfinished"></translation>
+        <translation>スクリプトにはファイル名が必要です。</translation>
     </message>
     <message>
         <source>Only a script can be fast.</source>
-        <translation type="unfinished"></translation>
+        <translation>速く進められるのはスクリプトだけです。</translation>
     </message>
     <message>
         <source>Standard input is either the script or the paddle.</source>
-        <translation type="unfinished"></translation>
+        <translation>標準入力はスクリプトかパドルのどちらか一方です。</translation>
     </message>
     <message>
         <source>The sound needs a file name.</source>
-        <translation type="unfinished"></translation>
+        <translation>音声にはファイル名が必要です。</translation>
     </message>
 </context>
 <context>
@@ -2901,63 +2901,63 @@ program that opens it, and prints what it keys to standard output.</source>
     <name>virtualkeyer::KeyerWindow</name>
     <message>
         <source>Virtual keyer</source>
-        <translation type="unfinished"></translation>
+        <translation>仮想キーヤー</translation>
     </message>
     <message>
         <source>Plugged in as %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 として接続中</translation>
     </message>
     <message>
         <source>Plugged in</source>
-        <translation type="unfinished"></translation>
+        <translation>接続中</translation>
     </message>
     <message>
         <source>Pulls the adapter and plugs it in again. Without it the keyer has no power, and forgets its host.</source>
-        <translation type="unfinished"></translation>
+        <translation>アダプターを抜き差しします。抜くとキーヤーは電源を失い、ホストを忘れます。</translation>
     </message>
     <message>
         <source>Speed knob</source>
-        <translation type="unfinished"></translation>
+        <translation>速度つまみ</translation>
     </message>
     <message>
         <source>Counts within the range that the host has set, and only while the host leaves the speed to it.</source>
-        <translation type="unfinished"></translation>
+        <translation>ホストが設定した範囲内で、ホストが速度を任せている間だけ効きます。</translation>
     </message>
     <message>
         <source>%1 WPM</source>
-        <translation type="unfinished">%1 WPM</translation>
+        <translation>%1 WPM</translation>
     </message>
     <message>
         <source>Push-buttons</source>
-        <translation type="unfinished"></translation>
+        <translation>押しボタン</translation>
     </message>
     <message>
         <source>The host hears of them once it has asked for version 2 status.</source>
-        <translation type="unfinished"></translation>
+        <translation>ホストがバージョン 2 のステータスを要求すると、ホストに伝わります。</translation>
     </message>
     <message>
         <source>Push-button %1</source>
-        <translation type="unfinished">押しボタン %1</translation>
+        <translation>押しボタン %1</translation>
     </message>
     <message>
         <source>Registers</source>
-        <translation type="unfinished"></translation>
+        <translation>レジスター</translation>
     </message>
     <message>
         <source>Memory</source>
-        <translation type="unfinished"></translation>
+        <translation>メモリー</translation>
     </message>
     <message>
         <source>Kind of keyer</source>
-        <translation type="unfinished"></translation>
+        <translation>キーヤーの種類</translation>
     </message>
     <message>
         <source>Keyed text</source>
-        <translation type="unfinished"></translation>
+        <translation>送出したテキスト</translation>
     </message>
     <message>
         <source>What is keyed, by the host or the paddle, is read back here from the key line.</source>
-        <translation type="unfinished"></translation>
+        <translation>ホストやパドルが送出したものを、キー線から読み取ってここに表示します。</translation>
     </message>
     <message>
         <source>Record a script</source>
@@ -2975,135 +2975,151 @@ program that opens it, and prints what it keys to standard output.</source>
         <source>%1 cannot be written: %2</source>
         <translation>%1 を書き込めません: %2</translation>
     </message>
+    <message>
+        <source>Sidetone</source>
+        <translation>サイドトーン</translation>
+    </message>
+    <message>
+        <source>How loud this machine plays what is keyed; the host sets the pitch.</source>
+        <translation>送出した音をこのパソコンで鳴らす音量です。音の高さはホストが決めます。</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>音量</translation>
+    </message>
+    <message>
+        <source>No sound device: it is silent.</source>
+        <translation>音声デバイスがないため無音です。</translation>
+    </message>
 </context>
 <context>
     <name>virtualkeyer::KindList</name>
     <message>
         <source>Kinds of keyer</source>
-        <translation type="unfinished"></translation>
+        <translation>キーヤーの種類一覧</translation>
     </message>
 </context>
 <context>
     <name>virtualkeyer::Lamp</name>
     <message>
         <source>%1: on</source>
-        <translation type="unfinished">%1: オン</translation>
+        <translation>%1: オン</translation>
     </message>
     <message>
         <source>%1: off</source>
-        <translation type="unfinished">%1: オフ</translation>
+        <translation>%1: オフ</translation>
     </message>
 </context>
 <context>
     <name>virtualkeyer::LampRow</name>
     <message>
         <source>Key</source>
-        <translation type="unfinished"></translation>
+        <translation>キー</translation>
     </message>
     <message>
         <source>PTT</source>
-        <translation type="unfinished">PTT</translation>
+        <translation>PTT</translation>
     </message>
     <message>
         <source>Busy</source>
-        <translation type="unfinished"></translation>
+        <translation>送出中</translation>
     </message>
     <message>
         <source>Break-in</source>
-        <translation type="unfinished"></translation>
+        <translation>ブレークイン</translation>
     </message>
     <message>
         <source>XOFF</source>
-        <translation type="unfinished"></translation>
+        <translation>XOFF</translation>
     </message>
     <message>
         <source>Wait</source>
-        <translation type="unfinished"></translation>
+        <translation>待ち</translation>
     </message>
     <message>
         <source>The transmitter would be keyed. Nothing here is on the air.</source>
-        <translation type="unfinished"></translation>
+        <translation>送信機がキーイングされる状態です。ここからは何も送信されません。</translation>
     </message>
     <message>
         <source>The transmitter would be switched on.</source>
-        <translation type="unfinished"></translation>
+        <translation>送信機がオンになる状態です。</translation>
     </message>
     <message>
         <source>The host&apos;s text, the paddle or the tune command keys.</source>
-        <translation type="unfinished"></translation>
+        <translation>ホストのテキスト、パドル、チューンのいずれかが送出中です。</translation>
     </message>
     <message>
         <source>The paddle has the key, and the host&apos;s text has gone.</source>
-        <translation type="unfinished"></translation>
+        <translation>パドルが送出し、ホストのテキストは破棄されました。</translation>
     </message>
     <message>
         <source>The buffer is nearly full; the host has to wait.</source>
-        <translation type="unfinished"></translation>
+        <translation>バッファーがほぼ満杯で、ホストは待つ必要があります。</translation>
     </message>
     <message>
         <source>A wait or a key-down of the host&apos;s, with a time of its own, or a tune.</source>
-        <translation type="unfinished"></translation>
+        <translation>ホストが指定した時間の待ちやキーダウン、またはチューンです。</translation>
     </message>
 </context>
 <context>
     <name>virtualkeyer::MessageList</name>
     <message>
         <source>Play %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 を再生</translation>
     </message>
     <message>
         <source>Play message %1</source>
-        <translation type="unfinished"></translation>
+        <translation>メッセージ %1 を再生</translation>
     </message>
     <message>
         <source>empty</source>
-        <translation type="unfinished"></translation>
+        <translation>空</translation>
     </message>
     <message>
         <source>Message %1: %2</source>
-        <translation type="unfinished">メッセージ %1: %2</translation>
+        <translation>メッセージ %1: %2</translation>
     </message>
 </context>
 <context>
     <name>virtualkeyer::PaddlePanel</name>
     <message>
         <source>Paddle</source>
-        <translation type="unfinished"></translation>
+        <translation>パドル</translation>
     </message>
     <message>
         <source>Dit (F)</source>
-        <translation type="unfinished"></translation>
+        <translation>短点 (F)</translation>
     </message>
     <message>
         <source>Dah (J)</source>
-        <translation type="unfinished"></translation>
+        <translation>長点 (J)</translation>
     </message>
     <message>
         <source>Hold a button, or the keys F and J; both at once for a squeeze.</source>
-        <translation type="unfinished"></translation>
+        <translation>ボタン、または F と J のキーを押し続けます。両方同時でスクイーズになります。</translation>
     </message>
     <message>
         <source>Dit paddle</source>
-        <translation type="unfinished"></translation>
+        <translation>短点パドル</translation>
     </message>
     <message>
         <source>Dah paddle</source>
-        <translation type="unfinished"></translation>
+        <translation>長点パドル</translation>
     </message>
 </context>
 <context>
     <name>virtualkeyer::RegisterTable</name>
     <message>
         <source>Registers</source>
-        <translation type="unfinished"></translation>
+        <translation>レジスター</translation>
     </message>
     <message>
         <source>Register</source>
-        <translation type="unfinished"></translation>
+        <translation>レジスター</translation>
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished"></translation>
+        <translation>値</translation>
     </message>
 </context>
 </TS>
