@@ -25,6 +25,7 @@ class ContactFieldsTest : public QObject, private MainWindowFixture {
     void aCallTypedMeanwhileIsTheNextContacts();
     void eachOfSeveralContactsKeepsItsCall_data();
     void eachOfSeveralContactsKeepsItsCall();
+    void severalCharactersAheadKeepEachCall();
     void aStopLeavesNoCallBehind();
     void aSignThatMovesIsStillTheLastContacts();
     void withoutAKeyerTheFieldIsTheEngines();
@@ -145,6 +146,22 @@ void ContactFieldsTest::eachOfSeveralContactsKeepsItsCall() {
     QTEST(sent, "result");
     QCOMPARE(_engine->hisCallsign(), u"G3C"_s);
     QCOMPARE(_engine->serialNumber(), 11);
+}
+
+/// The next sign is read when the call before it is keyed, not when it is given to the keyer.
+void ContactFieldsTest::severalCharactersAheadKeepEachCall() {
+    _bench->settings().setObject(4, CharactersAhead.key);
+    _engine->appendMessage(u"e~k"_s);
+    press(Qt::Key_F11);
+    type(u"K1A"_s);
+    _engine->appendMessage(u"~"_s);
+    auto sent = QByteArray::fromHex(_bench->written());
+    for (qsizetype keyed = 0; keyed < sent.size(); ++keyed) {
+        _bench->receive({sent.at(keyed)});
+        sent += QByteArray::fromHex(_bench->written());
+    }
+    QCOMPARE(sent, "EW9XYZK K1A");
+    QCOMPARE(_engine->hisCallsign(), u"K1A"_s);
 }
 
 void ContactFieldsTest::aStopLeavesNoCallBehind() {
