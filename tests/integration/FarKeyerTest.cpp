@@ -70,8 +70,12 @@ void FarKeyerTest::nothingIsKeyedBehindAStop_data() {
 /// Stopped at any moment; the keyer ends the letter that it is in when it hears.
 void FarKeyerTest::nothingIsKeyedBehindAStop() {
     QFETCH(const int, ahead);
+    constexpr std::chrono::milliseconds duration{3000};
+    constexpr std::chrono::milliseconds step{37};
+    constexpr std::chrono::milliseconds delay{100};
+    constexpr std::chrono::milliseconds longestOutput{83}; // nine bytes
     VirtualTimeLink link({});
-    for (auto moment = 0ms; moment < 3s; moment += 37ms) {
+    for (std::chrono::milliseconds moment{0}; moment < duration; moment += step) {
         link.startOver({.wpm = 30, .delay = 100ms, .charactersAhead = ahead});
         link.engine().appendMessage(u"CQ TEST DE N0CALL"_s);
         link.handOn();
@@ -83,7 +87,7 @@ void FarKeyerTest::nothingIsKeyedBehindAStop() {
         constexpr char clearBuffer = 0x0A;
         QCOMPARE(static_cast<char>(link.arrived().back().value), clearBuffer);
         const auto heard = link.arrived().back().at;
-        QVERIFY(heard - stopped < 100ms + 9 * 9170us);
+        QVERIFY(heard - stopped < delay + longestOutput);
         const auto behind = std::count_if(link.keyed().begin(), link.keyed().end(),
                                           [&](const auto& each) { return each.at > heard; });
         QVERIFY2(behind <= 1, keyed(link));
@@ -93,8 +97,10 @@ void FarKeyerTest::nothingIsKeyedBehindAStop() {
 }
 
 void FarKeyerTest::aBreakInLeavesNothingToBeKeyed() {
+    constexpr std::chrono::milliseconds duration{3000};
+    constexpr std::chrono::milliseconds step{37};
     VirtualTimeLink link({});
-    for (auto moment = 0ms; moment < 3s; moment += 37ms) {
+    for (std::chrono::milliseconds moment{0}; moment < duration; moment += step) {
         link.startOver({.wpm = 30, .delay = 100ms, .charactersAhead = 8});
         link.engine().appendMessage(u"CQ TEST DE N0CALL"_s);
         link.handOn();
@@ -113,9 +119,12 @@ void FarKeyerTest::aBreakInLeavesNothingToBeKeyed() {
 
 /// The paddle is at rest again before the engine has heard of it.
 void FarKeyerTest::whatArrivesBehindABreakInIsCleared() {
+    constexpr std::chrono::milliseconds end{1200};
+    constexpr std::chrono::milliseconds step{7};
+    constexpr std::chrono::milliseconds delay{200};
     VirtualTimeLink link({});
     int strays = 0;
-    for (auto moment = 600ms; moment < 1200ms; moment += 7ms) {
+    for (std::chrono::milliseconds moment{600}; moment < end; moment += step) {
         link.startOver({.wpm = 99, .delay = 200ms, .charactersAhead = 8});
         link.engine().appendMessage(u"CQ TEST DE N0CALL CQ TEST DE N0CALL"_s);
         link.handOn();
@@ -129,7 +138,7 @@ void FarKeyerTest::whatArrivesBehindABreakInIsCleared() {
         const auto heard = link.arrived().back().at;
         for (const auto& each : link.keyed()) {
             QVERIFY(each.begun <= heard);
-            strays += each.begun > heard - 200ms ? 1 : 0;
+            strays += each.begun > heard - delay ? 1 : 0;
         }
     }
     QVERIFY(strays > 0); // or nothing was tried
