@@ -195,7 +195,7 @@ QString RunFollower::restOf(const Run& run) const {
 bool RunFollower::isThrough(const Run& run) const {
     const bool isOnItsWay = std::any_of(_inFlight.begin(), _inFlight.end(),
                                         [&](const Unit& each) { return each.run.get() == &run; });
-    return !isOnItsWay && _origins.textFrom(_taken, run.origin).trimmed().isEmpty();
+    return !isOnItsWay && !_origins.hasWordsFrom(_taken, run.origin);
 }
 
 void RunFollower::endFinishedRuns() {

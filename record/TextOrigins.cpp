@@ -166,6 +166,19 @@ QString TextOrigins::textFrom(qsizetype position, const Origin& origin) const {
     return found;
 }
 
+/// Called for each character that is sent: nothing is copied, however long the text.
+bool TextOrigins::hasWordsFrom(qsizetype position, const Origin& origin) const {
+    const auto isWord = [](QChar each) { return each != u' '; };
+    for (auto i = spanAt(position); i < _spans.size(); ++i) {
+        const auto begin = std::max(i > 0 ? _spans[i - 1].end : 0, position);
+        if (_spans[i].origin == origin &&
+            std::any_of(_text.begin() + begin, _text.begin() + _spans[i].end, isWord)) {
+            return true;
+        }
+    }
+    return false;
+}
+
 void TextOrigins::settle() {
     const auto firstInUse = std::find_if(_spans.begin(), _spans.end(),
                                          [](const Span& span) { return !span.origin->hasEnded; });

@@ -37,6 +37,8 @@ class TextOrigins {
     [[nodiscard]] Origin take(qsizetype position);
     /// What there is of that origin from `position` on.
     [[nodiscard]] QString textFrom(qsizetype position, const Origin& origin) const;
+    /// Whether that is more than spaces.
+    [[nodiscard]] bool hasWordsFrom(qsizetype position, const Origin& origin) const;
     /// Forgets who ended texts ahead of all others were from.
     void settle();
 

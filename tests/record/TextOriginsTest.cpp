@@ -28,6 +28,7 @@ class TextOriginsTest : public QObject {
     void whatIsTakenOutOfALoggersTextIsKept();
     void nothingIsAddedToALoggersTextThatWasCut();
     void endedTextsAreForgotten();
+    void spacesAreNoWords();
     void aPlaceBeyondTheTextIsNobodys();
 };
 
@@ -125,6 +126,18 @@ void TextOriginsTest::endedTextsAreForgotten() {
     const auto last = origins.take(0);
     QCOMPARE(last->source, keyboard);
     QCOMPARE(origins.textFrom(0, last), text.first(196 + 2).chopped(2) + u"A "_s);
+}
+
+void TextOriginsTest::spacesAreNoWords() {
+    TextOrigins origins;
+    origins.follow(u"A "_s, 0, keyboard, {});
+    origins.follow(u"A  B "_s, 0, message, {});
+    const auto typed = origins.take(0);
+    QVERIFY(origins.hasWordsFrom(0, typed));
+    QVERIFY(!origins.hasWordsFrom(1, typed));
+    QVERIFY(origins.hasWordsFrom(1, origins.take(3)));
+    QVERIFY(!origins.hasWordsFrom(4, origins.take(3)));
+    QVERIFY(!origins.hasWordsFrom(5, origins.take(3)));
 }
 
 void TextOriginsTest::aPlaceBeyondTheTextIsNobodys() {
