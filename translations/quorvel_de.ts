@@ -276,6 +276,10 @@ Die eigenen Optionen des Toolkits wie -platform und -style gelten auch. Die Anle
         <source>Place %1 of %2</source>
         <translation>Stelle %1 von %2</translation>
     </message>
+    <message>
+        <source>The first %1 places</source>
+        <translation>Die ersten %1 Stellen</translation>
+    </message>
 </context>
 <context>
     <name>KeyGuard</name>

@@ -276,6 +276,10 @@ También valen las opciones de la biblioteca gráfica, como -platform y -style. 
         <source>Place %1 of %2</source>
         <translation>Lugar %1 de %2</translation>
     </message>
+    <message>
+        <source>The first %1 places</source>
+        <translation>Los %1 primeros lugares</translation>
+    </message>
 </context>
 <context>
     <name>KeyGuard</name>

@@ -276,6 +276,10 @@ Les options de la bibliothèque graphique, comme -platform et -style, sont admis
         <source>Place %1 of %2</source>
         <translation>Endroit %1 sur %2</translation>
     </message>
+    <message>
+        <source>The first %1 places</source>
+        <translation>Les %1 premiers endroits</translation>
+    </message>
 </context>
 <context>
     <name>KeyGuard</name>

@@ -276,6 +276,10 @@ Valgono anche le opzioni della libreria grafica, come -platform e -style. La gui
         <source>Place %1 of %2</source>
         <translation>Punto %1 di %2</translation>
     </message>
+    <message>
+        <source>The first %1 places</source>
+        <translation>I primi %1 punti</translation>
+    </message>
 </context>
 <context>
     <name>KeyGuard</name>

@@ -276,6 +276,10 @@ WinKeyer USB キーヤーを通してモールス符号を送信します。
         <source>Place %1 of %2</source>
         <translation>%2 箇所中 %1 番目</translation>
     </message>
+    <message>
+        <source>The first %1 places</source>
+        <translation>最初の %1 か所</translation>
+    </message>
 </context>
 <context>
     <name>KeyGuard</name>

@@ -100,7 +100,8 @@ QList<Guide::Match> Guide::find(const QString& text) const {
     }
     for (qsizetype index = 0; index < _chapters.size(); ++index) {
         const auto& chapter = _chapters[index].text;
-        for (auto at = chapter.indexOf(wanted, 0, Qt::CaseInsensitive); at >= 0;
+        for (auto at = chapter.indexOf(wanted, 0, Qt::CaseInsensitive);
+             at >= 0 && matches.size() < mostMatches;
              at = chapter.indexOf(wanted, at + wanted.size(), Qt::CaseInsensitive)) {
             matches.append({.chapter = index,
                             .position = at,

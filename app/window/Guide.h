@@ -29,6 +29,9 @@ class Guide final {
         QString surroundings;
     };
 
+    /// A letter is in every line.
+    static constexpr qsizetype mostMatches = 200;
+
     Guide();
 
     [[nodiscard]] const QList<Chapter>& chapters() const { return _chapters; }
@@ -37,8 +40,8 @@ class Guide final {
     /// -1 where none has that source.
     [[nodiscard]] qsizetype indexOf(const QUrl& source) const;
 
-    /// All places of a text, in large letters or small, from the first chapter to the last; none of
-    /// an empty one.
+    /// The places of a text, in large letters or small, from the first chapter to the last, up to
+    /// mostMatches of them; none of an empty one.
     [[nodiscard]] QList<Match> find(const QString& text) const;
 
   private:

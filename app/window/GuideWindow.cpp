@@ -97,7 +97,8 @@ void GuideWindow::setUpLists() {
     _contents->setWordWrap(true);
     _matches->setObjectName(u"guideMatches"_s);
     _matches->setAccessibleName(tr("Places found"));
-    _matches->setWordWrap(true);
+    _matches->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    _matches->setUniformItemSizes(true);
     for (const auto& chapter : _guide.chapters()) {
         _contents->addItem(chapter.title);
     }
@@ -175,7 +176,9 @@ void GuideWindow::search() {
     _contents->setVisible(_found.isEmpty());
     _matches->setHidden(_found.isEmpty());
     _result->setHidden(text.trimmed().isEmpty());
-    tell(_found.isEmpty() ? tr("Nothing found") : tr("Places found: %1").arg(_found.size()));
+    tell(_found.isEmpty()                      ? tr("Nothing found")
+         : _found.size() == Guide::mostMatches ? tr("The first %1 places").arg(_found.size())
+                                               : tr("Places found: %1").arg(_found.size()));
     markMatches();
 }
 

@@ -32,6 +32,7 @@ class GuideWindowTest : public QObject, private MainWindowFixture {
     void everyPlaceFoundIsWhatWasSoughtFor();
     void largeLettersAndSpacesDoNotMatter();
     void nothingFoundIsSaid();
+    void whatIsEverywhereIsFoundInSomePlaces();
     void anEmptySearchShowsTheContents();
     void aMatchOfAChapterIsMarked();
     void whatIsTypedInItIsNotSent();
@@ -211,6 +212,14 @@ void GuideWindowTest::nothingFoundIsSaid() {
     pressThere(Qt::Key_Return);
     QCOMPARE(contents().currentRow(), 0);
     QVERIFY(page().extraSelections().isEmpty());
+}
+
+/// Listing thousands would hold the keyer up meanwhile.
+void GuideWindowTest::whatIsEverywhereIsFoundInSomePlaces() {
+    field().setText(u"e"_s);
+    QCOMPARE(matches().count(), Guide::mostMatches);
+    QCOMPARE(result().text(), u"The first 200 places"_s);
+    QVERIFY(matches().uniformItemSizes());
 }
 
 void GuideWindowTest::anEmptySearchShowsTheContents() {
