@@ -269,7 +269,7 @@ void KeyboardView::contextMenuEvent(QContextMenuEvent* event) {
         redo->setEnabled(canRedoTyping());
         QObject::connect(redo, &QAction::triggered, this, &KeyboardView::redoTyping);
     }
-    for (const auto& name : {u"edit-redo"_s, u"edit-paste"_s}) {
+    for (const auto& name : {u"edit-undo"_s, u"edit-redo"_s, u"edit-paste"_s}) {
         if (auto* action = menu->findChild<QAction*>(name)) {
             action->setProperty("sends", true);
         }

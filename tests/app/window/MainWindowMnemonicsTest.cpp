@@ -58,7 +58,7 @@ void MainWindowMnemonicsTest::noLetterChoosesWhatSends() {
             QVERIFY2(QKeySequence::mnemonic(action->text()).isEmpty(), qPrintable(action->text()));
         }
     }
-    QCOMPARE(count, 13);
+    QCOMPARE(count, 14);
 }
 
 /// With Alt they are all one's, and so are the shortcuts that have it.
