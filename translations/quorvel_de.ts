@@ -659,10 +659,6 @@ Die eigenen Optionen des Toolkits wie -platform und -style gelten auch. Die Anle
         <translation>&amp;Beenden</translation>
     </message>
     <message>
-        <source>&amp;Undo</source>
-        <translation>&amp;Rückgängig</translation>
-    </message>
-    <message>
         <source>Cu&amp;t</source>
         <translation>&amp;Ausschneiden</translation>
     </message>
@@ -825,6 +821,10 @@ Die eigenen Optionen des Toolkits wie -platform und -style gelten auch. Die Anle
     <message>
         <source>&amp;Sent</source>
         <translation>&amp;Gesendetes</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Rückgängig</translation>
     </message>
 </context>
 <context>
@@ -2193,10 +2193,6 @@ Die eigenen Optionen des Toolkits wie -platform und -style gelten auch. Die Anle
         <translation>Wie lange Gesendetes aufgehoben wird</translation>
     </message>
     <message>
-        <source>Send &amp;Again</source>
-        <translation>&amp;Erneut senden</translation>
-    </message>
-    <message>
         <source>&amp;Make Message</source>
         <translation>Als &amp;Nachricht</translation>
     </message>
@@ -2275,6 +2271,10 @@ Die eigenen Optionen des Toolkits wie -platform und -style gelten auch. Die Anle
     <message>
         <source>Not saved: %1</source>
         <translation>Nicht gesichert: %1</translation>
+    </message>
+    <message>
+        <source>Send Again</source>
+        <translation>Erneut senden</translation>
     </message>
 </context>
 <context>

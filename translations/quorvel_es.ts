@@ -659,10 +659,6 @@ También valen las opciones de la biblioteca gráfica, como -platform y -style. 
         <translation>&amp;Salir</translation>
     </message>
     <message>
-        <source>&amp;Undo</source>
-        <translation>&amp;Deshacer</translation>
-    </message>
-    <message>
         <source>Cu&amp;t</source>
         <translation>Cor&amp;tar</translation>
     </message>
@@ -825,6 +821,10 @@ También valen las opciones de la biblioteca gráfica, como -platform y -style. 
     <message>
         <source>&amp;Sent</source>
         <translation>&amp;Transmitido</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Deshacer</translation>
     </message>
 </context>
 <context>
@@ -2193,10 +2193,6 @@ También valen las opciones de la biblioteca gráfica, como -platform y -style. 
         <translation>Cuánto tiempo se guarda lo transmitido</translation>
     </message>
     <message>
-        <source>Send &amp;Again</source>
-        <translation>&amp;Transmitir de nuevo</translation>
-    </message>
-    <message>
         <source>&amp;Make Message</source>
         <translation>Hacer &amp;mensaje</translation>
     </message>
@@ -2275,6 +2271,10 @@ También valen las opciones de la biblioteca gráfica, como -platform y -style. 
     <message>
         <source>Not saved: %1</source>
         <translation>No guardado: %1</translation>
+    </message>
+    <message>
+        <source>Send Again</source>
+        <translation>Transmitir de nuevo</translation>
     </message>
 </context>
 <context>

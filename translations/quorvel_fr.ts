@@ -659,10 +659,6 @@ Les options de la bibliothèque graphique, comme -platform et -style, sont admis
         <translation>&amp;Quitter</translation>
     </message>
     <message>
-        <source>&amp;Undo</source>
-        <translation>&amp;Annuler</translation>
-    </message>
-    <message>
         <source>Cu&amp;t</source>
         <translation>Co&amp;uper</translation>
     </message>
@@ -825,6 +821,10 @@ Les options de la bibliothèque graphique, comme -platform et -style, sont admis
     <message>
         <source>&amp;Sent</source>
         <translation>&amp;Émis</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Annuler</translation>
     </message>
 </context>
 <context>
@@ -2193,10 +2193,6 @@ Les options de la bibliothèque graphique, comme -platform et -style, sont admis
         <translation>Combien de temps la trace est gardée</translation>
     </message>
     <message>
-        <source>Send &amp;Again</source>
-        <translation>É&amp;mettre de nouveau</translation>
-    </message>
-    <message>
         <source>&amp;Make Message</source>
         <translation>En faire un me&amp;ssage</translation>
     </message>
@@ -2275,6 +2271,10 @@ Les options de la bibliothèque graphique, comme -platform et -style, sont admis
     <message>
         <source>Not saved: %1</source>
         <translation>Pas enregistré&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Send Again</source>
+        <translation>Émettre de nouveau</translation>
     </message>
 </context>
 <context>

@@ -659,10 +659,6 @@ Valgono anche le opzioni della libreria grafica, come -platform e -style. La gui
         <translation>&amp;Esci</translation>
     </message>
     <message>
-        <source>&amp;Undo</source>
-        <translation>&amp;Annulla</translation>
-    </message>
-    <message>
         <source>Cu&amp;t</source>
         <translation>&amp;Taglia</translation>
     </message>
@@ -825,6 +821,10 @@ Valgono anche le opzioni della libreria grafica, come -platform e -style. La gui
     <message>
         <source>&amp;Sent</source>
         <translation>&amp;Trasmesso</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Annulla</translation>
     </message>
 </context>
 <context>
@@ -2193,10 +2193,6 @@ Valgono anche le opzioni della libreria grafica, come -platform e -style. La gui
         <translation>Per quanto tempo si conserva quanto trasmesso</translation>
     </message>
     <message>
-        <source>Send &amp;Again</source>
-        <translation>&amp;Trasmetti di nuovo</translation>
-    </message>
-    <message>
         <source>&amp;Make Message</source>
         <translation>Fanne un &amp;messaggio</translation>
     </message>
@@ -2275,6 +2271,10 @@ Valgono anche le opzioni della libreria grafica, come -platform e -style. La gui
     <message>
         <source>Not saved: %1</source>
         <translation>Non salvato: %1</translation>
+    </message>
+    <message>
+        <source>Send Again</source>
+        <translation>Trasmetti di nuovo</translation>
     </message>
 </context>
 <context>

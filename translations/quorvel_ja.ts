@@ -659,10 +659,6 @@ WinKeyer USB キーヤーを通してモールス符号を送信します。
         <translation>終了(&amp;Q)</translation>
     </message>
     <message>
-        <source>&amp;Undo</source>
-        <translation>元に戻す(&amp;U)</translation>
-    </message>
-    <message>
         <source>Cu&amp;t</source>
         <translation>切り取り(&amp;T)</translation>
     </message>
@@ -825,6 +821,10 @@ WinKeyer USB キーヤーを通してモールス符号を送信します。
     <message>
         <source>&amp;Sent</source>
         <translation>送信済み(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>元に戻す</translation>
     </message>
 </context>
 <context>
@@ -2193,10 +2193,6 @@ WinKeyer USB キーヤーを通してモールス符号を送信します。
         <translation>送信の記録を残す期間</translation>
     </message>
     <message>
-        <source>Send &amp;Again</source>
-        <translation>もう一度送信(&amp;A)</translation>
-    </message>
-    <message>
         <source>&amp;Make Message</source>
         <translation>メッセージにする(&amp;M)</translation>
     </message>
@@ -2275,6 +2271,10 @@ WinKeyer USB キーヤーを通してモールス符号を送信します。
     <message>
         <source>Not saved: %1</source>
         <translation>保存できません: %1</translation>
+    </message>
+    <message>
+        <source>Send Again</source>
+        <translation>もう一度送信</translation>
     </message>
 </context>
 <context>

@@ -52,8 +52,15 @@ void SentModel::setWords(const QString& words) {
 
 void SentModel::takeNumbers(const RunNumbers& numbers) {
     const auto gained = numbers.last - _numbers.last;
-    const bool isMore =
-        _found.isEmpty() && numbers.first == _numbers.first && gained >= 0 && _numbers.count() > 0;
+    const auto lost = numbers.first - _numbers.first;
+    const bool isMore = _found.isEmpty() && _numbers.count() > 0 && gained >= 0 && lost >= 0 &&
+                        numbers.first <= _numbers.last;
+    if (isMore && lost > 0) {
+        const int rows = rowCount();
+        beginRemoveRows({}, rows - static_cast<int>(lost), rows - 1);
+        _numbers.first = numbers.first;
+        endRemoveRows();
+    }
     if (isMore && gained > 0) {
         beginInsertRows({}, 0, static_cast<int>(gained) - 1);
         _numbers = numbers;
@@ -75,13 +82,20 @@ void SentModel::takeFound(const QString& words, const QList<qint64>& found) {
     if (words != _words) {
         return;
     }
-    const auto gained = found.size() - _found.size();
-    const bool isMore = !_found.isEmpty() && gained > 0 && found.mid(gained) == _found;
-    if (isMore) {
+    const auto gained = _found.isEmpty() ? -1 : found.indexOf(_found.constFirst());
+    const auto kept = found.size() - gained;
+    const bool isMore =
+        gained >= 0 && kept <= _found.size() && _found.first(kept) == found.last(kept);
+    if (isMore && kept < _found.size()) {
+        beginRemoveRows({}, static_cast<int>(kept), static_cast<int>(_found.size()) - 1);
+        _found.resize(kept);
+        endRemoveRows();
+    }
+    if (isMore && gained > 0) {
         beginInsertRows({}, 0, static_cast<int>(gained) - 1);
         _found = found;
         endInsertRows();
-    } else if (found != _found || found.isEmpty()) {
+    } else if (!isMore) {
         beginResetModel();
         _found = found;
         // Nothing of all that there is, where nothing was found.

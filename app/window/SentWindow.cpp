@@ -34,7 +34,7 @@ using namespace std::chrono_literals;
 
 namespace {
 
-constexpr QSize preferredSize(860, 480);
+constexpr QSize usualSize(860, 480);
 /// After a letter the next one is waited for.
 constexpr auto searchPause = 150ms;
 /// More rows than anybody copies by intention.
@@ -44,7 +44,7 @@ SettingsStore& settings() {
     return SettingsStore::standardUserDefaults();
 }
 
-QString withoutMnemonic(QString label) {
+QString plainLabel(QString label) {
     return label.replace(u"&"_s, u"&&"_s);
 }
 
@@ -59,7 +59,7 @@ SentWindow::SentWindow(WinKeyerUsb& engine, RecordStore& store, QWidget* parent)
     addSettings(*layout);
     addButtons(*layout);
     addKeys();
-    resize(preferredSize.boundedTo(screen()->availableSize()));
+    resize(usualSize.boundedTo(screen()->availableSize()));
     new WindowPlace(*this, u"SentWindowPlace"_s, this);
     QObject::connect(&settings(), &SettingsStore::changed, this, &SentWindow::followSetting);
     QObject::connect(&_engine, &WinKeyerUsb::activityChanged, this, &SentWindow::followSelection);
@@ -166,7 +166,8 @@ QPushButton* SentWindow::addButton(const QString& text, const QString& name) {
 
 void SentWindow::addButtons(QVBoxLayout& layout) {
     auto* row = new QHBoxLayout;
-    _sendAgain = addButton(tr("Send &Again"), u"sendAgainButton"_s);
+    // Without a letter, which would press it again for as long as it is held.
+    _sendAgain = addButton(tr("Send Again"), u"sendAgainButton"_s);
     _makeMessage = addButton(tr("&Make Message"), u"makeMessageButton"_s);
     _copy = addButton(tr("&Copy"), u"copySentButton"_s);
     _save = addButton(tr("&Save as CSV…"), u"saveSentButton"_s);
@@ -272,7 +273,7 @@ void SentWindow::showMessages() {
     menu.clear();
     for (std::size_t index = 0; index < messageSettings.size(); ++index) {
         const auto label = settings().stringForKey(messageSettings[index].labelKey);
-        menu.addAction(tr("F&%1  %2").arg(QString::number(index + 1), withoutMnemonic(label)), this,
+        menu.addAction(tr("F&%1  %2").arg(QString::number(index + 1), plainLabel(label)), this,
                        [this, index] { makeMessage(index); });
     }
 }

@@ -22,6 +22,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <atomic>
 #include <optional>
 
 using namespace Qt::StringLiterals;
@@ -41,6 +42,8 @@ class SentWindowTest : public QObject {
 
     void theNewestRunIsOnTop();
     void aRunIsShownAsItEnds();
+    void theOldestGoesAndTheChoiceStays_data();
+    void theOldestGoesAndTheChoiceStays();
     void whatIsFarDownIsReadWhenItIsLookedAt();
     void wordsAreLookedFor();
     void aSearchIsLive();
@@ -79,6 +82,7 @@ class SentWindowTest : public QObject {
     std::optional<RecordStore> _store;
     std::optional<SentWindow> _window;
     QStringList _sent;
+    std::atomic<qint64> _now;
 };
 
 void SentWindowTest::init() {
@@ -87,7 +91,8 @@ void SentWindowTest::init() {
     _bench->settings().registerDefaults(defaultsOf(recordSettings));
     QVERIFY(_bench->connect());
     _directory.emplace();
-    _store.emplace(_directory->filePath(u"sent.db"_s), [] { return qint64(1000); });
+    _now = 1000;
+    _store.emplace(_directory->filePath(u"sent.db"_s), [this] { return _now.load(); });
     _window.emplace(_bench->engine(), *_store, nullptr);
     QObject::connect(&*_window, &SentWindow::sendRequested, &*_window,
                      [this](const QString& text) { _sent.append(text); });
@@ -102,7 +107,7 @@ void SentWindowTest::cleanup() {
 
 void SentWindowTest::store(const QString& text, const QString& rest) {
     QSignalSpy grown(&*_store, &RecordStore::grown);
-    _store->append({.begun = 1000, .text = text, .rest = rest});
+    _store->append({.begun = _now, .text = text, .rest = rest});
     QTRY_VERIFY_WITH_TIMEOUT(!grown.isEmpty(), patience);
 }
 
@@ -143,6 +148,31 @@ void SentWindowTest::aRunIsShownAsItEnds() {
     waitForTexts({u"B"_s, u"A"_s});
     // What was chosen is still what it was.
     QCOMPARE(table().selectionModel()->selectedRows().value(0).row(), 1);
+}
+
+void SentWindowTest::theOldestGoesAndTheChoiceStays_data() {
+    QTest::addColumn<QString>("words");
+    QTest::newRow("all are shown") << QString();
+    QTest::newRow("those that were found") << u"CQ"_s;
+}
+
+/// Else Send Again would send another line than the one that was chosen.
+void SentWindowTest::theOldestGoesAndTheChoiceStays() {
+    QFETCH(const QString, words);
+    constexpr qint64 day = 86'400'000;
+    _store->keepDays(1);
+    store(u"CQ A"_s);
+    _now = day;
+    store(u"CQ B"_s);
+    store(u"CQ C"_s);
+    show();
+    find<QLineEdit>(u"sentSearchField"_s).setText(words);
+    waitForTexts({u"CQ C"_s, u"CQ B"_s, u"CQ A"_s});
+    table().selectRow(1);
+    _now = day + 2000;
+    store(u"CQ D"_s);
+    waitForTexts({u"CQ D"_s, u"CQ C"_s, u"CQ B"_s});
+    QCOMPARE(table().selectionModel()->selectedRows().value(0).row(), 2);
 }
 
 void SentWindowTest::whatIsFarDownIsReadWhenItIsLookedAt() {
@@ -208,6 +238,7 @@ void SentWindowTest::noKeySends() {
     waitForTexts({u"CQ"_s});
     static_cast<void>(_bench->written());
     QVERIFY(sendAgain().isEnabled());
+    QVERIFY(sendAgain().shortcut().isEmpty());
     for (const auto key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space, Qt::Key_F1, Qt::Key_S,
                            Qt::Key_A, Qt::Key_Delete, Qt::Key_Insert}) {
         find<QWidget>(focus).setFocus();
