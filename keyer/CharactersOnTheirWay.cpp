@@ -22,6 +22,12 @@ std::optional<qsizetype> CharactersOnTheirWay::oldestPlace() const {
     return _characters.isEmpty() ? std::nullopt : std::optional(_characters.constFirst().place);
 }
 
+qsizetype CharactersOnTheirWay::countAtOldest() const {
+    return std::count_if(_characters.begin(), _characters.end(), [this](const Character& each) {
+        return each.isPlain && each.place == _characters.constFirst().place;
+    });
+}
+
 void CharactersOnTheirWay::addPlain(char character, qsizetype place) {
     if (isOneAtATime()) {
         _characters.clear();

@@ -28,6 +28,10 @@ class CharactersOnTheirWay {
     /// Where in the text the oldest one stands.
     [[nodiscard]] std::optional<qsizetype> oldestPlace() const;
 
+    /// Of the plain ones, those that stand where the oldest one does: the letters of a call sign
+    /// all stand at its token.
+    [[nodiscard]] qsizetype countAtOldest() const;
+
     /// `place` is where in the text it stands, or what had to be sent with it begins.
     void addPlain(char character, qsizetype place);
     void addJoined(char character, qsizetype place);

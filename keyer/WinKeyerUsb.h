@@ -248,6 +248,8 @@ class WinKeyerUsb final : public QObject, public ORSSerialPortDelegate {
 
     /// What has been handed over of the call sign at the "~" that was come upon last.
     [[nodiscard]] const QString& takenOfCallsign() const { return _text.takenOfCallsign(); }
+    /// How many of the characters at the place in the text that the keyer has come to have no echo.
+    [[nodiscard]] qsizetype unheardAtOldest() const { return _onTheirWay.countAtOldest(); }
 
   Q_SIGNALS:
     /// activity() or serialPortName() is another one now.

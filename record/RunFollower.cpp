@@ -48,8 +48,9 @@ void RunFollower::nameLogger(quint16 port, const QString& name) {
 void RunFollower::followText() {
     const auto text = _engine.keyboardBuffer();
     const auto next = _engine.outputBufferIndex();
-    if (text.isEmpty() && next == 0 && _taken > 0) {
-        // No edit: those leave the place that the sending has come to for the moment.
+    if (text.isEmpty() && next == 0 && _taken > 0 && !_origins.text().isEmpty()) {
+        // No edit: those leave the place that the sending has come to for the moment, and when it
+        // is told the text is known to be empty.
         const bool isBreakIn = _engine.activity() == KeyerActivity::BreakIn;
         cutShort(_isLinkEnding ? Ending::LinkLost : isBreakIn ? Ending::BrokenIn : Ending::Stopped);
         _taken = 0;
@@ -75,6 +76,7 @@ void RunFollower::followProgress() {
     for (auto& each : _inFlight) {
         if (each.isCall) {
             each.text = _engine.takenOfCallsign();
+            each.unheard = _engine.unheardAtOldest();
         }
     }
     confirm(index - _engine.inFlightIndex());
@@ -158,6 +160,7 @@ void RunFollower::cutShort(Ending ending) {
                    [this](const auto& each) { return isThrough(*each); });
     const auto firstCut = static_cast<std::size_t>(
         std::find(areThrough.begin(), areThrough.end(), false) - areThrough.begin());
+    leaveOutUnheardOfCall();
     const auto call = restOfCall();
     takeWhatIsUnderWay();
     for (std::size_t i = 0; i < runs.size(); ++i) {
@@ -169,6 +172,15 @@ void RunFollower::cutShort(Ending ending) {
         }
     }
     _inFlight.clear();
+}
+
+/// Of the letters of a call sign that went ahead, the keyer is at the first.
+void RunFollower::leaveOutUnheardOfCall() {
+    for (auto& each : _inFlight) {
+        if (each.isCall && each.unheard > 1) {
+            each.text.chop(each.unheard - 1);
+        }
+    }
 }
 
 /// Of the call sign that is being sent first of all, what has not been handed over.

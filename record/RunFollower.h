@@ -58,6 +58,8 @@ class RunFollower final : public QObject {
         qsizetype length = 1;
         bool isCall = false;
         bool hasEcho = true;
+        /// Of a call sign's letters that have been handed over, those without an echo.
+        qsizetype unheard = 0;
     };
 
     void followText();
@@ -70,6 +72,7 @@ class RunFollower final : public QObject {
     void confirmFirst();
     void cutShort(Ending ending);
     void takeWhatIsUnderWay();
+    void leaveOutUnheardOfCall();
     void endFinishedRuns();
     [[nodiscard]] bool isThrough(const Run& run) const;
     [[nodiscard]] QString restOf(const Run& run) const;

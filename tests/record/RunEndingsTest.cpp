@@ -22,6 +22,8 @@ class RunEndingsTest : public QObject, private RunFollowerFixture {
 
     void stopTellsWhere();
     void stopWithinACallSignTellsWhere();
+    void stopWithinACallSignFarAwayTellsWhere();
+    void textThatIsAllDeletedWasNotStopped();
     void stopDropsMessagesThatHadNotBegun();
     void aStopBehindTheEndIsNone();
     void aBreakInTellsWhere();
@@ -56,6 +58,28 @@ void RunEndingsTest::stopWithinACallSignTellsWhere() {
     engine().stopMessageSending(nullptr);
     QCOMPARE(_runs.at(0).text, u"R W1"_s);
     QCOMPARE(_runs.at(0).rest, u"AW 5NN"_s);
+}
+
+void RunEndingsTest::stopWithinACallSignFarAwayTellsWhere() {
+    _bench->settings().setObject(4, CharactersAhead.key);
+    engine().setHisCallsign(u"W1AW"_s);
+    setMessage(5, u"~ k"_s);
+    press(5);
+    _bench->receive({'W'});
+    engine().stopMessageSending(nullptr);
+    QCOMPARE(_runs.at(0).text, u"W1"_s);
+    QCOMPARE(_runs.at(0).rest, u"AW K"_s);
+}
+
+void RunEndingsTest::textThatIsAllDeletedWasNotStopped() {
+    _bench->type(u"TEST"_s);
+    echo(1);
+    _bench->type({});
+    echo(1);
+    rest();
+    QCOMPARE(_runs.size(), 1);
+    QCOMPARE(_runs.at(0).text, u"TE"_s);
+    QCOMPARE(_runs.at(0).ending, Ending::Sent);
 }
 
 void RunEndingsTest::stopDropsMessagesThatHadNotBegun() {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "keyer/ChosenSpeed.h"
+#include "keyer/GeneralSettings.h"
 #include "keyer/MessageSettings.h"
 #include "loggers/LoggerQueue.h"
 #include "record/RunFollower.h"
