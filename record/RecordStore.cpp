@@ -12,6 +12,7 @@
 #include <deque>
 #include <mutex>
 #include <optional>
+#include <unistd.h>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -36,6 +37,7 @@ struct RecordStore::State {
     void store(RecordFile& file, std::unique_lock<std::mutex>& lock);
     void work(RecordFile& file, std::unique_lock<std::mutex>& lock);
     void tellTrouble(RecordFile& file);
+    void lockAgain(std::unique_lock<std::mutex>& lock) const;
 
     QString path;
     WallClock wallClock;
@@ -52,6 +54,8 @@ struct RecordStore::State {
     quint64 lastSearch = 0;
     bool isEnding = false;
     bool hasEnded = false;
+    /// The program ends without waiting any longer.
+    bool isAbandoned = false;
 };
 
 QString RecordStore::standardPath() {
@@ -79,6 +83,7 @@ RecordStore::~RecordStore() {
     _state->changed.notify_all();
     const bool hasEnded =
         _state->changed.wait_for(lock, patience, [this] { return _state->hasEnded; });
+    _state->isAbandoned = !hasEnded;
     lock.unlock();
     if (!hasEnded) {
         _thread.detach();
@@ -241,7 +246,7 @@ void RecordStore::State::run() {
     }
     lock.unlock();
     file.reset(); // a disk may hang in that, too
-    lock.lock();
+    lockAgain(lock);
     hasEnded = true;
     changed.notify_all();
 }
@@ -254,7 +259,7 @@ void RecordStore::State::store(RecordFile& file, std::unique_lock<std::mutex>& l
     const bool isStored = file.append(runs, keptFrom);
     const auto numbers = isStored ? file.numbers() : RunNumbers{};
     tellTrouble(file);
-    lock.lock();
+    lockAgain(lock);
     if (isStored) {
         waiting.remove(0, runs.size());
         queue->async([store = owner, numbers] {
@@ -271,7 +276,17 @@ void RecordStore::State::work(RecordFile& file, std::unique_lock<std::mutex>& lo
     lock.unlock();
     job(file);
     tellTrouble(file);
+    lockAgain(lock);
+}
+
+/// What a program that exits takes down must not be touched any more.
+void RecordStore::State::lockAgain(std::unique_lock<std::mutex>& lock) const {
     lock.lock();
+    while (isAbandoned) {
+        lock.unlock();
+        ::pause();
+        lock.lock();
+    }
 }
 
 void RecordStore::State::tellTrouble(RecordFile& file) {
