@@ -64,8 +64,8 @@ class PreferencesWinKeyerViewController final : public QObject, public MBPrefere
     void saveSettings(const QObject* sender);
 
   private:
-    /// Tells when neither output is on, as the transmitter stays silent then for no other reason.
     void setUpCorner();
+    /// Tells when neither output is on, as the transmitter stays silent then for no other reason.
     void showWhetherKeyed();
 
     WinKeyerUsb& _engine;

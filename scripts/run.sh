@@ -13,10 +13,10 @@ out=build/run
 # it keys goes to the descriptor in $keyed.
 # shellcheck disable=SC2120 # A run without display gives options, by way of its steps.
 start_keyer() {
-    # In English, in which its word is waited for.
-    start keyer env LC_ALL=C.UTF-8 "$bin/quorvel-virtual-keyer" "$@" \
+    start keyer "$bin/quorvel-virtual-keyer" "$@" \
         1>&"$keyed" 2>"$out/keyer.log"
-    wait_while keyer 10 grep -q '^Plugged in as ' "$out/keyer.log" && return
+    # It says so in the user's language, with the port's path in brackets.
+    wait_while keyer 10 grep -qF '/quorvel/ports/usbserial-virtual)' "$out/keyer.log" && return
     echo "The virtual keyer could not be plugged in:" >&2
     tail -n 20 "$out/keyer.log" >&2
     return 1

@@ -29,6 +29,8 @@ class Desktop:
         self.environment.update(
             HOME=str(directory), XDG_RUNTIME_DIR=str(runtime), GIO_USE_VFS="local",
             LC_ALL="C.UTF-8", GSETTINGS_BACKEND="memory", QT_QPA_PLATFORM="xcb",
+            # No sound of the machine's: a server that is named and not there is not started either.
+            PULSE_SERVER=f"unix:{runtime}/no-sound",
             QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1", QT_FORCE_STDERR_LOGGING="1")
         try:
             _, self.environment["DISPLAY"] = self.start_screen()

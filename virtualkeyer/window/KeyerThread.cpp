@@ -8,12 +8,14 @@
 namespace virtualkeyer {
 
 KeyerThread::KeyerThread(Session& session)
-    : _session(session),
-      _stop(checked(::eventfd(0, EFD_CLOEXEC), "cannot stop the keyer later")),
-      _thread([this] { run(); }) {}
+    : _session(session), _stop(checked(::eventfd(0, EFD_CLOEXEC), "cannot stop the keyer later")) {}
 
 KeyerThread::~KeyerThread() {
     end();
+}
+
+void KeyerThread::start() {
+    _thread = std::thread([this] { run(); });
 }
 
 ExitStatus KeyerThread::end() {

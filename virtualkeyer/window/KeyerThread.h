@@ -19,6 +19,8 @@ class KeyerThread : public QObject {
     /// As end().
     ~KeyerThread() override;
 
+    /// Begins the session. Whoever wants to hear that it failed has connected by then. Once.
+    void start();
     /// Ends the session and waits for it; the program's exit status.
     ExitStatus end();
 

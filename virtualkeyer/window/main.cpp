@@ -13,12 +13,27 @@
 #include <QSocketNotifier>
 
 #include <csignal>
+#include <cstdlib>
 #include <stdexcept>
+#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 using namespace virtualkeyer;
 
 namespace {
+
+char** startArguments = nullptr;
+QtMessageHandler usualHandler = nullptr;
+
+/// A display that is set and not there: the other program does without it, and says so.
+void goOnWithoutWindow(QtMsgType type, const QMessageLogContext& context, const QString& text) {
+    if (type == QtFatalMsg) {
+        ::unsetenv("DISPLAY");
+        ::unsetenv("WAYLAND_DISPLAY");
+        ::execvp(startArguments[0], startArguments);
+    }
+    usualHandler(type, context, text);
+}
 
 int run(const CommandLine& commandLine, const StopSignals& stopSignals) {
     KeyerLink link;
@@ -34,9 +49,12 @@ int run(const CommandLine& commandLine, const StopSignals& stopSignals) {
     });
     const QSocketNotifier signal(stopSignals.descriptor(), QSocketNotifier::Read);
     QObject::connect(&signal, &QSocketNotifier::activated, qApp, &QApplication::quit);
+    keyer.start();
     sidetone.start();
     window.show();
     QApplication::exec();
+    // Lets go of what is held while there is somebody to tell.
+    window.hide();
     return static_cast<int>(keyer.end());
 }
 
@@ -46,7 +64,10 @@ int run(const CommandLine& commandLine, const StopSignals& stopSignals) {
 int main(int argc, char* argv[]) {
     std::signal(SIGPIPE, SIG_IGN);
     const StopSignals stopSignals;
+    startArguments = argv;
+    usualHandler = qInstallMessageHandler(goOnWithoutWindow);
     const QApplication application(argc, argv);
+    qInstallMessageHandler(nullptr);
     QApplication::setApplicationName(u"quorvel-virtual-keyer"_s);
     QApplication::setApplicationVersion(QStringLiteral(QUORVEL_VERSION));
     const Translations translations{QLocale()};
