@@ -11,7 +11,7 @@ from program import PORT, QUORVEL, VIRTUAL_KEYER, Keyer, ProgramTest, run_tests
 NO_PORT = "Für den WinKeyer ist kein Port festgelegt."
 PLUGGED_IN = f"Der serielle Port {PORT} wurde eingesteckt."
 UNPLUGGED = f"Der WinKeyer am seriellen Port {PORT} wurde ausgesteckt."
-MENUS = ["Datei", "Bearbeiten", "Senden", "Keyer", "QSO", "Hilfe"]
+MENUS = ["Datei", "Bearbeiten", "Senden", "Keyer", "QSO", "Fenster", "Hilfe"]
 # Within what the speed pot spans by default.
 SPEED = 30
 
