@@ -236,12 +236,6 @@ class KeyerWindowTest(ProgramTest):
                                stdout=subprocess.PIPE, timeout=60, check=True)
         self.assertEqual(again.stdout.replace(" ", ""), keyed)
 
-    def test_a_paddle_that_is_held_holds_no_end_up(self):
-        keyer, window = self.start_window()
-        with self.desktop.hold("f"):
-            keyer.wait_for("the key", lambda: self.elements(keyer) > 1)
-            self.assertEqual(keyer.end(), 0)
-
     def test_without_its_display_it_goes_on_without_a_window(self):
         gone = dict(self.environment, DISPLAY=":4242")
         keyer = Keyer(gone, self.home, SPEED, is_headless=False)
