@@ -7,9 +7,9 @@
 
 namespace {
 
-class Notification final : public QAccessibleWidget {
+class SpokenWords final : public QAccessibleWidget {
   public:
-    explicit Notification(SpokenNotice& notice)
+    explicit SpokenWords(SpokenNotice& notice)
         : QAccessibleWidget(&notice, QAccessible::Notification) {}
 };
 
@@ -18,7 +18,7 @@ QAccessibleInterface* makeInterface(const QString& className, QObject* object) {
         return nullptr;
     }
     auto* notice = qobject_cast<SpokenNotice*>(object);
-    return notice == nullptr ? nullptr : std::make_unique<Notification>(*notice).release();
+    return notice == nullptr ? nullptr : std::make_unique<SpokenWords>(*notice).release();
 }
 
 } // namespace
