@@ -36,6 +36,7 @@ void ModeSwitches::setUpHSCW(QAbstractButton& button) {
     QObject::connect(&_engine, &WinKeyerUsb::sendingProgressed, this, &ModeSwitches::followText);
     QObject::connect(&_engine, &WinKeyerUsb::messageSendingStopped, this,
                      &ModeSwitches::noteKnobsSpeed);
+    QObject::connect(&_engine, &WinKeyerUsb::setSpeedEnded, this, &ModeSwitches::noteKnobsSpeed);
     followKeyer(button);
 }
 

@@ -1,5 +1,6 @@
 #include "app/window/ModeSwitches.h"
 
+#include "keyer/KeyerCommand.h"
 #include "keyer/KeyerSettings.h"
 #include "tests/keyer/EngineBench.h"
 #include "tests/support/RegisteredTest.h"
@@ -25,6 +26,7 @@ class ModeSwitchesTest : public QObject {
     void aKeyerThatComesBackIsAtThePotsSpeed();
     void highSpeedNeedsAKeyer();
     void aStopEndsHighSpeed();
+    void theKnobsSpeedEndsHighSpeed();
     void aBreakInEndsHighSpeed();
     void highSpeedDoesNotBeginDuringABreakIn();
     void highSpeedThatBeginsInATextIsSeen();
@@ -124,6 +126,13 @@ void ModeSwitchesTest::aStopEndsHighSpeed() {
     QCOMPARE(_bench->written(), "0a");
     _hscw.click();
     QCOMPARE(_bench->written(), "1d 0a");
+}
+
+/// As a change of the knob's range in the preferences has it.
+void ModeSwitchesTest::theKnobsSpeedEndsHighSpeed() {
+    _hscw.click();
+    _bench->engine().putToWinKeyer(KeyerCommand::setWpmSpeedFromPot());
+    QVERIFY(!_hscw.isChecked());
 }
 
 void ModeSwitchesTest::aBreakInEndsHighSpeed() {
