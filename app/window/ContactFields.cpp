@@ -4,6 +4,7 @@
 #include "app/window/HeldMessages.h"
 #include "keyer/WinKeyerUsb.h"
 
+#include <QEvent>
 #include <QLineEdit>
 #include <QSpinBox>
 
@@ -26,6 +27,16 @@ ContactFields::ContactFields(WinKeyerUsb& engine, HeldMessages& held, QLineEdit&
     QObject::connect(&_engine, &WinKeyerUsb::serialNumberChanged, this,
                      &ContactFields::followNumber);
     followNumber();
+    _number.installEventFilter(this);
+}
+
+/// A wheel that turns over the number on its way elsewhere is not meant for it.
+bool ContactFields::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == &_number && event->type() == QEvent::Wheel && !_number.hasFocus()) {
+        event->ignore();
+        return true;
+    }
+    return QObject::eventFilter(watched, event);
 }
 
 void ContactFields::followCallsign() {

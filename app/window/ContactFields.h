@@ -25,6 +25,9 @@ class ContactFields final : public QObject {
     /// Goes on to the next contact: its number is one more, and the call sign is another one.
     void goToNextContact();
 
+  protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
   private:
     void followCallsign();
     void followNumber();

@@ -4,7 +4,10 @@
 #include "tests/support/RegisteredTest.h"
 
 #include <QAbstractButton>
+#include <QApplication>
 #include <QLineEdit>
+#include <QSpinBox>
+#include <QWheelEvent>
 
 using namespace Qt::StringLiterals;
 
@@ -21,6 +24,7 @@ class ContactFieldsTest : public QObject, private MainWindowFixture {
     void theNextContactHasTheNextNumberAndNoCallYet();
     void aHeldKeyIsOneContact();
     void wipingLeavesTheNumber();
+    void aWheelThatTurnsOverTheNumberIsNotMeantForIt();
     void aCallThatWaitsIsSentFirst();
     void aCallTypedMeanwhileIsTheNextContacts();
     void eachOfSeveralContactsKeepsItsCall_data();
@@ -86,6 +90,22 @@ void ContactFieldsTest::wipingLeavesTheNumber() {
     QCOMPARE(_engine->hisCallsign(), u""_s);
     QVERIFY(field().hasFocus());
     QCOMPARE(_bench->written(), "");
+}
+
+void ContactFieldsTest::aWheelThatTurnsOverTheNumberIsNotMeantForIt() {
+    auto* number = _window->findChild<QSpinBox*>(u"serialNumberBox"_s);
+    const QPointF middle = number->rect().center();
+    const auto turn = [&] {
+        QWheelEvent event(middle, number->mapToGlobal(middle), {}, {0, 120}, Qt::NoButton,
+                          Qt::NoModifier, Qt::NoScrollPhase, false);
+        QApplication::sendEvent(number, &event);
+    };
+    turn();
+    QCOMPARE(_engine->serialNumber(), 7);
+    QVERIFY((number->focusPolicy() & Qt::WheelFocus) != Qt::WheelFocus);
+    number->setFocus();
+    turn();
+    QCOMPARE(_engine->serialNumber(), 8);
 }
 
 void ContactFieldsTest::aCallThatWaitsIsSentFirst() {
