@@ -141,7 +141,7 @@ void MainWindow::setUpKeys() {
 
 void MainWindow::setUpMessages() {
     _heldMessages = new HeldMessages(_engine, *_keyboardView, this);
-    new MessageButtons(_engine, *_heldMessages,
+    new MessageButtons(_engine, *_heldMessages, *_ui->hisCallsignTextField,
                        {{_ui->message1Button, _ui->message1Action},
                         {_ui->message2Button, _ui->message2Action},
                         {_ui->message3Button, _ui->message3Action},

@@ -7,6 +7,7 @@
 #include "platform/SettingsStore.h"
 
 #include <QAction>
+#include <QLineEdit>
 #include <QTextDocument>
 
 using namespace Qt::StringLiterals;
@@ -45,9 +46,9 @@ QString toolTipOf(const QString& text) {
 
 } // namespace
 
-MessageButtons::MessageButtons(WinKeyerUsb& engine, HeldMessages& held,
+MessageButtons::MessageButtons(WinKeyerUsb& engine, HeldMessages& held, const QLineEdit& callsign,
                                const QList<Control>& controls, QObject* parent)
-    : QObject(parent), _engine(engine), _held(held), _controls(controls) {
+    : QObject(parent), _engine(engine), _held(held), _callsign(callsign), _controls(controls) {
     for (const auto& [button, action] : _controls) {
         QObject::connect(button, &QPushButton::clicked, this,
                          [this, sender = button] { _held.send(sender); });
@@ -57,7 +58,7 @@ MessageButtons::MessageButtons(WinKeyerUsb& engine, HeldMessages& held,
     QObject::connect(&SettingsStore::standardUserDefaults(), &SettingsStore::changed, this,
                      &MessageButtons::show);
     QObject::connect(&_engine, &WinKeyerUsb::serialNumberChanged, this, &MessageButtons::show);
-    QObject::connect(&_engine, &WinKeyerUsb::hisCallsignChanged, this, &MessageButtons::show);
+    QObject::connect(&_callsign, &QLineEdit::textChanged, this, &MessageButtons::show);
     QObject::connect(&_held, &HeldMessages::changed, this, &MessageButtons::show);
     show();
 }
@@ -83,8 +84,8 @@ void MessageButtons::show() {
 
 QString MessageButtons::textToBeSent(const QString& stored) const {
     auto text = _engine.substituteTokens(stored);
-    if (!_engine.hisCallsign().isEmpty()) {
-        text.replace(u'~', _engine.hisCallsign());
+    if (!_callsign.text().isEmpty()) {
+        text.replace(u'~', _callsign.text());
     }
     return text.toUpper();
 }

@@ -6,11 +6,13 @@
 class HeldMessages;
 class MessageButton;
 class QAction;
+class QLineEdit;
 class WinKeyerUsb;
 
 /// The eight message buttons and the items of the menu that press them: they bear the labels of
 /// the stored messages, and tell what would be sent now, by what the settings, the serial number
-/// and their call are now.
+/// and the field of their call are now. The engine has a former call while that is still to be
+/// sent.
 class MessageButtons final : public QObject {
     Q_OBJECT
   public:
@@ -20,8 +22,8 @@ class MessageButtons final : public QObject {
     };
 
     /// One control for each stored message, in order, with the message's index as its tag.
-    MessageButtons(WinKeyerUsb& engine, HeldMessages& held, const QList<Control>& controls,
-                   QObject* parent);
+    MessageButtons(WinKeyerUsb& engine, HeldMessages& held, const QLineEdit& callsign,
+                   const QList<Control>& controls, QObject* parent);
 
   private:
     void show();
@@ -29,5 +31,6 @@ class MessageButtons final : public QObject {
 
     WinKeyerUsb& _engine;
     HeldMessages& _held;
+    const QLineEdit& _callsign;
     QList<Control> _controls;
 };

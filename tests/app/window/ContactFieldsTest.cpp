@@ -128,6 +128,8 @@ void ContactFieldsTest::aCallTypedMeanwhileIsTheNextContacts() {
     press(Qt::Key_F11);
     QCOMPARE(field().text(), u""_s);
     type(u"K1A"_s);
+    QCOMPARE(_window->findChild<QAbstractButton*>(u"message5Button"_s)->accessibleDescription(),
+             u"K1A"_s);
     _engine->appendMessage(u"~"_s);
     QByteArray sent = QByteArray::fromHex(_bench->written());
     for (int i = 0; i < 20; ++i) {
