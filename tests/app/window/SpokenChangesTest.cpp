@@ -26,12 +26,13 @@ class SpokenChangesTest : public QObject, private MainWindowFixture {
 
   private:
     [[nodiscard]] QString spoken() {
-        return _window->findChild<SpokenNotice*>({}, Qt::FindDirectChildrenOnly)->accessibleName();
+        return _window->findChild<SpokenNotice*>(QString(), Qt::FindDirectChildrenOnly)
+            ->accessibleName();
     }
 };
 
 void SpokenChangesTest::itIsANotification() {
-    auto* notice = _window->findChild<SpokenNotice*>({}, Qt::FindDirectChildrenOnly);
+    auto* notice = _window->findChild<SpokenNotice*>(QString(), Qt::FindDirectChildrenOnly);
     QVERIFY(!notice->isVisible());
     notice->say(u"Heard"_s);
     const auto* interface = QAccessible::queryAccessibleInterface(notice);
