@@ -17,6 +17,7 @@ class MessageButtonTest : public QObject, private MainWindowFixture {
 
     void theSecondLineIsWhatIsSentNow();
     void aLongTextIsCutShort();
+    void aLongTextIsSeenFromItsBeginning();
     void withoutRoomThereIsOneLine();
     void aToolTipIsBroken_data();
     void aToolTipIsBroken();
@@ -48,6 +49,15 @@ void MessageButtonTest::aLongTextIsCutShort() {
     store(u"PARIS "_s.repeated(50));
     QCOMPARE(picture(), cut);
     store(u"PARIS"_s);
+    QVERIFY(picture() != cut);
+}
+
+void MessageButtonTest::aLongTextIsSeenFromItsBeginning() {
+    store(u"PARIS "_s.repeated(40));
+    const auto cut = picture();
+    store(u"PARIS "_s.repeated(39) + u"TARIS "_s);
+    QCOMPARE(picture(), cut);
+    store(u"TARIS "_s + u"PARIS "_s.repeated(39));
     QVERIFY(picture() != cut);
 }
 
