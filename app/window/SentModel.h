@@ -50,7 +50,6 @@ class SentModel final : public QAbstractTableModel {
     void takeNumbers(const RunNumbers& numbers);
     void takeFound(const QString& words, const QList<qint64>& found);
     void takeRuns(const QList<qint64>& asked, const QList<StoredRun>& runs);
-    void insertOnTop(int count);
     void ask(int row) const;
     [[nodiscard]] std::optional<int> rowOf(qint64 number) const;
 
