@@ -90,7 +90,7 @@ void KeyerWatch::followLink() {
 }
 
 void KeyerWatch::followSending() {
-    if (_engine.isAwaitingEcho() && !_sendingTimer) {
+    if (_engine.isPortOpen() && _engine.isAwaitingEcho() && !_sendingTimer) {
         _sendingTimer =
             platformClock().scheduleTimer(longestSilence, this, [this] { checkSending(); });
     }

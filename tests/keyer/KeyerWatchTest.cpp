@@ -35,6 +35,7 @@ class KeyerWatchTest : public QObject {
     void aKeyerThatIsHeardAfterAllSettlesIt();
     void aLinkThatEndsSettlesIt();
     void aLinkThatEndsIsNotGreeted();
+    void withoutAKeyerNothingIsWaitedFor();
     void aCharacterWithoutAnEchoIsReported();
     void aPauseIsNoSilence();
     void aFullBufferMayFallSilent();
@@ -158,6 +159,15 @@ void KeyerWatchTest::aLinkThatEndsIsNotGreeted() {
     static_cast<void>(_bench->written());
     pass(1h);
     QCOMPARE(_bench->written(), "");
+    QCOMPARE(_neverAnswered->size(), 0);
+}
+
+void KeyerWatchTest::withoutAKeyerNothingIsWaitedFor() {
+    _bench->receive({0xC8});
+    QVERIFY(engine().disconnect(nullptr));
+    _bench->type(u"CQ"_s);
+    pass(1h);
+    QCOMPARE(_fellSilent->size(), 0);
     QCOMPARE(_neverAnswered->size(), 0);
 }
 
