@@ -30,6 +30,8 @@ constexpr int buttonCount = 4;
 constexpr int usualVolume = 40; // percent
 /// Lines of the keyed text that are kept.
 constexpr int longestText = 1000;
+/// Of the text's colour, what says what will stand there.
+constexpr float hintOpacity = 0.6F;
 
 } // namespace
 
@@ -178,6 +180,12 @@ QWidget* KeyerWindow::makeText() {
     _text->setMaximumBlockCount(longestText);
     _text->setPlaceholderText(tr("What is keyed, by the host or the paddle, is read back here from "
                                  "the key line."));
+    // A dark desktop's own may be as dark as what is around it.
+    auto colors = _text->palette();
+    auto hint = colors.color(QPalette::Text);
+    hint.setAlphaF(hintOpacity);
+    colors.setColor(QPalette::PlaceholderText, hint);
+    _text->setPalette(colors);
     auto* layout = new QVBoxLayout(box);
     layout->addWidget(_text);
     return box;
