@@ -57,9 +57,11 @@ class SentTest(ProgramTest):
         return window and next((each for each in window.all() if "table" == each.role()), None)
 
     def lines(self, quorvel):
-        """What the list says, a line each."""
+        """What the list says, a line each; none while a line comes and not all of it can be read."""
         table = self.table(quorvel)
         cells = [each.name() for each in table.children() if each.role() == "table cell"] if table else []
+        if len(cells) % HEADINGS:
+            return []
         return [cells[first:first + HEADINGS] for first in range(0, len(cells), HEADINGS)]
 
     def wait_for_lines(self, quorvel, *texts):

@@ -96,14 +96,26 @@ class TroubleTest(ProgramTest):
             self.assertEqual(quorvel.end(), 0)
         self.assertEqual(keyer.end(), 0)
 
+    def leave_link_behind(self, terminal):
+        """What a keyer that could not clean up leaves behind, before the terminal's number is used
+        again; the terminal, which is another one where somebody was faster."""
+        while True:
+            os.symlink(terminal, self.link())
+            if not os.path.exists(terminal):
+                return terminal
+            os.unlink(self.link())
+            ends = os.openpty()
+            terminal = os.ttyname(ends[1])
+            for each in ends:
+                os.close(each)
+
     def test_the_terminal_of_a_killed_keyer_is_nobodys_port(self):
         keyer = self.start_keyer()
         terminal = os.readlink(self.link())
         keyer.end(signal.SIGKILL)
         wait_for("the link to go", lambda: not os.path.lexists(self.link()))
         self.write_settings(SETTINGS)
-        # What a keyer that could not clean up leaves behind, before the number is used again.
-        os.symlink(terminal, self.link())
+        terminal = self.leave_link_behind(terminal)
         time.sleep(1.1)
         shells = []
         self.addCleanup(lambda: [os.close(each) for each in shells])
