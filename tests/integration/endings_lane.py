@@ -30,6 +30,9 @@ class Cell(EndingStation):
         self.begin_ending()
         ending.end(self, state)
         ending.expect(self, state)
+        # Everything else was as it has to be.
+        self.result["is only late"] = self.result.get("is late", False)
+        self.assertFalse(self.result["is only late"], self.result)
 
     def outcome(self):
         """Runs the cell; what there is to say of it, with the log of one that failed."""

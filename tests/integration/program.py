@@ -99,9 +99,12 @@ class ProgramTest(unittest.TestCase):
     # Milliseconds until a held key repeats.
     repeat_delay = REPEAT_DELAY
 
+    # The folder of all homes; None stands for the system's usual one.
+    ROOM = None
+
     @classmethod
     def setUpClass(cls):
-        cls.directory = pathlib.Path(tempfile.mkdtemp(prefix="quorvel-test."))
+        cls.directory = pathlib.Path(tempfile.mkdtemp(prefix="quorvel-test.", dir=cls.ROOM))
         cls.addClassCleanup(shutil.rmtree, cls.directory)
         cls.desktop = cls.desktop_kind(cls.directory, cls.repeat_delay)
         cls.addClassCleanup(cls.desktop.close)
