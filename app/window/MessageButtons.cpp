@@ -2,6 +2,7 @@
 
 #include "app/window/HeldMessages.h"
 #include "app/window/MessageButton.h"
+#include "app/window/SingleClick.h"
 #include "keyer/MessageSettings.h"
 #include "keyer/WinKeyerUsb.h"
 #include "platform/SettingsStore.h"
@@ -50,6 +51,7 @@ MessageButtons::MessageButtons(WinKeyerUsb& engine, HeldMessages& held, const QL
                                const QList<Control>& controls, QObject* parent)
     : QObject(parent), _engine(engine), _held(held), _callsign(callsign), _controls(controls) {
     for (const auto& [button, action] : _controls) {
+        new SingleClick(*button);
         QObject::connect(button, &QPushButton::clicked, this,
                          [this, sender = button] { _held.send(sender); });
         // A button's own shortcut would first show it pressed for a tenth of a second.

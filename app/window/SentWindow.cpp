@@ -2,6 +2,7 @@
 
 #include "app/window/SentModel.h"
 #include "app/window/SentTable.h"
+#include "app/window/SingleClick.h"
 #include "app/window/WindowPlace.h"
 #include "keyer/MessageSettings.h"
 #include "keyer/WinKeyerUsb.h"
@@ -168,6 +169,7 @@ void SentWindow::addButtons(QVBoxLayout& layout) {
     auto* row = new QHBoxLayout;
     // Without a letter, which would press it again for as long as it is held.
     _sendAgain = addButton(tr("Send Again"), u"sendAgainButton"_s);
+    new SingleClick(*_sendAgain);
     _makeMessage = addButton(tr("&Make Message"), u"makeMessageButton"_s);
     _copy = addButton(tr("&Copy"), u"copySentButton"_s);
     _save = addButton(tr("&Save as CSV…"), u"saveSentButton"_s);

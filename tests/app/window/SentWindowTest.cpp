@@ -52,6 +52,7 @@ class SentWindowTest : public QObject {
     void noKeySends();
     void aDoubleClickSendsNothing();
     void sendAgainSendsAllOfTheText();
+    void aDoubleClickOnSendAgainSendsOnce();
     void aSpaceBehindSendAgainSendsNothing();
     void withoutAKeyerNothingIsSent();
     void severalLinesAreNotSent();
@@ -265,6 +266,18 @@ void SentWindowTest::sendAgainSendsAllOfTheText() {
     waitForTexts({u"CQ T"_s});
     sendAgain().click();
     QCOMPARE(_sent, QStringList{u"CQ TEST K"_s});
+}
+
+/// As after a double click on an icon, by habit.
+void SentWindowTest::aDoubleClickOnSendAgainSendsOnce() {
+    store(u"CQ"_s);
+    show();
+    waitForTexts({u"CQ"_s});
+    const auto place = sendAgain().mapTo(&*_window, sendAgain().rect().center());
+    QTest::mouseClick(_window->windowHandle(), Qt::LeftButton, {}, place);
+    QTest::lastMouseTimestamp -= QTest::mouseDoubleClickInterval - 60;
+    QTest::mouseClick(_window->windowHandle(), Qt::LeftButton, {}, place);
+    QCOMPARE(_sent, QStringList({u"CQ"_s}));
 }
 
 void SentWindowTest::aSpaceBehindSendAgainSendsNothing() {
