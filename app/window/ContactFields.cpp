@@ -57,23 +57,30 @@ void ContactFields::goToCallsign() {
     _callsign.selectAll();
 }
 
+/// It is still the same contact. A call that is being keyed is keyed to its end, so that none goes
+/// on the air that is half of the one, half of the other.
 void ContactFields::wipeCallsign() {
-    goToCallsign();
-    _held.bindCallsign(_callsign.text());
-    keepCallsign();
-    _callsign.clear();
+    keepCallsign(_engine.outputBufferIndex());
+    emptyCallsign();
 }
 
 void ContactFields::goToNextContact() {
     _engine.incrementSerialNumber(this);
-    wipeCallsign();
+    _held.bindCallsign(_callsign.text());
+    keepCallsign(_engine.keyboardBuffer().size());
+    emptyCallsign();
 }
 
-/// For the signs that were put into the text since the contact before. Without a keyer none of them
-/// is ever sent.
-void ContactFields::keepCallsign() {
+void ContactFields::emptyCallsign() {
+    goToCallsign();
+    _callsign.clear();
+}
+
+/// For the signs ahead of `end` that were put into the text since the contact before. Without a
+/// keyer none of them is ever sent.
+void ContactFields::keepCallsign(qsizetype end) {
     const auto from = _former.isEmpty() ? _engine.inFlightIndex() : _former.constLast().end;
-    const auto lastSign = _engine.keyboardBuffer().lastIndexOf(u'~');
+    const auto lastSign = _engine.keyboardBuffer().left(end).lastIndexOf(u'~');
     if (_engine.isConnected() && lastSign >= from) {
         _text = _engine.keyboardBuffer();
         _former.append({_callsign.text(), lastSign + 1});

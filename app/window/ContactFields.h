@@ -19,10 +19,11 @@ class ContactFields final : public QObject {
 
     /// Has the operator type the call sign anew.
     void goToCallsign();
-    /// Empties the field of the call sign, and goes to it. Each "~" that still waits is sent with
-    /// the call that it was meant for, of however many contacts.
+    /// Empties the field of the call sign, and goes to it. A "~" that still waits is sent as what
+    /// stands in the field by then.
     void wipeCallsign();
-    /// Goes on to the next contact: its number is one more, and the call sign is another one.
+    /// Goes on to the next contact: its number is one more, and the call sign is another one. Each
+    /// "~" that still waits is sent with the call that it was meant for, of however many contacts.
     void goToNextContact();
 
   protected:
@@ -34,7 +35,8 @@ class ContactFields final : public QObject {
     void handOverCallsign();
     void followSending();
     void followText();
-    void keepCallsign();
+    void emptyCallsign();
+    void keepCallsign(qsizetype end);
     [[nodiscard]] bool isThrough() const;
 
     WinKeyerUsb& _engine;

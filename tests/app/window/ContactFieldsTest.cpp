@@ -24,6 +24,8 @@ class ContactFieldsTest : public QObject, private MainWindowFixture {
     void theNextContactHasTheNextNumberAndNoCallYet();
     void aHeldKeyIsOneContact();
     void wipingLeavesTheNumber();
+    void aSignThatWaitsIsSentAsWhatIsTypedAfterAWipe();
+    void aCallThatIsBeingKeyedOutlastsAWipe();
     void aWheelThatTurnsOverTheNumberIsNotMeantForIt();
     void aCallThatWaitsIsSentFirst();
     void aCallTypedMeanwhileIsTheNextContacts();
@@ -37,6 +39,16 @@ class ContactFieldsTest : public QObject, private MainWindowFixture {
 
   private:
     [[nodiscard]] QLineEdit& field() { return *find<QLineEdit>(u"hisCallsignTextField"_s); }
+
+    /// The keyer echoes all that it is given.
+    [[nodiscard]] QByteArray everythingSent() {
+        QByteArray sent = QByteArray::fromHex(_bench->written());
+        for (int i = 0; i < 60; ++i) {
+            _bench->receive({'E'});
+            sent += QByteArray::fromHex(_bench->written());
+        }
+        return sent;
+    }
 
     WinKeyerUsb* _engine = nullptr;
 };
@@ -90,6 +102,25 @@ void ContactFieldsTest::wipingLeavesTheNumber() {
     QCOMPARE(_engine->hisCallsign(), u""_s);
     QVERIFY(field().hasFocus());
     QCOMPARE(_bench->written(), "");
+}
+
+/// A call that was wrong is corrected so, too, and by the other ways to correct it.
+void ContactFieldsTest::aSignThatWaitsIsSentAsWhatIsTypedAfterAWipe() {
+    _engine->appendMessage(u"e~ ~k"_s);
+    press(Qt::Key_W, Qt::AltModifier);
+    type(u"K1A"_s);
+    QCOMPARE(_engine->hisCallsign(), u"K1A"_s);
+    QCOMPARE(everythingSent(), "EK1A K1AK");
+}
+
+void ContactFieldsTest::aCallThatIsBeingKeyedOutlastsAWipe() {
+    _engine->appendMessage(u"~ ~k"_s);
+    _bench->receive({'W'});
+    press(Qt::Key_W, Qt::AltModifier);
+    type(u"K1AB"_s);
+    QCOMPARE(everythingSent(), "W9XYZ K1ABK");
+    QCOMPARE(_engine->hisCallsign(), u"K1AB"_s);
+    QCOMPARE(field().text(), u"K1AB"_s);
 }
 
 void ContactFieldsTest::aWheelThatTurnsOverTheNumberIsNotMeantForIt() {

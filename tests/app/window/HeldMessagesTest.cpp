@@ -28,6 +28,7 @@ class HeldMessagesTest : public QObject, private MainWindowFixture {
     void theNumberIsThatOfTheMomentOfThePress();
     void theCallOfAHeldMessageIsNotWipedBefore_data();
     void theCallOfAHeldMessageIsNotWipedBefore();
+    void aWipedCallIsTheOneThatIsTypedAnew();
     void typedTextIsHeldToo();
     void heldTextCanBeCorrected();
     void textAndMessagesKeepTheirOrder_data();
@@ -172,6 +173,21 @@ void HeldMessagesTest::theCallOfAHeldMessageIsNotWipedBefore() {
         sent += QByteArray::fromHex(_bench->written());
     }
     QCOMPARE(sent, "W9 K1A");
+}
+
+void HeldMessagesTest::aWipedCallIsTheOneThatIsTypedAnew() {
+    _bench->settings().setObject(u"~"_s, u"Message6"_s);
+    _bench->engine().setHisCallsign(u"W9"_s);
+    press(Qt::Key_F6);
+    press(Qt::Key_W, Qt::AltModifier);
+    type(u"K1A"_s);
+    _bench->receive({0xC0});
+    QByteArray sent = QByteArray::fromHex(_bench->written());
+    for (int i = 0; i < 6; ++i) {
+        _bench->receive({'E'});
+        sent += QByteArray::fromHex(_bench->written());
+    }
+    QCOMPARE(sent, "K1A");
 }
 
 void HeldMessagesTest::typedTextIsHeldToo() {
