@@ -39,6 +39,9 @@ void BoundNumber::follow(bool byTool) {
         show();
         return;
     }
+    if (!_isTyped) {
+        Q_EMIT aboutToChange(); // what was typed elsewhere came first
+    }
     _isTyped = true;
     describe();
     if (byTool) {

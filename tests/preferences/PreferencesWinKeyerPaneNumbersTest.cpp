@@ -7,6 +7,7 @@
 
 #include <QCheckBox>
 #include <QLabel>
+#include <QLineEdit>
 #include <QStyleOptionSpinBox>
 #include <QTabWidget>
 #include <QTest>
@@ -28,7 +29,9 @@ class PreferencesWinKeyerPaneNumbersTest : public QObject {
     void aNumberActsOnceItHasSettled();
     void aNumberThatHasNotSettledActsAtTheEnd();
     void aNumberThatIsHiddenActsAtTheEnd();
-    void twoNumbersActInTheOrderOfTheirChanges();
+    void aNumberActsAheadOfAChangeOfAnother();
+    void twoNumbersThatSettleTogetherActInTheOrderOfTheirChanges_data();
+    void twoNumbersThatSettleTogetherActInTheOrderOfTheirChanges();
     void commandsComeInTheOrderOfTheChanges();
     void heldKeysSendOneCommand();
     void arrowsWorkByMouse();
@@ -93,8 +96,7 @@ void PreferencesWinKeyerPaneNumbersTest::aNumberThatIsHiddenActsAtTheEnd() {
     QCOMPARE(_bench->written(), "03 33");
 }
 
-/// Each of the two commands of a pair of numbers tells both.
-void PreferencesWinKeyerPaneNumbersTest::twoNumbersActInTheOrderOfTheirChanges() {
+void PreferencesWinKeyerPaneNumbersTest::aNumberActsAheadOfAChangeOfAnother() {
     _operator->toggle(WKPTTEnable);
     static_cast<void>(_bench->written());
     auto& tail = _operator->control(WKPTTTailTime);
@@ -106,6 +108,43 @@ void PreferencesWinKeyerPaneNumbersTest::twoNumbersActInTheOrderOfTheirChanges()
     QTest::keyClick(&ratio, Qt::Key_Up);
     _bench->clock().advance(1s);
     QCOMPARE(_bench->written(), "04 00 0b 17 33");
+}
+
+void PreferencesWinKeyerPaneNumbersTest::
+    twoNumbersThatSettleTogetherActInTheOrderOfTheirChanges_data() {
+    QTest::addColumn<bool>("isWeightingFirst");
+    QTest::addColumn<bool>("isAtTheEnd");
+    QTest::addColumn<QByteArray>("commands");
+    const QByteArray weighting = "03 3c";
+    const QByteArray extension = "10 14";
+    QTest::newRow("one way, in time") << true << false << weighting + ' ' + extension;
+    QTest::newRow("the other way, in time") << false << false << extension + ' ' + weighting;
+    QTest::newRow("one way, at the end") << true << true << weighting + ' ' + extension;
+    QTest::newRow("the other way, at the end") << false << true << extension + ' ' + weighting;
+}
+
+/// As an assistive tool types them, which has no focus to move in between.
+void PreferencesWinKeyerPaneNumbersTest::twoNumbersThatSettleTogetherActInTheOrderOfTheirChanges() {
+    QFETCH(const bool, isWeightingFirst);
+    QFETCH(const bool, isAtTheEnd);
+    const auto type = [this](QLatin1StringView key, const QString& text) {
+        _operator->control(key).findChild<QLineEdit*>()->setText(text);
+    };
+    if (isWeightingFirst) {
+        type(WKWeighting, u"10 %"_s);
+    }
+    type(WKFirstExtension, u"20 ms"_s);
+    if (!isWeightingFirst) {
+        type(WKWeighting, u"10 %"_s);
+    }
+    if (isAtTheEnd) {
+        view().hide();
+    } else {
+        _bench->clock().advance(1s);
+    }
+    QCOMPARE(settings().integerForKey(WKWeighting), 10);
+    QCOMPARE(settings().doubleForKey(WKFirstExtension), 20.0);
+    QTEST(_bench->written(), "commands");
 }
 
 /// Else the late switchpoint would turn the memory on again.
