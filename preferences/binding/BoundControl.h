@@ -26,6 +26,7 @@ class BoundControl : public QObject {
 
     [[nodiscard]] QLatin1StringView key() const { return _setting.key; }
     [[nodiscard]] bool isDefault() const;
+    [[nodiscard]] bool isOf(const QWidget* widget) const { return &_widget == widget; }
     /// What the operator calls the setting.
     [[nodiscard]] QString label() const;
     /// What a button says that brings the default back.

@@ -42,10 +42,8 @@ ExplanationLine::ExplanationLine(QWidget* parent) : QLabel(parent) {
 }
 
 void ExplanationLine::follow(const SettingBinder& binder) {
-    connect(&binder, &SettingBinder::troubleChanged, this, [this, &binder] {
-        _trouble = binder.trouble();
-        tell();
-    });
+    _binder = &binder;
+    connect(&binder, &SettingBinder::troubleChanged, this, &ExplanationLine::tell);
 }
 
 QSize ExplanationLine::sizeHint() const {
@@ -111,7 +109,8 @@ bool ExplanationLine::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void ExplanationLine::tell() {
-    setText(_hovered             ? explanationOf(_hovered)
-            : _trouble.isEmpty() ? explanationOf(_focused)
-                                 : _trouble);
+    const auto* told = _hovered ? _hovered.get() : _focused.get();
+    QStringList words{_binder ? _binder->trouble(told) : QString(), explanationOf(told)};
+    words.removeAll(QString());
+    setText(words.join(u' '));
 }

@@ -15,8 +15,8 @@ class ExplanationLine final : public QLabel {
   public:
     explicit ExplanationLine(QWidget* parent = nullptr);
 
-    /// What is wrong in the view of `binder`, while something is, it tells in place of what the
-    /// focused control does.
+    /// What is wrong in the view of `binder`, while something is, it tells ahead of what the
+    /// control does; what is wrong with the control itself is part of that.
     void follow(const SettingBinder& binder);
 
     [[nodiscard]] QSize sizeHint() const override;
@@ -33,6 +33,6 @@ class ExplanationLine final : public QLabel {
 
     QPointer<QWidget> _focused;
     QPointer<QWidget> _hovered;
-    QString _trouble;
+    QPointer<const SettingBinder> _binder;
     bool _isWatching = false;
 };

@@ -144,10 +144,10 @@ void SettingBinder::settleOthers(const BoundControl& control) {
     }
 }
 
-QString SettingBinder::trouble() const {
+QString SettingBinder::trouble(const QWidget* besides) const {
     QStringList troubles;
     for (const auto& each : _controls) {
-        if (each && !each->trouble().isEmpty()) {
+        if (each && !each->isOf(besides) && !each->trouble().isEmpty()) {
             troubles.append(tr("%1: %2").arg(each->label(), each->trouble()));
         }
     }

@@ -52,8 +52,9 @@ class SettingBinder final : public QObject {
     void show();
     /// Calls the actions that wait for their values to settle.
     void settle();
-    /// What is wrong in the view, each control by its name; empty when nothing is.
-    [[nodiscard]] QString trouble() const;
+    /// What is wrong in the view, each control by its name, but for that of one widget; empty when
+    /// nothing is.
+    [[nodiscard]] QString trouble(const QWidget* besides = nullptr) const;
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 

@@ -39,6 +39,7 @@ class PreferencesWinKeyerPaneNumbersTest : public QObject {
     void aNumberOutOfRangeIsToldAndNothingElse_data();
     void aNumberOutOfRangeIsToldAndNothingElse();
     void aStoredValueOutOfRangeIsToldAndKept();
+    void whatIsWrongHidesNoExplanation();
 
   private:
     [[nodiscard]] QWidget& view() { return *_controller->view(); }
@@ -245,6 +246,22 @@ void PreferencesWinKeyerPaneNumbersTest::aStoredValueOutOfRangeIsToldAndKept() {
     QCOMPARE(settings().integerForKey(WKPTTLeadTime), 30);
     QCOMPARE(settings().stringForKey(WKHSCWSpeed), u"1999 lpm"_s);
     QCOMPARE(_bench->written(), "");
+}
+
+/// Whoever has no mouse reads the explanation there alone.
+void PreferencesWinKeyerPaneNumbersTest::whatIsWrongHidesNoExplanation() {
+    const auto* line = view().findChild<QLabel*>(u"explanation"_s);
+    _operator->enter(WKWeighting, u"99"_s);
+    const auto ofWeighting = line->text();
+    QVERIFY2(ofWeighting.startsWith(u"99 % is out of range"), qPrintable(ofWeighting));
+    QVERIFY2(ofWeighting.endsWith(u"default 0 %"), qPrintable(ofWeighting));
+    _operator->control(WKRatio).setFocus();
+    const auto ofRatio = line->text();
+    QVERIFY2(ofRatio.startsWith(u"Weighting: 99 % is out of range"), qPrintable(ofRatio));
+    QVERIFY2(ofRatio.endsWith(u"default 3 : 1"), qPrintable(ofRatio));
+    _operator->enter(WKWeighting, u"9"_s);
+    _operator->control(WKRatio).setFocus();
+    QVERIFY2(!line->text().contains(u"out of range"), qPrintable(line->text()));
 }
 
 static const RegisteredTest<PreferencesWinKeyerPaneNumbersTest> registered;
