@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <functional>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -47,6 +48,7 @@ class ChangeOfModuleTest : public QObject, private PreferencesWindowBench {
     void theWindowGrowsInSteps();
     void aWindowThatIsNotSeenChangesAtOnce();
     void aChangeWithinAChangeIsTheLast();
+    void aModuleThatChangesTheModuleIsFollowed_data();
     void aModuleThatChangesTheModuleIsFollowed();
     void aWindowClosedWhileItGrowsIsWhole();
     void quittingWhileTheWindowGrowsIsSafe();
@@ -148,17 +150,56 @@ void ChangeOfModuleTest::aChangeWithinAChangeIsTheLast() {
     QVERIFY(_three->view()->isVisible());
 }
 
+void ChangeOfModuleTest::aModuleThatChangesTheModuleIsFollowed_data() {
+    QTest::addColumn<bool>("isShown");
+    QTest::addColumn<bool>("isWithItsView");
+    QTest::addColumn<bool>("isBack");
+    for (const bool isShown : {false, true}) {
+        for (const bool isWithItsView : {false, true}) {
+            for (const bool isBack : {false, true}) {
+                QTest::addRow("%s window, %s, %s", isShown ? "a shown" : "a hidden",
+                              isWithItsView ? "with its view" : "before it is displayed",
+                              isBack ? "back" : "to another")
+                    << isShown << isWithItsView << isBack;
+            }
+        }
+    }
+}
+
+/// Title and view agree, and so do the item and what is remembered.
 void ChangeOfModuleTest::aModuleThatChangesTheModuleIsFollowed() {
+    QFETCH(const bool, isShown);
+    QFETCH(const bool, isWithItsView);
+    QFETCH(const bool, isBack);
     controller().setModules(list({_one, _two, _three}));
-    _two->setWhenDisplayed([this] { controller().changeToModule(_three); });
+    if (isShown) {
+        show(20);
+    }
+    const auto& last = isBack ? _one : _three;
+    auto isDone = false;
+    const auto change = [&] {
+        if (!std::exchange(isDone, true)) {
+            controller().changeToModule(last);
+        }
+    };
+    const Watcher view(*_two->view(), QEvent::ShowToParent, [&] {
+        if (isWithItsView) {
+            change();
+        }
+    });
+    if (!isWithItsView) {
+        _two->setWhenDisplayed(change);
+    }
     controller().changeToModule(_two);
-    QCOMPARE(controller().currentModule(), MBPreferencesController::Module(_three));
-    QCOMPARE(controller().window().windowTitle(), _three->title());
-    QCOMPARE(selectedItem(), u"three"_s);
-    QCOMPARE(remembered(), u"three"_s);
-    QVERIFY(controller().window().isAncestorOf(_three->view()));
-    QVERIFY(!controller().window().isAncestorOf(_two->view()));
-    QCOMPARE(contentSize(), _three->view()->size());
+    QVERIFY(isDone);
+    QCOMPARE(controller().currentModule(), MBPreferencesController::Module(last));
+    QCOMPARE(controller().window().windowTitle(), last->title());
+    QCOMPARE(selectedItem(), last->identifier());
+    QCOMPARE(remembered(), last->identifier());
+    for (const auto& each : {_one, _two, _three}) {
+        QCOMPARE(controller().window().isAncestorOf(each->view()), each == last);
+    }
+    QCOMPARE(contentSize(), last->view()->size());
 }
 
 void ChangeOfModuleTest::aWindowClosedWhileItGrowsIsWhole() {
