@@ -218,6 +218,10 @@ Die eigenen Optionen des Toolkits wie -platform und -style gelten auch. Die Anle
         <source>Step %1</source>
         <translation>Schritt %1</translation>
     </message>
+    <message>
+        <source>Plug the keyer in, and say Yes to its port. If it was plugged in before, choose its port. What you type until then is not sent, and is forgotten.</source>
+        <translation>Stecken Sie den Keyer ein, und sagen Sie Ja zu seinem Port. War er schon eingesteckt, wählen Sie seinen Port. Was Sie bis dahin tippen, wird nicht gesendet und ist vergessen.</translation>
+    </message>
 </context>
 <context>
     <name>Guide</name>

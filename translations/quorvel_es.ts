@@ -218,6 +218,10 @@ También valen las opciones de la biblioteca gráfica, como -platform y -style. 
         <source>Step %1</source>
         <translation>Paso %1</translation>
     </message>
+    <message>
+        <source>Plug the keyer in, and say Yes to its port. If it was plugged in before, choose its port. What you type until then is not sent, and is forgotten.</source>
+        <translation>Enchufe el manipulador y diga Sí a su puerto. Si ya estaba enchufado, elija su puerto. Lo que teclee hasta entonces no se transmite, y se olvida.</translation>
+    </message>
 </context>
 <context>
     <name>Guide</name>

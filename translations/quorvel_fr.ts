@@ -218,6 +218,10 @@ Les options de la bibliothèque graphique, comme -platform et -style, sont admis
         <source>Step %1</source>
         <translation>Étape %1</translation>
     </message>
+    <message>
+        <source>Plug the keyer in, and say Yes to its port. If it was plugged in before, choose its port. What you type until then is not sent, and is forgotten.</source>
+        <translation>Branchez le manipulateur, et dites Oui à son port. S’il était déjà branché, choisissez son port. Ce que vous tapez d’ici là n’est pas émis, et est oublié.</translation>
+    </message>
 </context>
 <context>
     <name>Guide</name>

@@ -218,6 +218,10 @@ Valgono anche le opzioni della libreria grafica, come -platform e -style. La gui
         <source>Step %1</source>
         <translation>Passo %1</translation>
     </message>
+    <message>
+        <source>Plug the keyer in, and say Yes to its port. If it was plugged in before, choose its port. What you type until then is not sent, and is forgotten.</source>
+        <translation>Collega il keyer, e di’ Sì alla sua porta. Se era già collegato, scegli la sua porta. Ciò che scrivi fino ad allora non viene trasmesso, ed è dimenticato.</translation>
+    </message>
 </context>
 <context>
     <name>Guide</name>

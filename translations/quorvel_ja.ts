@@ -218,6 +218,10 @@ WinKeyer USB キーヤーを通してモールス符号を送信します。
         <source>Step %1</source>
         <translation>手順 %1</translation>
     </message>
+    <message>
+        <source>Plug the keyer in, and say Yes to its port. If it was plugged in before, choose its port. What you type until then is not sent, and is forgotten.</source>
+        <translation>キーヤーを接続し、そのポートに「はい」と答えてください。すでに接続されていたら、そのポートを選んでください。それまでに入力したものは送信されず、忘れられます。</translation>
+    </message>
 </context>
 <context>
     <name>Guide</name>

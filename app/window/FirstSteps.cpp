@@ -130,8 +130,11 @@ void FirstSteps::setEngine(const WinKeyerUsb& engine) {
         const bool isConnected = engine.activity() != KeyerActivity::NotConnected;
         _keyerLabel->setText(
             isConnected ? tr("Connected to %1.").arg(engine.serialPortName())
-                        : tr("Plug the keyer in, and say Yes to its port. If it was plugged in "
-                             "before, choose its port."));
+            : engine.isAsleep()
+                ? tr("Plug the keyer in, and say Yes to its port. If it was plugged in before, "
+                     "choose its port.")
+                : tr("Plug the keyer in, and say Yes to its port. If it was plugged in before, "
+                     "choose its port. What you type until then is not sent, and is forgotten."));
         markStep(keyerStep, isConnected);
         // Its port would not be offered: there is one in use.
         _virtualKeyerButton->setEnabled(!isConnected);

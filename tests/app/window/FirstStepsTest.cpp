@@ -69,6 +69,8 @@ void FirstStepsTest::theyTakeNoFocus() {
 void FirstStepsTest::theyFollowTheKeyer() {
     start();
     QCOMPARE(mark(1), u"1."_s);
+    const auto* text = find<QLabel>(u"firstStepsKeyerLabel"_s);
+    QVERIFY(text->text().endsWith(u"What you type until then is not sent, and is forgotten."_s));
     QVERIFY(_bench->connect());
     QCOMPARE(mark(1), u"✓"_s);
     QCOMPARE(find<QLabel>(u"firstStepsKeyerLabel"_s)->text(), u"Connected to usbserial-WK1."_s);
