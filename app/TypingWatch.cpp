@@ -27,10 +27,22 @@ bool TypingWatch::eventFilter(QObject* watched, QEvent* event) {
     } else if (event->type() == QEvent::Show && watched->isWidgetType() && isTyping()) {
         auto& widget = *static_cast<QWidget*>(watched);
         if (widget.isModal() && widget.findChild<KeyShield*>() == nullptr) {
-            new KeyShield(widget);
+            shield(widget);
         }
     }
     return QObject::eventFilter(watched, event);
+}
+
+void TypingWatch::shield(QWidget& window) {
+    const auto* shield = new KeyShield(window);
+    const auto title = window.windowTitle();
+    const auto hint = tr("%1 – takes keys when you have stopped typing").arg(title);
+    window.setWindowTitle(hint);
+    connect(shield, &KeyShield::lifted, &window, [&window, title, hint] {
+        if (window.windowTitle() == hint) {
+            window.setWindowTitle(title);
+        }
+    });
 }
 
 bool TypingWatch::isTyping() const {

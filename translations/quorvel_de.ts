@@ -2661,6 +2661,13 @@ Die eigenen Optionen des Toolkits wie -platform und -style gelten auch. Die Anle
     </message>
 </context>
 <context>
+    <name>TypingWatch</name>
+    <message>
+        <source>%1 – takes keys when you have stopped typing</source>
+        <translation>%1 – nimmt Tasten an, wenn Sie nicht mehr tippen</translation>
+    </message>
+</context>
+<context>
     <name>VirtualKeyer</name>
     <message>
         <source>the system has no watches left; openings of the port are noticed late</source>

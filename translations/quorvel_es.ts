@@ -2661,6 +2661,13 @@ También valen las opciones de la biblioteca gráfica, como -platform y -style. 
     </message>
 </context>
 <context>
+    <name>TypingWatch</name>
+    <message>
+        <source>%1 – takes keys when you have stopped typing</source>
+        <translation>%1 – admite teclas cuando deje de teclear</translation>
+    </message>
+</context>
+<context>
     <name>VirtualKeyer</name>
     <message>
         <source>the system has no watches left; openings of the port are noticed late</source>

@@ -2661,6 +2661,13 @@ Les options de la bibliothèque graphique, comme -platform et -style, sont admis
     </message>
 </context>
 <context>
+    <name>TypingWatch</name>
+    <message>
+        <source>%1 – takes keys when you have stopped typing</source>
+        <translation>%1 – accepte les touches quand vous ne tapez plus</translation>
+    </message>
+</context>
+<context>
     <name>VirtualKeyer</name>
     <message>
         <source>the system has no watches left; openings of the port are noticed late</source>

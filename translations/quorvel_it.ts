@@ -2661,6 +2661,13 @@ Valgono anche le opzioni della libreria grafica, come -platform e -style. La gui
     </message>
 </context>
 <context>
+    <name>TypingWatch</name>
+    <message>
+        <source>%1 – takes keys when you have stopped typing</source>
+        <translation>%1 – accetta tasti quando non si scrive più</translation>
+    </message>
+</context>
+<context>
     <name>VirtualKeyer</name>
     <message>
         <source>the system has no watches left; openings of the port are noticed late</source>

@@ -2661,6 +2661,13 @@ WinKeyer USB キーヤーを通してモールス符号を送信します。
     </message>
 </context>
 <context>
+    <name>TypingWatch</name>
+    <message>
+        <source>%1 – takes keys when you have stopped typing</source>
+        <translation>%1 – 入力をやめるとキーを受け付けます</translation>
+    </message>
+</context>
+<context>
     <name>VirtualKeyer</name>
     <message>
         <source>the system has no watches left; openings of the port are noticed late</source>

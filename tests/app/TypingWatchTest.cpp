@@ -60,6 +60,7 @@ void TypingWatchTest::cleanup() {
 void TypingWatchTest::openDialog(bool isModal) {
     _dialog.emplace(&*_main);
     _dialog->setModal(isModal);
+    _dialog->setWindowTitle(u"Choice"_s);
     auto* layout = new QVBoxLayout(&*_dialog);
     auto* button = new QPushButton(u"Go"_s);
     layout->addWidget(button);
@@ -79,10 +80,12 @@ void TypingWatchTest::aModalWindowThatOpensWhileTypingTakesNoKey() {
     openDialog();
     pressSpace();
     QCOMPARE(_clicks, 0);
+    QCOMPARE(_dialog->windowTitle(), u"Choice – takes keys when you have stopped typing"_s);
     clock().advance(900ms);
     pressSpace();
     QCOMPARE(_clicks, 0);
     clock().advance(1s);
+    QCOMPARE(_dialog->windowTitle(), u"Choice"_s);
     pressSpace();
     QCOMPARE(_clicks, 1);
 }
@@ -91,6 +94,7 @@ void TypingWatchTest::oneThatOpensLaterTakesKeysAtOnce() {
     QTest::keyClick(_main->windowHandle(), Qt::Key_C);
     clock().advance(1s);
     openDialog();
+    QCOMPARE(_dialog->windowTitle(), u"Choice"_s);
     pressSpace();
     QCOMPARE(_clicks, 1);
 }
