@@ -97,10 +97,20 @@ class Accessible:
         assert number is not None, f"{self.name()} offers {actions}"
         assert Atspi.Action.do_action(self._element, number), f"{self.name()} does not react"
 
+    def extents(self):
+        """Left, top, width and height, on the screen."""
+        extents = Atspi.Component.get_extents(self._element, Atspi.CoordType.SCREEN)
+        return extents.x, extents.y, extents.width, extents.height
+
+    def extents_of(self, offset):
+        """The same of one character of its text."""
+        extents = Atspi.Text.get_character_extents(self._element, offset, Atspi.CoordType.SCREEN)
+        return extents.x, extents.y, extents.width, extents.height
+
     def centre(self):
         """On the screen."""
-        extents = Atspi.Component.get_extents(self._element, Atspi.CoordType.SCREEN)
-        return extents.x + extents.width // 2, extents.y + extents.height // 2
+        left, top, width, height = self.extents()
+        return left + width // 2, top + height // 2
 
     def size(self):
         """Width and height."""
