@@ -135,8 +135,8 @@ void QuorvelDelegate::serialPortAdded(const Notification& notification) {
              .informativeText = tr("Try to use this port to communicate with a WinKeyer?"),
              .defaultButton = tr("Yes"),
              .alternateButton = tr("No")});
-        // It may have gone while the question was up.
-        if (answer == AlertAnswer::Default && isPresent(*port)) {
+        // It may have gone while the question was up: that it is not available is then said.
+        if (answer == AlertAnswer::Default) {
             SettingsStore::standardUserDefaults().setObject(port->name(), WKPortName);
             changeSerialPort(this);
         }

@@ -108,9 +108,11 @@ bool WinKeyerUsb::determinePortName(QString* name, Error* error) {
 }
 
 bool WinKeyerUsb::determineSerialPortForName(const QString& name, Error* error) {
-    const auto& ports = ORSSerialPortManager::sharedSerialPortManager().availablePorts();
+    const auto& manager = ORSSerialPortManager::sharedSerialPortManager();
+    const auto& ports = manager.availablePorts();
     for (const auto& port : ports.value_or(ORSSerialPortManager::Ports())) {
-        if (port->name() == name) {
+        // One that has gone, of which nobody has told yet: its node may be another device's by now.
+        if (port->name() == name && manager.isPresent(*port)) {
             _winKeyerSerialPort = port;
             return true;
         }

@@ -46,8 +46,8 @@ class QuorvelDelegateTest : public QObject {
     void aPluggedPortIsListedBeforeItIsOffered();
     void everyPortOfOneMomentIsOffered();
     void aPortThatHasGoneIsNotOffered();
-    void yesToAPortThatHasGoneChangesNothing_data();
-    void yesToAPortThatHasGoneChangesNothing();
+    void yesToAPortThatHasGoneIsAnswered_data();
+    void yesToAPortThatHasGoneIsAnswered();
     void nothingIsOfferedWhileConnected();
     void onlyUsbSerialPortsAreOffered_data();
     void onlyUsbSerialPortsAreOffered();
@@ -350,21 +350,27 @@ void QuorvelDelegateTest::aPortThatHasGoneIsNotOffered() {
     QCOMPARE(alerts().first().messageText, u"The serial port usbserial-a has been plugged in."_s);
 }
 
-void QuorvelDelegateTest::yesToAPortThatHasGoneChangesNothing_data() {
+void QuorvelDelegateTest::yesToAPortThatHasGoneIsAnswered_data() {
     QTest::addColumn<bool>("isToldOf");
     QTest::newRow("the list knows") << true;
     QTest::newRow("nobody has told of it yet") << false;
 }
 
-void QuorvelDelegateTest::yesToAPortThatHasGoneChangesNothing() {
+/// A "Yes" was meant: that it does not work is said, rather than nothing. What is at the place of
+/// the port by now is not opened.
+void QuorvelDelegateTest::yesToAPortThatHasGoneIsAnswered() {
     QFETCH(const bool, isToldOf);
+    _bench->settings().setObject(u"None"_s, WKPortName);
     launch();
-    _bench->platform().devices().unplug(_bench->device());
-    _bench->platform().application().clear();
     auto& devices = _bench->platform().devices();
+    devices.unplug(_bench->device());
+    _bench->platform().application().clear();
+    bool isGone = false;
     _bench->platform().application().setWhileShown([&](const Alert&) {
+        if (std::exchange(isGone, true)) {
+            return;
+        }
         const auto device = ORSSerialPort::deviceFromBSDPath(_bench->line().path());
-        devices.holdAnnouncements();
         if (isToldOf) {
             devices.unplug(device);
         } else {
@@ -372,10 +378,12 @@ void QuorvelDelegateTest::yesToAPortThatHasGoneChangesNothing() {
         }
     });
     devices.plug(EngineBench::portName, _bench->line().path());
-    QCOMPARE(alerts().size(), 1);
-    QCOMPARE(chosenPort(), QString(EngineBench::portName));
+    QCOMPARE(alerts().size(), 2);
+    QCOMPARE(alerts().constLast().messageText,
+             u"The WinKeyer serial port usbserial-WK1 is not available."_s);
+    QCOMPARE(chosenPort(), u"None"_s);
     QVERIFY(!_bench->engine().isConnected());
-    devices.resumeAnnouncements();
+    QCOMPARE(_bench->written(), "");
 }
 
 void QuorvelDelegateTest::nothingIsOfferedWhileConnected() {
