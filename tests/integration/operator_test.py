@@ -77,6 +77,26 @@ class OperatorTest(ProgramTest):
         self.assertEqual(window.find("Serial number").text(), "2")
         self.terminate(keyer, quorvel)
 
+    def test_one_pass_over_a_pasted_call_for_each_edit(self):
+        keyer, quorvel, window = self.start_connected()
+        self.desktop.press("ctrl+j")
+        self.wait_for_title(quorvel, "Sent")
+        self.desktop.press("ctrl+f")
+        self.desktop.type("W9----X")
+        for keys in ("ctrl+a", "ctrl+c", "Escape"):
+            self.desktop.press(keys)
+        self.active_window(quorvel)
+        call = window.find("Their call")
+        self.desktop.press("ctrl+l")
+        self.desktop.press("ctrl+v")
+        quorvel.wait_for("what one pass leaves", lambda: call.text() == "W9--X")
+        # Which is no edit.
+        self.desktop.press("Return")
+        self.desktop.press("Left")
+        self.desktop.press("BackSpace")
+        quorvel.wait_for("what the next one leaves", lambda: call.text() == "W9X")
+        self.terminate(keyer, quorvel)
+
     def test_fields_take_texts_of_any_length(self):
         keyer, quorvel, window = self.start_connected()
         window.find("Their call").set_text("a" * VERY_LONG)
