@@ -1,6 +1,7 @@
 #include "virtualkeyer/CommandLine.h"
 
 #include "virtualkeyer/NamedProfiles.h"
+#include "virtualkeyer/pty/NamedTroubles.h"
 #include "virtualkeyer/pty/PortLink.h"
 #include "virtualkeyer/script/ScriptParser.h"
 
@@ -28,6 +29,29 @@ QString profileList() {
         list += u"\n%1: %2"_s.arg(
             qt(profile.name),
             QCoreApplication::translate("NamedProfile", std::string(profile.description).c_str()));
+    }
+    return list;
+}
+
+/// Behind the name of a trouble.
+QString numberOf(const NamedTrouble& trouble) {
+    switch (trouble.number) {
+    case TroubleNumber::Share:
+        return u":%1"_s.arg(CommandLine::tr("SHARE"));
+    case TroubleNumber::Seconds:
+        return u":%1"_s.arg(CommandLine::tr("SECONDS"));
+    default:
+        return {};
+    }
+}
+
+QString troubleList() {
+    QString list = CommandLine::tr("What is wrong with the line, or several such things, separated "
+                                   "by commas; a number may be left out:");
+    for (const NamedTrouble& trouble : namedTroubles()) {
+        list += u"\n%1%2: %3"_s.arg(
+            qt(trouble.name), numberOf(trouble),
+            QCoreApplication::translate("NamedTrouble", std::string(trouble.description).c_str()));
     }
     return list;
 }
@@ -65,6 +89,13 @@ struct Options {
     QCommandLineOption registers{u"registers"_s, registersHelp(), u"FILE"_s};
     QCommandLineOption speed{u"speed"_s, speedHelp(), u"WPM"_s, QString::number(Profile{}.potWpm)};
     QCommandLineOption profile{u"profile"_s, profileList(), u"NAMES"_s, u"default"_s};
+    QCommandLineOption trouble{u"trouble"_s, troubleList(), u"NAMES"_s,
+                               QString::fromUtf8(noTroubles.data())};
+    QCommandLineOption seed{
+        u"seed"_s,
+        CommandLine::tr("Has chance do the same to the line as it did with this number, 1 by "
+                        "default."),
+        u"NUMBER"_s, u"1"_s};
     QCommandLineOption paddle{
         u"paddle"_s,
         CommandLine::tr("Standard input works the paddle: \".\" and \"-\" each close a "
@@ -99,6 +130,22 @@ QString readScript(const QCommandLineParser& parser, const Options& options, Com
         return CommandLine::tr("Standard input is either the script or the paddle.");
     }
     return {};
+}
+
+/// What is wrong with the line's options; empty when nothing is.
+QString readTroubles(const QCommandLineParser& parser, const Options& options,
+                     CommandLine& result) {
+    const QString names = parser.value(options.trouble);
+    const auto troubles = troublesNamed(names.toStdString());
+    if (!troubles) {
+        return CommandLine::tr("'%1' is no trouble; --help lists them.").arg(names);
+    }
+    bool isNumber = false;
+    result.troubles = *troubles;
+    result.seed = parser.value(options.seed).toUInt(&isNumber);
+    return isNumber ? QString()
+                    : CommandLine::tr("'%1' is no seed: a whole number, not below 0.")
+                          .arg(parser.value(options.seed));
 }
 
 /// What is wrong with the values; empty when nothing is.
@@ -140,7 +187,8 @@ QString readValues(const QCommandLineParser& parser, const Options& options, Com
     result.profileNames = profileNames;
     result.profile = profileNamed(profileNames.toStdString()).value();
     result.profile.potWpm = speed;
-    return readScript(parser, options, result);
+    const QString wrongTrouble = readTroubles(parser, options, result);
+    return wrongTrouble.isEmpty() ? readScript(parser, options, result) : wrongTrouble;
 }
 
 } // namespace
@@ -154,8 +202,8 @@ CommandLine CommandLine::parse(const QStringList& arguments) {
     const QCommandLineOption help({u"h"_s, u"help"_s}, tr("Shows this text."));
     const QCommandLineOption version({u"v"_s, u"version"_s}, tr("Shows the version."));
     parser.addOptions({help, version, options.headless, options.transcript, options.registers,
-                       options.speed, options.profile, options.paddle, options.wav, options.script,
-                       options.fast, options.link});
+                       options.speed, options.profile, options.trouble, options.seed,
+                       options.paddle, options.wav, options.script, options.fast, options.link});
 
     CommandLine result;
     if (!parser.parse(arguments)) {

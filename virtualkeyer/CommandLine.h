@@ -1,10 +1,13 @@
 #pragma once
 
 #include "virtualkeyer/core/Profile.h"
+#include "virtualkeyer/pty/Troubles.h"
 
 #include <QCoreApplication>
 #include <QString>
 #include <QStringList>
+
+#include <cstdint>
 
 namespace virtualkeyer {
 
@@ -25,6 +28,9 @@ struct CommandLine {
     Profile profile;
     /// As NamedProfiles takes them.
     QString profileNames;
+    Troubles troubles;
+    /// Of what chance does to the line.
+    std::uint32_t seed = 1;
     QString linkName;
     /// Empty for no transcript.
     QString transcriptPath;

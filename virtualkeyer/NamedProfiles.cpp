@@ -67,10 +67,57 @@ constexpr std::array profiles{
                  QT_TRANSLATE_NOOP("NamedProfile",
                                    "is idle for the host until the paddle has keyed for 160 ms"),
                  [](Profile& profile) { profile.breakInDelay = 160ms; }},
+    NamedProfile{"echo-before-break-in",
+                 QT_TRANSLATE_NOOP("NamedProfile",
+                                   "echoes the letter that the paddle cut before the break-in"),
+                 [](Profile& profile) { profile.cutLetterEcho = CutLetterEcho::BeforeBreakIn; }},
+    NamedProfile{"kept-text",
+                 QT_TRANSLATE_NOOP("NamedProfile",
+                                   "keys what waited when the paddle has rested, unless the host "
+                                   "clears it"),
+                 [](Profile& profile) { profile.textAtBreakIn = TextAtBreakIn::Kept; }},
     NamedProfile{
         "repeat-after-pause",
         QT_TRANSLATE_NOOP("NamedProfile", "keys a letter once more that a pause came into"),
         [](Profile& profile) { profile.resumeAfterPause = ResumeAfterPause::RepeatsLetter; }},
+    NamedProfile{"speed-stays",
+                 QT_TRANSLATE_NOOP("NamedProfile",
+                                   "stays at the last speed when the host gives it back to the "
+                                   "knob"),
+                 [](Profile& profile) { profile.speedGivenBack = SpeedGivenBack::Nowhere; }},
+    NamedProfile{
+        "idle-knob",
+        QT_TRANSLATE_NOOP("NamedProfile", "reports the knob to a host, and does not obey it"),
+        [](Profile& profile) { profile.knobInHostMode = KnobInHostMode::Reported; }},
+    NamedProfile{
+        "bare-xoff",
+        QT_TRANSLATE_NOOP("NamedProfile", "asks for a pause by C1, without the bit for busy"),
+        [](Profile& profile) { profile.xoffStatus = XoffStatus::Bare; }},
+    NamedProfile{
+        "buttons-at-release",
+        QT_TRANSLATE_NOOP("NamedProfile", "reports a push-button when it is let go of, twice"),
+        [](Profile& profile) { profile.buttonReport = ButtonReport::AtRelease; }},
+    NamedProfile{"button-breaks-in",
+                 QT_TRANSLATE_NOOP("NamedProfile",
+                                   "takes a push-button in the midst of text for a break-in"),
+                 [](Profile& profile) { profile.buttonInText = ButtonInText::BreaksIn; }},
+    NamedProfile{"tune-yields",
+                 QT_TRANSLATE_NOOP("NamedProfile",
+                                   "ends a tune for the paddle, a letter or a message, without a "
+                                   "word"),
+                 [](Profile& profile) { profile.tuneEnd = TuneEnd::ByAnyKeying; }},
+    NamedProfile{
+        "no-tune-in-text",
+        QT_TRANSLATE_NOOP("NamedProfile", "swallows a tune that begins in the midst of text"),
+        [](Profile& profile) { profile.tuneInText = TuneInText::Swallowed; }},
+    NamedProfile{"slow-greeting",
+                 QT_TRANSLATE_NOOP("NamedProfile",
+                                   "says and does nothing for 0.44 s behind its version byte"),
+                 [](Profile& profile) { profile.silenceAfterOpen = 440ms; }},
+    NamedProfile{
+        "deaf-after-clear",
+        QT_TRANSLATE_NOOP("NamedProfile", "swallows text for 0.1 s after the buffer was cleared"),
+        [](Profile& profile) { profile.deafAfterClear = 100ms; }},
 };
 
 } // namespace

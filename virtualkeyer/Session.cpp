@@ -101,7 +101,7 @@ void Session::runKeyer(int stopDescriptor) {
     if (!_commandLine.isFast) {
         return runInRealTime(stopDescriptor);
     }
-    SerialKeyer keyer(_commandLine.profile, _listeners);
+    SerialKeyer keyer(_commandLine.profile, _listeners, _commandLine.troubles, _commandLine.seed);
     runFast(keyer, _operators);
 }
 
@@ -114,7 +114,7 @@ void Session::runInRealTime(int stopDescriptor) {
                      .toLocal8Bit()
                      .constData());
     }
-    SerialKeyer keyer(_commandLine.profile, _listeners);
+    SerialKeyer keyer(_commandLine.profile, _listeners, _commandLine.troubles, _commandLine.seed);
     KeyerLoop loop(keyer, port, _operators);
     tellWhere(port.path());
     loop.run(stopDescriptor);

@@ -38,8 +38,9 @@ QByteArray hex(std::span<const Station::Byte> bytes) {
 
 } // namespace
 
-Station::Station(const virtualkeyer::Profile& profile)
-    : _keyer(profile),
+Station::Station(const virtualkeyer::Profile& profile, const virtualkeyer::Troubles& troubles,
+                 std::uint32_t seed)
+    : _keyer(profile, {this}, troubles, seed),
       _nearEnd(::open(QFile::encodeName(_bench.line().path()).constData(),
                       O_WRONLY | O_NOCTTY | O_CLOEXEC)) {
     _bench.clock().setWhileNapping([this](Time duration) { nap(duration); });
@@ -81,6 +82,11 @@ void Station::setPot(int wpm) {
 
 void Station::setPushButtons(int mask) {
     _keyer.setPushButtons(static_cast<std::uint8_t>(mask), _now);
+    runLine();
+}
+
+void Station::setTroubles(const virtualkeyer::Troubles& troubles) {
+    _keyer.setTroubles(troubles, _now);
     runLine();
 }
 
@@ -144,8 +150,7 @@ void Station::serialPortWasRemovedFromSystem(ORSSerialPort& port) {
 
 /// When the keyer, or a byte on the line, is next due.
 std::optional<Station::Time> Station::nextOnTheLine() const {
-    return earlier(earlier(_keyer.nextEvent(), _decoder.nextEvent()),
-                   earlier(_toKeyer.nextCompletion(), _toEngine.nextCompletion()));
+    return earlier(_keyer.nextEvent(), _decoder.nextEvent());
 }
 
 std::optional<Station::Time> Station::nextEvent() {
@@ -174,17 +179,14 @@ void Station::moveTo(Time time) {
 /// Does all that is due by now.
 void Station::runLine() {
     takeFromEngine();
-    while (const auto byte = _toKeyer.take(_now)) {
-        _keyer.receive(byte->value, byte->completeAt);
-        takeKeyersEvents();
-    }
     _keyer.advance(_now);
-    takeKeyersEvents();
     _decoder.advance(_now);
     _keyed += _decoder.takeText();
-    while (const auto byte = _toEngine.take(_now)) {
-        _received.push_back({byte->completeAt, byte->value});
-        deliver(byte->value);
+    if (const auto arrived = _keyer.takeArrived(); !arrived.empty()) {
+        for (const auto byte : arrived) {
+            _received.push_back({_now, byte});
+        }
+        deliver(arrived);
         takeFromEngine();
     }
 }
@@ -205,34 +207,31 @@ void Station::takeFromEngine() {
             if (byte != endMark) {
                 const auto value = static_cast<std::uint8_t>(byte);
                 _written.push_back({_now, value});
-                _toKeyer.put(value, _now);
+                _keyer.send(value, _now);
             }
         }
     }
 }
 
-void Station::takeKeyersEvents() {
-    using namespace virtualkeyer;
-    for (const auto& event : _keyer.takeEvents()) {
-        if (const auto* byte = std::get_if<HostByte>(&event.what)) {
-            _toEngine.put(byte->value, event.at);
-        } else if (const auto* key = std::get_if<KeyLine>(&event.what)) {
-            _edges.push_back({event.at, key->isDown});
-            _decoder.setTiming(timingOf(_keyer.registers()));
-            _decoder.key(key->isDown, event.at);
-        }
+void Station::keyerDid(const virtualkeyer::Event& event, const virtualkeyer::Registers& registers) {
+    if (const auto* key = std::get_if<virtualkeyer::KeyLine>(&event.what)) {
+        _edges.push_back({event.at, key->isDown});
+        _decoder.setTiming(timingOf(registers));
+        _decoder.key(key->isDown, event.at);
     }
 }
 
-/// Hands a byte to the engine and lets it act on it, unless it sleeps.
-void Station::deliver(std::uint8_t byte) {
+/// Hands what has come at one time to the engine and lets it act on it, unless it sleeps.
+void Station::deliver(const std::vector<std::uint8_t>& bytes) {
     if (!port().isOpen()) {
         return;
     }
-    if (!_bench.line().write(QByteArray(1, static_cast<char>(byte)))) {
+    const QByteArray data(reinterpret_cast<const char*>(bytes.data()),
+                          static_cast<qsizetype>(bytes.size()));
+    if (!_bench.line().write(data)) {
         throw std::runtime_error("The line takes nothing.");
     }
-    ++_undelivered;
+    _undelivered += data.size();
     const QDeadlineTimer limit(patience);
     QTimer wakesAtTheLimit;
     wakesAtTheLimit.start(patience);

@@ -2,8 +2,7 @@
 
 #include "tests/keyer/EngineBench.h"
 #include "virtualkeyer/core/KeyLineDecoder.h"
-#include "virtualkeyer/core/Keyer.h"
-#include "virtualkeyer/pty/PacedLine.h"
+#include "virtualkeyer/pty/SerialKeyer.h"
 
 #include <QByteArray>
 #include <QString>
@@ -17,7 +16,7 @@
 /// says, and the engine answers within the moment.
 ///
 /// The station speaks for the port's delegate, to know when the engine has got a byte.
-class Station final : public ORSSerialPortDelegate {
+class Station : public ORSSerialPortDelegate, private virtualkeyer::KeyerListener {
   public:
     using Time = virtualkeyer::Time;
 
@@ -32,13 +31,16 @@ class Station final : public ORSSerialPortDelegate {
         bool isDown;
     };
 
-    explicit Station(const virtualkeyer::Profile& profile = {});
+    explicit Station(const virtualkeyer::Profile& profile = {},
+                     const virtualkeyer::Troubles& troubles = {}, std::uint32_t seed = 1);
     ~Station() override;
 
     [[nodiscard]] WinKeyerUsb& engine() { return _bench.engine(); }
     [[nodiscard]] ORSSerialPort& port() { return _bench.port(); }
     [[nodiscard]] SettingsStore& settings() { return _bench.settings(); }
-    [[nodiscard]] const virtualkeyer::Registers& registers() const { return _keyer.registers(); }
+    [[nodiscard]] const virtualkeyer::Registers& registers() const {
+        return _keyer.keyer().registers();
+    }
     [[nodiscard]] TestPlatform& platform() { return _bench.platform(); }
     [[nodiscard]] Time now() const { return _now; }
     /// How many timers of the engine's are still to fire.
@@ -62,6 +64,9 @@ class Station final : public ORSSerialPortDelegate {
     void setPot(int wpm);
     /// Bits 0, 1, 2 and 4.
     void setPushButtons(int mask);
+
+    /// These are the line's troubles from now on.
+    void setTroubles(const virtualkeyer::Troubles& troubles);
 
     /// Lets time pass.
     void pass(Time duration);
@@ -99,13 +104,12 @@ class Station final : public ORSSerialPortDelegate {
     void moveTo(Time time);
     void runLine();
     void takeFromEngine();
-    void takeKeyersEvents();
-    void deliver(std::uint8_t byte);
+    void keyerDid(const virtualkeyer::Event& event,
+                  const virtualkeyer::Registers& registers) override;
+    void deliver(const std::vector<std::uint8_t>& bytes);
 
     EngineBench _bench;
-    virtualkeyer::Keyer _keyer;
-    virtualkeyer::PacedLine _toKeyer{1200};
-    virtualkeyer::PacedLine _toEngine{1200};
+    virtualkeyer::SerialKeyer _keyer;
     virtualkeyer::KeyLineDecoder _decoder;
     int _nearEnd;
     Time _now{0};

@@ -18,7 +18,7 @@ struct Board {
     Profile profile;
     Registers registers;
     Outbox outbox;
-    Status status{outbox};
+    Status status{profile, outbox};
     Lines lines{registers, outbox};
     Ptt ptt{registers, outbox};
 };

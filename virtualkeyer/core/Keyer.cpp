@@ -24,6 +24,10 @@ void Keyer::portOpened(Time at) {
     _machine->portOpened(at);
 }
 
+void Keyer::reset(Time at) {
+    _machine->reset(at);
+}
+
 void Keyer::receive(std::uint8_t byte, Time at) {
     _machine->receive(byte, at);
 }

@@ -35,6 +35,10 @@ class Keyer {
     /// while, any other takes no notice.
     void portOpened(Time at);
 
+    /// The board starts anew by itself at `at`, as by a dip of its supply: it keys nothing, has no
+    /// host, and is deaf as a board with a boot loader is. The host is told nothing.
+    void reset(Time at);
+
     /// A byte from the host that is complete on the line at `at`.
     void receive(std::uint8_t byte, Time at);
 

@@ -34,9 +34,13 @@ void Keyer::Machine::playMessage(int number, Time at) {
 
 void Keyer::Machine::portOpened(Time at) {
     advance(at);
-    if (_board.profile.bootLoaderTime == Time{0}) {
-        return;
+    if (_board.profile.bootLoaderTime > Time{0}) {
+        reset(at);
     }
+}
+
+void Keyer::Machine::reset(Time at) {
+    advance(at);
     coldStart();
     _startup.restart(_now + _board.profile.bootLoaderTime, _now);
 }
@@ -70,6 +74,7 @@ void Keyer::Machine::touchPaddle() {
     const bool wasBreakingIn = _paddle.isBreakingIn();
     _paddle.setContacts(swaps ? dah : dit, swaps ? dit : dah, _now);
     if (!wasBreakingIn && _paddle.isBreakingIn()) {
+        yieldTune();
         _sender.yield(_now);
     }
     settle();
@@ -78,7 +83,13 @@ void Keyer::Machine::touchPaddle() {
 void Keyer::Machine::setPot(int wpm, Time at) {
     advance(at);
     const std::uint8_t before = _board.registers.potByte();
-    _board.registers.setPot(wpm);
+    const bool isReportedOnly =
+        _board.outbox.isOpen() && _board.profile.knobInHostMode == KnobInHostMode::Reported;
+    if (isReportedOnly) {
+        _board.registers.setPotUnheeded(wpm);
+    } else {
+        _board.registers.setPot(wpm);
+    }
     if (const std::uint8_t after = _board.registers.potByte(); after != before) {
         _board.outbox.tell(after, _now);
     }
@@ -86,7 +97,21 @@ void Keyer::Machine::setPot(int wpm, Time at) {
 
 void Keyer::Machine::setPushButtons(std::uint8_t mask, Time at) {
     advance(at);
-    _board.status.setPushButtons(mask, _now);
+    const bool breaksIn = mask != 0 && _board.status.has(Status::Sending) &&
+                          _board.profile.buttonInText == ButtonInText::BreaksIn;
+    if (breaksIn) {
+        breakInByButton();
+    } else {
+        _board.status.setPushButtons(mask, _now);
+    }
+    settle();
+}
+
+/// It is over at once, so that what the host sends next is keyed.
+void Keyer::Machine::breakInByButton() {
+    _board.status.change(Status::BreakIn, 0, _now);
+    _board.status.forget(Status::BreakIn);
+    _sender.clear(_now);
 }
 
 void Keyer::Machine::advance(Time until) {
@@ -129,12 +154,15 @@ void Keyer::Machine::runNext(Time now) {
 
 void Keyer::Machine::settle() {
     if (_paddle.awaitsKey() && !_sender.isHandingOver()) {
+        if (_board.profile.cutLetterEcho == CutLetterEcho::BeforeBreakIn) {
+            _sender.echoCutLetter(_now);
+        }
         _paddle.takeKey(_now);
     }
     if (_paddle.hasKeyed()) {
         _sender.echoCutLetter(_now);
     }
-    _sender.setBlocked(_tune.isOn(), _now);
+    _sender.setBlocked(_tune.isOn() || (keepsText() && _paddle.isBreakingIn()), _now);
     if (!_tune.isOn()) {
         _tune.reportEnd(_now);
     }
@@ -152,9 +180,19 @@ void Keyer::Machine::obey(const Command& command) {
     }
 }
 
+bool Keyer::Machine::keepsText() const {
+    return _board.profile.textAtBreakIn == TextAtBreakIn::Kept;
+}
+
 void Keyer::Machine::enqueue(const Command& command) {
-    if (_paddle.isBreakingIn()) {
+    const bool isText = command.kind == CommandKind::Text;
+    const bool isSwallowed =
+        isText && _clearedAt && _now < *_clearedAt + _board.profile.deafAfterClear;
+    if (isSwallowed || (_paddle.isBreakingIn() && !keepsText())) {
         return;
+    }
+    if (isText) {
+        yieldTune();
     }
     std::vector<std::uint8_t> bytes{command.code};
     bytes.insert(bytes.end(), command.parameters.begin(), command.parameters.end());

@@ -20,6 +20,7 @@ class Keyer::Machine {
     void setProfile(const Profile& profile, Time at);
     void playMessage(int number, Time at);
     void portOpened(Time at);
+    void reset(Time at);
     void receive(std::uint8_t byte, Time at);
     void setPaddle(bool dit, bool dah, Time at);
     void setPot(int wpm, Time at);
@@ -48,10 +49,14 @@ class Keyer::Machine {
     void setBaud(int baud);
     void loadMemory(const std::vector<std::uint8_t>& bytes);
     void set(Register which, std::uint8_t value);
+    void setSpeed(std::uint8_t wpm);
     void registersChanged();
     void keyImmediate(bool isDown);
     void clear();
     void touchPaddle();
+    void yieldTune();
+    [[nodiscard]] bool keepsText() const;
+    void breakInByButton();
     void play(int number);
 
     Board _board;
@@ -66,6 +71,7 @@ class Keyer::Machine {
     bool _dit = false;
     bool _dah = false;
     std::uint8_t _softwarePaddle = 0;
+    std::optional<Time> _clearedAt;
 };
 
 } // namespace virtualkeyer

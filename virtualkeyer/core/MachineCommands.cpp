@@ -55,7 +55,7 @@ void Keyer::Machine::obeyImmediate(const Command& command) {
     case Opcode::Sidetone:
         return set(Register::Sidetone, parameters[0]);
     case Opcode::Speed:
-        return set(Register::Speed, parameters[0]);
+        return setSpeed(parameters[0]);
     case Opcode::Weighting:
         return set(Register::Weighting, parameters[0]);
     case Opcode::PttTimes:
@@ -123,6 +123,9 @@ void Keyer::Machine::open() {
     if (_board.profile.reportsStatusAfterOpen) {
         _board.status.report(_now);
     }
+    if (_board.profile.silenceAfterOpen > Time{0}) {
+        _startup.hold(_now + _board.profile.silenceAfterOpen);
+    }
 }
 
 void Keyer::Machine::close() {
@@ -164,6 +167,7 @@ void Keyer::Machine::loadMemory(const std::vector<std::uint8_t>& bytes) {
 
 void Keyer::Machine::play(int number) {
     if (!_paddle.isBreakingIn()) {
+        yieldTune();
         _sender.play(_memory.message(number), _now);
     }
 }
@@ -180,15 +184,32 @@ void Keyer::Machine::registersChanged() {
     touchPaddle();
 }
 
+void Keyer::Machine::setSpeed(std::uint8_t wpm) {
+    if (wpm != 0 || _board.profile.speedGivenBack == SpeedGivenBack::ToKnob) {
+        set(Register::Speed, wpm);
+    }
+}
+
 void Keyer::Machine::keyImmediate(bool isDown) {
-    if (isDown) {
+    const bool isSwallowed =
+        _board.status.has(Status::Sending) && _board.profile.tuneInText == TuneInText::Swallowed;
+    if (isDown && !isSwallowed) {
         _tune.start(_now);
     } else {
         _tune.release(_now);
     }
 }
 
+/// Something else wants the key.
+void Keyer::Machine::yieldTune() {
+    if (_tune.isOn() && _board.profile.tuneEnd == TuneEnd::ByAnyKeying) {
+        _tune.release(_now);
+        _board.status.forget(Status::Tuning | Status::TuneKeyed);
+    }
+}
+
 void Keyer::Machine::clear() {
+    _clearedAt = _now;
     _tune.release(_now);
     _sender.clear(_now);
     _tune.reportEnd(_now);

@@ -50,8 +50,53 @@ enum class BreakInReport {
     Single, ///< C2 once, then C6; C0 at the end
 };
 
+/// What becomes of the text that waits, and of what arrives, while the paddle keys.
+enum class TextAtBreakIn {
+    Dropped,
+    Kept, ///< keyed when the paddle has rested, unless the host clears it
+};
+
+/// When the letter is echoed that the paddle has cut short.
+enum class CutLetterEcho { AfterBreakIn, BeforeBreakIn };
+
 /// What a resume does with a letter in which the pause came.
 enum class ResumeAfterPause { GoesOn, RepeatsLetter };
+
+/// What the command does that gives the speed back to the knob.
+enum class SpeedGivenBack { ToKnob, Nowhere };
+
+/// What turning the knob does while a host has opened the keyer.
+enum class KnobInHostMode {
+    Obeyed,
+    Reported, ///< the speed stays what it was when the host opened the keyer
+};
+
+/// The status byte while the buffer is nearly full.
+enum class XoffStatus {
+    WithBusy, ///< C5 while text is being keyed
+    Bare,     ///< C1 then, too
+};
+
+/// When the push-buttons are reported.
+enum class ButtonReport {
+    AsTheyMove,
+    AtRelease, ///< all that were pressed, and at once that none is
+};
+
+/// What a push-button does while text is being keyed.
+enum class ButtonInText {
+    Reports,
+    BreaksIn, ///< the text is dropped as by the paddle, and the button not reported
+};
+
+/// What else ends a tune than its own command and a clear.
+enum class TuneEnd {
+    ByCommand,
+    ByAnyKeying, ///< the paddle, a letter or a stored message, and the host is told nothing of it
+};
+
+/// What becomes of a tune that begins while text is being keyed.
+enum class TuneInText { Keyed, Swallowed };
 
 /// Where keyers differ: one choice each. The defaults describe a version 2 keyer.
 struct Profile {
@@ -84,7 +129,21 @@ struct Profile {
     /// How long the paddle has keyed before the host is told; till then it takes the keyer for
     /// idle. Boards that are late are so by 20 to 160 ms.
     Time breakInDelay{0};
+    TextAtBreakIn textAtBreakIn = TextAtBreakIn::Dropped;
+    CutLetterEcho cutLetterEcho = CutLetterEcho::AfterBreakIn;
     ResumeAfterPause resumeAfterPause = ResumeAfterPause::GoesOn;
+    SpeedGivenBack speedGivenBack = SpeedGivenBack::ToKnob;
+    KnobInHostMode knobInHostMode = KnobInHostMode::Obeyed;
+    XoffStatus xoffStatus = XoffStatus::WithBusy;
+    ButtonReport buttonReport = ButtonReport::AsTheyMove;
+    ButtonInText buttonInText = ButtonInText::Reports;
+    TuneEnd tuneEnd = TuneEnd::ByCommand;
+    TuneInText tuneInText = TuneInText::Keyed;
+    /// How long the keyer says and does nothing behind its version byte; it keeps what comes
+    /// meanwhile. 440 ms is usual where it does.
+    Time silenceAfterOpen{0};
+    /// How long text is swallowed after a clear.
+    Time deafAfterClear{0};
     /// The longest time that the tune command holds the key; nothing for no limit.
     std::optional<Time> tuneLimit;
 };

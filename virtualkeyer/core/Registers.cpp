@@ -75,8 +75,12 @@ std::array<std::uint8_t, Registers::blockSize> Registers::block() const {
 }
 
 int Registers::potWpm() const {
+    return withinPotRange(_potWpm);
+}
+
+int Registers::withinPotRange(int wpm) const {
     const int minimum = value(Register::PotMinimum);
-    return std::clamp(_potWpm, minimum, minimum + value(Register::PotRange));
+    return std::clamp(wpm, minimum, minimum + value(Register::PotRange));
 }
 
 std::uint8_t Registers::potByte() const {
@@ -115,7 +119,7 @@ int Registers::wpm() const {
         return _highSpeed;
     }
     const int speed = value(Register::Speed);
-    return speed != 0 ? speed : potWpm();
+    return speed != 0 ? speed : withinPotRange(_obeyedPotWpm);
 }
 
 PaddleMode Registers::paddleMode() const {

@@ -42,7 +42,7 @@ class Registers {
     /// What a keyer fresh from the factory holds.
     static constexpr Values factoryValues{0x00, 0, 0x05, 50, 0, 0, 10, 15, 0, 0, 0, 50, 50, 0x07};
 
-    explicit Registers(int potWpm = 20) : _potWpm(potWpm) {}
+    explicit Registers(int potWpm = 20) : _potWpm(potWpm), _obeyedPotWpm(potWpm) {}
 
     bool operator==(const Registers&) const = default;
 
@@ -58,7 +58,9 @@ class Registers {
     [[nodiscard]] std::array<std::uint8_t, blockSize> block() const;
 
     /// The pot stands at `wpm`; it counts within the minimum and range that the host has set.
-    void setPot(int wpm) { _potWpm = wpm; }
+    void setPot(int wpm) { _potWpm = _obeyedPotWpm = wpm; }
+    /// The pot stands at `wpm`, and the speed does not follow it before restoreFactory().
+    void setPotUnheeded(int wpm) { _potWpm = wpm; }
     [[nodiscard]] int potWpm() const;
     /// The pot's byte to the host.
     [[nodiscard]] std::uint8_t potByte() const;
@@ -98,9 +100,11 @@ class Registers {
   private:
     [[nodiscard]] bool modeBit(unsigned bit) const;
     [[nodiscard]] bool pinBit(unsigned bit) const;
+    [[nodiscard]] int withinPotRange(int wpm) const;
 
     Values _values = factoryValues;
     int _potWpm;
+    int _obeyedPotWpm;
     int _highSpeed = 0;
     int _temporarySpeed = 0;
 };

@@ -103,8 +103,12 @@ void Sender::stop(Time now) {
 }
 
 void Sender::yield(Time now) {
-    forgetQueue(now);
-    _board.status.change(0, Status::BufferFull, now);
+    if (_board.profile.textAtBreakIn == TextAtBreakIn::Dropped) {
+        forgetQueue(now);
+        _board.status.change(0, Status::BufferFull, now);
+    }
+    _merged.reset();
+    _timedKey.reset();
     if (isKeyingLetter()) {
         _letter.elements.resize(_element + 1);
         _handsOver = true;
@@ -190,13 +194,16 @@ void Sender::wake(Time now) {
     } else if (_phase == Phase::Held) {
         fetch(now);
     } else if (_phase == Phase::Idle && hasMore()) {
-        enter(Phase::Starting, now + startDelay);
+        enter(Phase::Starting, std::max(now + startDelay, _nextLetterAt));
     }
 }
 
 /// The key has gone up after something that was no letter, and text that was cut there keeps its
 /// distance from it.
 void Sender::keepLetterSpace(Time now) {
+    if (_phase == Phase::Idle) {
+        return;
+    }
     const Timing timing = timingOf(_board.registers);
     _nextLetterAt = now + timing.gap + timing.restOfLetter;
     if (_phase == Phase::LetterSpace || _phase == Phase::Space) {

@@ -8,7 +8,7 @@ void Startup::restart(Time deafUntil, Time now) {
     _board.lines.beep(false, now);
     _deafUntil = deafUntil;
     _hasBeeped = false;
-    _beepEnd.reset();
+    _heldUntil.reset();
     _held.clear();
 }
 
@@ -18,10 +18,10 @@ bool Startup::admits(std::uint8_t byte, Time now) {
     }
     if (!_hasBeeped && _board.profile.firstCommandBeep > Time{0}) {
         _hasBeeped = true;
-        _beepEnd = now + _board.profile.firstCommandBeep;
+        _heldUntil = now + _board.profile.firstCommandBeep;
         _board.lines.beep(true, now);
     }
-    if (!_beepEnd) {
+    if (!_heldUntil) {
         return true;
     }
     _held.push_back(byte);
@@ -29,7 +29,7 @@ bool Startup::admits(std::uint8_t byte, Time now) {
 }
 
 std::vector<std::uint8_t> Startup::takeHeld(Time now) {
-    _beepEnd.reset();
+    _heldUntil.reset();
     _board.lines.beep(false, now);
     return std::exchange(_held, {});
 }

@@ -19,15 +19,18 @@ class Startup {
     /// Whether `byte` goes on to the keyer now; otherwise it is lost or kept for takeHeld().
     [[nodiscard]] bool admits(std::uint8_t byte, Time now);
 
-    [[nodiscard]] std::optional<Time> due() const { return _beepEnd; }
-    /// Ends the beep; the bytes that came during it.
+    /// Keeps what comes before `until`.
+    void hold(Time until) { _heldUntil = until; }
+
+    [[nodiscard]] std::optional<Time> due() const { return _heldUntil; }
+    /// Ends the beep or the silence; the bytes that came during it.
     [[nodiscard]] std::vector<std::uint8_t> takeHeld(Time now);
 
   private:
     Board& _board;
     Time _deafUntil{0};
     bool _hasBeeped = false;
-    std::optional<Time> _beepEnd;
+    std::optional<Time> _heldUntil;
     std::vector<std::uint8_t> _held;
 };
 

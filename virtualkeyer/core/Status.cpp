@@ -1,5 +1,7 @@
 #include "virtualkeyer/core/Status.h"
 
+#include <utility>
+
 namespace virtualkeyer {
 
 namespace {
@@ -29,7 +31,7 @@ void Status::report(Time at) {
 
 void Status::selectVersion2(Time at) {
     _isVersion2 = true;
-    _outbox.tell(static_cast<std::uint8_t>(buttonByte | _buttons), at);
+    tellButtons(_buttons, at);
 }
 
 void Status::setPushButtons(std::uint8_t mask, Time at) {
@@ -38,8 +40,19 @@ void Status::setPushButtons(std::uint8_t mask, Time at) {
         return;
     }
     _buttons = buttons;
+    if (_profile.buttonReport == ButtonReport::AsTheyMove) {
+        return tellButtons(_buttons, at);
+    }
+    _pressed |= _buttons;
+    if (_buttons == 0) {
+        tellButtons(std::exchange(_pressed, 0), at);
+        tellButtons(0, at);
+    }
+}
+
+void Status::tellButtons(unsigned buttons, Time at) {
     if (_isVersion2) {
-        _outbox.tell(static_cast<std::uint8_t>(buttonByte | _buttons), at);
+        _outbox.tell(static_cast<std::uint8_t>(buttonByte | buttons), at);
     }
 }
 
@@ -51,7 +64,9 @@ std::uint8_t Status::byte() const {
     if (has(BreakIn)) {
         bits |= breakInBit;
     }
-    if (has(Sending) || has(TuneKeyed) || has(PaddleKeyed)) {
+    const bool isBusy = has(Sending) || has(TuneKeyed) || has(PaddleKeyed);
+    const bool hidesBusy = has(BufferFull) && _profile.xoffStatus == XoffStatus::Bare;
+    if (isBusy && !hidesBusy) {
         bits |= busyBit;
     }
     if (has(Waiting) || has(Tuning)) {

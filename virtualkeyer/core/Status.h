@@ -1,6 +1,7 @@
 #pragma once
 
 #include "virtualkeyer/core/Outbox.h"
+#include "virtualkeyer/core/Profile.h"
 
 #include <cstdint>
 
@@ -20,10 +21,12 @@ class Status {
         PaddleKeyed = 0x40,
     };
 
-    explicit Status(Outbox& outbox) : _outbox(outbox) {}
+    Status(const Profile& profile, Outbox& outbox) : _profile(profile), _outbox(outbox) {}
 
     /// Drops and adds reasons in one step, so the host sees one byte at most.
     void change(unsigned added, unsigned dropped, Time at);
+    /// Drops reasons, and tells the host nothing of it.
+    void forget(unsigned dropped) { _reasons &= ~dropped; }
     [[nodiscard]] bool has(Reason reason) const { return (_reasons & reason) != 0; }
 
     /// Sends the status byte although nothing has changed.
@@ -39,10 +42,14 @@ class Status {
     [[nodiscard]] std::uint8_t byte() const;
 
   private:
+    void tellButtons(unsigned buttons, Time at);
+
+    const Profile& _profile;
     Outbox& _outbox;
     unsigned _reasons = 0;
     bool _isVersion2 = false;
     std::uint8_t _buttons = 0;
+    unsigned _pressed = 0; // and not reported yet
 };
 
 } // namespace virtualkeyer

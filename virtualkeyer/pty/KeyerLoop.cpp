@@ -98,10 +98,12 @@ void KeyerLoop::letOperatorsWork() {
 }
 
 void KeyerLoop::followPlug() {
+    // One that is there again is another terminal all the same.
+    if (_keyer.takeHangUp()) {
+        _port.pull();
+    }
     if (_keyer.isPluggedIn()) {
         _port.plugIn();
-    } else {
-        _port.pull();
     }
 }
 
@@ -123,11 +125,11 @@ void KeyerLoop::receiveFromHost() {
 
 void KeyerLoop::advance() {
     _keyer.advance(now());
-    for (const std::uint8_t byte : _keyer.takeArrived()) {
-        if (_port.isPluggedIn()) {
-            _port.terminal().write(byte);
-        }
+    const auto arrived = _keyer.takeArrived();
+    if (_port.isPluggedIn() && !arrived.empty()) {
+        _port.terminal().write(arrived);
     }
+    followPlug();
 }
 
 } // namespace virtualkeyer

@@ -32,6 +32,9 @@ class PacedLine {
     /// Bytes that start at or after `at` go at `baud`; the byte under way keeps its rate.
     void setBaud(int baud, Time at);
 
+    /// What was handed over and is not taken is lost.
+    void clear() { _waiting.clear(); }
+
     /// Takes the oldest byte if it is complete at `until`.
     [[nodiscard]] std::optional<PacedByte> take(Time until);
 

@@ -91,8 +91,8 @@ std::size_t PseudoTerminal::read(std::span<std::uint8_t> buffer) {
     return 0;
 }
 
-void PseudoTerminal::write(std::uint8_t byte) {
-    if (::write(_master.number(), &byte, 1) < 0 && errno != EAGAIN) {
+void PseudoTerminal::write(std::span<const std::uint8_t> bytes) {
+    if (::write(_master.number(), bytes.data(), bytes.size()) < 0 && errno != EAGAIN) {
         throwSystemFailure("cannot write to the host");
     }
 }

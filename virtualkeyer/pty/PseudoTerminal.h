@@ -42,8 +42,9 @@ class PseudoTerminal {
     /// Reads what the host has sent, up to the size of `buffer`; the bytes read, 0 for none yet.
     [[nodiscard]] std::size_t read(std::span<std::uint8_t> buffer);
 
-    /// Sends one byte to the host. It is lost when the host has left a full buffer unread.
-    void write(std::uint8_t byte);
+    /// Sends bytes to the host, which gets them in one read if it can. What finds no room because
+    /// the host has left a full buffer unread is lost.
+    void write(std::span<const std::uint8_t> bytes);
 
   private:
     void holdSlave();

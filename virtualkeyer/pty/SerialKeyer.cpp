@@ -1,11 +1,26 @@
 #include "virtualkeyer/pty/SerialKeyer.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace virtualkeyer {
 
-SerialKeyer::SerialKeyer(const Profile& profile, std::vector<KeyerListener*> listeners)
-    : _keyer(profile), _listeners(std::move(listeners)) {
+namespace {
+
+/// The earlier of the two, if there is any.
+std::optional<Time> earlier(std::optional<Time> a, std::optional<Time> b) {
+    return a && b ? std::min(*a, *b) : a ? a : b;
+}
+
+} // namespace
+
+SerialKeyer::SerialKeyer(const Profile& profile, std::vector<KeyerListener*> listeners,
+                         const Troubles& troubles, std::uint32_t seed)
+    : _keyer(profile),
+      _listeners(std::move(listeners)),
+      _troubles(troubles),
+      _arrivingAtKeyer(TroubledLine::Direction::ToKeyer, seed),
+      _arrivingAtHost(TroubledLine::Direction::ToHost, seed + 1) {
     handOn();
 }
 
@@ -19,6 +34,22 @@ void SerialKeyer::portOpened(Time at) {
     advance(at);
     _keyer.portOpened(at);
     handOn();
+    plan(at);
+}
+
+void SerialKeyer::setTroubles(const Troubles& troubles, Time at) {
+    advance(at);
+    _troubles = troubles;
+    plan(at);
+}
+
+/// What happens a while from now.
+void SerialKeyer::plan(Time from) {
+    const auto planned = [from](std::optional<Time> after) {
+        return after ? std::optional{from + *after} : std::nullopt;
+    };
+    _resetAt = planned(_troubles.reset);
+    _hangUpAt = planned(_troubles.hangUp);
 }
 
 void SerialKeyer::setPaddle(bool dit, bool dah, Time at) {
@@ -64,9 +95,24 @@ void SerialKeyer::pull(Time at) {
     _isPluggedIn = false;
     _keyer.restart(at);
     handOn();
+    hangUp(at);
+    _arrived.clear();
     _fromHost = PacedLine(initialBaud);
     _toHost = PacedLine(initialBaud);
-    _arrived.clear();
+}
+
+/// What has arrived before stays arrived.
+void SerialKeyer::hangUp(Time at) {
+    _keyer.advance(at);
+    handOn();
+    collect(at);
+    _fromHost.clear();
+    _toHost.clear();
+    _arrivingAtKeyer.clear();
+    _arrivingAtHost.clear();
+    _resetAt.reset();
+    _hangUpAt.reset();
+    _isHungUp = true;
 }
 
 void SerialKeyer::plugIn(Time at) {
@@ -78,18 +124,45 @@ void SerialKeyer::plugIn(Time at) {
 }
 
 void SerialKeyer::advance(Time until) {
-    while (const auto byte = _fromHost.take(until)) {
-        _keyer.receive(byte->value, byte->completeAt);
-        // At once, because a new line speed holds from the next byte on.
-        handOn();
+    for (auto next = nextIncident(); next && *next <= until; next = nextIncident()) {
+        runIncident(*next);
     }
     _keyer.advance(until);
     handOn();
-    while (const auto byte = _toHost.take(until)) {
-        _arrived.push_back(byte->value);
-    }
+    collect(until);
     for (KeyerListener* listener : _listeners) {
         listener->timePassed(until);
+    }
+}
+
+/// What happens to the keyer next, not by its own doing.
+std::optional<Time> SerialKeyer::nextIncident() const {
+    return earlier(earlier(_fromHost.nextCompletion(), _arrivingAtKeyer.nextArrival()),
+                   earlier(_resetAt, _hangUpAt));
+}
+
+void SerialKeyer::runIncident(Time at) {
+    if (const auto byte = _arrivingAtKeyer.take(at)) {
+        _keyer.receive(byte->value, byte->completeAt);
+        // At once, because a new line speed holds from the next byte on.
+        handOn();
+    } else if (const auto complete = _fromHost.take(at)) {
+        _arrivingAtKeyer.put(*complete, _troubles);
+    } else if (_resetAt && *_resetAt <= at) {
+        _resetAt.reset();
+        _keyer.reset(at);
+        handOn();
+    } else {
+        hangUp(at);
+    }
+}
+
+void SerialKeyer::collect(Time until) {
+    while (const auto byte = _toHost.take(until)) {
+        _arrivingAtHost.put(*byte, _troubles);
+    }
+    while (const auto byte = _arrivingAtHost.take(until)) {
+        _arrived.push_back(byte->value);
     }
 }
 
@@ -98,17 +171,10 @@ std::vector<std::uint8_t> SerialKeyer::takeArrived() {
 }
 
 std::optional<Time> SerialKeyer::nextEvent() const {
-    std::optional<Time> next;
-    const auto consider = [&next](std::optional<Time> due) {
-        if (due && (!next || *due < *next)) {
-            next = due;
-        }
-    };
-    consider(_keyer.nextEvent());
-    consider(_fromHost.nextCompletion());
-    consider(_toHost.nextCompletion());
+    auto next = earlier(earlier(_keyer.nextEvent(), nextIncident()),
+                        earlier(_toHost.nextCompletion(), _arrivingAtHost.nextArrival()));
     for (const KeyerListener* listener : _listeners) {
-        consider(listener->nextWish());
+        next = earlier(next, listener->nextWish());
     }
     return next;
 }

@@ -1,5 +1,6 @@
 #include "virtualkeyer/script/ScriptHand.h"
 
+#include "virtualkeyer/pty/NamedTroubles.h"
 #include "virtualkeyer/pty/SerialKeyer.h"
 
 #include <array>
@@ -42,6 +43,9 @@ struct ScriptHand::Doing {
     }
     void operator()(const ChangeProfile& change) const {
         keyer.setProfile(hand._profileByName(change.names.toStdString()).value(), at);
+    }
+    void operator()(const ChangeTroubles& change) const {
+        keyer.setTroubles(troublesNamed(change.names.toStdString()).value(), at);
     }
     void operator()(const SendBytes& send) const {
         for (const std::uint8_t byte : send.bytes) {

@@ -54,6 +54,7 @@ struct ActionWords {
     QString operator()(const PlayMessage& play) const { return u"message %1"_s.arg(play.number); }
     QString operator()(const MovePlug& move) const { return move.isIn ? u"plug"_s : u"pull"_s; }
     QString operator()(const ChangeProfile& change) const { return u"profile "_s + change.names; }
+    QString operator()(const ChangeTroubles& change) const { return u"trouble "_s + change.names; }
     QString operator()(const SendBytes& send) const { return u"send "_s + hexOf(send.bytes); }
     QString operator()(const Expect& expect) const {
         const QString what = u"expect "_s + scriptWords(expect.what);

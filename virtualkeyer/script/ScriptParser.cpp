@@ -1,5 +1,6 @@
 #include "virtualkeyer/script/ScriptParser.h"
 
+#include "virtualkeyer/pty/NamedTroubles.h"
 #include "virtualkeyer/script/ScriptWords.h"
 
 #include <QStringList>
@@ -103,6 +104,13 @@ std::optional<What> readProfile(ScriptWords& words) {
     return names ? std::optional<What>{ChangeProfile{names->text}} : std::nullopt;
 }
 
+std::optional<What> readTrouble(ScriptWords& words) {
+    const auto names = words.take();
+    return names && troublesNamed(names->text.toStdString())
+               ? std::optional<What>{ChangeTroubles{names->text}}
+               : std::nullopt;
+}
+
 std::optional<What> readSend(ScriptWords& words) {
     auto bytes = takeBytes(words);
     return bytes ? std::optional<What>{SendBytes{std::move(*bytes)}} : std::nullopt;
@@ -153,6 +161,7 @@ constexpr std::array instructions{
     Instruction{u"plug", u"plug", readPlug},
     Instruction{u"pull", u"pull", readPull},
     Instruction{u"profile", u"profile NAME[,NAME...]", readProfile},
+    Instruction{u"trouble", u"trouble none|NAME[:NUMBER][,NAME...]", readTrouble},
     Instruction{u"send", u"send \"TEXT\"|HEX...", readSend},
     Instruction{u"expect", u"expect keyed \"TEXT\"|reply HEX...|key down|up|ptt on|off",
                 readExpect},

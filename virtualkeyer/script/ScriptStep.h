@@ -49,6 +49,12 @@ struct ChangeProfile {
     bool operator==(const ChangeProfile&) const = default;
 };
 
+/// These are the line's troubles from now on: names with their numbers, separated by commas.
+struct ChangeTroubles {
+    QString names;
+    bool operator==(const ChangeTroubles&) const = default;
+};
+
 /// A host sends these bytes.
 struct SendBytes {
     std::vector<std::uint8_t> bytes;
@@ -91,7 +97,7 @@ struct Expect {
 
 /// What somebody does at the keyer, or asks of it. std::monostate only lets the time come.
 using ScriptAction = std::variant<std::monostate, MovePaddle, TurnKnob, MoveButton, PlayMessage,
-                                  MovePlug, ChangeProfile, SendBytes, Expect>;
+                                  MovePlug, ChangeProfile, ChangeTroubles, SendBytes, Expect>;
 
 /// One line of a script. Its time is `at` from the keyer's start, or `after` the line before it.
 struct ScriptStep {

@@ -28,6 +28,7 @@ class KeyerLinesTest : public QObject {
     void textAfterATuneKeepsItsLetterSpace_data();
     void textAfterATuneKeepsItsLetterSpace();
     void textAfterATuneKeepsItsLetterSpaceWhenAPauseEndsWithIt();
+    void textThatArrivesBehindATuneKeepsItsLetterSpace();
     void tuneHasNoLimitByDefault();
     void tuneLimitLetsGo();
     void textAfterTheTuneLimitGoesOn();
@@ -251,6 +252,20 @@ void KeyerLinesTest::textAfterATuneKeepsItsLetterSpaceWhenAPauseEndsWithIt() {
     bench.send({0x0B, 0});
     bench.waitUntil(1000);
     bench.send({0x06, 0});
+    QVERIFY(bench.finish());
+    QCOMPARE(bench.keying(), u"900 180 60"_s);
+}
+
+void KeyerLinesTest::textThatArrivesBehindATuneKeepsItsLetterSpace() {
+    KeyerBench bench;
+    bench.open();
+    bench.text("E");
+    bench.waitUntil(30);
+    bench.send({0x0B, 1});
+    bench.waitUntil(900);
+    bench.send({0x0B, 0});
+    bench.waitUntil(950);
+    bench.text("E");
     QVERIFY(bench.finish());
     QCOMPARE(bench.keying(), u"900 180 60"_s);
 }

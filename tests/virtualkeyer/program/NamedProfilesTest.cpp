@@ -35,7 +35,18 @@ unsigned differencesOf(const Profile& profile) {
     compare(profile.memoryLoad == plain.memoryLoad);
     compare(profile.breakInReport == plain.breakInReport);
     compare(profile.breakInDelay == plain.breakInDelay);
+    compare(profile.textAtBreakIn == plain.textAtBreakIn);
+    compare(profile.cutLetterEcho == plain.cutLetterEcho);
     compare(profile.resumeAfterPause == plain.resumeAfterPause);
+    compare(profile.speedGivenBack == plain.speedGivenBack);
+    compare(profile.knobInHostMode == plain.knobInHostMode);
+    compare(profile.xoffStatus == plain.xoffStatus);
+    compare(profile.buttonReport == plain.buttonReport);
+    compare(profile.buttonInText == plain.buttonInText);
+    compare(profile.tuneEnd == plain.tuneEnd);
+    compare(profile.tuneInText == plain.tuneInText);
+    compare(profile.silenceAfterOpen == plain.silenceAfterOpen);
+    compare(profile.deafAfterClear == plain.deafAfterClear);
     return bits;
 }
 
@@ -72,7 +83,7 @@ void NamedProfilesTest::allDifferencesTogetherCoverEveryChoice() {
     for (const NamedProfile& named : namedProfiles()) {
         covered |= differencesOf(profileNamed(named.name).value());
     }
-    QCOMPARE(covered, (1U << 15U) - 1U);
+    QCOMPARE(covered, (1U << 26U) - 1U);
 }
 
 void NamedProfilesTest::namesAreFoundExactly() {

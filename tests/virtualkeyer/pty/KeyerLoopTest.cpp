@@ -6,6 +6,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <array>
 #include <fcntl.h>
 #include <future>
 #include <poll.h>
@@ -18,19 +19,24 @@ using virtualkeyer::FileDescriptor;
 using virtualkeyer::KeyerListener;
 using virtualkeyer::KeyerLoop;
 using virtualkeyer::KeyerPort;
+using virtualkeyer::Operator;
 using virtualkeyer::Profile;
 using virtualkeyer::Registers;
 using virtualkeyer::SerialKeyer;
+using virtualkeyer::Time;
+using virtualkeyer::Troubles;
 
 namespace {
 
 /// A keyer that runs on a thread of its own until it is stopped.
 class RunningKeyer {
   public:
-    explicit RunningKeyer(const std::vector<KeyerListener*>& listeners = {})
+    explicit RunningKeyer(const std::vector<KeyerListener*>& listeners = {},
+                          const Troubles& troubles = {},
+                          const std::vector<Operator*>& operators = {})
         : _stop(::eventfd(0, EFD_CLOEXEC)),
-          _keyer(Profile{}, listeners),
-          _loop(_keyer, _port),
+          _keyer(Profile{}, listeners, troubles),
+          _loop(_keyer, _port, operators),
           _end(std::async(std::launch::async, [this] { _loop.run(_stop.number()); })) {}
     ~RunningKeyer() {
         if (_end.valid()) {
@@ -60,6 +66,34 @@ class RunningKeyer {
     KeyerLoop _loop;
     std::future<void> _end;
 };
+
+/// Pulls the adapter and plugs it in at once, each time that it is told to.
+class Fiddler : public Operator {
+  public:
+    void pullAndPlug() {
+        const std::uint64_t one = 1;
+        if (::write(_orders.number(), &one, sizeof one) < 0) {
+            qFatal("nobody hears");
+        }
+    }
+    [[nodiscard]] int descriptor() const override { return _orders.number(); }
+    void work(SerialKeyer& keyer, bool isReadable, Time now) override {
+        std::uint64_t count = 0;
+        if (isReadable && ::read(_orders.number(), &count, sizeof count) > 0) {
+            keyer.pull(now);
+            keyer.plugIn(now);
+        }
+    }
+
+  private:
+    FileDescriptor _orders{::eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK)};
+};
+
+/// Whether the far end goes within 10 s.
+bool isHungUp(const FileDescriptor& port) {
+    pollfd state{port.number(), 0, 0};
+    return ::poll(&state, 1, 10'000) == 1 && (state.revents & POLLHUP) != 0;
+}
 
 class FailingListener : public KeyerListener {
   public:
@@ -99,6 +133,9 @@ class KeyerLoopTest : public QObject {
     void aByteIsNotBackBeforeTheLineCanHaveCarriedIt();
     void aBurstIsNotFasterThanTheLine();
     void theApplicationMayCloseAndOpenThePort();
+    void aPullAndAPlugAtOnceAreAnotherTerminal();
+    void aHangUpIsAnotherTerminal();
+    void bytesThatArriveTogetherAreReadTogether();
     void aListenersFailureEndsTheLoop();
     void aStopRequestBeforeTheStartEndsItAtOnce();
 };
@@ -140,6 +177,46 @@ void KeyerLoopTest::theApplicationMayCloseAndOpenThePort() {
         send(port, echoRequest(byte));
         QCOMPARE(receive(port, 1), std::string(1, byte));
     }
+}
+
+void KeyerLoopTest::aPullAndAPlugAtOnceAreAnotherTerminal() {
+    Fiddler fiddler;
+    const RunningKeyer keyer({}, {}, {&fiddler});
+    const FileDescriptor port = keyer.openPort();
+    send(port, echoRequest('U'));
+    QCOMPARE(receive(port, 1), std::string("U"));
+    fiddler.pullAndPlug();
+    QVERIFY(isHungUp(port));
+    FileDescriptor next;
+    QTRY_VERIFY((next = keyer.openPort()).isOpen());
+    send(next, echoRequest('V'));
+    QCOMPARE(receive(next, 1), std::string("V"));
+}
+
+void KeyerLoopTest::aHangUpIsAnotherTerminal() {
+    const RunningKeyer keyer({}, {.hangUp = Time{std::chrono::milliseconds{100}}});
+    const FileDescriptor port = keyer.openPort();
+    QVERIFY(isHungUp(port));
+    QTRY_VERIFY(keyer.openPort().isOpen());
+}
+
+void KeyerLoopTest::bytesThatArriveTogetherAreReadTogether() {
+    const RunningKeyer keyer({}, {.joined = std::chrono::milliseconds{500}});
+    const FileDescriptor port = keyer.openPort();
+    send(port, echoRequest('U') + echoRequest('V') + echoRequest('W'));
+    pollfd state{port.number(), POLLIN, 0};
+    std::array<char, 8> bytes{};
+    std::size_t reads = 0;
+    std::size_t size = 0;
+    while (size < 3) {
+        QCOMPARE(::poll(&state, 1, 10'000), 1);
+        const auto got = ::read(port.number(), bytes.data(), bytes.size());
+        QVERIFY(got > 0);
+        size += static_cast<std::size_t>(got);
+        ++reads;
+    }
+    // They take a tenth of a second on the line, which a tick of the adapter's may fall into.
+    QVERIFY2(reads <= 2, qPrintable(QString::number(reads)));
 }
 
 void KeyerLoopTest::aListenersFailureEndsTheLoop() {

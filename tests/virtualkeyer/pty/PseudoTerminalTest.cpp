@@ -48,6 +48,10 @@ std::string readHost(PseudoTerminal& terminal) {
     return {buffer.begin(), buffer.begin() + static_cast<std::ptrdiff_t>(size)};
 }
 
+std::array<std::uint8_t, 1> bytes(char byte) {
+    return {static_cast<std::uint8_t>(byte)};
+}
+
 } // namespace
 
 class PseudoTerminalTest : public QObject {
@@ -58,6 +62,7 @@ class PseudoTerminalTest : public QObject {
     void anOpeningIsNoticed();
     void aClosingLeavesThePortQuiet();
     void bytesGoBothWaysUnchanged();
+    void bytesWrittenTogetherAreReadTogether();
     void bytesSentBeforeTheApplicationClosedStillArrive();
     void openingAgainCountsAgain();
     void aSecondOpeningBesideTheFirstIsNoNewOne();
@@ -108,7 +113,7 @@ void PseudoTerminalTest::bytesGoBothWaysUnchanged() {
     QVERIFY(waitFor(terminal.master()));
     QCOMPARE(readHost(terminal), special);
     for (const char byte : special) {
-        terminal.write(static_cast<std::uint8_t>(byte));
+        terminal.write(bytes(byte));
     }
     std::string received;
     while (received.size() < special.size() && waitFor(port.number())) {
@@ -116,6 +121,15 @@ void PseudoTerminalTest::bytesGoBothWaysUnchanged() {
     }
     QCOMPARE(received, special);
     QCOMPARE(readHost(terminal), std::string());
+}
+
+void PseudoTerminalTest::bytesWrittenTogetherAreReadTogether() {
+    PseudoTerminal terminal;
+    const FileDescriptor port = openPort(terminal);
+    QCOMPARE(terminal.takeOpenings(), 1);
+    terminal.write(std::array<std::uint8_t, 3>{'E', 0xC0, 0x8A});
+    QVERIFY(waitFor(port.number()));
+    QCOMPARE(readPort(port), std::string("E\xC0\x8A"));
 }
 
 void PseudoTerminalTest::bytesSentBeforeTheApplicationClosedStillArrive() {
@@ -161,24 +175,24 @@ void PseudoTerminalTest::whatNobodyReadIsGoneAtTheNextOpening() {
     {
         const FileDescriptor port = openPort(terminal);
         QCOMPARE(terminal.takeOpenings(), 1);
-        terminal.write('x');
+        terminal.write(bytes('x'));
         QVERIFY(waitFor(port.number()));
     }
     QCOMPARE(terminal.takeOpenings(), 0);
     const FileDescriptor again = openPort(terminal);
     QCOMPARE(stateOf(again.number()), 0);
     QCOMPARE(terminal.takeOpenings(), 1);
-    terminal.write('y');
+    terminal.write(bytes('y'));
     QVERIFY(waitFor(again.number()));
     QCOMPARE(readPort(again), std::string("y"));
 }
 
 void PseudoTerminalTest::whatWasSentToAClosedPortIsGoneAtTheOpening() {
     PseudoTerminal terminal;
-    terminal.write('x');
+    terminal.write(bytes('x'));
     const FileDescriptor port = openPort(terminal);
     QCOMPARE(terminal.takeOpenings(), 1);
-    terminal.write('y');
+    terminal.write(bytes('y'));
     QVERIFY(waitFor(port.number()));
     QCOMPARE(readPort(port), std::string("y"));
 }
@@ -218,7 +232,7 @@ void PseudoTerminalTest::aPortThatNobodyReadsLosesBytesAndDoesNotBlock() {
     const FileDescriptor port = openPort(terminal);
     QCOMPARE(terminal.takeOpenings(), 1);
     for (int i = 0; i < 300'000; ++i) {
-        terminal.write('x');
+        terminal.write(bytes('x'));
     }
     QVERIFY(waitFor(port.number()));
     QVERIFY(!readPort(port).empty());

@@ -34,6 +34,10 @@ FileDescriptor openPort(const PseudoTerminal& terminal) {
         ::open(terminal.slavePath().c_str(), O_RDWR | O_NOCTTY | O_CLOEXEC | O_NONBLOCK));
 }
 
+std::array<std::uint8_t, 1> bytes(char byte) {
+    return {static_cast<std::uint8_t>(byte)};
+}
+
 } // namespace
 
 void UnwatchedTerminalTest::bytesGoBothWays() {
@@ -44,7 +48,7 @@ void UnwatchedTerminalTest::bytesGoBothWays() {
     std::array<std::uint8_t, 8> buffer{};
     QVERIFY(QTest::qWaitFor([&] { return terminal.read(buffer) == 1; }));
     QCOMPARE(buffer.front(), std::uint8_t{'a'});
-    terminal.write('b');
+    terminal.write(bytes('b'));
     char byte = 0;
     QVERIFY(QTest::qWaitFor([&] { return ::read(port.number(), &byte, 1) == 1; }));
     QCOMPARE(byte, 'b');

@@ -33,6 +33,7 @@ void ScriptLineTest::whatIsWrittenIsReadAsItWas_data() {
     row("at 12.000345 plug", MovePlug{true});
     row("at 12.000345 pull", MovePlug{false});
     row("at 12.000345 profile default,late-echo", ChangeProfile{u"default,late-echo"_s});
+    row("at 12.000345 trouble lost:0.5,no-echo", ChangeTroubles{u"lost:0.5,no-echo"_s});
     row("at 12.000345 send 00 FF", SendBytes{{0x00, 0xFF}});
     row("at 12.000345 expect keyed \"A\\\"B\\\\\"", Expect{ExpectKeyed{u"A\"B\\"_s}});
     row("at 12.000345 expect reply C0", Expect{ExpectReply{{0xC0}}});

@@ -44,6 +44,8 @@ void ScriptParserTest::everyInstructionIsRead_data() {
     row("plug", step(MovePlug{true}));
     row("pull", step(MovePlug{false}));
     row("profile late-echo,boot-loader", step(ChangeProfile{u"late-echo,boot-loader"_s}));
+    row("trouble none", step(ChangeTroubles{u"none"_s}));
+    row("trouble lost:0.5,no-echo", step(ChangeTroubles{u"lost:0.5,no-echo"_s}));
     row("send 00 02 fF", step(SendBytes{{0x00, 0x02, 0xFF}}));
     row("send \"CQ #1 \\\"\" 0a", step(SendBytes{{'C', 'Q', ' ', '#', '1', ' ', '"', 0x0A}}));
     row("expect keyed \" cq de \"", step(Expect{ExpectKeyed{u"CQ DE"_s}}));
