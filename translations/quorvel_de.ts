@@ -941,6 +941,93 @@ Die eigenen Optionen des Toolkits wie -platform und -style gelten auch. Die Anle
         <source>keys a letter once more that a pause came into</source>
         <translation>tastet einen Buchstaben noch einmal, in den eine Pause fiel</translation>
     </message>
+    <message>
+        <source>echoes the letter that the paddle cut before the break-in</source>
+        <translation>Echo des Buchstabens, den das Paddle abgeschnitten hat, vor der BK-Meldung</translation>
+    </message>
+    <message>
+        <source>keys what waited when the paddle has rested, unless the host clears it</source>
+        <translation>tastet, was wartete, wenn das Paddle ruht, falls der Host es nicht löscht</translation>
+    </message>
+    <message>
+        <source>stays at the last speed when the host gives it back to the knob</source>
+        <translation>bleibt bei der letzten Geschwindigkeit, wenn der Host sie dem Knopf zurückgibt</translation>
+    </message>
+    <message>
+        <source>reports the knob to a host, and does not obey it</source>
+        <translation>meldet den Knopf dem Host und gehorcht ihm nicht</translation>
+    </message>
+    <message>
+        <source>asks for a pause by C1, without the bit for busy</source>
+        <translation>bittet mit C1 um eine Pause, ohne das Bit für beschäftigt</translation>
+    </message>
+    <message>
+        <source>takes a push-button in the midst of text for a break-in</source>
+        <translation>hält einen Taster mitten im Text für BK</translation>
+    </message>
+    <message>
+        <source>ends a tune for the paddle, a letter or a message, without a word</source>
+        <translation>beendet das Abstimmen wortlos für das Paddle, einen Buchstaben oder eine Nachricht</translation>
+    </message>
+    <message>
+        <source>swallows a tune that begins in the midst of text</source>
+        <translation>verschluckt ein Abstimmen, das mitten im Text beginnt</translation>
+    </message>
+    <message>
+        <source>says and does nothing for 0.44 s behind its version byte</source>
+        <translation>sagt und tut nach seinem Versionsbyte 0,44 s lang nichts</translation>
+    </message>
+    <message>
+        <source>swallows text for 0.1 s after the buffer was cleared</source>
+        <translation>verschluckt 0,1 s lang Text, nachdem der Puffer geleert wurde</translation>
+    </message>
+    <message>
+        <source>reports press and release of a push-button together, at the release</source>
+        <translation>meldet Drücken und Loslassen eines Tasters zusammen, beim Loslassen</translation>
+    </message>
+</context>
+<context>
+    <name>NamedTrouble</name>
+    <message>
+        <source>bytes that do not arrive</source>
+        <translation>Bytes, die nicht ankommen</translation>
+    </message>
+    <message>
+        <source>bytes that arrive twice</source>
+        <translation>Bytes, die doppelt ankommen</translation>
+    </message>
+    <message>
+        <source>bytes of which a bit is wrong</source>
+        <translation>Bytes, in denen ein Bit falsch ist</translation>
+    </message>
+    <message>
+        <source>each byte is up to so much late, by chance</source>
+        <translation>jedes Byte kommt zufällig bis zu so viel später</translation>
+    </message>
+    <message>
+        <source>each byte is so much late, as over a network</source>
+        <translation>jedes Byte kommt so viel später, wie über ein Netz</translation>
+    </message>
+    <message>
+        <source>the host gets what has come as often as this, in one read</source>
+        <translation>der Host bekommt so oft, was gekommen ist, mit einem Lesen</translation>
+    </message>
+    <message>
+        <source>no character from the keyer arrives</source>
+        <translation>kein Zeichen des Keyers kommt an</translation>
+    </message>
+    <message>
+        <source>nobody takes what the host sends</source>
+        <translation>niemand nimmt, was der Host sendet</translation>
+    </message>
+    <message>
+        <source>the keyer starts anew so long after the port was opened</source>
+        <translation>der Keyer startet so lange nach dem Öffnen des Ports neu</translation>
+    </message>
+    <message>
+        <source>the port goes so long after it was opened, and comes back; the keyer keeps its power</source>
+        <translation>der Port verschwindet so lange nach seinem Öffnen und kommt wieder; der Keyer behält seinen Strom</translation>
+    </message>
 </context>
 <context>
     <name>NoticeStrip</name>
@@ -2829,6 +2916,30 @@ das ihn öffnet, und gibt auf der Standardausgabe aus, was er tastet.</translati
     <message>
         <source>The sound needs a file name.</source>
         <translation>Der Ton braucht einen Dateinamen.</translation>
+    </message>
+    <message>
+        <source>SHARE</source>
+        <translation>ANTEIL</translation>
+    </message>
+    <message>
+        <source>SECONDS</source>
+        <translation>SEKUNDEN</translation>
+    </message>
+    <message>
+        <source>What is wrong with the line, or several such things, separated by commas; a number may be left out:</source>
+        <translation>Was mit der Leitung nicht stimmt, oder mehreres davon, durch Kommas getrennt; eine Zahl darf fehlen:</translation>
+    </message>
+    <message>
+        <source>Has chance do the same to the line as it did with this number, 1 by default.</source>
+        <translation>Lässt den Zufall mit der Leitung dasselbe tun wie sonst mit dieser Zahl; üblich ist 1.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no trouble; --help lists them.</source>
+        <translation>„%1“ ist keine Störung; --help zählt sie auf.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no seed: a whole number, not below 0.</source>
+        <translation>„%1“ ist kein Anfangswert: eine ganze Zahl, nicht unter 0.</translation>
     </message>
 </context>
 <context>

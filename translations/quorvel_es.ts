@@ -941,6 +941,93 @@ También valen las opciones de la biblioteca gráfica, como -platform y -style. 
         <source>keys a letter once more that a pause came into</source>
         <translation>manipula otra vez la letra en la que cayó una pausa</translation>
     </message>
+    <message>
+        <source>echoes the letter that the paddle cut before the break-in</source>
+        <translation>devuelve el eco de la letra que cortaron las palas antes del break-in</translation>
+    </message>
+    <message>
+        <source>keys what waited when the paddle has rested, unless the host clears it</source>
+        <translation>manipula lo que esperaba cuando las palas descansan, si el anfitrión no lo borra</translation>
+    </message>
+    <message>
+        <source>stays at the last speed when the host gives it back to the knob</source>
+        <translation>se queda en la última velocidad cuando el anfitrión la devuelve al mando</translation>
+    </message>
+    <message>
+        <source>reports the knob to a host, and does not obey it</source>
+        <translation>comunica el mando al anfitrión y no le obedece</translation>
+    </message>
+    <message>
+        <source>asks for a pause by C1, without the bit for busy</source>
+        <translation>pide una pausa con C1, sin el bit de ocupado</translation>
+    </message>
+    <message>
+        <source>takes a push-button in the midst of text for a break-in</source>
+        <translation>toma un pulsador en medio del texto por un break-in</translation>
+    </message>
+    <message>
+        <source>ends a tune for the paddle, a letter or a message, without a word</source>
+        <translation>termina la sintonía sin decir nada por las palas, una letra o un mensaje</translation>
+    </message>
+    <message>
+        <source>swallows a tune that begins in the midst of text</source>
+        <translation>se traga una sintonía que empieza en medio del texto</translation>
+    </message>
+    <message>
+        <source>says and does nothing for 0.44 s behind its version byte</source>
+        <translation>no dice ni hace nada durante 0,44 s tras su byte de versión</translation>
+    </message>
+    <message>
+        <source>swallows text for 0.1 s after the buffer was cleared</source>
+        <translation>se traga el texto durante 0,1 s tras vaciarse el búfer</translation>
+    </message>
+    <message>
+        <source>reports press and release of a push-button together, at the release</source>
+        <translation>comunica juntas la pulsación y la suelta de un pulsador, al soltarlo</translation>
+    </message>
+</context>
+<context>
+    <name>NamedTrouble</name>
+    <message>
+        <source>bytes that do not arrive</source>
+        <translation>bytes que no llegan</translation>
+    </message>
+    <message>
+        <source>bytes that arrive twice</source>
+        <translation>bytes que llegan dos veces</translation>
+    </message>
+    <message>
+        <source>bytes of which a bit is wrong</source>
+        <translation>bytes con un bit erróneo</translation>
+    </message>
+    <message>
+        <source>each byte is up to so much late, by chance</source>
+        <translation>cada byte llega al azar hasta tanto más tarde</translation>
+    </message>
+    <message>
+        <source>each byte is so much late, as over a network</source>
+        <translation>cada byte llega tanto más tarde, como por una red</translation>
+    </message>
+    <message>
+        <source>the host gets what has come as often as this, in one read</source>
+        <translation>el anfitrión recibe con este intervalo lo que ha llegado, en una sola lectura</translation>
+    </message>
+    <message>
+        <source>no character from the keyer arrives</source>
+        <translation>no llega ningún carácter del manipulador</translation>
+    </message>
+    <message>
+        <source>nobody takes what the host sends</source>
+        <translation>nadie recoge lo que envía el anfitrión</translation>
+    </message>
+    <message>
+        <source>the keyer starts anew so long after the port was opened</source>
+        <translation>el manipulador se reinicia ese tiempo después de abrirse el puerto</translation>
+    </message>
+    <message>
+        <source>the port goes so long after it was opened, and comes back; the keyer keeps its power</source>
+        <translation>el puerto desaparece ese tiempo después de abrirse, y vuelve; el manipulador conserva su alimentación</translation>
+    </message>
 </context>
 <context>
     <name>NoticeStrip</name>
@@ -2829,6 +2916,30 @@ que lo abre, y escribe lo que manipula en la salida estándar.</translation>
     <message>
         <source>The sound needs a file name.</source>
         <translation>El sonido necesita un nombre de archivo.</translation>
+    </message>
+    <message>
+        <source>SHARE</source>
+        <translation>PARTE</translation>
+    </message>
+    <message>
+        <source>SECONDS</source>
+        <translation>SEGUNDOS</translation>
+    </message>
+    <message>
+        <source>What is wrong with the line, or several such things, separated by commas; a number may be left out:</source>
+        <translation>Lo que va mal en la línea, una o varias cosas, separadas por comas; un número puede omitirse:</translation>
+    </message>
+    <message>
+        <source>Has chance do the same to the line as it did with this number, 1 by default.</source>
+        <translation>Hace que el azar trate la línea igual que con este número, 1 por omisión.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no trouble; --help lists them.</source>
+        <translation>«%1» no es ningún fallo de línea; --help los enumera.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no seed: a whole number, not below 0.</source>
+        <translation>«%1» no es una semilla: un número entero, no menor que 0.</translation>
     </message>
 </context>
 <context>

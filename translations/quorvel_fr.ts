@@ -941,6 +941,93 @@ Les options de la bibliothèque graphique, comme -platform et -style, sont admis
         <source>keys a letter once more that a pause came into</source>
         <translation>manipule une seconde fois la lettre dans laquelle une pause est tombée</translation>
     </message>
+    <message>
+        <source>echoes the letter that the paddle cut before the break-in</source>
+        <translation>renvoie l’écho de la lettre que les palettes ont coupée avant le break-in</translation>
+    </message>
+    <message>
+        <source>keys what waited when the paddle has rested, unless the host clears it</source>
+        <translation>manipule ce qui attendait quand les palettes sont au repos, si l’hôte ne l’efface pas</translation>
+    </message>
+    <message>
+        <source>stays at the last speed when the host gives it back to the knob</source>
+        <translation>garde la dernière vitesse quand l’hôte la rend au bouton</translation>
+    </message>
+    <message>
+        <source>reports the knob to a host, and does not obey it</source>
+        <translation>signale le bouton à l’hôte et ne lui obéit pas</translation>
+    </message>
+    <message>
+        <source>asks for a pause by C1, without the bit for busy</source>
+        <translation>demande une pause par C1, sans le bit d’occupation</translation>
+    </message>
+    <message>
+        <source>takes a push-button in the midst of text for a break-in</source>
+        <translation>prend un bouton-poussoir au milieu du texte pour un break-in</translation>
+    </message>
+    <message>
+        <source>ends a tune for the paddle, a letter or a message, without a word</source>
+        <translation>met fin sans un mot à l’accord pour les palettes, une lettre ou un message</translation>
+    </message>
+    <message>
+        <source>swallows a tune that begins in the midst of text</source>
+        <translation>avale un accord qui commence au milieu du texte</translation>
+    </message>
+    <message>
+        <source>says and does nothing for 0.44 s behind its version byte</source>
+        <translation>ne dit et ne fait rien pendant 0,44 s après son octet de version</translation>
+    </message>
+    <message>
+        <source>swallows text for 0.1 s after the buffer was cleared</source>
+        <translation>avale le texte pendant 0,1 s après que le tampon a été vidé</translation>
+    </message>
+    <message>
+        <source>reports press and release of a push-button together, at the release</source>
+        <translation>signale l’appui et le relâchement d’un bouton-poussoir ensemble, au relâchement</translation>
+    </message>
+</context>
+<context>
+    <name>NamedTrouble</name>
+    <message>
+        <source>bytes that do not arrive</source>
+        <translation>octets qui n’arrivent pas</translation>
+    </message>
+    <message>
+        <source>bytes that arrive twice</source>
+        <translation>octets qui arrivent deux fois</translation>
+    </message>
+    <message>
+        <source>bytes of which a bit is wrong</source>
+        <translation>octets dont un bit est faux</translation>
+    </message>
+    <message>
+        <source>each byte is up to so much late, by chance</source>
+        <translation>chaque octet a au hasard jusqu’à autant de retard</translation>
+    </message>
+    <message>
+        <source>each byte is so much late, as over a network</source>
+        <translation>chaque octet a autant de retard, comme par un réseau</translation>
+    </message>
+    <message>
+        <source>the host gets what has come as often as this, in one read</source>
+        <translation>l’hôte reçoit à cet intervalle ce qui est venu, en une seule lecture</translation>
+    </message>
+    <message>
+        <source>no character from the keyer arrives</source>
+        <translation>aucun caractère du manipulateur n’arrive</translation>
+    </message>
+    <message>
+        <source>nobody takes what the host sends</source>
+        <translation>personne ne prend ce que l’hôte envoie</translation>
+    </message>
+    <message>
+        <source>the keyer starts anew so long after the port was opened</source>
+        <translation>le manipulateur redémarre ce temps-là après l’ouverture du port</translation>
+    </message>
+    <message>
+        <source>the port goes so long after it was opened, and comes back; the keyer keeps its power</source>
+        <translation>le port disparaît ce temps-là après son ouverture, et revient&#xa0;; le manipulateur garde son alimentation</translation>
+    </message>
 </context>
 <context>
     <name>NoticeStrip</name>
@@ -2829,6 +2916,30 @@ qui l’ouvre, et écrit ce qu’il manipule sur la sortie standard.</translatio
     <message>
         <source>The sound needs a file name.</source>
         <translation>Le son a besoin d’un nom de fichier.</translation>
+    </message>
+    <message>
+        <source>SHARE</source>
+        <translation>PART</translation>
+    </message>
+    <message>
+        <source>SECONDS</source>
+        <translation>SECONDES</translation>
+    </message>
+    <message>
+        <source>What is wrong with the line, or several such things, separated by commas; a number may be left out:</source>
+        <translation>Ce qui ne va pas sur la ligne, une ou plusieurs choses, séparées par des virgules&#xa0;; un nombre peut être omis&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Has chance do the same to the line as it did with this number, 1 by default.</source>
+        <translation>Fait que le hasard fasse à la ligne la même chose qu’avec ce nombre, 1 par défaut.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no trouble; --help lists them.</source>
+        <translation>«&#xa0;%1&#xa0;» n’est pas un trouble de la ligne&#xa0;; --help les énumère.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no seed: a whole number, not below 0.</source>
+        <translation>«&#xa0;%1&#xa0;» n’est pas une graine&#xa0;: un nombre entier, pas au-dessous de 0.</translation>
     </message>
 </context>
 <context>

@@ -941,6 +941,93 @@ Valgono anche le opzioni della libreria grafica, come -platform e -style. La gui
         <source>keys a letter once more that a pause came into</source>
         <translation>manipola un’altra volta la lettera in cui è caduta una pausa</translation>
     </message>
+    <message>
+        <source>echoes the letter that the paddle cut before the break-in</source>
+        <translation>rimanda l’eco della lettera troncata dal paddle prima del break-in</translation>
+    </message>
+    <message>
+        <source>keys what waited when the paddle has rested, unless the host clears it</source>
+        <translation>manipola ciò che attendeva quando il paddle è a riposo, se l’host non lo cancella</translation>
+    </message>
+    <message>
+        <source>stays at the last speed when the host gives it back to the knob</source>
+        <translation>resta all’ultima velocità quando l’host la restituisce alla manopola</translation>
+    </message>
+    <message>
+        <source>reports the knob to a host, and does not obey it</source>
+        <translation>segnala la manopola all’host e non le obbedisce</translation>
+    </message>
+    <message>
+        <source>asks for a pause by C1, without the bit for busy</source>
+        <translation>chiede una pausa con C1, senza il bit di occupato</translation>
+    </message>
+    <message>
+        <source>takes a push-button in the midst of text for a break-in</source>
+        <translation>prende un pulsante in mezzo al testo per un break-in</translation>
+    </message>
+    <message>
+        <source>ends a tune for the paddle, a letter or a message, without a word</source>
+        <translation>termina la sintonia senza dir nulla per il paddle, una lettera o un messaggio</translation>
+    </message>
+    <message>
+        <source>swallows a tune that begins in the midst of text</source>
+        <translation>ingoia una sintonia che comincia in mezzo al testo</translation>
+    </message>
+    <message>
+        <source>says and does nothing for 0.44 s behind its version byte</source>
+        <translation>non dice e non fa nulla per 0,44 s dopo il suo byte di versione</translation>
+    </message>
+    <message>
+        <source>swallows text for 0.1 s after the buffer was cleared</source>
+        <translation>ingoia il testo per 0,1 s dopo che il buffer è stato svuotato</translation>
+    </message>
+    <message>
+        <source>reports press and release of a push-button together, at the release</source>
+        <translation>segnala insieme pressione e rilascio di un pulsante, al rilascio</translation>
+    </message>
+</context>
+<context>
+    <name>NamedTrouble</name>
+    <message>
+        <source>bytes that do not arrive</source>
+        <translation>byte che non arrivano</translation>
+    </message>
+    <message>
+        <source>bytes that arrive twice</source>
+        <translation>byte che arrivano due volte</translation>
+    </message>
+    <message>
+        <source>bytes of which a bit is wrong</source>
+        <translation>byte con un bit sbagliato</translation>
+    </message>
+    <message>
+        <source>each byte is up to so much late, by chance</source>
+        <translation>ogni byte arriva per caso fino a tanto più tardi</translation>
+    </message>
+    <message>
+        <source>each byte is so much late, as over a network</source>
+        <translation>ogni byte arriva di tanto in ritardo, come attraverso una rete</translation>
+    </message>
+    <message>
+        <source>the host gets what has come as often as this, in one read</source>
+        <translation>l’host riceve a questo intervallo ciò che è arrivato, in una sola lettura</translation>
+    </message>
+    <message>
+        <source>no character from the keyer arrives</source>
+        <translation>non arriva nessun carattere dal keyer</translation>
+    </message>
+    <message>
+        <source>nobody takes what the host sends</source>
+        <translation>nessuno prende ciò che l’host invia</translation>
+    </message>
+    <message>
+        <source>the keyer starts anew so long after the port was opened</source>
+        <translation>il keyer si riavvia questo tempo dopo l’apertura della porta</translation>
+    </message>
+    <message>
+        <source>the port goes so long after it was opened, and comes back; the keyer keeps its power</source>
+        <translation>la porta sparisce questo tempo dopo la sua apertura, e ritorna; il keyer resta alimentato</translation>
+    </message>
 </context>
 <context>
     <name>NoticeStrip</name>
@@ -2829,6 +2916,30 @@ che la apre, e scrive ciò che manipola sull’uscita standard.</translation>
     <message>
         <source>The sound needs a file name.</source>
         <translation>Il suono ha bisogno di un nome di file.</translation>
+    </message>
+    <message>
+        <source>SHARE</source>
+        <translation>QUOTA</translation>
+    </message>
+    <message>
+        <source>SECONDS</source>
+        <translation>SECONDI</translation>
+    </message>
+    <message>
+        <source>What is wrong with the line, or several such things, separated by commas; a number may be left out:</source>
+        <translation>Ciò che non va sulla linea, una o più cose, separate da virgole; un numero può mancare:</translation>
+    </message>
+    <message>
+        <source>Has chance do the same to the line as it did with this number, 1 by default.</source>
+        <translation>Fa sì che il caso tratti la linea come già con questo numero, 1 se manca.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no trouble; --help lists them.</source>
+        <translation>«%1» non è un guasto della linea; --help li elenca.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no seed: a whole number, not below 0.</source>
+        <translation>«%1» non è un seme: un numero intero, non sotto 0.</translation>
     </message>
 </context>
 <context>

@@ -941,6 +941,93 @@ WinKeyer USB キーヤーを通してモールス符号を送信します。
         <source>keys a letter once more that a pause came into</source>
         <translation>途中で一時停止した文字をもう一度送る</translation>
     </message>
+    <message>
+        <source>echoes the letter that the paddle cut before the break-in</source>
+        <translation>パドルで切られた文字を、ブレークインより先にエコーする</translation>
+    </message>
+    <message>
+        <source>keys what waited when the paddle has rested, unless the host clears it</source>
+        <translation>ホストが消さないかぎり、待っていた文をパドルが止まった後に送る</translation>
+    </message>
+    <message>
+        <source>stays at the last speed when the host gives it back to the knob</source>
+        <translation>ホストが速度をつまみに戻しても、最後の速度のままでいる</translation>
+    </message>
+    <message>
+        <source>reports the knob to a host, and does not obey it</source>
+        <translation>つまみの位置をホストに知らせるだけで、それには従わない</translation>
+    </message>
+    <message>
+        <source>asks for a pause by C1, without the bit for busy</source>
+        <translation>送信中のビットなしの C1 で一時停止を求める</translation>
+    </message>
+    <message>
+        <source>takes a push-button in the midst of text for a break-in</source>
+        <translation>文の途中で押されたボタンをブレークインとみなす</translation>
+    </message>
+    <message>
+        <source>ends a tune for the paddle, a letter or a message, without a word</source>
+        <translation>パドル、文字、メッセージがあると、黙ってチューンを終える</translation>
+    </message>
+    <message>
+        <source>swallows a tune that begins in the midst of text</source>
+        <translation>文の途中で始まるチューンを無視する</translation>
+    </message>
+    <message>
+        <source>says and does nothing for 0.44 s behind its version byte</source>
+        <translation>バージョンバイトの後 0.44 秒間は何も言わず何もしない</translation>
+    </message>
+    <message>
+        <source>swallows text for 0.1 s after the buffer was cleared</source>
+        <translation>バッファーが消された後 0.1 秒間は文を無視する</translation>
+    </message>
+    <message>
+        <source>reports press and release of a push-button together, at the release</source>
+        <translation>押しボタンを押したことと離したことを、離したときにまとめて知らせる</translation>
+    </message>
+</context>
+<context>
+    <name>NamedTrouble</name>
+    <message>
+        <source>bytes that do not arrive</source>
+        <translation>届かないバイト</translation>
+    </message>
+    <message>
+        <source>bytes that arrive twice</source>
+        <translation>2 度届くバイト</translation>
+    </message>
+    <message>
+        <source>bytes of which a bit is wrong</source>
+        <translation>1 ビットが誤っているバイト</translation>
+    </message>
+    <message>
+        <source>each byte is up to so much late, by chance</source>
+        <translation>各バイトが最大でこれだけ不規則に遅れる</translation>
+    </message>
+    <message>
+        <source>each byte is so much late, as over a network</source>
+        <translation>ネットワーク越しのように、各バイトがこれだけ遅れる</translation>
+    </message>
+    <message>
+        <source>the host gets what has come as often as this, in one read</source>
+        <translation>届いたものをこの間隔でまとめて、ホストが 1 回で読む</translation>
+    </message>
+    <message>
+        <source>no character from the keyer arrives</source>
+        <translation>キーヤーからの文字がまったく届かない</translation>
+    </message>
+    <message>
+        <source>nobody takes what the host sends</source>
+        <translation>ホストが送るものを誰も受け取らない</translation>
+    </message>
+    <message>
+        <source>the keyer starts anew so long after the port was opened</source>
+        <translation>ポートが開かれてからこの時間の後に、キーヤーが再起動する</translation>
+    </message>
+    <message>
+        <source>the port goes so long after it was opened, and comes back; the keyer keeps its power</source>
+        <translation>ポートが開かれてからこの時間の後に消え、また現れる。キーヤーの電源は切れない</translation>
+    </message>
 </context>
 <context>
     <name>NoticeStrip</name>
@@ -2829,6 +2916,30 @@ program that opens it, and prints what it keys to standard output.</source>
     <message>
         <source>The sound needs a file name.</source>
         <translation>音声にはファイル名が必要です。</translation>
+    </message>
+    <message>
+        <source>SHARE</source>
+        <translation>割合</translation>
+    </message>
+    <message>
+        <source>SECONDS</source>
+        <translation>秒</translation>
+    </message>
+    <message>
+        <source>What is wrong with the line, or several such things, separated by commas; a number may be left out:</source>
+        <translation>回線の不調を 1 つ、またはコンマで区切っていくつか。数は省ける:</translation>
+    </message>
+    <message>
+        <source>Has chance do the same to the line as it did with this number, 1 by default.</source>
+        <translation>この数のときと同じ偶然を回線に起こす。既定値は 1。</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no trouble; --help lists them.</source>
+        <translation>「%1」という不調はありません。一覧は --help で出ます。</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no seed: a whole number, not below 0.</source>
+        <translation>「%1」はシードになりません。0 以上の整数です。</translation>
     </message>
 </context>
 <context>

@@ -95,7 +95,8 @@ constexpr std::array profiles{
         [](Profile& profile) { profile.xoffStatus = XoffStatus::Bare; }},
     NamedProfile{
         "buttons-at-release",
-        QT_TRANSLATE_NOOP("NamedProfile", "reports a push-button when it is let go of, twice"),
+        QT_TRANSLATE_NOOP("NamedProfile",
+                          "reports press and release of a push-button together, at the release"),
         [](Profile& profile) { profile.buttonReport = ButtonReport::AtRelease; }},
     NamedProfile{"button-breaks-in",
                  QT_TRANSLATE_NOOP("NamedProfile",
