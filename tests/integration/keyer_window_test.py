@@ -206,6 +206,24 @@ class KeyerWindowTest(ProgramTest):
         self.assertEqual(quorvel.end(), 0)
         self.assertEqual(keyer.end(), 0)
 
+    def test_the_log_of_the_line_is_in_words(self):
+        keyer, window = self.start_window()
+        window.find("Line log").press()
+        keyer.wait_for("the log", lambda: window.find("Log of the line").is_in_state("showing"))
+        port = self.open_port()
+        port.write(b"\x04\x00\x0aE")
+        self.assertEqual(port.read(3), b"\xc4E\xc0")
+        for words in ("Open the keyer", "open, version 23", "Set PTT lead/tail 0, 100 ms",
+                      "04 00 0A", "text E", "status: busy", "echo E", "status: idle"):
+            keyer.wait_for(words, lambda words=words: window.find(words))
+        # Letters that work the paddle are letters here.
+        window.find("Filter of the log").focus()
+        self.desktop.type("fj")
+        keyer.wait_for("the filter", lambda: window.find("Filter of the log").text() == "fj")
+        keyer.wait_for("no rows", lambda: not window.find("text E"))
+        self.assertEqual(self.elements(keyer), 1)
+        self.assertEqual(keyer.end(), 0)
+
     def test_without_a_sound_device_it_says_that_it_is_silent(self):
         keyer, window = self.start_window()
         keyer.wait_for("the word", lambda: window.find("No sound device: it is silent.")

@@ -68,4 +68,8 @@ std::uint8_t Keyer::status() const {
     return _machine->status();
 }
 
+bool Keyer::isDeaf() const {
+    return _machine->isDeaf();
+}
+
 } // namespace virtualkeyer

@@ -69,6 +69,9 @@ class Keyer {
     /// The status byte that an open host would be told now.
     [[nodiscard]] std::uint8_t status() const;
 
+    /// Whether it is starting, and a byte that came now would be lost.
+    [[nodiscard]] bool isDeaf() const;
+
   private:
     class Machine;
     std::unique_ptr<Machine> _machine;

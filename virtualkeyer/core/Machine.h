@@ -31,6 +31,7 @@ class Keyer::Machine {
     [[nodiscard]] const Registers& registers() const { return _board.registers; }
     [[nodiscard]] const Memory& memory() const { return _memory; }
     [[nodiscard]] std::uint8_t status() const { return _board.status.byte(); }
+    [[nodiscard]] bool isDeaf() const { return _startup.isDeaf(_now); }
 
   private:
     void runNext(Time now);

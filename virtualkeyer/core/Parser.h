@@ -32,6 +32,9 @@ class Parser {
     /// Takes one byte; the command if that completes one. A closed keyer takes admin commands only.
     [[nodiscard]] std::optional<Command> take(std::uint8_t byte, bool isOpen);
 
+    /// Whether no command has begun that is not complete.
+    [[nodiscard]] bool isIdle() const { return !_command && !_awaitsAdminNumber; }
+
     /// Forgets a command that has begun.
     void reset();
 

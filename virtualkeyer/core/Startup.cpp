@@ -13,7 +13,7 @@ void Startup::restart(Time deafUntil, Time now) {
 }
 
 bool Startup::admits(std::uint8_t byte, Time now) {
-    if (now < _deafUntil) {
+    if (isDeaf(now)) {
         return false;
     }
     if (!_hasBeeped && _board.profile.firstCommandBeep > Time{0}) {

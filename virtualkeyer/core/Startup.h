@@ -22,6 +22,9 @@ class Startup {
     /// Keeps what comes before `until`.
     void hold(Time until) { _heldUntil = until; }
 
+    /// Whether a byte that comes at `now` is lost.
+    [[nodiscard]] bool isDeaf(Time now) const { return now < _deafUntil; }
+
     [[nodiscard]] std::optional<Time> due() const { return _heldUntil; }
     /// Ends the beep or the silence; the bytes that came during it.
     [[nodiscard]] std::vector<std::uint8_t> takeHeld(Time now);

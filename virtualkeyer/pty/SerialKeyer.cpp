@@ -33,6 +33,9 @@ void SerialKeyer::send(std::uint8_t byte, Time at) {
 void SerialKeyer::portOpened(Time at) {
     advance(at);
     _keyer.portOpened(at);
+    if (_keyer.isDeaf()) {
+        tellRestart(at);
+    }
     handOn();
     plan(at);
 }
@@ -94,6 +97,7 @@ void SerialKeyer::pull(Time at) {
     advance(at);
     _isPluggedIn = false;
     _keyer.restart(at);
+    tellRestart(at);
     handOn();
     hangUp(at);
     _arrived.clear();
@@ -143,6 +147,12 @@ std::optional<Time> SerialKeyer::nextIncident() const {
 
 void SerialKeyer::runIncident(Time at) {
     if (const auto byte = _arrivingAtKeyer.take(at)) {
+        // What was before it is told before it.
+        _keyer.advance(byte->completeAt);
+        handOn();
+        for (KeyerListener* listener : _listeners) {
+            listener->hostSent(byte->value, _keyer.isDeaf(), byte->completeAt);
+        }
         _keyer.receive(byte->value, byte->completeAt);
         // At once, because a new line speed holds from the next byte on.
         handOn();
@@ -151,6 +161,7 @@ void SerialKeyer::runIncident(Time at) {
     } else if (_resetAt && *_resetAt <= at) {
         _resetAt.reset();
         _keyer.reset(at);
+        tellRestart(at);
         handOn();
     } else {
         hangUp(at);
@@ -177,6 +188,12 @@ std::optional<Time> SerialKeyer::nextEvent() const {
         next = earlier(next, listener->nextWish());
     }
     return next;
+}
+
+void SerialKeyer::tellRestart(Time at) {
+    for (KeyerListener* listener : _listeners) {
+        listener->keyerRestarted(at);
+    }
 }
 
 /// Gives the keyer's events and state to the listeners and its bytes to the line.

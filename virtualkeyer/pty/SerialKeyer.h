@@ -87,6 +87,7 @@ class SerialKeyer {
     void collect(Time until);
     void plan(Time from);
     void handOn();
+    void tellRestart(Time at);
 
     static constexpr int initialBaud = 1200;
 

@@ -1,18 +1,17 @@
 #include "virtualkeyer/window/KeyerWindow.h"
 
 #include "virtualkeyer/sound/LiveSidetone.h"
+#include "virtualkeyer/window/FileSaving.h"
 #include "virtualkeyer/window/KindList.h"
 #include "virtualkeyer/window/LampRow.h"
 #include "virtualkeyer/window/MessageList.h"
 #include "virtualkeyer/window/PaddlePanel.h"
 #include "virtualkeyer/window/RegisterTable.h"
+#include "virtualkeyer/window/WireLogPage.h"
 
-#include <QFileDialog>
 #include <QGroupBox>
 #include <QHBoxLayout>
-#include <QMessageBox>
 #include <QPushButton>
-#include <QSaveFile>
 #include <QSignalBlocker>
 #include <QSlider>
 #include <QTabWidget>
@@ -35,12 +34,13 @@ constexpr float hintOpacity = 0.6F;
 
 } // namespace
 
-KeyerWindow::KeyerWindow(const CommandLine& commandLine, KeyerLink& link, LiveSidetone& sidetone)
+KeyerWindow::KeyerWindow(const CommandLine& commandLine, KeyerLink& link, WireTap& wire,
+                         LiveSidetone& sidetone)
     : _link(link) {
     setWindowTitle(tr("Virtual keyer"));
     auto* middle = new QHBoxLayout;
     middle->addWidget(makeHands(commandLine, sidetone));
-    middle->addWidget(makeInside(commandLine), 1);
+    middle->addWidget(makeInside(commandLine, wire), 1);
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(makeTop(commandLine.linkName));
     layout->addLayout(middle, 2);
@@ -154,7 +154,7 @@ QWidget* KeyerWindow::makeButtons() {
     return box;
 }
 
-QWidget* KeyerWindow::makeInside(const CommandLine& commandLine) {
+QWidget* KeyerWindow::makeInside(const CommandLine& commandLine, WireTap& wire) {
     auto* pages = new QTabWidget;
     _registers = new RegisterTable;
     _messages = new MessageList;
@@ -163,6 +163,7 @@ QWidget* KeyerWindow::makeInside(const CommandLine& commandLine) {
     pages->addTab(_registers, tr("Registers"));
     pages->addTab(_messages, tr("Memory"));
     pages->addTab(_kinds, tr("Kind of keyer"));
+    pages->addTab(new WireLogPage(wire), tr("Line log"));
     connect(_messages, &MessageList::played, this,
             [this](int number) { _link.order(PlayMessage{number}); });
     connect(_kinds, &KindList::chosen, this,
@@ -209,16 +210,7 @@ void KeyerWindow::record(bool isRecording) {
     if (isRecording) {
         return _link.beginRecording();
     }
-    const QString script = _link.endRecording();
-    const QString path = QFileDialog::getSaveFileName(this, tr("Save the script"));
-    if (path.isEmpty()) {
-        return;
-    }
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(script.toUtf8()) < 0 || !file.commit()) {
-        QMessageBox::warning(this, {},
-                             tr("%1 cannot be written: %2").arg(path, file.errorString()));
-    }
+    FileSaving::save(this, tr("Save the script"), {}, _link.endRecording().toUtf8());
 }
 
 void KeyerWindow::refresh() {

@@ -17,14 +17,16 @@ class LampRow;
 class MessageList;
 class PaddlePanel;
 class RegisterTable;
+class WireTap;
 
 /// The keyer as one has it on the table: its plug, knob, buttons and paddle, its lamps, and what is
 /// in it.
 class KeyerWindow : public QWidget {
     Q_OBJECT
   public:
-    /// Both must outlive the window.
-    KeyerWindow(const CommandLine& commandLine, KeyerLink& link, LiveSidetone& sidetone);
+    /// All must outlive the window.
+    KeyerWindow(const CommandLine& commandLine, KeyerLink& link, WireTap& wire,
+                LiveSidetone& sidetone);
 
   private:
     [[nodiscard]] QWidget* makeTop(const QString& port);
@@ -32,7 +34,7 @@ class KeyerWindow : public QWidget {
     [[nodiscard]] QWidget* makeKnob(int wpm);
     [[nodiscard]] QWidget* makeVolume(LiveSidetone& sidetone);
     [[nodiscard]] QWidget* makeButtons();
-    [[nodiscard]] QWidget* makeInside(const CommandLine& commandLine);
+    [[nodiscard]] QWidget* makeInside(const CommandLine& commandLine, WireTap& wire);
     [[nodiscard]] QWidget* makeText();
     void movePaddle(bool dit, bool dah);
     void turnKnob(int wpm);

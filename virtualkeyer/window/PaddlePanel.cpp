@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QHBoxLayout>
 #include <QKeyEvent>
+#include <QLineEdit>
 #include <QWindow>
 
 namespace virtualkeyer {
@@ -77,9 +78,12 @@ bool* PaddlePanel::keyOf(int key) {
     }
 }
 
-/// Not while a menu or a list is open, which is worked by letters, nor in another window.
+/// Not while a menu or a list is open, which is worked by letters, nor in another window, nor while
+/// text is typed.
 bool PaddlePanel::takesKeys() const {
-    return window()->isActiveWindow() && QApplication::activePopupWidget() == nullptr &&
+    return window()->isActiveWindow() &&
+           qobject_cast<QLineEdit*>(QApplication::focusWidget()) == nullptr &&
+           QApplication::activePopupWidget() == nullptr &&
            QGuiApplication::keyboardModifiers() == Qt::NoModifier;
 }
 

@@ -1,5 +1,9 @@
 #include "virtualkeyer/window/RegisterWords.h"
 
+#include <QStringList>
+
+#include <optional>
+
 namespace virtualkeyer {
 
 namespace {
@@ -91,37 +95,92 @@ QString outputs(const Registers& registers) {
     return first ? QStringLiteral("1") : second ? QStringLiteral("2") : RegisterWords::tr("none");
 }
 
+/// Something that a register decides.
+struct Row {
+    Register which;
+    QString name;
+    QString value;
+};
+
+QString oneLine(const std::vector<Row>& rows, std::optional<Register> which) {
+    QStringList words;
+    for (const Row& row : rows) {
+        if (!which || row.which == *which) {
+            words += RegisterWords::tr("%1: %2").arg(row.name, row.value);
+        }
+    }
+    return words.join(QStringLiteral("; "));
+}
+
+QString wordSpace(const Registers& registers) {
+    return RegisterWords::tr("%1 dits").arg(registers.contestSpacing() ? 6 : 7);
+}
+
+QString paddleMemory(const Registers& registers) {
+    const int lookAgain = value(registers, Register::Switchpoint);
+    return lookAgain == 0
+               ? onOff(false)
+               : RegisterWords::tr("after %1 dit lengths").arg(double(lookAgain) / neutral);
+}
+
+QString ratio(const Registers& registers) {
+    const double ratio = 3.0 * value(registers, Register::Ratio) / neutral;
+    return RegisterWords::tr("%1 to 1").arg(ratio, 0, 'f', 2);
+}
+
+QString hang(const Registers& registers) {
+    return RegisterWords::tr("word space and %1 dits").arg(registers.hangDits());
+}
+
+std::vector<Row> rowsOf(const Registers& registers) {
+    const auto ms = [&registers](Register which) { return milliseconds(value(registers, which)); };
+    const auto steps = [&registers](Register which) {
+        return milliseconds(stepMs * value(registers, which));
+    };
+    using Words = RegisterWords;
+    return {
+        {Register::Speed, Words::tr("Speed"), speed(registers)},
+        {Register::PotMinimum, Words::tr("Knob's range"), knobRange(registers)},
+        {Register::Farnsworth, Words::tr("Farnsworth"), farnsworth(registers)},
+        {Register::Weighting, Words::tr("Weighting"),
+         percent(value(registers, Register::Weighting))},
+        {Register::Ratio, Words::tr("Dah to dit"), ratio(registers)},
+        {Register::Compensation, Words::tr("Key compensation"), ms(Register::Compensation)},
+        {Register::FirstExtension, Words::tr("First extension"), ms(Register::FirstExtension)},
+        {Register::Mode, Words::tr("Word space"), wordSpace(registers)},
+        {Register::Mode, Words::tr("Paddle keying"), paddleMode(registers)},
+        {Register::PinConfiguration, Words::tr("Ultimatic priority"), priority(registers)},
+        {Register::Mode, Words::tr("Paddle swapped"), onOff(registers.swapsPaddle())},
+        {Register::Switchpoint, Words::tr("Paddle memory"), paddleMemory(registers)},
+        {Register::Mode, Words::tr("Paddle watchdog"), onOff(registers.watchdog())},
+        {Register::Mode, Words::tr("Autospace"), onOff(registers.autospace())},
+        {Register::Mode, Words::tr("Paddle echo"), onOff(registers.paddleEcho())},
+        {Register::Mode, Words::tr("Serial echo"), onOff(registers.serialEcho())},
+        {Register::Sidetone, Words::tr("Sidetone"), sidetone(registers)},
+        {Register::PinConfiguration, Words::tr("Key outputs"), outputs(registers)},
+        {Register::PinConfiguration, Words::tr("PTT"), onOff(registers.pttOn())},
+        {Register::LeadIn, Words::tr("Lead-in"), steps(Register::LeadIn)},
+        {Register::Tail, Words::tr("Tail"), steps(Register::Tail)},
+        {Register::PinConfiguration, Words::tr("Hang time"), hang(registers)},
+    };
+}
+
 } // namespace
 
 std::vector<std::pair<QString, QString>> RegisterWords::of(const Registers& registers) {
-    const double ratio = 3.0 * value(registers, Register::Ratio) / neutral;
-    const int lookAgain = value(registers, Register::Switchpoint);
-    return {
-        {tr("Speed"), speed(registers)},
-        {tr("Knob's range"), knobRange(registers)},
-        {tr("Farnsworth"), farnsworth(registers)},
-        {tr("Weighting"), percent(value(registers, Register::Weighting))},
-        {tr("Dah to dit"), tr("%1 to 1").arg(ratio, 0, 'f', 2)},
-        {tr("Key compensation"), milliseconds(value(registers, Register::Compensation))},
-        {tr("First extension"), milliseconds(value(registers, Register::FirstExtension))},
-        {tr("Word space"), tr("%1 dits").arg(registers.contestSpacing() ? 6 : 7)},
-        {tr("Paddle keying"), paddleMode(registers)},
-        {tr("Ultimatic priority"), priority(registers)},
-        {tr("Paddle swapped"), onOff(registers.swapsPaddle())},
-        {tr("Paddle memory"), lookAgain == 0
-                                  ? onOff(false)
-                                  : tr("after %1 dit lengths").arg(double(lookAgain) / neutral)},
-        {tr("Paddle watchdog"), onOff(registers.watchdog())},
-        {tr("Autospace"), onOff(registers.autospace())},
-        {tr("Paddle echo"), onOff(registers.paddleEcho())},
-        {tr("Serial echo"), onOff(registers.serialEcho())},
-        {tr("Sidetone"), sidetone(registers)},
-        {tr("Key outputs"), outputs(registers)},
-        {tr("PTT"), onOff(registers.pttOn())},
-        {tr("Lead-in"), milliseconds(stepMs * value(registers, Register::LeadIn))},
-        {tr("Tail"), milliseconds(stepMs * value(registers, Register::Tail))},
-        {tr("Hang time"), tr("word space and %1 dits").arg(registers.hangDits())},
-    };
+    std::vector<std::pair<QString, QString>> words;
+    for (const Row& row : rowsOf(registers)) {
+        words.emplace_back(row.name, row.value);
+    }
+    return words;
+}
+
+QString RegisterWords::of(const Registers& registers, Register which) {
+    return oneLine(rowsOf(registers), which);
+}
+
+QString RegisterWords::line(const Registers& registers) {
+    return oneLine(rowsOf(registers), std::nullopt);
 }
 
 } // namespace virtualkeyer

@@ -17,6 +17,11 @@ struct RegisterWords {
   public:
     /// A name and a value each, always the same names in the same order.
     [[nodiscard]] static std::vector<std::pair<QString, QString>> of(const Registers& registers);
+
+    /// What `which` decides, in one line.
+    [[nodiscard]] static QString of(const Registers& registers, Register which);
+    /// All of them, in one line.
+    [[nodiscard]] static QString line(const Registers& registers);
 };
 
 } // namespace virtualkeyer

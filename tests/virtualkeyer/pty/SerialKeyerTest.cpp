@@ -74,11 +74,21 @@ class Recorder : public KeyerListener {
         }
     }
     [[nodiscard]] std::optional<Time> nextWish() const override { return wish; }
+    void hostSent(std::uint8_t byte, bool isLost, Time at) override {
+        sent.push_back({byte, at.count()});
+        lost += isLost ? 1 : 0;
+        eventsBeforeLastSent = events.size();
+    }
+    void keyerRestarted(Time at) override { restarts.push_back(at.count()); }
 
     std::vector<Event> events;
     std::vector<int> speeds;
     Time lastTime{};
     std::optional<Time> wish;
+    std::vector<Arrival> sent;
+    int lost = 0;
+    std::size_t eventsBeforeLastSent = 0;
+    std::vector<std::int64_t> restarts;
 };
 
 } // namespace
@@ -98,6 +108,10 @@ class SerialKeyerTest : public QObject {
     void aListenerHearsHowFarTimeHasCome();
     void anIdleKeyerHasNothingDue();
     void aBootLoaderIsToldOfTheOpening();
+    void listenersHearTheHostsBytesWhenTheyAreComplete();
+    void aByteIsToldBetweenWhatIsBeforeItAndItsAnswer();
+    void whatABootLoaderSwallowsIsToldAsLost();
+    void aPulledKeyerIsToldToStartAnew();
 };
 
 void SerialKeyerTest::anAnswerTakesTheTimeOfEveryByteThereAndBack() {
@@ -210,6 +224,52 @@ void SerialKeyerTest::aBootLoaderIsToldOfTheOpening() {
     sendTo(keyer, {0x00, 0x04, 'B'}, 3s);
     keyer.advance(4s);
     QCOMPARE(keyer.takeArrived(), std::vector<std::uint8_t>{'B'});
+}
+
+void SerialKeyerTest::listenersHearTheHostsBytesWhenTheyAreComplete() {
+    Recorder listener;
+    Bench bench({&listener});
+    bench.send({0x00, 0x02, 'E'});
+    bench.keyer.advance(1s);
+    QCOMPARE(listener.sent,
+             (std::vector<Arrival>{{0x00, lineTime(1)}, {0x02, lineTime(2)}, {'E', lineTime(3)}}));
+    QCOMPARE(listener.lost, 0);
+}
+
+/// However late the loop was.
+void SerialKeyerTest::aByteIsToldBetweenWhatIsBeforeItAndItsAnswer() {
+    Recorder listener;
+    Bench bench({&listener});
+    bench.send({0x00, 0x02, 0x0E, 0x04, 'E'});
+    bench.keyer.advance(100ms);
+    bench.send({0x00, 0x04, 'U'}, 2s);
+    bench.keyer.advance(3s);
+    QCOMPARE(listener.events.size(), listener.eventsBeforeLastSent + 1);
+    QCOMPARE(listener.events.back().what, decltype(Event::what)(HostByte{'U'}));
+}
+
+void SerialKeyerTest::whatABootLoaderSwallowsIsToldAsLost() {
+    Profile profile;
+    profile.bootLoaderTime = 1300ms;
+    Recorder listener;
+    SerialKeyer keyer(profile, {&listener});
+    keyer.portOpened(1s);
+    QCOMPARE(listener.restarts, std::vector<std::int64_t>{1'000'000'000});
+    sendTo(keyer, {0x00, 0x02}, 1s);
+    keyer.advance(3s);
+    QCOMPARE(listener.lost, 2);
+    sendTo(keyer, {0x00, 0x02}, 3s);
+    keyer.advance(4s);
+    QCOMPARE(listener.lost, 2);
+}
+
+void SerialKeyerTest::aPulledKeyerIsToldToStartAnew() {
+    Recorder listener;
+    Bench bench({&listener});
+    bench.keyer.portOpened(1s);
+    QCOMPARE(listener.restarts.size(), 0U);
+    bench.keyer.pull(2s);
+    QCOMPARE(listener.restarts, std::vector<std::int64_t>{2'000'000'000});
 }
 
 static const RegisteredTest<SerialKeyerTest> registered;

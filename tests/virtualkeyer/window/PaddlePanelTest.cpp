@@ -3,6 +3,8 @@
 #include "tests/support/RegisteredTest.h"
 
 #include <QKeyEvent>
+#include <QLayout>
+#include <QLineEdit>
 #include <QMenu>
 #include <QStringList>
 #include <QTest>
@@ -22,6 +24,7 @@ class PaddlePanelTest : public QObject {
     void aMenuTakesTheKeysButNotTheRelease();
     void aHiddenPanelHoldsNothing();
     void keysWithModifiersAreNotForThePaddle();
+    void whatIsTypedIsNotForThePaddle();
 
   private:
     [[nodiscard]] QPushButton* button(const QString& name) const {
@@ -115,6 +118,23 @@ void PaddlePanelTest::keysWithModifiersAreNotForThePaddle() {
     QTest::keyPress(_panel->windowHandle(), Qt::Key_F, Qt::ControlModifier);
     QTest::keyRelease(_panel->windowHandle(), Qt::Key_F, Qt::ControlModifier);
     QCOMPARE(_moves, QStringList());
+}
+
+void PaddlePanelTest::whatIsTypedIsNotForThePaddle() {
+    auto* text = new QLineEdit;
+    _panel->layout()->addWidget(text);
+    text->setFocus();
+    QTRY_VERIFY(text->hasFocus());
+    QTest::keyClick(_panel->windowHandle(), Qt::Key_F);
+    QTest::keyClick(_panel->windowHandle(), Qt::Key_J);
+    QCOMPARE(_moves, QStringList());
+    QCOMPARE(text->text(), u"fj"_s);
+    // A key that was held before lets go all the same.
+    text->clearFocus();
+    QTest::keyPress(_panel->windowHandle(), Qt::Key_F);
+    text->setFocus();
+    QTest::keyRelease(_panel->windowHandle(), Qt::Key_F);
+    QCOMPARE(_moves, (QStringList{u". "_s, u"  "_s}));
 }
 
 static const RegisteredTest<PaddlePanelTest> registered;
