@@ -8,6 +8,10 @@
 
 namespace {
 
+/// By how much the end of a wait is noticed late only where the program could not run, which has kept
+/// keys from it, too.
+constexpr std::chrono::milliseconds lateness{100};
+
 /// Whether the event is a part of the way of a key, or of an input method, to a window.
 bool isOfKeyboard(const QEvent& event) {
     switch (event.type()) {
@@ -62,7 +66,11 @@ void KeyShield::wait() {
 }
 
 void KeyShield::endWaiting() {
-    if (Platform::current().clock().now() < _end) {
+    const auto now = Platform::current().clock().now();
+    if (now > _end + lateness) {
+        _end = now + stillness;
+    }
+    if (now < _end) {
         wait();
         return;
     }

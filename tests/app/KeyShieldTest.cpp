@@ -29,6 +29,7 @@ class KeyShieldTest : public QObject {
     void aHeldKeyAnswersNothing();
     void aKeyAnswersOnceTheKeyboardHasBeenStill();
     void typingOnBeginsTheWaitAnew();
+    void aKeyThatCameWhileNothingRanAnswersNothing();
     void theWaitBeginsWhenTheAlertHasTheKeyboard();
     void theMouseAnswersAtOnce();
     void escapeIsStillHeardByTheApplication();
@@ -127,6 +128,19 @@ void KeyShieldTest::typingOnBeginsTheWaitAnew() {
     clock().advance(600ms);
     press(Qt::Key_Space, u" "_s);
     QVERIFY(_box->isVisible());
+}
+
+/// On a machine that has kept the program from running, the end of the wait and the keys that were
+/// typed meanwhile are there at once, in any order.
+void KeyShieldTest::aKeyThatCameWhileNothingRanAnswersNothing() {
+    press(Qt::Key_C, u"c"_s);
+    clock().sleep(1500ms);
+    clock().advance(0s);
+    press(Qt::Key_Space, u" "_s);
+    QVERIFY(_box->isVisible());
+    clock().advance(1s);
+    press(Qt::Key_Space, u" "_s);
+    QVERIFY(!_box->isVisible());
 }
 
 /// A desktop may leave the keyboard with the window behind for a while, whose keys go nowhere.
