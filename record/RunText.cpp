@@ -1,6 +1,7 @@
 #include "record/RunText.h"
 
 #include <QDateTime>
+#include <QTimeZone>
 
 using namespace Qt::StringLiterals;
 
@@ -42,7 +43,8 @@ QString RunText::of(const RecordedRun& run, Column column) {
 
 /// The same in each language, as logs have it.
 QString RunText::begun(const RecordedRun& run) {
-    return QDateTime::fromMSecsSinceEpoch(run.begun, Qt::UTC).toString(u"yyyy-MM-dd HH:mm:ss"_s);
+    return QDateTime::fromMSecsSinceEpoch(run.begun, QTimeZone::utc())
+        .toString(u"yyyy-MM-dd HH:mm:ss"_s);
 }
 
 QString RunText::speed(const RecordedRun& run) {

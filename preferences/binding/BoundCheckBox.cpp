@@ -4,7 +4,12 @@
 
 BoundCheckBox::BoundCheckBox(QCheckBox& box, const Setting& setting, QObject& controller)
     : BoundControl(box, setting, controller), _box(box) {
+    // The toolkit's newer releases have it under another name.
+#if QT_VERSION >= QT_VERSION_CHECK(6, 7, 0)
+    connect(&box, &QCheckBox::checkStateChanged, this, &BoundCheckBox::takeState);
+#else
     connect(&box, &QCheckBox::stateChanged, this, &BoundCheckBox::takeState);
+#endif
 }
 
 void BoundCheckBox::takeState() {
