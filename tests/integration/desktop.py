@@ -45,10 +45,6 @@ class Desktop:
         for process in reversed(self._processes):
             process.end()
 
-    def held_up(self):
-        """For how many seconds its programs have had to wait for a processor."""
-        return sum(each.held_up() for each in self._processes)
-
     def xdotool(self, *arguments):
         """What it prints; None when it fails."""
         done = subprocess.run(["xdotool", *map(str, arguments)], env=self.environment, text=True,

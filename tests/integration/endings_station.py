@@ -32,7 +32,7 @@ class EndingStation(ProgramTest):
 
     def start_station(self, environment, more_settings, is_paddled=False):
         """Keyer, adapter and application, connected."""
-        self.own_waits = ProcessorWaits(os.getpid())
+        self.waits = ProcessorWaits(os.getpid(), with_children=True)
         self.environment.update(environment)
         # The keyer's own link would be a second port.
         keyer_runtime = self.home / "keyer"
@@ -84,8 +84,7 @@ class EndingStation(ProgramTest):
         return max(0.0, seconds - (self.held_up() - self.begin_held_up))
 
     def held_up(self):
-        return self.own_waits.seconds() + sum(
-            each.held_up() for each in (self.quorvel, self.keyer, self.adapter, self.desktop))
+        return self.waits.seconds()
 
     # What passed over the line, and what it made of the key.
 

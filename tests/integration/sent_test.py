@@ -73,6 +73,10 @@ class SentTest(ProgramTest):
                          lambda: self.sent_window(quorvel).find(name).is_in_state(
                              "sensitive") == is_enabled)
 
+    def click_button(self, quorvel, name):
+        self.desktop.click(
+            quorvel.wait_for(name, lambda: self.sent_window(quorvel).find(name)))
+
     def test_what_is_sent_is_there_with_who_and_how(self):
         port = free_port()
         keyer, quorvel, window = self.start_connected(
@@ -155,7 +159,7 @@ class SentTest(ProgramTest):
         self.assertEqual(keyer.keyed(), "N0CALL")
         self.desktop.click(row)
         self.expect_enabled(quorvel, "Send Again")
-        self.desktop.click(self.sent_window(quorvel).find("Send Again"))
+        self.click_button(quorvel, "Send Again")
         keyer.has_keyed("N0CALLN0CALL")
         # A space that is typed behind the click presses it no more.
         self.desktop.press("space")
@@ -183,7 +187,7 @@ class SentTest(ProgramTest):
         self.open_window(quorvel)
         self.wait_for_lines(quorvel, "TU 73")
         self.expect_enabled(quorvel, "Send Again")
-        self.desktop.click(self.sent_window(quorvel).find("Make Message"))
+        self.click_button(quorvel, "Make Message")
         self.desktop.press("Down")
         self.desktop.press("Down")
         self.desktop.press("Return")
@@ -206,7 +210,7 @@ class SentTest(ProgramTest):
         self.desktop.press("BackSpace")
         self.wait_for_lines(quorvel, "EEE")
         target = self.home / "sent.csv"
-        self.desktop.click(self.sent_window(quorvel).find("Save as CSV…"))
+        self.click_button(quorvel, "Save as CSV…")
         quorvel.wait_for("the dialog", lambda: self.desktop.active_title().startswith("Save as CSV"))
         self.desktop.press("ctrl+a")
         self.desktop.type(str(target))

@@ -97,15 +97,17 @@ class TroubleTest(ProgramTest):
         self.assertEqual(keyer.end(), 0)
 
     def leave_link_behind(self, terminal):
-        """What a keyer that could not clean up leaves behind, before the terminal's number is used
-        again; the terminal, which is another one where somebody was faster."""
+        """What a keyer that could not clean up leaves behind, until a terminal cannot be its own any
+        more; the terminal, which is another one where somebody has used the number again."""
         while True:
             os.symlink(terminal, self.link())
+            time.sleep(1.1)
             if not os.path.exists(terminal):
                 return terminal
             os.unlink(self.link())
-            ends = os.openpty()
-            terminal = os.ttyname(ends[1])
+            # The lowest numbers are used first.
+            ends = [each for _ in range(20) for each in os.openpty()]
+            terminal = os.ttyname(ends[-1])
             for each in ends:
                 os.close(each)
 
@@ -116,7 +118,6 @@ class TroubleTest(ProgramTest):
         wait_for("the link to go", lambda: not os.path.lexists(self.link()))
         self.write_settings(SETTINGS)
         terminal = self.leave_link_behind(terminal)
-        time.sleep(1.1)
         shells = []
         self.addCleanup(lambda: [os.close(each) for each in shells])
         while not os.path.exists(terminal):
