@@ -18,6 +18,10 @@ std::vector<std::int16_t> LiveFeed::next(Time now, std::size_t room, std::size_t
     if (_renderer.position() < behind) {
         _renderer.skipTo(behind);
     }
+    // A device that took nothing for so long gets on with the present.
+    if (end - _renderer.position() > _sampleRate) {
+        _renderer.jumpTo(std::max<std::int64_t>(behind, end - _sampleRate));
+    }
     const auto wanted = std::max<std::int64_t>(0, end - _renderer.position());
     std::vector<float> rendered(std::min(static_cast<std::size_t>(wanted), left));
     _renderer.render(rendered);

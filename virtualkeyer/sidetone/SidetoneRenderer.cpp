@@ -47,6 +47,14 @@ bool SidetoneRenderer::skipTo(std::int64_t sample) {
     return staysSilent;
 }
 
+void SidetoneRenderer::jumpTo(std::int64_t sample) {
+    while (!_changes.empty() && _changes.front().sample <= sample) {
+        make(_changes.front());
+        _changes.pop_front();
+    }
+    _position = std::max(_position, sample);
+}
+
 void SidetoneRenderer::make(const Change& change) {
     if (isSilent()) {
         _phase = 0;

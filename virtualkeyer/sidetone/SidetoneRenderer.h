@@ -2,6 +2,7 @@
 
 #include "virtualkeyer/core/Event.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <deque>
 #include <span>
@@ -33,6 +34,12 @@ class SidetoneRenderer {
     /// Leaves samples out, up to `sample`, which nobody notices in a silence: false, and nothing is
     /// left out, when there is a tone up to then.
     bool skipTo(std::int64_t sample);
+
+    /// Leaves samples out, up to `sample`, whatever is heard: what is to change by then has changed.
+    void jumpTo(std::int64_t sample);
+
+    /// How many calls of setTone() are still to take effect.
+    [[nodiscard]] std::size_t waiting() const { return _changes.size(); }
 
     /// Whether the next sample is silent, unless a tone begins with it.
     [[nodiscard]] bool isSilent() const { return !_sounds && _level == 0; }

@@ -7,6 +7,7 @@
 #include <QTimer>
 
 #include <algorithm>
+#include <utility>
 
 namespace virtualkeyer {
 
@@ -18,6 +19,8 @@ constexpr int bytesPerSample = 2;
 constexpr int storedBytes = sampleRate / 1000 * 20 * bytesPerSample;
 constexpr std::size_t cushion = sampleRate / 1000 * 8;
 constexpr auto feedInterval = std::chrono::milliseconds{5};
+/// A silence after which the device runs dry.
+constexpr auto restlessTime = std::chrono::seconds{5};
 
 QAudioFormat format() {
     QAudioFormat format;
@@ -42,11 +45,27 @@ void LiveSidetone::setVolume(double volume) {
 }
 
 void LiveSidetone::keyerDid(const Event& event, const Registers& /*registers*/) {
-    if (const auto* tone = std::get_if<Tone>(&event.what)) {
-        const std::lock_guard lock(_mutex);
-        noteTime(event.at);
-        _feed.setTone(tone->frequency, event.at);
+    const auto* tone = std::get_if<Tone>(&event.what);
+    if (tone == nullptr) {
+        return;
     }
+    const std::lock_guard lock(_mutex);
+    noteTime(event.at);
+    // Nobody would ever take it.
+    if (_feeder == nullptr) {
+        return;
+    }
+    _feed.setTone(tone->frequency, event.at);
+    if (std::exchange(_isResting, false)) {
+        QMetaObject::invokeMethod(
+            _feeder, [feeder = _feeder] { feeder->start(std::chrono::milliseconds{0}); },
+            Qt::QueuedConnection);
+    }
+}
+
+std::size_t LiveSidetone::waiting() {
+    const std::lock_guard lock(_mutex);
+    return _feed.waiting();
 }
 
 void LiveSidetone::timePassed(Time now) {
@@ -63,8 +82,23 @@ void LiveSidetone::noteTime(Time now) {
 
 std::vector<std::int16_t> LiveSidetone::next(std::size_t room, std::size_t stored) {
     const std::lock_guard lock(_mutex);
-    const Time now = _start ? Time{Clock::now() - *_start} : Time{0};
-    return _feed.next(now, room, stored);
+    const auto clock = Clock::now();
+    if (!_feed.isSilent()) {
+        _lastSound = clock;
+    }
+    return _feed.next(_start ? Time{clock - *_start} : Time{0}, room, stored);
+}
+
+bool LiveSidetone::mayRest() {
+    const std::lock_guard lock(_mutex);
+    _isResting = _feed.isSilent() && Clock::now() - _lastSound > restlessTime;
+    return _isResting;
+}
+
+void LiveSidetone::setFeeder(QTimer* feeder) {
+    const std::lock_guard lock(_mutex);
+    _feeder = feeder;
+    _lastSound = Clock::now();
 }
 
 void LiveSidetone::run() {
@@ -83,15 +117,21 @@ void LiveSidetone::run() {
     const qsizetype size = sink.bufferSize();
     QTimer timer;
     timer.setTimerType(Qt::PreciseTimer);
-    connect(&timer, &QTimer::timeout, &timer, [this, &sink, store, size] {
+    connect(&timer, &QTimer::timeout, &timer, [this, &sink, &timer, store, size] {
+        timer.setInterval(feedInterval);
         const qsizetype free = sink.bytesFree();
         const auto samples = next(static_cast<std::size_t>(free / bytesPerSample),
                                   static_cast<std::size_t>((size - free) / bytesPerSample));
         store->write(reinterpret_cast<const char*>(samples.data()),
                      static_cast<qint64>(samples.size()) * bytesPerSample);
+        if (mayRest()) {
+            timer.stop();
+        }
     });
+    setFeeder(&timer);
     timer.start(feedInterval);
     exec();
+    setFeeder(nullptr);
     sink.stop();
 }
 

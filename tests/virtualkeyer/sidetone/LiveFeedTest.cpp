@@ -100,6 +100,9 @@ class LiveFeedTest : public QObject {
     void aSilenceFillsTheStore();
     void whatWasKeyedIsHeardWithinTheStore();
     void aDeviceThatWasHeldUpCatchesUpInTheSilence();
+    void aDeviceThatTakesNothingForAnHourIsKeptNoHour();
+    void aDeviceThatWasHeldUpInAToneHearsThePresent();
+    void itIsSilentOnceAllWasDealtOut();
     void theVolumeIsOneOfTheWholeScale();
 };
 
@@ -169,6 +172,41 @@ void LiveFeedTest::aDeviceThatWasHeldUpCatchesUpInTheSilence() {
     const auto samples = feed.next(1010ms, storeSize, cushion);
     QCOMPARE(samples.size(), std::size_t{10 * rate / 1000});
     QVERIFY(std::ranges::any_of(samples, [](std::int16_t each) { return each > 1000; }));
+}
+
+void LiveFeedTest::aDeviceThatTakesNothingForAnHourIsKeptNoHour() {
+    LiveFeed feed(rate, cushion);
+    for (Time now{0}; now < 1h; now += 60ms) {
+        feed.setTone(now / Time{60ms} % 2 == 0 ? 800 : 0, now);
+        QCOMPARE(feed.next(now, 0, storeSize).size(), std::size_t{0});
+        QVERIFY(feed.waiting() <= 18);
+    }
+}
+
+void LiveFeedTest::aDeviceThatWasHeldUpInAToneHearsThePresent() {
+    LiveFeed feed(rate, cushion);
+    feed.setTone(800, 0ms);
+    static_cast<void>(feed.next(10ms, storeSize, 0));
+    feed.setTone(0, 5000ms);
+    QVERIFY(!feed.isSilent());
+    static_cast<void>(feed.next(9990ms, storeSize, cushion));
+    // What is left is the tone's end, and nothing of the ten seconds.
+    const auto samples = feed.next(10s, storeSize, cushion);
+    QCOMPARE(samples.size(), std::size_t{10 * rate / 1000});
+    QVERIFY(std::ranges::all_of(samples, [](std::int16_t each) { return each == 0; }));
+}
+
+void LiveFeedTest::itIsSilentOnceAllWasDealtOut() {
+    LiveFeed feed(rate, cushion);
+    QVERIFY(feed.isSilent());
+    feed.setTone(800, 10ms);
+    feed.setTone(0, 20ms);
+    QVERIFY(!feed.isSilent());
+    static_cast<void>(feed.next(15ms, storeSize, 0));
+    QVERIFY(!feed.isSilent());
+    static_cast<void>(feed.next(30ms, storeSize, 0));
+    QVERIFY(feed.isSilent());
+    QCOMPARE(feed.waiting(), std::size_t{0});
 }
 
 void LiveFeedTest::theVolumeIsOneOfTheWholeScale() {
