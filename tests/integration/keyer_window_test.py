@@ -224,6 +224,27 @@ class KeyerWindowTest(ProgramTest):
         self.assertEqual(self.elements(keyer), 1)
         self.assertEqual(keyer.end(), 0)
 
+    def test_the_scope_measures_what_is_keyed(self):
+        keyer, window = self.start_window()
+        window.find("Scope").press()
+        scope = window.find("Scope of key and PTT")
+        keyer.wait_for("the scope", lambda: scope.refresh().is_in_state("showing"))
+        port = self.open_port()
+        port.write(b"A")
+        self.assertEqual(port.read(3), b"\xc4A\xc0")
+        scope.focus()
+        keyer.wait_for("PTT to go off", lambda: self.holds_still(keyer))
+        # Past PTT's end to the letter's beginning, and with the other cursor to its second element.
+        for _ in range(5):
+            self.desktop.press("ctrl+Left")
+        keyer.wait_for("the dit", lambda: scope.refresh().description() == "dit 60.0 ms")
+        for _ in range(3):
+            self.desktop.press("ctrl+shift+Left")
+        keyer.wait_for("the measure", lambda: scope.refresh().description()
+                       == "120.0 ms: dit 60.0, space 60.0")
+        self.assertEqual(scope.value(), 120)
+        self.assertEqual(keyer.end(), 0)
+
     def test_without_a_sound_device_it_says_that_it_is_silent(self):
         keyer, window = self.start_window()
         keyer.wait_for("the word", lambda: window.find("No sound device: it is silent.")

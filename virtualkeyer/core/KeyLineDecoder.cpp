@@ -22,7 +22,7 @@ void KeyLineDecoder::key(bool isDown, Time at) {
         _awaitsWord = false;
     } else {
         const Time mark = at - _lastEdge;
-        _pattern += mark > (_timing.dit + _timing.dah) / 2 ? '-' : '.';
+        _pattern += isDah(_timing, mark) ? '-' : '.';
     }
     _isDown = isDown;
     _lastEdge = at;
@@ -32,12 +32,12 @@ void KeyLineDecoder::advance(Time now) {
     if (_isDown) {
         return;
     }
-    if (!_pattern.empty() && now >= _lastEdge + letterLimit()) {
+    if (!_pattern.empty() && now >= _lastEdge + letterLimit(_timing)) {
         _text += characterOf(_pattern).value_or(unknown);
         _pattern.clear();
         _awaitsWord = true;
     }
-    if (_awaitsWord && now >= _lastEdge + wordLimit()) {
+    if (_awaitsWord && now >= _lastEdge + wordLimit(_timing)) {
         _text += ' ';
         _awaitsWord = false;
     }
@@ -48,24 +48,16 @@ std::optional<Time> KeyLineDecoder::nextEvent() const {
         return std::nullopt;
     }
     if (!_pattern.empty()) {
-        return _lastEdge + letterLimit();
+        return _lastEdge + letterLimit(_timing);
     }
     if (_awaitsWord) {
-        return _lastEdge + wordLimit();
+        return _lastEdge + wordLimit(_timing);
     }
     return std::nullopt;
 }
 
 std::string KeyLineDecoder::takeText() {
     return std::exchange(_text, {});
-}
-
-Time KeyLineDecoder::letterLimit() const {
-    return _timing.gap + _timing.restOfLetter / 2;
-}
-
-Time KeyLineDecoder::wordLimit() const {
-    return _timing.gap + _timing.restOfLetter + _timing.restOfWord / 2;
 }
 
 } // namespace virtualkeyer

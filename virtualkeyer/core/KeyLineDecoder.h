@@ -35,9 +35,6 @@ class KeyLineDecoder {
     [[nodiscard]] std::string takeText();
 
   private:
-    [[nodiscard]] Time letterLimit() const;
-    [[nodiscard]] Time wordLimit() const;
-
     Timing _timing;
     bool _isDown = false;
     Time _lastEdge{0};

@@ -21,6 +21,18 @@ Time ditLength(int wpm) {
     return Time{std::chrono::milliseconds{1200}} / wpm;
 }
 
+bool isDah(const Timing& timing, Time mark) {
+    return mark > (timing.dit + timing.dah) / 2;
+}
+
+Time letterLimit(const Timing& timing) {
+    return timing.gap + timing.restOfLetter / 2;
+}
+
+Time wordLimit(const Timing& timing) {
+    return timing.gap + timing.restOfLetter + timing.restOfWord / 2;
+}
+
 Timing timingOf(const Registers& registers) {
     const int wpm = registers.wpm();
     const Time spaceUnit = ditLength(wpm);

@@ -26,6 +26,13 @@ struct Timing {
 /// One dit at `wpm`: 1200/wpm ms.
 [[nodiscard]] Time ditLength(int wpm);
 
+/// Whether a mark of this length is a dah rather than a dit.
+[[nodiscard]] bool isDah(const Timing& timing, Time mark);
+/// The shortest space that ends a letter: the middle between a gap and a letter space.
+[[nodiscard]] Time letterLimit(const Timing& timing);
+/// The shortest space that ends a word.
+[[nodiscard]] Time wordLimit(const Timing& timing);
+
 /// The timing that follows from `registers` now.
 [[nodiscard]] Timing timingOf(const Registers& registers);
 

@@ -7,13 +7,18 @@
 #include "virtualkeyer/window/MessageList.h"
 #include "virtualkeyer/window/PaddlePanel.h"
 #include "virtualkeyer/window/RegisterTable.h"
+#include "virtualkeyer/window/ScopePage.h"
 #include "virtualkeyer/window/WireLogPage.h"
 
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QPushButton>
+#include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QSignalBlocker>
 #include <QSlider>
+#include <QSplitter>
 #include <QTabWidget>
 #include <QVBoxLayout>
 
@@ -29,24 +34,49 @@ constexpr int buttonCount = 4;
 constexpr int usualVolume = 40; // percent
 /// Lines of the keyed text that are kept.
 constexpr int longestText = 1000;
+/// Of the screen, beside the frame that the desktop adds.
+constexpr double roomForFrame = 0.92;
 /// Of the text's colour, what says what will stand there.
 constexpr float hintOpacity = 0.6F;
+
+/// On a small screen not all of it is seen at a time. Sideways it is if it `keepsWidth`.
+QScrollArea* scrolled(QWidget* content, bool keepsWidth = false) {
+    auto* area = new QScrollArea;
+    area->setWidget(content);
+    area->setWidgetResizable(true);
+    area->setFrameShape(QFrame::NoFrame);
+    area->setFocusPolicy(Qt::NoFocus);
+    if (keepsWidth) {
+        area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+        area->setMinimumWidth(content->minimumSizeHint().width() +
+                              area->verticalScrollBar()->sizeHint().width());
+    }
+    return area;
+}
 
 } // namespace
 
 KeyerWindow::KeyerWindow(const CommandLine& commandLine, KeyerLink& link, WireTap& wire,
-                         LiveSidetone& sidetone)
+                         ScopeTap& scope, LiveSidetone& sidetone)
     : _link(link) {
     setWindowTitle(tr("Virtual keyer"));
-    auto* middle = new QHBoxLayout;
-    middle->addWidget(makeHands(commandLine, sidetone));
-    middle->addWidget(makeInside(commandLine, wire), 1);
+    auto* middle = new QSplitter(Qt::Horizontal);
+    middle->addWidget(scrolled(makeHands(commandLine, sidetone), true));
+    middle->addWidget(makeInside(commandLine, wire, scope));
+    middle->setStretchFactor(1, 1);
+    middle->setSizes({1, QWIDGETSIZE_MAX});
+    auto* all = new QSplitter(Qt::Vertical);
+    all->addWidget(middle);
+    all->addWidget(makeText());
+    all->setStretchFactor(0, 1);
+    all->setSizes({QWIDGETSIZE_MAX, 1});
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(makeTop(commandLine.linkName));
-    layout->addLayout(middle, 2);
-    layout->addWidget(makeText(), 1);
+    layout->addWidget(all, 1);
     connect(&link, &KeyerLink::changed, this, &KeyerWindow::refresh);
-    resize(sizeHint().expandedTo({40 * fontMetrics().height(), 0}));
+    const int line = fontMetrics().height();
+    const QSize usual = sizeHint().expandedTo({54 * line, 34 * line});
+    resize(usual.boundedTo(screen()->availableSize() * roomForFrame));
     // The paddle's keys work wherever the focus is, and a knob that turns by itself surprises.
     _plug->setFocus();
 }
@@ -60,24 +90,24 @@ QWidget* KeyerWindow::makeTop(const QString& port) {
     _plug->setChecked(true);
     connect(_plug, &QCheckBox::toggled, this, [this](bool isIn) { _link.order(MovePlug{isIn}); });
     _lamps = new LampRow;
-    auto* layout = new QHBoxLayout(top);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(24);
-    layout->addWidget(_plug);
-    layout->addWidget(_lamps, 1);
     auto* recording = new QPushButton(tr("Record a script"));
     recording->setCheckable(true);
     recording->setToolTip(tr("Writes down what is done here, for --script to do again: press once "
                              "more to save it."));
     // Later, so that whoever presses it by a screen reader does not wait for the file's name.
     connect(recording, &QPushButton::toggled, this, &KeyerWindow::record, Qt::QueuedConnection);
-    layout->addWidget(recording);
+    auto* plug = new QHBoxLayout;
+    plug->addWidget(_plug, 1);
+    plug->addWidget(recording);
+    auto* layout = new QVBoxLayout(top);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addLayout(plug);
+    layout->addWidget(_lamps);
     return top;
 }
 
 QWidget* KeyerWindow::makeHands(const CommandLine& commandLine, LiveSidetone& sidetone) {
     auto* hands = new QWidget;
-    hands->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Preferred);
     _paddle = new PaddlePanel;
     connect(_paddle, &PaddlePanel::moved, this, &KeyerWindow::movePaddle);
     auto* layout = new QVBoxLayout(hands);
@@ -154,15 +184,15 @@ QWidget* KeyerWindow::makeButtons() {
     return box;
 }
 
-QWidget* KeyerWindow::makeInside(const CommandLine& commandLine, WireTap& wire) {
+QWidget* KeyerWindow::makeInside(const CommandLine& commandLine, WireTap& wire, ScopeTap& scope) {
     auto* pages = new QTabWidget;
     _registers = new RegisterTable;
     _messages = new MessageList;
     _kinds = new KindList(commandLine.profileNames);
-    pages->setMinimumWidth(20 * fontMetrics().height());
     pages->addTab(_registers, tr("Registers"));
-    pages->addTab(_messages, tr("Memory"));
+    pages->addTab(scrolled(_messages), tr("Memory"));
     pages->addTab(_kinds, tr("Kind of keyer"));
+    pages->addTab(new ScopePage(scope), tr("Scope"));
     pages->addTab(new WireLogPage(wire), tr("Line log"));
     connect(_messages, &MessageList::played, this,
             [this](int number) { _link.order(PlayMessage{number}); });
@@ -187,6 +217,7 @@ QWidget* KeyerWindow::makeText() {
     hint.setAlphaF(hintOpacity);
     colors.setColor(QPalette::PlaceholderText, hint);
     _text->setPalette(colors);
+    _text->setMinimumHeight(3 * fontMetrics().height());
     auto* layout = new QVBoxLayout(box);
     layout->addWidget(_text);
     return box;

@@ -17,6 +17,7 @@ class LampRow;
 class MessageList;
 class PaddlePanel;
 class RegisterTable;
+class ScopeTap;
 class WireTap;
 
 /// The keyer as one has it on the table: its plug, knob, buttons and paddle, its lamps, and what is
@@ -25,7 +26,7 @@ class KeyerWindow : public QWidget {
     Q_OBJECT
   public:
     /// All must outlive the window.
-    KeyerWindow(const CommandLine& commandLine, KeyerLink& link, WireTap& wire,
+    KeyerWindow(const CommandLine& commandLine, KeyerLink& link, WireTap& wire, ScopeTap& scope,
                 LiveSidetone& sidetone);
 
   private:
@@ -34,7 +35,8 @@ class KeyerWindow : public QWidget {
     [[nodiscard]] QWidget* makeKnob(int wpm);
     [[nodiscard]] QWidget* makeVolume(LiveSidetone& sidetone);
     [[nodiscard]] QWidget* makeButtons();
-    [[nodiscard]] QWidget* makeInside(const CommandLine& commandLine, WireTap& wire);
+    [[nodiscard]] QWidget* makeInside(const CommandLine& commandLine, WireTap& wire,
+                                      ScopeTap& scope);
     [[nodiscard]] QWidget* makeText();
     void movePaddle(bool dit, bool dah);
     void turnKnob(int wpm);

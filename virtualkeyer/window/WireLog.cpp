@@ -67,6 +67,8 @@ QVariant WireLog::data(const QModelIndex& index, int role) const {
     switch (role) {
     case Qt::DisplayRole:
         return cell(line, index.column());
+    case Qt::ToolTipRole:
+        return index.column() == Words ? QVariant(WireWords::of(line)) : QVariant();
     case FromHostRole:
         return line.kind == WireLine::Kind::Restarted ? QVariant() : line.isFromHost();
     case LineRole:

@@ -7,8 +7,8 @@
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLineEdit>
-#include <QPushButton>
 #include <QScrollBar>
+#include <QToolButton>
 #include <QVBoxLayout>
 
 namespace virtualkeyer {
@@ -39,14 +39,16 @@ QLayout* WireLogPage::makeTools() {
     text->setPlaceholderText(tr("Words or bytes"));
     text->setClearButtonEnabled(true);
     connect(text, &QLineEdit::textChanged, &_filter, &WireLogFilter::setText);
-    auto* empty = new QPushButton(tr("Empty"));
+    auto* empty = new QToolButton;
+    empty->setText(tr("Empty"));
     empty->setAccessibleName(tr("Empty the log"));
-    connect(empty, &QPushButton::clicked, &_log, &WireLog::clear);
-    auto* save = new QPushButton(tr("Save…"));
+    connect(empty, &QToolButton::clicked, &_log, &WireLog::clear);
+    auto* save = new QToolButton;
+    save->setText(tr("Save…"));
     save->setAccessibleName(tr("Save the log"));
     save->setToolTip(tr("Saves what is shown, with all its bytes."));
     // Later, so that whoever presses it by a screen reader does not wait for the file's name.
-    connect(save, &QPushButton::clicked, this, &WireLogPage::save, Qt::QueuedConnection);
+    connect(save, &QToolButton::clicked, this, &WireLogPage::save, Qt::QueuedConnection);
     auto* tools = new QHBoxLayout;
     tools->addWidget(who);
     tools->addWidget(text, 1);
@@ -67,11 +69,11 @@ void WireLogPage::makeTable() {
     _table->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     _table->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 4);
     auto* header = _table->horizontalHeader();
-    header->setStretchLastSection(true);
+    header->setSectionResizeMode(WireLog::Words, QHeaderView::Stretch);
     const int letter = fontMetrics().averageCharWidth();
     header->resizeSection(WireLog::When, 11 * letter);
     header->resizeSection(WireLog::Who, 9 * letter);
-    header->resizeSection(WireLog::Words, 40 * letter);
+    header->resizeSection(WireLog::Bytes, 18 * letter);
 }
 
 /// What was at the end stays there; who reads further up is not carried off.

@@ -6,6 +6,7 @@
 #include "virtualkeyer/window/KeyerLink.h"
 #include "virtualkeyer/window/KeyerThread.h"
 #include "virtualkeyer/window/KeyerWindow.h"
+#include "virtualkeyer/window/ScopeTap.h"
 #include "virtualkeyer/window/WireTap.h"
 
 #include <QApplication>
@@ -39,12 +40,14 @@ void goOnWithoutWindow(QtMsgType type, const QMessageLogContext& context, const 
 int run(const CommandLine& commandLine, const StopSignals& stopSignals) {
     KeyerLink link;
     WireTap wire;
+    ScopeTap scope;
     LiveSidetone sidetone;
     Session session(commandLine);
     session.add(link, link);
     session.add(wire);
+    session.add(scope);
     session.add(sidetone);
-    KeyerWindow window(commandLine, link, wire, sidetone);
+    KeyerWindow window(commandLine, link, wire, scope, sidetone);
     KeyerThread keyer(session);
     QObject::connect(&keyer, &KeyerThread::failed, &window, [&window](const QString& reason) {
         QMessageBox::critical(&window, {}, reason);

@@ -8,11 +8,11 @@
 #include <QFile>
 #include <QFileDialog>
 #include <QLineEdit>
-#include <QPushButton>
 #include <QScrollBar>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
+#include <QToolButton>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -70,7 +70,7 @@ void WireLogPageTest::whatIsSaidIsShown() {
     QTRY_COMPARE(rows(), 1);
     _tap->hostSent('C', false, 1s);
     QTRY_COMPARE(rows(), 2);
-    QTest::mouseClick(control<QPushButton>(u"Empty the log"_s), Qt::LeftButton);
+    QTest::mouseClick(control<QToolButton>(u"Empty the log"_s), Qt::LeftButton);
     QCOMPARE(rows(), 0);
 }
 
@@ -110,7 +110,7 @@ void WireLogPageTest::itIsSaved() {
     const QString path = directory.filePath(u"wire"_s);
     say(2);
     QTRY_COMPARE(rows(), 2);
-    QTest::mouseClick(control<QPushButton>(u"Save the log"_s), Qt::LeftButton);
+    QTest::mouseClick(control<QToolButton>(u"Save the log"_s), Qt::LeftButton);
     QTimer timer;
     connect(&timer, &QTimer::timeout, this, [&path] {
         if (auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget())) {

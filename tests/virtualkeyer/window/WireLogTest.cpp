@@ -52,6 +52,8 @@ void WireLogTest::aRowSaysWhenWhoAndWhat() {
     QCOMPARE(log.rowCount(), 5);
     QCOMPARE(row(log, 1),
              (QStringList{u"1.234"_s, u"Host"_s, u"Set PTT lead/tail 0, 100 ms"_s, u"04 00 0A"_s}));
+    QCOMPARE(log.index(1, WireLog::Words).data(Qt::ToolTipRole).toString(),
+             u"Set PTT lead/tail 0, 100 ms"_s);
     QCOMPARE(row(log, 3), (QStringList{u"2.010"_s, u"Keyer"_s, u"status: busy"_s, u"C4"_s}));
     QCOMPARE(row(log, 0), (QStringList{u"0.000"_s, u""_s, u"the keyer starts anew"_s, u""_s}));
 }
