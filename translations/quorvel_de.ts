@@ -149,6 +149,13 @@ Die eigenen Optionen des Toolkits wie -platform und -style gelten auch. Die Anle
     </message>
 </context>
 <context>
+    <name>FileSaving</name>
+    <message>
+        <source>%1 cannot be written: %2</source>
+        <translation>%1 kann nicht geschrieben werden: %2</translation>
+    </message>
+</context>
+<context>
     <name>FirstSteps</name>
     <message>
         <source>First steps</source>
@@ -2174,6 +2181,10 @@ Die eigenen Optionen des Toolkits wie -platform und -style gelten auch. Die Anle
         <source>word space and %1 dits</source>
         <translation>Wortabstand und %1 Punkte</translation>
     </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
 </context>
 <context>
     <name>RunText</name>
@@ -2244,6 +2255,57 @@ Die eigenen Optionen des Toolkits wie -platform und -style gelten auch. Die Anle
     <message>
         <source>Link lost at character %1</source>
         <translation>Verbindung verloren beim %1. Zeichen</translation>
+    </message>
+</context>
+<context>
+    <name>ScopeWords</name>
+    <message>
+        <source>PTT</source>
+        <translation>PTT</translation>
+    </message>
+    <message>
+        <source>dit %1</source>
+        <translation>Punkt %1</translation>
+    </message>
+    <message>
+        <source>dah %1</source>
+        <translation>Strich %1</translation>
+    </message>
+    <message>
+        <source>space %1</source>
+        <translation>Abstand %1</translation>
+    </message>
+    <message>
+        <source>letter space %1</source>
+        <translation>Buchstabenabstand %1</translation>
+    </message>
+    <message>
+        <source>word space %1</source>
+        <translation>Wortabstand %1</translation>
+    </message>
+    <message>
+        <source>pause %1</source>
+        <translation>Pause %1</translation>
+    </message>
+    <message>
+        <source>elements and spaces: %1</source>
+        <translation>Zeichenteile und Abstände: %1</translation>
+    </message>
+    <message>
+        <source>Click and drag to measure, or use the arrow keys.</source>
+        <translation>Zum Messen klicken und ziehen, oder die Pfeiltasten.</translation>
+    </message>
+    <message>
+        <source>One cursor is set.</source>
+        <translation>Ein Messzeiger ist gesetzt.</translation>
+    </message>
+    <message>
+        <source>%1 ms</source>
+        <translation>%1 ms</translation>
+    </message>
+    <message>
+        <source>%1 ms: %2</source>
+        <translation>%1 ms: %2</translation>
     </message>
 </context>
 <context>
@@ -3017,6 +3079,349 @@ das ihn öffnet, und gibt auf der Standardausgabe aus, was er tastet.</translati
     </message>
 </context>
 <context>
+    <name>WireWords</name>
+    <message>
+        <source>space</source>
+        <translation>Leerzeichen</translation>
+    </message>
+    <message>
+        <source>Leave the speed to the knob</source>
+        <translation>Tempo dem Knopf überlassen</translation>
+    </message>
+    <message>
+        <source>Resume</source>
+        <translation>Fortsetzen</translation>
+    </message>
+    <message>
+        <source>Key up</source>
+        <translation>Taste auf</translation>
+    </message>
+    <message>
+        <source>In the buffer: PTT off</source>
+        <translation>Im Puffer: PTT aus</translation>
+    </message>
+    <message>
+        <source>No Farnsworth</source>
+        <translation>Kein Farnsworth</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>keine</translation>
+    </message>
+    <message>
+        <source>dit</source>
+        <translation>Punkt</translation>
+    </message>
+    <message>
+        <source>dah</source>
+        <translation>Strich</translation>
+    </message>
+    <message>
+        <source>both</source>
+        <translation>beide</translation>
+    </message>
+    <message>
+        <source>Buffer: overwrite at %1</source>
+        <translation>Puffer: überschreiben ab %1</translation>
+    </message>
+    <message>
+        <source>Buffer: append at %1</source>
+        <translation>Puffer: anhängen ab %1</translation>
+    </message>
+    <message>
+        <source>Buffer: insert %1 nulls</source>
+        <translation>Puffer: %1 Nullen einfügen</translation>
+    </message>
+    <message>
+        <source>Buffer: move %1, unknown</source>
+        <translation>Puffer: Bewegung %1, unbekannt</translation>
+    </message>
+    <message>
+        <source>In the buffer: high speed, %1 WPM</source>
+        <translation>Im Puffer: hohes Tempo, %1 WPM</translation>
+    </message>
+    <message>
+        <source>Set the tone: %1</source>
+        <translation>Ton setzen: %1</translation>
+    </message>
+    <message>
+        <source>Set speed %1 WPM</source>
+        <translation>Tempo setzen: %1 WPM</translation>
+    </message>
+    <message>
+        <source>Set weighting %1 %</source>
+        <translation>Wichtung setzen: %1 %</translation>
+    </message>
+    <message>
+        <source>Set PTT lead/tail %1, %2 ms</source>
+        <translation>PTT-Vorlauf/Nachlauf setzen: %1, %2 ms</translation>
+    </message>
+    <message>
+        <source>Set the knob&apos;s range %1 to %2 WPM</source>
+        <translation>Bereich des Knopfs setzen: %1 bis %2 WPM</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pause</translation>
+    </message>
+    <message>
+        <source>Ask for the knob</source>
+        <translation>Nach dem Knopf fragen</translation>
+    </message>
+    <message>
+        <source>Backspace</source>
+        <translation>Rücktaste</translation>
+    </message>
+    <message>
+        <source>Set the pins: %1</source>
+        <translation>Anschlüsse setzen: %1</translation>
+    </message>
+    <message>
+        <source>Clear buffer</source>
+        <translation>Puffer leeren</translation>
+    </message>
+    <message>
+        <source>Key down</source>
+        <translation>Taste drücken</translation>
+    </message>
+    <message>
+        <source>Set high speed %1 WPM</source>
+        <translation>Hohes Tempo setzen: %1 WPM</translation>
+    </message>
+    <message>
+        <source>Set Farnsworth %1 WPM</source>
+        <translation>Farnsworth setzen: %1 WPM</translation>
+    </message>
+    <message>
+        <source>Set the mode: %1</source>
+        <translation>Modus setzen: %1</translation>
+    </message>
+    <message>
+        <source>Load defaults: %1</source>
+        <translation>Grundwerte laden: %1</translation>
+    </message>
+    <message>
+        <source>Set first extension %1 ms</source>
+        <translation>Erstverlängerung setzen: %1 ms</translation>
+    </message>
+    <message>
+        <source>Set key compensation %1 ms</source>
+        <translation>Kompensation setzen: %1 ms</translation>
+    </message>
+    <message>
+        <source>Set paddle memory %1 (50: a dit)</source>
+        <translation>Paddle-Speicher setzen: %1 (50: ein Punkt)</translation>
+    </message>
+    <message>
+        <source>Null</source>
+        <translation>Null</translation>
+    </message>
+    <message>
+        <source>Paddle by the host: %1</source>
+        <translation>Paddle durch den Host: %1</translation>
+    </message>
+    <message>
+        <source>Ask for the status</source>
+        <translation>Nach dem Status fragen</translation>
+    </message>
+    <message>
+        <source>Buffer: to its beginning</source>
+        <translation>Puffer: an den Anfang</translation>
+    </message>
+    <message>
+        <source>Set dah to dit %1 (50: 3 to 1)</source>
+        <translation>Strich zu Punkt setzen: %1 (50: 3 zu 1)</translation>
+    </message>
+    <message>
+        <source>In the buffer: PTT on</source>
+        <translation>Im Puffer: PTT ein</translation>
+    </message>
+    <message>
+        <source>In the buffer: key down, %1 s</source>
+        <translation>Im Puffer: Taste drücken, %1 s</translation>
+    </message>
+    <message>
+        <source>In the buffer: wait, %1 s</source>
+        <translation>Im Puffer: warten, %1 s</translation>
+    </message>
+    <message>
+        <source>In the buffer: merge %1</source>
+        <translation>Im Puffer: verschmelzen, %1</translation>
+    </message>
+    <message>
+        <source>In the buffer: %1 WPM</source>
+        <translation>Im Puffer: %1 WPM</translation>
+    </message>
+    <message>
+        <source>In the buffer: key output %1</source>
+        <translation>Im Puffer: Tastausgang %1</translation>
+    </message>
+    <message>
+        <source>In the buffer: the speed that was set</source>
+        <translation>Im Puffer: das eingestellte Tempo</translation>
+    </message>
+    <message>
+        <source>In the buffer: null</source>
+        <translation>Im Puffer: Null</translation>
+    </message>
+    <message>
+        <source>Calibrate</source>
+        <translation>Kalibrieren</translation>
+    </message>
+    <message>
+        <source>Reset the keyer</source>
+        <translation>Keyer zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Open the keyer</source>
+        <translation>Keyer öffnen</translation>
+    </message>
+    <message>
+        <source>Close the keyer</source>
+        <translation>Keyer schließen</translation>
+    </message>
+    <message>
+        <source>Echo test %1</source>
+        <translation>Echotest %1</translation>
+    </message>
+    <message>
+        <source>Ask for the paddle A/D</source>
+        <translation>Nach dem A/D-Wert des Paddles fragen</translation>
+    </message>
+    <message>
+        <source>Ask for the speed A/D</source>
+        <translation>Nach dem A/D-Wert des Tempos fragen</translation>
+    </message>
+    <message>
+        <source>Ask for all values</source>
+        <translation>Nach allen Werten fragen</translation>
+    </message>
+    <message>
+        <source>Debug</source>
+        <translation>Fehlersuche</translation>
+    </message>
+    <message>
+        <source>Ask for the calibration</source>
+        <translation>Nach der Kalibrierung fragen</translation>
+    </message>
+    <message>
+        <source>Version 1 status</source>
+        <translation>Status der Version 1</translation>
+    </message>
+    <message>
+        <source>Version 2 status</source>
+        <translation>Status der Version 2</translation>
+    </message>
+    <message>
+        <source>Ask for the memory</source>
+        <translation>Nach dem Speicher fragen</translation>
+    </message>
+    <message>
+        <source>Load the memory</source>
+        <translation>Speicher laden</translation>
+    </message>
+    <message>
+        <source>Play message %1</source>
+        <translation>Nachricht %1 abspielen</translation>
+    </message>
+    <message>
+        <source>Load X1MODE %1</source>
+        <translation>X1MODE laden: %1</translation>
+    </message>
+    <message>
+        <source>Line at 9600 baud</source>
+        <translation>Leitung mit 9600 Baud</translation>
+    </message>
+    <message>
+        <source>Line at 1200 baud</source>
+        <translation>Leitung mit 1200 Baud</translation>
+    </message>
+    <message>
+        <source>Admin command %1, unknown</source>
+        <translation>Verwaltungsbefehl %1, unbekannt</translation>
+    </message>
+    <message>
+        <source>text %1</source>
+        <translation>Text %1</translation>
+    </message>
+    <message>
+        <source>wait</source>
+        <translation>warten</translation>
+    </message>
+    <message>
+        <source>key down</source>
+        <translation>Taste gedrückt</translation>
+    </message>
+    <message>
+        <source>busy</source>
+        <translation>beschäftigt</translation>
+    </message>
+    <message>
+        <source>break-in</source>
+        <translation>BK</translation>
+    </message>
+    <message>
+        <source>XOFF</source>
+        <translation>XOFF</translation>
+    </message>
+    <message>
+        <source>status: %1</source>
+        <translation>Status: %1</translation>
+    </message>
+    <message>
+        <source>idle</source>
+        <translation>frei</translation>
+    </message>
+    <message>
+        <source>push-buttons: %1</source>
+        <translation>Drucktasten: %1</translation>
+    </message>
+    <message>
+        <source>open, version %1</source>
+        <translation>offen, Version %1</translation>
+    </message>
+    <message>
+        <source>echo test %1</source>
+        <translation>Echotest %1</translation>
+    </message>
+    <message>
+        <source>values: %1</source>
+        <translation>Werte: %1</translation>
+    </message>
+    <message>
+        <source>memory, %1 bytes</source>
+        <translation>Speicher, %1 Bytes</translation>
+    </message>
+    <message>
+        <source>answer %1</source>
+        <translation>Antwort %1</translation>
+    </message>
+    <message>
+        <source>discarded by the keyer</source>
+        <translation>vom Keyer verworfen</translation>
+    </message>
+    <message>
+        <source>lost, the keyer is starting</source>
+        <translation>verloren, der Keyer startet</translation>
+    </message>
+    <message>
+        <source>unfinished command</source>
+        <translation>unvollständiger Befehl</translation>
+    </message>
+    <message>
+        <source>the keyer starts anew</source>
+        <translation>der Keyer startet neu</translation>
+    </message>
+    <message>
+        <source>echo %1</source>
+        <translation>Echo %1</translation>
+    </message>
+    <message>
+        <source>knob: %1 WPM</source>
+        <translation>Knopf: %1 WPM</translation>
+    </message>
+</context>
+<context>
     <name>main</name>
     <message>
         <source>Quorvel is running already, and does not answer. End it, then start it again.</source>
@@ -3098,10 +3503,6 @@ das ihn öffnet, und gibt auf der Standardausgabe aus, was er tastet.</translati
         <translation>Skript speichern</translation>
     </message>
     <message>
-        <source>%1 cannot be written: %2</source>
-        <translation>%1 kann nicht geschrieben werden: %2</translation>
-    </message>
-    <message>
         <source>Sidetone</source>
         <translation>Mithörton</translation>
     </message>
@@ -3116,6 +3517,14 @@ das ihn öffnet, und gibt auf der Standardausgabe aus, was er tastet.</translati
     <message>
         <source>No sound device: it is silent.</source>
         <translation>Kein Audiogerät: Er ist stumm.</translation>
+    </message>
+    <message>
+        <source>Scope</source>
+        <translation>Oszilloskop</translation>
+    </message>
+    <message>
+        <source>Line log</source>
+        <translation>Leitungsprotokoll</translation>
     </message>
 </context>
 <context>
@@ -3246,6 +3655,146 @@ das ihn öffnet, und gibt auf der Standardausgabe aus, was er tastet.</translati
     <message>
         <source>Value</source>
         <translation>Wert</translation>
+    </message>
+</context>
+<context>
+    <name>virtualkeyer::ScopePage</name>
+    <message>
+        <source>Place in the last ten minutes</source>
+        <translation>Stelle in den letzten zehn Minuten</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pause</translation>
+    </message>
+    <message>
+        <source>Pause the scope</source>
+        <translation>Oszilloskop anhalten</translation>
+    </message>
+    <message>
+        <source>Closer</source>
+        <translation>Näher</translation>
+    </message>
+    <message>
+        <source>Less time, closer</source>
+        <translation>Weniger Zeit, näher</translation>
+    </message>
+    <message>
+        <source>Wider</source>
+        <translation>Weiter</translation>
+    </message>
+    <message>
+        <source>More time, wider</source>
+        <translation>Mehr Zeit, weiter</translation>
+    </message>
+    <message>
+        <source>Picture…</source>
+        <translation>Bild …</translation>
+    </message>
+    <message>
+        <source>Save a picture</source>
+        <translation>Bild speichern</translation>
+    </message>
+    <message>
+        <source>Table…</source>
+        <translation>Tabelle …</translation>
+    </message>
+    <message>
+        <source>Save a table of the last ten minutes</source>
+        <translation>Tabelle der letzten zehn Minuten speichern</translation>
+    </message>
+    <message>
+        <source>Save a table</source>
+        <translation>Tabelle speichern</translation>
+    </message>
+</context>
+<context>
+    <name>virtualkeyer::ScopeView</name>
+    <message>
+        <source>Scope of key and PTT</source>
+        <translation>Oszilloskop von Taste und PTT</translation>
+    </message>
+    <message>
+        <source>Arrows move the first cursor, with Shift the second, with Ctrl from edge to edge. + and - zoom, the space bar pauses; Page Up, Page Down, Home and End go through the last ten minutes.</source>
+        <translation>Pfeiltasten bewegen den ersten Messzeiger, mit Umschalt den zweiten, mit Strg von Flanke zu Flanke. + und - zoomen, die Leertaste hält an; Bild auf, Bild ab, Pos1 und Ende gehen durch die letzten zehn Minuten.</translation>
+    </message>
+</context>
+<context>
+    <name>virtualkeyer::WireLog</name>
+    <message>
+        <source>Host</source>
+        <translation>Host</translation>
+    </message>
+    <message>
+        <source>Keyer</source>
+        <translation>Keyer</translation>
+    </message>
+    <message>
+        <source>Seconds</source>
+        <translation>Sekunden</translation>
+    </message>
+    <message>
+        <source>Said by</source>
+        <translation>Gesagt von</translation>
+    </message>
+    <message>
+        <source>In words</source>
+        <translation>In Worten</translation>
+    </message>
+    <message>
+        <source>Bytes</source>
+        <translation>Bytes</translation>
+    </message>
+</context>
+<context>
+    <name>virtualkeyer::WireLogPage</name>
+    <message>
+        <source>Said by</source>
+        <translation>Gesagt von</translation>
+    </message>
+    <message>
+        <source>Host and keyer</source>
+        <translation>Host und Keyer</translation>
+    </message>
+    <message>
+        <source>The host alone</source>
+        <translation>Nur der Host</translation>
+    </message>
+    <message>
+        <source>The keyer alone</source>
+        <translation>Nur der Keyer</translation>
+    </message>
+    <message>
+        <source>Filter of the log</source>
+        <translation>Filter des Protokolls</translation>
+    </message>
+    <message>
+        <source>Words or bytes</source>
+        <translation>Worte oder Bytes</translation>
+    </message>
+    <message>
+        <source>Empty</source>
+        <translation>Leeren</translation>
+    </message>
+    <message>
+        <source>Empty the log</source>
+        <translation>Protokoll leeren</translation>
+    </message>
+    <message>
+        <source>Save…</source>
+        <translation>Speichern …</translation>
+    </message>
+    <message>
+        <source>Save the log</source>
+        <translation>Protokoll speichern</translation>
+    </message>
+    <message>
+        <source>Saves what is shown, with all its bytes.</source>
+        <translation>Speichert, was zu sehen ist, mit allen Bytes.</translation>
+    </message>
+    <message>
+        <source>Log of the line</source>
+        <translation>Protokoll der Leitung</translation>
     </message>
 </context>
 </TS>

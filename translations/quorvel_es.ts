@@ -149,6 +149,13 @@ También valen las opciones de la biblioteca gráfica, como -platform y -style. 
     </message>
 </context>
 <context>
+    <name>FileSaving</name>
+    <message>
+        <source>%1 cannot be written: %2</source>
+        <translation>No se puede escribir %1: %2</translation>
+    </message>
+</context>
+<context>
     <name>FirstSteps</name>
     <message>
         <source>First steps</source>
@@ -2174,6 +2181,10 @@ También valen las opciones de la biblioteca gráfica, como -platform y -style. 
         <source>word space and %1 dits</source>
         <translation>espacio entre palabras y %1 puntos</translation>
     </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
 </context>
 <context>
     <name>RunText</name>
@@ -2244,6 +2255,57 @@ También valen las opciones de la biblioteca gráfica, como -platform y -style. 
     <message>
         <source>Link lost at character %1</source>
         <translation>Enlace perdido en el carácter %1</translation>
+    </message>
+</context>
+<context>
+    <name>ScopeWords</name>
+    <message>
+        <source>PTT</source>
+        <translation>PTT</translation>
+    </message>
+    <message>
+        <source>dit %1</source>
+        <translation>punto %1</translation>
+    </message>
+    <message>
+        <source>dah %1</source>
+        <translation>raya %1</translation>
+    </message>
+    <message>
+        <source>space %1</source>
+        <translation>espacio %1</translation>
+    </message>
+    <message>
+        <source>letter space %1</source>
+        <translation>espacio entre letras %1</translation>
+    </message>
+    <message>
+        <source>word space %1</source>
+        <translation>espacio entre palabras %1</translation>
+    </message>
+    <message>
+        <source>pause %1</source>
+        <translation>pausa %1</translation>
+    </message>
+    <message>
+        <source>elements and spaces: %1</source>
+        <translation>elementos y espacios: %1</translation>
+    </message>
+    <message>
+        <source>Click and drag to measure, or use the arrow keys.</source>
+        <translation>Para medir: pulsar y arrastrar, o las flechas.</translation>
+    </message>
+    <message>
+        <source>One cursor is set.</source>
+        <translation>Hay un cursor.</translation>
+    </message>
+    <message>
+        <source>%1 ms</source>
+        <translation>%1 ms</translation>
+    </message>
+    <message>
+        <source>%1 ms: %2</source>
+        <translation>%1 ms: %2</translation>
     </message>
 </context>
 <context>
@@ -3017,6 +3079,349 @@ que lo abre, y escribe lo que manipula en la salida estándar.</translation>
     </message>
 </context>
 <context>
+    <name>WireWords</name>
+    <message>
+        <source>space</source>
+        <translation>espacio</translation>
+    </message>
+    <message>
+        <source>Leave the speed to the knob</source>
+        <translation>Dejar la velocidad al mando</translation>
+    </message>
+    <message>
+        <source>Resume</source>
+        <translation>Reanudar</translation>
+    </message>
+    <message>
+        <source>Key up</source>
+        <translation>Manipulador arriba</translation>
+    </message>
+    <message>
+        <source>In the buffer: PTT off</source>
+        <translation>En el búfer: PTT apagado</translation>
+    </message>
+    <message>
+        <source>No Farnsworth</source>
+        <translation>Sin Farnsworth</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>ninguno</translation>
+    </message>
+    <message>
+        <source>dit</source>
+        <translation>punto</translation>
+    </message>
+    <message>
+        <source>dah</source>
+        <translation>raya</translation>
+    </message>
+    <message>
+        <source>both</source>
+        <translation>ambas</translation>
+    </message>
+    <message>
+        <source>Buffer: overwrite at %1</source>
+        <translation>Búfer: sobrescribir desde %1</translation>
+    </message>
+    <message>
+        <source>Buffer: append at %1</source>
+        <translation>Búfer: añadir desde %1</translation>
+    </message>
+    <message>
+        <source>Buffer: insert %1 nulls</source>
+        <translation>Búfer: insertar %1 nulos</translation>
+    </message>
+    <message>
+        <source>Buffer: move %1, unknown</source>
+        <translation>Búfer: movimiento %1, desconocido</translation>
+    </message>
+    <message>
+        <source>In the buffer: high speed, %1 WPM</source>
+        <translation>En el búfer: alta velocidad, %1 WPM</translation>
+    </message>
+    <message>
+        <source>Set the tone: %1</source>
+        <translation>Fijar el tono: %1</translation>
+    </message>
+    <message>
+        <source>Set speed %1 WPM</source>
+        <translation>Fijar la velocidad: %1 WPM</translation>
+    </message>
+    <message>
+        <source>Set weighting %1 %</source>
+        <translation>Fijar el peso: %1 %</translation>
+    </message>
+    <message>
+        <source>Set PTT lead/tail %1, %2 ms</source>
+        <translation>Fijar adelanto/retardo del PTT: %1, %2 ms</translation>
+    </message>
+    <message>
+        <source>Set the knob&apos;s range %1 to %2 WPM</source>
+        <translation>Fijar el margen del mando: %1 a %2 WPM</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pausa</translation>
+    </message>
+    <message>
+        <source>Ask for the knob</source>
+        <translation>Preguntar por el mando</translation>
+    </message>
+    <message>
+        <source>Backspace</source>
+        <translation>Retroceso</translation>
+    </message>
+    <message>
+        <source>Set the pins: %1</source>
+        <translation>Fijar los pines: %1</translation>
+    </message>
+    <message>
+        <source>Clear buffer</source>
+        <translation>Vaciar el búfer</translation>
+    </message>
+    <message>
+        <source>Key down</source>
+        <translation>Manipulador abajo</translation>
+    </message>
+    <message>
+        <source>Set high speed %1 WPM</source>
+        <translation>Fijar alta velocidad: %1 WPM</translation>
+    </message>
+    <message>
+        <source>Set Farnsworth %1 WPM</source>
+        <translation>Fijar Farnsworth: %1 WPM</translation>
+    </message>
+    <message>
+        <source>Set the mode: %1</source>
+        <translation>Fijar el modo: %1</translation>
+    </message>
+    <message>
+        <source>Load defaults: %1</source>
+        <translation>Cargar los valores iniciales: %1</translation>
+    </message>
+    <message>
+        <source>Set first extension %1 ms</source>
+        <translation>Fijar la extensión inicial: %1 ms</translation>
+    </message>
+    <message>
+        <source>Set key compensation %1 ms</source>
+        <translation>Fijar la compensación: %1 ms</translation>
+    </message>
+    <message>
+        <source>Set paddle memory %1 (50: a dit)</source>
+        <translation>Fijar la memoria de las palas: %1 (50: un punto)</translation>
+    </message>
+    <message>
+        <source>Null</source>
+        <translation>Nulo</translation>
+    </message>
+    <message>
+        <source>Paddle by the host: %1</source>
+        <translation>Palas por el host: %1</translation>
+    </message>
+    <message>
+        <source>Ask for the status</source>
+        <translation>Preguntar por el estado</translation>
+    </message>
+    <message>
+        <source>Buffer: to its beginning</source>
+        <translation>Búfer: al principio</translation>
+    </message>
+    <message>
+        <source>Set dah to dit %1 (50: 3 to 1)</source>
+        <translation>Fijar raya a punto: %1 (50: 3 a 1)</translation>
+    </message>
+    <message>
+        <source>In the buffer: PTT on</source>
+        <translation>En el búfer: PTT encendido</translation>
+    </message>
+    <message>
+        <source>In the buffer: key down, %1 s</source>
+        <translation>En el búfer: manipulador abajo, %1 s</translation>
+    </message>
+    <message>
+        <source>In the buffer: wait, %1 s</source>
+        <translation>En el búfer: espera, %1 s</translation>
+    </message>
+    <message>
+        <source>In the buffer: merge %1</source>
+        <translation>En el búfer: unir %1</translation>
+    </message>
+    <message>
+        <source>In the buffer: %1 WPM</source>
+        <translation>En el búfer: %1 WPM</translation>
+    </message>
+    <message>
+        <source>In the buffer: key output %1</source>
+        <translation>En el búfer: salida de manipulación %1</translation>
+    </message>
+    <message>
+        <source>In the buffer: the speed that was set</source>
+        <translation>En el búfer: la velocidad fijada</translation>
+    </message>
+    <message>
+        <source>In the buffer: null</source>
+        <translation>En el búfer: nulo</translation>
+    </message>
+    <message>
+        <source>Calibrate</source>
+        <translation>Calibrar</translation>
+    </message>
+    <message>
+        <source>Reset the keyer</source>
+        <translation>Reiniciar el manipulador</translation>
+    </message>
+    <message>
+        <source>Open the keyer</source>
+        <translation>Abrir el manipulador</translation>
+    </message>
+    <message>
+        <source>Close the keyer</source>
+        <translation>Cerrar el manipulador</translation>
+    </message>
+    <message>
+        <source>Echo test %1</source>
+        <translation>Prueba de eco %1</translation>
+    </message>
+    <message>
+        <source>Ask for the paddle A/D</source>
+        <translation>Preguntar por el A/D de las palas</translation>
+    </message>
+    <message>
+        <source>Ask for the speed A/D</source>
+        <translation>Preguntar por el A/D de la velocidad</translation>
+    </message>
+    <message>
+        <source>Ask for all values</source>
+        <translation>Preguntar por todos los valores</translation>
+    </message>
+    <message>
+        <source>Debug</source>
+        <translation>Depuración</translation>
+    </message>
+    <message>
+        <source>Ask for the calibration</source>
+        <translation>Preguntar por la calibración</translation>
+    </message>
+    <message>
+        <source>Version 1 status</source>
+        <translation>Estado de versión 1</translation>
+    </message>
+    <message>
+        <source>Version 2 status</source>
+        <translation>Estado de versión 2</translation>
+    </message>
+    <message>
+        <source>Ask for the memory</source>
+        <translation>Preguntar por la memoria</translation>
+    </message>
+    <message>
+        <source>Load the memory</source>
+        <translation>Cargar la memoria</translation>
+    </message>
+    <message>
+        <source>Play message %1</source>
+        <translation>Reproducir el mensaje %1</translation>
+    </message>
+    <message>
+        <source>Load X1MODE %1</source>
+        <translation>Cargar X1MODE %1</translation>
+    </message>
+    <message>
+        <source>Line at 9600 baud</source>
+        <translation>Línea a 9600 baudios</translation>
+    </message>
+    <message>
+        <source>Line at 1200 baud</source>
+        <translation>Línea a 1200 baudios</translation>
+    </message>
+    <message>
+        <source>Admin command %1, unknown</source>
+        <translation>Orden de administración %1, desconocida</translation>
+    </message>
+    <message>
+        <source>text %1</source>
+        <translation>texto %1</translation>
+    </message>
+    <message>
+        <source>wait</source>
+        <translation>espera</translation>
+    </message>
+    <message>
+        <source>key down</source>
+        <translation>manipulador abajo</translation>
+    </message>
+    <message>
+        <source>busy</source>
+        <translation>ocupado</translation>
+    </message>
+    <message>
+        <source>break-in</source>
+        <translation>break-in</translation>
+    </message>
+    <message>
+        <source>XOFF</source>
+        <translation>XOFF</translation>
+    </message>
+    <message>
+        <source>status: %1</source>
+        <translation>estado: %1</translation>
+    </message>
+    <message>
+        <source>idle</source>
+        <translation>libre</translation>
+    </message>
+    <message>
+        <source>push-buttons: %1</source>
+        <translation>pulsadores: %1</translation>
+    </message>
+    <message>
+        <source>open, version %1</source>
+        <translation>abierto, versión %1</translation>
+    </message>
+    <message>
+        <source>echo test %1</source>
+        <translation>prueba de eco %1</translation>
+    </message>
+    <message>
+        <source>values: %1</source>
+        <translation>valores: %1</translation>
+    </message>
+    <message>
+        <source>memory, %1 bytes</source>
+        <translation>memoria, %1 bytes</translation>
+    </message>
+    <message>
+        <source>answer %1</source>
+        <translation>respuesta %1</translation>
+    </message>
+    <message>
+        <source>discarded by the keyer</source>
+        <translation>descartado por el manipulador</translation>
+    </message>
+    <message>
+        <source>lost, the keyer is starting</source>
+        <translation>perdido, el manipulador está arrancando</translation>
+    </message>
+    <message>
+        <source>unfinished command</source>
+        <translation>orden incompleta</translation>
+    </message>
+    <message>
+        <source>the keyer starts anew</source>
+        <translation>el manipulador arranca de nuevo</translation>
+    </message>
+    <message>
+        <source>echo %1</source>
+        <translation>eco %1</translation>
+    </message>
+    <message>
+        <source>knob: %1 WPM</source>
+        <translation>mando: %1 WPM</translation>
+    </message>
+</context>
+<context>
     <name>main</name>
     <message>
         <source>Quorvel is running already, and does not answer. End it, then start it again.</source>
@@ -3098,10 +3503,6 @@ que lo abre, y escribe lo que manipula en la salida estándar.</translation>
         <translation>Guardar el guion</translation>
     </message>
     <message>
-        <source>%1 cannot be written: %2</source>
-        <translation>No se puede escribir %1: %2</translation>
-    </message>
-    <message>
         <source>Sidetone</source>
         <translation>Tono lateral</translation>
     </message>
@@ -3116,6 +3517,14 @@ que lo abre, y escribe lo que manipula en la salida estándar.</translation>
     <message>
         <source>No sound device: it is silent.</source>
         <translation>No hay dispositivo de sonido: está mudo.</translation>
+    </message>
+    <message>
+        <source>Scope</source>
+        <translation>Osciloscopio</translation>
+    </message>
+    <message>
+        <source>Line log</source>
+        <translation>Registro de línea</translation>
     </message>
 </context>
 <context>
@@ -3246,6 +3655,146 @@ que lo abre, y escribe lo que manipula en la salida estándar.</translation>
     <message>
         <source>Value</source>
         <translation>Valor</translation>
+    </message>
+</context>
+<context>
+    <name>virtualkeyer::ScopePage</name>
+    <message>
+        <source>Place in the last ten minutes</source>
+        <translation>Lugar en los últimos diez minutos</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pausa</translation>
+    </message>
+    <message>
+        <source>Pause the scope</source>
+        <translation>Pausar el osciloscopio</translation>
+    </message>
+    <message>
+        <source>Closer</source>
+        <translation>Más cerca</translation>
+    </message>
+    <message>
+        <source>Less time, closer</source>
+        <translation>Menos tiempo, más cerca</translation>
+    </message>
+    <message>
+        <source>Wider</source>
+        <translation>Más amplio</translation>
+    </message>
+    <message>
+        <source>More time, wider</source>
+        <translation>Más tiempo, más amplio</translation>
+    </message>
+    <message>
+        <source>Picture…</source>
+        <translation>Imagen…</translation>
+    </message>
+    <message>
+        <source>Save a picture</source>
+        <translation>Guardar una imagen</translation>
+    </message>
+    <message>
+        <source>Table…</source>
+        <translation>Tabla…</translation>
+    </message>
+    <message>
+        <source>Save a table of the last ten minutes</source>
+        <translation>Guardar una tabla de los últimos diez minutos</translation>
+    </message>
+    <message>
+        <source>Save a table</source>
+        <translation>Guardar una tabla</translation>
+    </message>
+</context>
+<context>
+    <name>virtualkeyer::ScopeView</name>
+    <message>
+        <source>Scope of key and PTT</source>
+        <translation>Osciloscopio de manipulador y PTT</translation>
+    </message>
+    <message>
+        <source>Arrows move the first cursor, with Shift the second, with Ctrl from edge to edge. + and - zoom, the space bar pauses; Page Up, Page Down, Home and End go through the last ten minutes.</source>
+        <translation>Las flechas mueven el primer cursor, con Mayús el segundo, con Ctrl de flanco en flanco. + y - cambian la escala, la barra espaciadora pausa; Re Pág, Av Pág, Inicio y Fin recorren los últimos diez minutos.</translation>
+    </message>
+</context>
+<context>
+    <name>virtualkeyer::WireLog</name>
+    <message>
+        <source>Host</source>
+        <translation>Host</translation>
+    </message>
+    <message>
+        <source>Keyer</source>
+        <translation>Manipulador</translation>
+    </message>
+    <message>
+        <source>Seconds</source>
+        <translation>Segundos</translation>
+    </message>
+    <message>
+        <source>Said by</source>
+        <translation>Dicho por</translation>
+    </message>
+    <message>
+        <source>In words</source>
+        <translation>En palabras</translation>
+    </message>
+    <message>
+        <source>Bytes</source>
+        <translation>Bytes</translation>
+    </message>
+</context>
+<context>
+    <name>virtualkeyer::WireLogPage</name>
+    <message>
+        <source>Said by</source>
+        <translation>Dicho por</translation>
+    </message>
+    <message>
+        <source>Host and keyer</source>
+        <translation>Host y manipulador</translation>
+    </message>
+    <message>
+        <source>The host alone</source>
+        <translation>Solo el host</translation>
+    </message>
+    <message>
+        <source>The keyer alone</source>
+        <translation>Solo el manipulador</translation>
+    </message>
+    <message>
+        <source>Filter of the log</source>
+        <translation>Filtro del registro</translation>
+    </message>
+    <message>
+        <source>Words or bytes</source>
+        <translation>Palabras o bytes</translation>
+    </message>
+    <message>
+        <source>Empty</source>
+        <translation>Vaciar</translation>
+    </message>
+    <message>
+        <source>Empty the log</source>
+        <translation>Vaciar el registro</translation>
+    </message>
+    <message>
+        <source>Save…</source>
+        <translation>Guardar…</translation>
+    </message>
+    <message>
+        <source>Save the log</source>
+        <translation>Guardar el registro</translation>
+    </message>
+    <message>
+        <source>Saves what is shown, with all its bytes.</source>
+        <translation>Guarda lo que se muestra, con todos los bytes.</translation>
+    </message>
+    <message>
+        <source>Log of the line</source>
+        <translation>Registro de la línea</translation>
     </message>
 </context>
 </TS>

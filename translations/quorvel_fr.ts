@@ -149,6 +149,13 @@ Les options de la bibliothèque graphique, comme -platform et -style, sont admis
     </message>
 </context>
 <context>
+    <name>FileSaving</name>
+    <message>
+        <source>%1 cannot be written: %2</source>
+        <translation>%1 ne peut pas être écrit : %2</translation>
+    </message>
+</context>
+<context>
     <name>FirstSteps</name>
     <message>
         <source>First steps</source>
@@ -2174,6 +2181,10 @@ Les options de la bibliothèque graphique, comme -platform et -style, sont admis
         <source>word space and %1 dits</source>
         <translation>espace entre mots et %1 points</translation>
     </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1 : %2</translation>
+    </message>
 </context>
 <context>
     <name>RunText</name>
@@ -2244,6 +2255,57 @@ Les options de la bibliothèque graphique, comme -platform et -style, sont admis
     <message>
         <source>Link lost at character %1</source>
         <translation>Liaison perdue au caractère %1</translation>
+    </message>
+</context>
+<context>
+    <name>ScopeWords</name>
+    <message>
+        <source>PTT</source>
+        <translation>PTT</translation>
+    </message>
+    <message>
+        <source>dit %1</source>
+        <translation>point %1</translation>
+    </message>
+    <message>
+        <source>dah %1</source>
+        <translation>trait %1</translation>
+    </message>
+    <message>
+        <source>space %1</source>
+        <translation>espace %1</translation>
+    </message>
+    <message>
+        <source>letter space %1</source>
+        <translation>espace entre lettres %1</translation>
+    </message>
+    <message>
+        <source>word space %1</source>
+        <translation>espace entre mots %1</translation>
+    </message>
+    <message>
+        <source>pause %1</source>
+        <translation>pause %1</translation>
+    </message>
+    <message>
+        <source>elements and spaces: %1</source>
+        <translation>éléments et espaces : %1</translation>
+    </message>
+    <message>
+        <source>Click and drag to measure, or use the arrow keys.</source>
+        <translation>Pour mesurer : cliquer et tirer, ou les flèches.</translation>
+    </message>
+    <message>
+        <source>One cursor is set.</source>
+        <translation>Un curseur est placé.</translation>
+    </message>
+    <message>
+        <source>%1 ms</source>
+        <translation>%1 ms</translation>
+    </message>
+    <message>
+        <source>%1 ms: %2</source>
+        <translation>%1 ms : %2</translation>
     </message>
 </context>
 <context>
@@ -3017,6 +3079,349 @@ qui l’ouvre, et écrit ce qu’il manipule sur la sortie standard.</translatio
     </message>
 </context>
 <context>
+    <name>WireWords</name>
+    <message>
+        <source>space</source>
+        <translation>espace</translation>
+    </message>
+    <message>
+        <source>Leave the speed to the knob</source>
+        <translation>Laisser la vitesse au bouton</translation>
+    </message>
+    <message>
+        <source>Resume</source>
+        <translation>Reprendre</translation>
+    </message>
+    <message>
+        <source>Key up</source>
+        <translation>Manipulateur levé</translation>
+    </message>
+    <message>
+        <source>In the buffer: PTT off</source>
+        <translation>Dans le tampon : PTT désactivé</translation>
+    </message>
+    <message>
+        <source>No Farnsworth</source>
+        <translation>Pas de Farnsworth</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>aucun</translation>
+    </message>
+    <message>
+        <source>dit</source>
+        <translation>point</translation>
+    </message>
+    <message>
+        <source>dah</source>
+        <translation>trait</translation>
+    </message>
+    <message>
+        <source>both</source>
+        <translation>les deux</translation>
+    </message>
+    <message>
+        <source>Buffer: overwrite at %1</source>
+        <translation>Tampon : écraser à partir de %1</translation>
+    </message>
+    <message>
+        <source>Buffer: append at %1</source>
+        <translation>Tampon : ajouter à partir de %1</translation>
+    </message>
+    <message>
+        <source>Buffer: insert %1 nulls</source>
+        <translation>Tampon : insérer %1 octets nuls</translation>
+    </message>
+    <message>
+        <source>Buffer: move %1, unknown</source>
+        <translation>Tampon : déplacement %1, inconnu</translation>
+    </message>
+    <message>
+        <source>In the buffer: high speed, %1 WPM</source>
+        <translation>Dans le tampon : grande vitesse, %1 WPM</translation>
+    </message>
+    <message>
+        <source>Set the tone: %1</source>
+        <translation>Régler le son : %1</translation>
+    </message>
+    <message>
+        <source>Set speed %1 WPM</source>
+        <translation>Régler la vitesse : %1 WPM</translation>
+    </message>
+    <message>
+        <source>Set weighting %1 %</source>
+        <translation>Régler la pondération : %1 %</translation>
+    </message>
+    <message>
+        <source>Set PTT lead/tail %1, %2 ms</source>
+        <translation>Régler l’avance/le maintien PTT : %1, %2 ms</translation>
+    </message>
+    <message>
+        <source>Set the knob&apos;s range %1 to %2 WPM</source>
+        <translation>Régler la plage du bouton : %1 à %2 WPM</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pause</translation>
+    </message>
+    <message>
+        <source>Ask for the knob</source>
+        <translation>Demander le bouton</translation>
+    </message>
+    <message>
+        <source>Backspace</source>
+        <translation>Retour arrière</translation>
+    </message>
+    <message>
+        <source>Set the pins: %1</source>
+        <translation>Régler les broches : %1</translation>
+    </message>
+    <message>
+        <source>Clear buffer</source>
+        <translation>Vider le tampon</translation>
+    </message>
+    <message>
+        <source>Key down</source>
+        <translation>Manipulateur baissé</translation>
+    </message>
+    <message>
+        <source>Set high speed %1 WPM</source>
+        <translation>Régler la grande vitesse : %1 WPM</translation>
+    </message>
+    <message>
+        <source>Set Farnsworth %1 WPM</source>
+        <translation>Régler Farnsworth : %1 WPM</translation>
+    </message>
+    <message>
+        <source>Set the mode: %1</source>
+        <translation>Régler le mode : %1</translation>
+    </message>
+    <message>
+        <source>Load defaults: %1</source>
+        <translation>Charger les valeurs de base : %1</translation>
+    </message>
+    <message>
+        <source>Set first extension %1 ms</source>
+        <translation>Régler l’extension initiale : %1 ms</translation>
+    </message>
+    <message>
+        <source>Set key compensation %1 ms</source>
+        <translation>Régler la compensation : %1 ms</translation>
+    </message>
+    <message>
+        <source>Set paddle memory %1 (50: a dit)</source>
+        <translation>Régler la mémoire des palettes : %1 (50 : un point)</translation>
+    </message>
+    <message>
+        <source>Null</source>
+        <translation>Octet nul</translation>
+    </message>
+    <message>
+        <source>Paddle by the host: %1</source>
+        <translation>Palettes par l’hôte : %1</translation>
+    </message>
+    <message>
+        <source>Ask for the status</source>
+        <translation>Demander l’état</translation>
+    </message>
+    <message>
+        <source>Buffer: to its beginning</source>
+        <translation>Tampon : au début</translation>
+    </message>
+    <message>
+        <source>Set dah to dit %1 (50: 3 to 1)</source>
+        <translation>Régler trait sur point : %1 (50 : 3 pour 1)</translation>
+    </message>
+    <message>
+        <source>In the buffer: PTT on</source>
+        <translation>Dans le tampon : PTT activé</translation>
+    </message>
+    <message>
+        <source>In the buffer: key down, %1 s</source>
+        <translation>Dans le tampon : manipulateur baissé, %1 s</translation>
+    </message>
+    <message>
+        <source>In the buffer: wait, %1 s</source>
+        <translation>Dans le tampon : attente, %1 s</translation>
+    </message>
+    <message>
+        <source>In the buffer: merge %1</source>
+        <translation>Dans le tampon : fusionner %1</translation>
+    </message>
+    <message>
+        <source>In the buffer: %1 WPM</source>
+        <translation>Dans le tampon : %1 WPM</translation>
+    </message>
+    <message>
+        <source>In the buffer: key output %1</source>
+        <translation>Dans le tampon : sortie de manipulation %1</translation>
+    </message>
+    <message>
+        <source>In the buffer: the speed that was set</source>
+        <translation>Dans le tampon : la vitesse réglée</translation>
+    </message>
+    <message>
+        <source>In the buffer: null</source>
+        <translation>Dans le tampon : octet nul</translation>
+    </message>
+    <message>
+        <source>Calibrate</source>
+        <translation>Étalonner</translation>
+    </message>
+    <message>
+        <source>Reset the keyer</source>
+        <translation>Réinitialiser le manipulateur</translation>
+    </message>
+    <message>
+        <source>Open the keyer</source>
+        <translation>Ouvrir le manipulateur</translation>
+    </message>
+    <message>
+        <source>Close the keyer</source>
+        <translation>Fermer le manipulateur</translation>
+    </message>
+    <message>
+        <source>Echo test %1</source>
+        <translation>Test d’écho %1</translation>
+    </message>
+    <message>
+        <source>Ask for the paddle A/D</source>
+        <translation>Demander la valeur A/N des palettes</translation>
+    </message>
+    <message>
+        <source>Ask for the speed A/D</source>
+        <translation>Demander la valeur A/N de la vitesse</translation>
+    </message>
+    <message>
+        <source>Ask for all values</source>
+        <translation>Demander toutes les valeurs</translation>
+    </message>
+    <message>
+        <source>Debug</source>
+        <translation>Débogage</translation>
+    </message>
+    <message>
+        <source>Ask for the calibration</source>
+        <translation>Demander l’étalonnage</translation>
+    </message>
+    <message>
+        <source>Version 1 status</source>
+        <translation>État de version 1</translation>
+    </message>
+    <message>
+        <source>Version 2 status</source>
+        <translation>État de version 2</translation>
+    </message>
+    <message>
+        <source>Ask for the memory</source>
+        <translation>Demander la mémoire</translation>
+    </message>
+    <message>
+        <source>Load the memory</source>
+        <translation>Charger la mémoire</translation>
+    </message>
+    <message>
+        <source>Play message %1</source>
+        <translation>Jouer le message %1</translation>
+    </message>
+    <message>
+        <source>Load X1MODE %1</source>
+        <translation>Charger X1MODE %1</translation>
+    </message>
+    <message>
+        <source>Line at 9600 baud</source>
+        <translation>Ligne à 9600 bauds</translation>
+    </message>
+    <message>
+        <source>Line at 1200 baud</source>
+        <translation>Ligne à 1200 bauds</translation>
+    </message>
+    <message>
+        <source>Admin command %1, unknown</source>
+        <translation>Commande d’administration %1, inconnue</translation>
+    </message>
+    <message>
+        <source>text %1</source>
+        <translation>texte %1</translation>
+    </message>
+    <message>
+        <source>wait</source>
+        <translation>attente</translation>
+    </message>
+    <message>
+        <source>key down</source>
+        <translation>manipulateur baissé</translation>
+    </message>
+    <message>
+        <source>busy</source>
+        <translation>occupé</translation>
+    </message>
+    <message>
+        <source>break-in</source>
+        <translation>break-in</translation>
+    </message>
+    <message>
+        <source>XOFF</source>
+        <translation>XOFF</translation>
+    </message>
+    <message>
+        <source>status: %1</source>
+        <translation>état : %1</translation>
+    </message>
+    <message>
+        <source>idle</source>
+        <translation>libre</translation>
+    </message>
+    <message>
+        <source>push-buttons: %1</source>
+        <translation>boutons-poussoirs : %1</translation>
+    </message>
+    <message>
+        <source>open, version %1</source>
+        <translation>ouvert, version %1</translation>
+    </message>
+    <message>
+        <source>echo test %1</source>
+        <translation>test d’écho %1</translation>
+    </message>
+    <message>
+        <source>values: %1</source>
+        <translation>valeurs : %1</translation>
+    </message>
+    <message>
+        <source>memory, %1 bytes</source>
+        <translation>mémoire, %1 octets</translation>
+    </message>
+    <message>
+        <source>answer %1</source>
+        <translation>réponse %1</translation>
+    </message>
+    <message>
+        <source>discarded by the keyer</source>
+        <translation>rejeté par le manipulateur</translation>
+    </message>
+    <message>
+        <source>lost, the keyer is starting</source>
+        <translation>perdu, le manipulateur démarre</translation>
+    </message>
+    <message>
+        <source>unfinished command</source>
+        <translation>commande inachevée</translation>
+    </message>
+    <message>
+        <source>the keyer starts anew</source>
+        <translation>le manipulateur redémarre</translation>
+    </message>
+    <message>
+        <source>echo %1</source>
+        <translation>écho %1</translation>
+    </message>
+    <message>
+        <source>knob: %1 WPM</source>
+        <translation>bouton : %1 WPM</translation>
+    </message>
+</context>
+<context>
     <name>main</name>
     <message>
         <source>Quorvel is running already, and does not answer. End it, then start it again.</source>
@@ -3098,10 +3503,6 @@ qui l’ouvre, et écrit ce qu’il manipule sur la sortie standard.</translatio
         <translation>Enregistrer le script</translation>
     </message>
     <message>
-        <source>%1 cannot be written: %2</source>
-        <translation>%1 ne peut pas être écrit : %2</translation>
-    </message>
-    <message>
         <source>Sidetone</source>
         <translation>Effet local</translation>
     </message>
@@ -3116,6 +3517,14 @@ qui l’ouvre, et écrit ce qu’il manipule sur la sortie standard.</translatio
     <message>
         <source>No sound device: it is silent.</source>
         <translation>Pas de périphérique audio : il est muet.</translation>
+    </message>
+    <message>
+        <source>Scope</source>
+        <translation>Oscilloscope</translation>
+    </message>
+    <message>
+        <source>Line log</source>
+        <translation>Journal de ligne</translation>
     </message>
 </context>
 <context>
@@ -3246,6 +3655,146 @@ qui l’ouvre, et écrit ce qu’il manipule sur la sortie standard.</translatio
     <message>
         <source>Value</source>
         <translation>Valeur</translation>
+    </message>
+</context>
+<context>
+    <name>virtualkeyer::ScopePage</name>
+    <message>
+        <source>Place in the last ten minutes</source>
+        <translation>Place dans les dix dernières minutes</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pause</translation>
+    </message>
+    <message>
+        <source>Pause the scope</source>
+        <translation>Mettre l’oscilloscope en pause</translation>
+    </message>
+    <message>
+        <source>Closer</source>
+        <translation>Plus près</translation>
+    </message>
+    <message>
+        <source>Less time, closer</source>
+        <translation>Moins de temps, plus près</translation>
+    </message>
+    <message>
+        <source>Wider</source>
+        <translation>Plus large</translation>
+    </message>
+    <message>
+        <source>More time, wider</source>
+        <translation>Plus de temps, plus large</translation>
+    </message>
+    <message>
+        <source>Picture…</source>
+        <translation>Image…</translation>
+    </message>
+    <message>
+        <source>Save a picture</source>
+        <translation>Enregistrer une image</translation>
+    </message>
+    <message>
+        <source>Table…</source>
+        <translation>Tableau…</translation>
+    </message>
+    <message>
+        <source>Save a table of the last ten minutes</source>
+        <translation>Enregistrer un tableau des dix dernières minutes</translation>
+    </message>
+    <message>
+        <source>Save a table</source>
+        <translation>Enregistrer un tableau</translation>
+    </message>
+</context>
+<context>
+    <name>virtualkeyer::ScopeView</name>
+    <message>
+        <source>Scope of key and PTT</source>
+        <translation>Oscilloscope du manipulateur et du PTT</translation>
+    </message>
+    <message>
+        <source>Arrows move the first cursor, with Shift the second, with Ctrl from edge to edge. + and - zoom, the space bar pauses; Page Up, Page Down, Home and End go through the last ten minutes.</source>
+        <translation>Les flèches déplacent le premier curseur, avec Maj le second, avec Ctrl d’un front à l’autre. + et - changent l’échelle, la barre d’espace met en pause ; Page précédente, Page suivante, Début et Fin parcourent les dix dernières minutes.</translation>
+    </message>
+</context>
+<context>
+    <name>virtualkeyer::WireLog</name>
+    <message>
+        <source>Host</source>
+        <translation>Hôte</translation>
+    </message>
+    <message>
+        <source>Keyer</source>
+        <translation>Manipulateur</translation>
+    </message>
+    <message>
+        <source>Seconds</source>
+        <translation>Secondes</translation>
+    </message>
+    <message>
+        <source>Said by</source>
+        <translation>Dit par</translation>
+    </message>
+    <message>
+        <source>In words</source>
+        <translation>En clair</translation>
+    </message>
+    <message>
+        <source>Bytes</source>
+        <translation>Octets</translation>
+    </message>
+</context>
+<context>
+    <name>virtualkeyer::WireLogPage</name>
+    <message>
+        <source>Said by</source>
+        <translation>Dit par</translation>
+    </message>
+    <message>
+        <source>Host and keyer</source>
+        <translation>Hôte et manipulateur</translation>
+    </message>
+    <message>
+        <source>The host alone</source>
+        <translation>L’hôte seul</translation>
+    </message>
+    <message>
+        <source>The keyer alone</source>
+        <translation>Le manipulateur seul</translation>
+    </message>
+    <message>
+        <source>Filter of the log</source>
+        <translation>Filtre du journal</translation>
+    </message>
+    <message>
+        <source>Words or bytes</source>
+        <translation>Mots ou octets</translation>
+    </message>
+    <message>
+        <source>Empty</source>
+        <translation>Vider</translation>
+    </message>
+    <message>
+        <source>Empty the log</source>
+        <translation>Vider le journal</translation>
+    </message>
+    <message>
+        <source>Save…</source>
+        <translation>Enregistrer…</translation>
+    </message>
+    <message>
+        <source>Save the log</source>
+        <translation>Enregistrer le journal</translation>
+    </message>
+    <message>
+        <source>Saves what is shown, with all its bytes.</source>
+        <translation>Enregistre ce qui est affiché, avec tous les octets.</translation>
+    </message>
+    <message>
+        <source>Log of the line</source>
+        <translation>Journal de la ligne</translation>
     </message>
 </context>
 </TS>

@@ -149,6 +149,13 @@ Valgono anche le opzioni della libreria grafica, come -platform e -style. La gui
     </message>
 </context>
 <context>
+    <name>FileSaving</name>
+    <message>
+        <source>%1 cannot be written: %2</source>
+        <translation>Impossibile scrivere %1: %2</translation>
+    </message>
+</context>
+<context>
     <name>FirstSteps</name>
     <message>
         <source>First steps</source>
@@ -2174,6 +2181,10 @@ Valgono anche le opzioni della libreria grafica, come -platform e -style. La gui
         <source>word space and %1 dits</source>
         <translation>spazio tra parole e %1 punti</translation>
     </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
 </context>
 <context>
     <name>RunText</name>
@@ -2244,6 +2255,57 @@ Valgono anche le opzioni della libreria grafica, come -platform e -style. La gui
     <message>
         <source>Link lost at character %1</source>
         <translation>Collegamento perso al carattere %1</translation>
+    </message>
+</context>
+<context>
+    <name>ScopeWords</name>
+    <message>
+        <source>PTT</source>
+        <translation>PTT</translation>
+    </message>
+    <message>
+        <source>dit %1</source>
+        <translation>punto %1</translation>
+    </message>
+    <message>
+        <source>dah %1</source>
+        <translation>linea %1</translation>
+    </message>
+    <message>
+        <source>space %1</source>
+        <translation>spazio %1</translation>
+    </message>
+    <message>
+        <source>letter space %1</source>
+        <translation>spazio tra lettere %1</translation>
+    </message>
+    <message>
+        <source>word space %1</source>
+        <translation>spazio tra parole %1</translation>
+    </message>
+    <message>
+        <source>pause %1</source>
+        <translation>pausa %1</translation>
+    </message>
+    <message>
+        <source>elements and spaces: %1</source>
+        <translation>elementi e spazi: %1</translation>
+    </message>
+    <message>
+        <source>Click and drag to measure, or use the arrow keys.</source>
+        <translation>Per misurare: fare clic e trascinare, o le frecce.</translation>
+    </message>
+    <message>
+        <source>One cursor is set.</source>
+        <translation>Un cursore è posto.</translation>
+    </message>
+    <message>
+        <source>%1 ms</source>
+        <translation>%1 ms</translation>
+    </message>
+    <message>
+        <source>%1 ms: %2</source>
+        <translation>%1 ms: %2</translation>
     </message>
 </context>
 <context>
@@ -3017,6 +3079,349 @@ che la apre, e scrive ciò che manipola sull’uscita standard.</translation>
     </message>
 </context>
 <context>
+    <name>WireWords</name>
+    <message>
+        <source>space</source>
+        <translation>spazio</translation>
+    </message>
+    <message>
+        <source>Leave the speed to the knob</source>
+        <translation>Lasciare la velocità alla manopola</translation>
+    </message>
+    <message>
+        <source>Resume</source>
+        <translation>Riprendere</translation>
+    </message>
+    <message>
+        <source>Key up</source>
+        <translation>Tasto su</translation>
+    </message>
+    <message>
+        <source>In the buffer: PTT off</source>
+        <translation>Nel buffer: PTT disattivato</translation>
+    </message>
+    <message>
+        <source>No Farnsworth</source>
+        <translation>Niente Farnsworth</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>nessuno</translation>
+    </message>
+    <message>
+        <source>dit</source>
+        <translation>punto</translation>
+    </message>
+    <message>
+        <source>dah</source>
+        <translation>linea</translation>
+    </message>
+    <message>
+        <source>both</source>
+        <translation>entrambi</translation>
+    </message>
+    <message>
+        <source>Buffer: overwrite at %1</source>
+        <translation>Buffer: sovrascrivere da %1</translation>
+    </message>
+    <message>
+        <source>Buffer: append at %1</source>
+        <translation>Buffer: aggiungere da %1</translation>
+    </message>
+    <message>
+        <source>Buffer: insert %1 nulls</source>
+        <translation>Buffer: inserire %1 nulli</translation>
+    </message>
+    <message>
+        <source>Buffer: move %1, unknown</source>
+        <translation>Buffer: spostamento %1, sconosciuto</translation>
+    </message>
+    <message>
+        <source>In the buffer: high speed, %1 WPM</source>
+        <translation>Nel buffer: alta velocità, %1 WPM</translation>
+    </message>
+    <message>
+        <source>Set the tone: %1</source>
+        <translation>Impostare il tono: %1</translation>
+    </message>
+    <message>
+        <source>Set speed %1 WPM</source>
+        <translation>Impostare la velocità: %1 WPM</translation>
+    </message>
+    <message>
+        <source>Set weighting %1 %</source>
+        <translation>Impostare il peso: %1 %</translation>
+    </message>
+    <message>
+        <source>Set PTT lead/tail %1, %2 ms</source>
+        <translation>Impostare anticipo/ritardo PTT: %1, %2 ms</translation>
+    </message>
+    <message>
+        <source>Set the knob&apos;s range %1 to %2 WPM</source>
+        <translation>Impostare il campo della manopola: da %1 a %2 WPM</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pausa</translation>
+    </message>
+    <message>
+        <source>Ask for the knob</source>
+        <translation>Chiedere la manopola</translation>
+    </message>
+    <message>
+        <source>Backspace</source>
+        <translation>Backspace</translation>
+    </message>
+    <message>
+        <source>Set the pins: %1</source>
+        <translation>Impostare i pin: %1</translation>
+    </message>
+    <message>
+        <source>Clear buffer</source>
+        <translation>Svuotare il buffer</translation>
+    </message>
+    <message>
+        <source>Key down</source>
+        <translation>Tasto giù</translation>
+    </message>
+    <message>
+        <source>Set high speed %1 WPM</source>
+        <translation>Impostare l’alta velocità: %1 WPM</translation>
+    </message>
+    <message>
+        <source>Set Farnsworth %1 WPM</source>
+        <translation>Impostare Farnsworth: %1 WPM</translation>
+    </message>
+    <message>
+        <source>Set the mode: %1</source>
+        <translation>Impostare il modo: %1</translation>
+    </message>
+    <message>
+        <source>Load defaults: %1</source>
+        <translation>Caricare i valori iniziali: %1</translation>
+    </message>
+    <message>
+        <source>Set first extension %1 ms</source>
+        <translation>Impostare il prolungamento iniziale: %1 ms</translation>
+    </message>
+    <message>
+        <source>Set key compensation %1 ms</source>
+        <translation>Impostare la compensazione: %1 ms</translation>
+    </message>
+    <message>
+        <source>Set paddle memory %1 (50: a dit)</source>
+        <translation>Impostare la memoria del paddle: %1 (50: un punto)</translation>
+    </message>
+    <message>
+        <source>Null</source>
+        <translation>Nullo</translation>
+    </message>
+    <message>
+        <source>Paddle by the host: %1</source>
+        <translation>Paddle dall’host: %1</translation>
+    </message>
+    <message>
+        <source>Ask for the status</source>
+        <translation>Chiedere lo stato</translation>
+    </message>
+    <message>
+        <source>Buffer: to its beginning</source>
+        <translation>Buffer: all’inizio</translation>
+    </message>
+    <message>
+        <source>Set dah to dit %1 (50: 3 to 1)</source>
+        <translation>Impostare linea a punto: %1 (50: 3 a 1)</translation>
+    </message>
+    <message>
+        <source>In the buffer: PTT on</source>
+        <translation>Nel buffer: PTT attivo</translation>
+    </message>
+    <message>
+        <source>In the buffer: key down, %1 s</source>
+        <translation>Nel buffer: tasto giù, %1 s</translation>
+    </message>
+    <message>
+        <source>In the buffer: wait, %1 s</source>
+        <translation>Nel buffer: attesa, %1 s</translation>
+    </message>
+    <message>
+        <source>In the buffer: merge %1</source>
+        <translation>Nel buffer: unire %1</translation>
+    </message>
+    <message>
+        <source>In the buffer: %1 WPM</source>
+        <translation>Nel buffer: %1 WPM</translation>
+    </message>
+    <message>
+        <source>In the buffer: key output %1</source>
+        <translation>Nel buffer: uscita di manipolazione %1</translation>
+    </message>
+    <message>
+        <source>In the buffer: the speed that was set</source>
+        <translation>Nel buffer: la velocità impostata</translation>
+    </message>
+    <message>
+        <source>In the buffer: null</source>
+        <translation>Nel buffer: nullo</translation>
+    </message>
+    <message>
+        <source>Calibrate</source>
+        <translation>Calibrare</translation>
+    </message>
+    <message>
+        <source>Reset the keyer</source>
+        <translation>Riavviare il keyer</translation>
+    </message>
+    <message>
+        <source>Open the keyer</source>
+        <translation>Aprire il keyer</translation>
+    </message>
+    <message>
+        <source>Close the keyer</source>
+        <translation>Chiudere il keyer</translation>
+    </message>
+    <message>
+        <source>Echo test %1</source>
+        <translation>Prova di eco %1</translation>
+    </message>
+    <message>
+        <source>Ask for the paddle A/D</source>
+        <translation>Chiedere l’A/D del paddle</translation>
+    </message>
+    <message>
+        <source>Ask for the speed A/D</source>
+        <translation>Chiedere l’A/D della velocità</translation>
+    </message>
+    <message>
+        <source>Ask for all values</source>
+        <translation>Chiedere tutti i valori</translation>
+    </message>
+    <message>
+        <source>Debug</source>
+        <translation>Debug</translation>
+    </message>
+    <message>
+        <source>Ask for the calibration</source>
+        <translation>Chiedere la calibrazione</translation>
+    </message>
+    <message>
+        <source>Version 1 status</source>
+        <translation>Stato di versione 1</translation>
+    </message>
+    <message>
+        <source>Version 2 status</source>
+        <translation>Stato di versione 2</translation>
+    </message>
+    <message>
+        <source>Ask for the memory</source>
+        <translation>Chiedere la memoria</translation>
+    </message>
+    <message>
+        <source>Load the memory</source>
+        <translation>Caricare la memoria</translation>
+    </message>
+    <message>
+        <source>Play message %1</source>
+        <translation>Riproduci il messaggio %1</translation>
+    </message>
+    <message>
+        <source>Load X1MODE %1</source>
+        <translation>Caricare X1MODE %1</translation>
+    </message>
+    <message>
+        <source>Line at 9600 baud</source>
+        <translation>Linea a 9600 baud</translation>
+    </message>
+    <message>
+        <source>Line at 1200 baud</source>
+        <translation>Linea a 1200 baud</translation>
+    </message>
+    <message>
+        <source>Admin command %1, unknown</source>
+        <translation>Comando di gestione %1, sconosciuto</translation>
+    </message>
+    <message>
+        <source>text %1</source>
+        <translation>testo %1</translation>
+    </message>
+    <message>
+        <source>wait</source>
+        <translation>attesa</translation>
+    </message>
+    <message>
+        <source>key down</source>
+        <translation>tasto giù</translation>
+    </message>
+    <message>
+        <source>busy</source>
+        <translation>occupato</translation>
+    </message>
+    <message>
+        <source>break-in</source>
+        <translation>break-in</translation>
+    </message>
+    <message>
+        <source>XOFF</source>
+        <translation>XOFF</translation>
+    </message>
+    <message>
+        <source>status: %1</source>
+        <translation>stato: %1</translation>
+    </message>
+    <message>
+        <source>idle</source>
+        <translation>libero</translation>
+    </message>
+    <message>
+        <source>push-buttons: %1</source>
+        <translation>pulsanti: %1</translation>
+    </message>
+    <message>
+        <source>open, version %1</source>
+        <translation>aperto, versione %1</translation>
+    </message>
+    <message>
+        <source>echo test %1</source>
+        <translation>prova di eco %1</translation>
+    </message>
+    <message>
+        <source>values: %1</source>
+        <translation>valori: %1</translation>
+    </message>
+    <message>
+        <source>memory, %1 bytes</source>
+        <translation>memoria, %1 byte</translation>
+    </message>
+    <message>
+        <source>answer %1</source>
+        <translation>risposta %1</translation>
+    </message>
+    <message>
+        <source>discarded by the keyer</source>
+        <translation>scartato dal keyer</translation>
+    </message>
+    <message>
+        <source>lost, the keyer is starting</source>
+        <translation>perso, il keyer si sta avviando</translation>
+    </message>
+    <message>
+        <source>unfinished command</source>
+        <translation>comando incompleto</translation>
+    </message>
+    <message>
+        <source>the keyer starts anew</source>
+        <translation>il keyer si riavvia</translation>
+    </message>
+    <message>
+        <source>echo %1</source>
+        <translation>eco %1</translation>
+    </message>
+    <message>
+        <source>knob: %1 WPM</source>
+        <translation>manopola: %1 WPM</translation>
+    </message>
+</context>
+<context>
     <name>main</name>
     <message>
         <source>Quorvel is running already, and does not answer. End it, then start it again.</source>
@@ -3098,10 +3503,6 @@ che la apre, e scrive ciò che manipola sull’uscita standard.</translation>
         <translation>Salva lo script</translation>
     </message>
     <message>
-        <source>%1 cannot be written: %2</source>
-        <translation>Impossibile scrivere %1: %2</translation>
-    </message>
-    <message>
         <source>Sidetone</source>
         <translation>Sidetone</translation>
     </message>
@@ -3116,6 +3517,14 @@ che la apre, e scrive ciò che manipola sull’uscita standard.</translation>
     <message>
         <source>No sound device: it is silent.</source>
         <translation>Nessun dispositivo audio: è muto.</translation>
+    </message>
+    <message>
+        <source>Scope</source>
+        <translation>Oscilloscopio</translation>
+    </message>
+    <message>
+        <source>Line log</source>
+        <translation>Registro di linea</translation>
     </message>
 </context>
 <context>
@@ -3246,6 +3655,146 @@ che la apre, e scrive ciò che manipola sull’uscita standard.</translation>
     <message>
         <source>Value</source>
         <translation>Valore</translation>
+    </message>
+</context>
+<context>
+    <name>virtualkeyer::ScopePage</name>
+    <message>
+        <source>Place in the last ten minutes</source>
+        <translation>Punto negli ultimi dieci minuti</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pausa</translation>
+    </message>
+    <message>
+        <source>Pause the scope</source>
+        <translation>Metti in pausa l’oscilloscopio</translation>
+    </message>
+    <message>
+        <source>Closer</source>
+        <translation>Più vicino</translation>
+    </message>
+    <message>
+        <source>Less time, closer</source>
+        <translation>Meno tempo, più vicino</translation>
+    </message>
+    <message>
+        <source>Wider</source>
+        <translation>Più ampio</translation>
+    </message>
+    <message>
+        <source>More time, wider</source>
+        <translation>Più tempo, più ampio</translation>
+    </message>
+    <message>
+        <source>Picture…</source>
+        <translation>Immagine…</translation>
+    </message>
+    <message>
+        <source>Save a picture</source>
+        <translation>Salva un’immagine</translation>
+    </message>
+    <message>
+        <source>Table…</source>
+        <translation>Tabella…</translation>
+    </message>
+    <message>
+        <source>Save a table of the last ten minutes</source>
+        <translation>Salva una tabella degli ultimi dieci minuti</translation>
+    </message>
+    <message>
+        <source>Save a table</source>
+        <translation>Salva una tabella</translation>
+    </message>
+</context>
+<context>
+    <name>virtualkeyer::ScopeView</name>
+    <message>
+        <source>Scope of key and PTT</source>
+        <translation>Oscilloscopio di tasto e PTT</translation>
+    </message>
+    <message>
+        <source>Arrows move the first cursor, with Shift the second, with Ctrl from edge to edge. + and - zoom, the space bar pauses; Page Up, Page Down, Home and End go through the last ten minutes.</source>
+        <translation>Le frecce muovono il primo cursore, con Maiusc il secondo, con Ctrl da fronte a fronte. + e - cambiano la scala, la barra spaziatrice mette in pausa; Pag su, Pag giù, Inizio e Fine percorrono gli ultimi dieci minuti.</translation>
+    </message>
+</context>
+<context>
+    <name>virtualkeyer::WireLog</name>
+    <message>
+        <source>Host</source>
+        <translation>Host</translation>
+    </message>
+    <message>
+        <source>Keyer</source>
+        <translation>Keyer</translation>
+    </message>
+    <message>
+        <source>Seconds</source>
+        <translation>Secondi</translation>
+    </message>
+    <message>
+        <source>Said by</source>
+        <translation>Detto da</translation>
+    </message>
+    <message>
+        <source>In words</source>
+        <translation>A parole</translation>
+    </message>
+    <message>
+        <source>Bytes</source>
+        <translation>Byte</translation>
+    </message>
+</context>
+<context>
+    <name>virtualkeyer::WireLogPage</name>
+    <message>
+        <source>Said by</source>
+        <translation>Detto da</translation>
+    </message>
+    <message>
+        <source>Host and keyer</source>
+        <translation>Host e keyer</translation>
+    </message>
+    <message>
+        <source>The host alone</source>
+        <translation>Solo l’host</translation>
+    </message>
+    <message>
+        <source>The keyer alone</source>
+        <translation>Solo il keyer</translation>
+    </message>
+    <message>
+        <source>Filter of the log</source>
+        <translation>Filtro del registro</translation>
+    </message>
+    <message>
+        <source>Words or bytes</source>
+        <translation>Parole o byte</translation>
+    </message>
+    <message>
+        <source>Empty</source>
+        <translation>Svuota</translation>
+    </message>
+    <message>
+        <source>Empty the log</source>
+        <translation>Svuota il registro</translation>
+    </message>
+    <message>
+        <source>Save…</source>
+        <translation>Salva…</translation>
+    </message>
+    <message>
+        <source>Save the log</source>
+        <translation>Salva il registro</translation>
+    </message>
+    <message>
+        <source>Saves what is shown, with all its bytes.</source>
+        <translation>Salva ciò che è mostrato, con tutti i byte.</translation>
+    </message>
+    <message>
+        <source>Log of the line</source>
+        <translation>Registro della linea</translation>
     </message>
 </context>
 </TS>

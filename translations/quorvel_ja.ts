@@ -149,6 +149,13 @@ WinKeyer USB キーヤーを通してモールス符号を送信します。
     </message>
 </context>
 <context>
+    <name>FileSaving</name>
+    <message>
+        <source>%1 cannot be written: %2</source>
+        <translation>%1 を書き込めません: %2</translation>
+    </message>
+</context>
+<context>
     <name>FirstSteps</name>
     <message>
         <source>First steps</source>
@@ -2174,6 +2181,10 @@ WinKeyer USB キーヤーを通してモールス符号を送信します。
         <source>word space and %1 dits</source>
         <translation>語間と短点 %1 個分</translation>
     </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
 </context>
 <context>
     <name>RunText</name>
@@ -2244,6 +2255,57 @@ WinKeyer USB キーヤーを通してモールス符号を送信します。
     <message>
         <source>Link lost at character %1</source>
         <translation>%1 文字目で接続が切れた</translation>
+    </message>
+</context>
+<context>
+    <name>ScopeWords</name>
+    <message>
+        <source>PTT</source>
+        <translation>PTT</translation>
+    </message>
+    <message>
+        <source>dit %1</source>
+        <translation>短点 %1</translation>
+    </message>
+    <message>
+        <source>dah %1</source>
+        <translation>長点 %1</translation>
+    </message>
+    <message>
+        <source>space %1</source>
+        <translation>間隔 %1</translation>
+    </message>
+    <message>
+        <source>letter space %1</source>
+        <translation>字間 %1</translation>
+    </message>
+    <message>
+        <source>word space %1</source>
+        <translation>語間 %1</translation>
+    </message>
+    <message>
+        <source>pause %1</source>
+        <translation>休止 %1</translation>
+    </message>
+    <message>
+        <source>elements and spaces: %1</source>
+        <translation>短点・長点と間隔: %1 個</translation>
+    </message>
+    <message>
+        <source>Click and drag to measure, or use the arrow keys.</source>
+        <translation>測るには、クリックしてドラッグするか、矢印キーを使います。</translation>
+    </message>
+    <message>
+        <source>One cursor is set.</source>
+        <translation>カーソルが 1 本あります。</translation>
+    </message>
+    <message>
+        <source>%1 ms</source>
+        <translation>%1 ms</translation>
+    </message>
+    <message>
+        <source>%1 ms: %2</source>
+        <translation>%1 ms: %2</translation>
     </message>
 </context>
 <context>
@@ -3017,6 +3079,349 @@ program that opens it, and prints what it keys to standard output.</source>
     </message>
 </context>
 <context>
+    <name>WireWords</name>
+    <message>
+        <source>space</source>
+        <translation>空白</translation>
+    </message>
+    <message>
+        <source>Leave the speed to the knob</source>
+        <translation>速度をつまみに任せる</translation>
+    </message>
+    <message>
+        <source>Resume</source>
+        <translation>再開</translation>
+    </message>
+    <message>
+        <source>Key up</source>
+        <translation>キーアップ</translation>
+    </message>
+    <message>
+        <source>In the buffer: PTT off</source>
+        <translation>バッファー内: PTT オフ</translation>
+    </message>
+    <message>
+        <source>No Farnsworth</source>
+        <translation>ファーンズワースなし</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>なし</translation>
+    </message>
+    <message>
+        <source>dit</source>
+        <translation>短点</translation>
+    </message>
+    <message>
+        <source>dah</source>
+        <translation>長点</translation>
+    </message>
+    <message>
+        <source>both</source>
+        <translation>両方</translation>
+    </message>
+    <message>
+        <source>Buffer: overwrite at %1</source>
+        <translation>バッファー: %1 から上書き</translation>
+    </message>
+    <message>
+        <source>Buffer: append at %1</source>
+        <translation>バッファー: %1 から追加</translation>
+    </message>
+    <message>
+        <source>Buffer: insert %1 nulls</source>
+        <translation>バッファー: ヌルを %1 個挿入</translation>
+    </message>
+    <message>
+        <source>Buffer: move %1, unknown</source>
+        <translation>バッファー: 移動 %1、不明</translation>
+    </message>
+    <message>
+        <source>In the buffer: high speed, %1 WPM</source>
+        <translation>バッファー内: 高速、%1 WPM</translation>
+    </message>
+    <message>
+        <source>Set the tone: %1</source>
+        <translation>音の設定: %1</translation>
+    </message>
+    <message>
+        <source>Set speed %1 WPM</source>
+        <translation>速度を設定: %1 WPM</translation>
+    </message>
+    <message>
+        <source>Set weighting %1 %</source>
+        <translation>ウェイトを設定: %1 %</translation>
+    </message>
+    <message>
+        <source>Set PTT lead/tail %1, %2 ms</source>
+        <translation>PTT の待ちと保持を設定: %1、%2 ms</translation>
+    </message>
+    <message>
+        <source>Set the knob&apos;s range %1 to %2 WPM</source>
+        <translation>つまみの範囲を設定: %1～%2 WPM</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>一時停止</translation>
+    </message>
+    <message>
+        <source>Ask for the knob</source>
+        <translation>つまみの問い合わせ</translation>
+    </message>
+    <message>
+        <source>Backspace</source>
+        <translation>バックスペース</translation>
+    </message>
+    <message>
+        <source>Set the pins: %1</source>
+        <translation>ピンの設定: %1</translation>
+    </message>
+    <message>
+        <source>Clear buffer</source>
+        <translation>バッファーを空にする</translation>
+    </message>
+    <message>
+        <source>Key down</source>
+        <translation>キーダウン</translation>
+    </message>
+    <message>
+        <source>Set high speed %1 WPM</source>
+        <translation>高速を設定: %1 WPM</translation>
+    </message>
+    <message>
+        <source>Set Farnsworth %1 WPM</source>
+        <translation>ファーンズワースを設定: %1 WPM</translation>
+    </message>
+    <message>
+        <source>Set the mode: %1</source>
+        <translation>モードの設定: %1</translation>
+    </message>
+    <message>
+        <source>Load defaults: %1</source>
+        <translation>初期値の読み込み: %1</translation>
+    </message>
+    <message>
+        <source>Set first extension %1 ms</source>
+        <translation>先頭延長を設定: %1 ms</translation>
+    </message>
+    <message>
+        <source>Set key compensation %1 ms</source>
+        <translation>補正を設定: %1 ms</translation>
+    </message>
+    <message>
+        <source>Set paddle memory %1 (50: a dit)</source>
+        <translation>パドルの記憶を設定: %1 (50 で短点 1 個)</translation>
+    </message>
+    <message>
+        <source>Null</source>
+        <translation>ヌル</translation>
+    </message>
+    <message>
+        <source>Paddle by the host: %1</source>
+        <translation>ホストによるパドル: %1</translation>
+    </message>
+    <message>
+        <source>Ask for the status</source>
+        <translation>ステータスの問い合わせ</translation>
+    </message>
+    <message>
+        <source>Buffer: to its beginning</source>
+        <translation>バッファー: 先頭へ</translation>
+    </message>
+    <message>
+        <source>Set dah to dit %1 (50: 3 to 1)</source>
+        <translation>長短点比を設定: %1 (50 で 3 対 1)</translation>
+    </message>
+    <message>
+        <source>In the buffer: PTT on</source>
+        <translation>バッファー内: PTT オン</translation>
+    </message>
+    <message>
+        <source>In the buffer: key down, %1 s</source>
+        <translation>バッファー内: キーダウン、%1 秒</translation>
+    </message>
+    <message>
+        <source>In the buffer: wait, %1 s</source>
+        <translation>バッファー内: 待ち、%1 秒</translation>
+    </message>
+    <message>
+        <source>In the buffer: merge %1</source>
+        <translation>バッファー内: 結合 %1</translation>
+    </message>
+    <message>
+        <source>In the buffer: %1 WPM</source>
+        <translation>バッファー内: %1 WPM</translation>
+    </message>
+    <message>
+        <source>In the buffer: key output %1</source>
+        <translation>バッファー内: キー出力 %1</translation>
+    </message>
+    <message>
+        <source>In the buffer: the speed that was set</source>
+        <translation>バッファー内: 設定した速度</translation>
+    </message>
+    <message>
+        <source>In the buffer: null</source>
+        <translation>バッファー内: ヌル</translation>
+    </message>
+    <message>
+        <source>Calibrate</source>
+        <translation>校正</translation>
+    </message>
+    <message>
+        <source>Reset the keyer</source>
+        <translation>キーヤーのリセット</translation>
+    </message>
+    <message>
+        <source>Open the keyer</source>
+        <translation>キーヤーを開く</translation>
+    </message>
+    <message>
+        <source>Close the keyer</source>
+        <translation>キーヤーを閉じる</translation>
+    </message>
+    <message>
+        <source>Echo test %1</source>
+        <translation>エコーテスト %1</translation>
+    </message>
+    <message>
+        <source>Ask for the paddle A/D</source>
+        <translation>パドルの A/D 値の問い合わせ</translation>
+    </message>
+    <message>
+        <source>Ask for the speed A/D</source>
+        <translation>速度の A/D 値の問い合わせ</translation>
+    </message>
+    <message>
+        <source>Ask for all values</source>
+        <translation>すべての値の問い合わせ</translation>
+    </message>
+    <message>
+        <source>Debug</source>
+        <translation>デバッグ</translation>
+    </message>
+    <message>
+        <source>Ask for the calibration</source>
+        <translation>校正値の問い合わせ</translation>
+    </message>
+    <message>
+        <source>Version 1 status</source>
+        <translation>バージョン 1 のステータス</translation>
+    </message>
+    <message>
+        <source>Version 2 status</source>
+        <translation>バージョン 2 のステータス</translation>
+    </message>
+    <message>
+        <source>Ask for the memory</source>
+        <translation>メモリーの問い合わせ</translation>
+    </message>
+    <message>
+        <source>Load the memory</source>
+        <translation>メモリーの読み込み</translation>
+    </message>
+    <message>
+        <source>Play message %1</source>
+        <translation>メッセージ %1 を再生</translation>
+    </message>
+    <message>
+        <source>Load X1MODE %1</source>
+        <translation>X1MODE の読み込み: %1</translation>
+    </message>
+    <message>
+        <source>Line at 9600 baud</source>
+        <translation>回線 9600 ボー</translation>
+    </message>
+    <message>
+        <source>Line at 1200 baud</source>
+        <translation>回線 1200 ボー</translation>
+    </message>
+    <message>
+        <source>Admin command %1, unknown</source>
+        <translation>管理コマンド %1、不明</translation>
+    </message>
+    <message>
+        <source>text %1</source>
+        <translation>テキスト %1</translation>
+    </message>
+    <message>
+        <source>wait</source>
+        <translation>待ち</translation>
+    </message>
+    <message>
+        <source>key down</source>
+        <translation>キーダウン</translation>
+    </message>
+    <message>
+        <source>busy</source>
+        <translation>送出中</translation>
+    </message>
+    <message>
+        <source>break-in</source>
+        <translation>ブレークイン</translation>
+    </message>
+    <message>
+        <source>XOFF</source>
+        <translation>XOFF</translation>
+    </message>
+    <message>
+        <source>status: %1</source>
+        <translation>ステータス: %1</translation>
+    </message>
+    <message>
+        <source>idle</source>
+        <translation>待機中</translation>
+    </message>
+    <message>
+        <source>push-buttons: %1</source>
+        <translation>押しボタン: %1</translation>
+    </message>
+    <message>
+        <source>open, version %1</source>
+        <translation>開いた、バージョン %1</translation>
+    </message>
+    <message>
+        <source>echo test %1</source>
+        <translation>エコーテスト %1</translation>
+    </message>
+    <message>
+        <source>values: %1</source>
+        <translation>値: %1</translation>
+    </message>
+    <message>
+        <source>memory, %1 bytes</source>
+        <translation>メモリー、%1 バイト</translation>
+    </message>
+    <message>
+        <source>answer %1</source>
+        <translation>応答 %1</translation>
+    </message>
+    <message>
+        <source>discarded by the keyer</source>
+        <translation>キーヤーが破棄</translation>
+    </message>
+    <message>
+        <source>lost, the keyer is starting</source>
+        <translation>喪失、キーヤーは起動中</translation>
+    </message>
+    <message>
+        <source>unfinished command</source>
+        <translation>未完のコマンド</translation>
+    </message>
+    <message>
+        <source>the keyer starts anew</source>
+        <translation>キーヤーが起動し直す</translation>
+    </message>
+    <message>
+        <source>echo %1</source>
+        <translation>エコー %1</translation>
+    </message>
+    <message>
+        <source>knob: %1 WPM</source>
+        <translation>つまみ: %1 WPM</translation>
+    </message>
+</context>
+<context>
     <name>main</name>
     <message>
         <source>Quorvel is running already, and does not answer. End it, then start it again.</source>
@@ -3098,10 +3503,6 @@ program that opens it, and prints what it keys to standard output.</source>
         <translation>スクリプトの保存</translation>
     </message>
     <message>
-        <source>%1 cannot be written: %2</source>
-        <translation>%1 を書き込めません: %2</translation>
-    </message>
-    <message>
         <source>Sidetone</source>
         <translation>サイドトーン</translation>
     </message>
@@ -3116,6 +3517,14 @@ program that opens it, and prints what it keys to standard output.</source>
     <message>
         <source>No sound device: it is silent.</source>
         <translation>音声デバイスがないため無音です。</translation>
+    </message>
+    <message>
+        <source>Scope</source>
+        <translation>オシロスコープ</translation>
+    </message>
+    <message>
+        <source>Line log</source>
+        <translation>回線の記録</translation>
     </message>
 </context>
 <context>
@@ -3246,6 +3655,146 @@ program that opens it, and prints what it keys to standard output.</source>
     <message>
         <source>Value</source>
         <translation>値</translation>
+    </message>
+</context>
+<context>
+    <name>virtualkeyer::ScopePage</name>
+    <message>
+        <source>Place in the last ten minutes</source>
+        <translation>直近 10 分間での位置</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>一時停止</translation>
+    </message>
+    <message>
+        <source>Pause the scope</source>
+        <translation>オシロスコープを一時停止</translation>
+    </message>
+    <message>
+        <source>Closer</source>
+        <translation>拡大</translation>
+    </message>
+    <message>
+        <source>Less time, closer</source>
+        <translation>短い時間を拡大</translation>
+    </message>
+    <message>
+        <source>Wider</source>
+        <translation>縮小</translation>
+    </message>
+    <message>
+        <source>More time, wider</source>
+        <translation>長い時間を縮小</translation>
+    </message>
+    <message>
+        <source>Picture…</source>
+        <translation>画像…</translation>
+    </message>
+    <message>
+        <source>Save a picture</source>
+        <translation>画像の保存</translation>
+    </message>
+    <message>
+        <source>Table…</source>
+        <translation>表…</translation>
+    </message>
+    <message>
+        <source>Save a table of the last ten minutes</source>
+        <translation>直近 10 分間の表の保存</translation>
+    </message>
+    <message>
+        <source>Save a table</source>
+        <translation>表の保存</translation>
+    </message>
+</context>
+<context>
+    <name>virtualkeyer::ScopeView</name>
+    <message>
+        <source>Scope of key and PTT</source>
+        <translation>キーと PTT のオシロスコープ</translation>
+    </message>
+    <message>
+        <source>Arrows move the first cursor, with Shift the second, with Ctrl from edge to edge. + and - zoom, the space bar pauses; Page Up, Page Down, Home and End go through the last ten minutes.</source>
+        <translation>矢印キーで 1 本目のカーソル、Shift を加えると 2 本目が動き、Ctrl を加えるとエッジからエッジへ動きます。+ と - で拡大と縮小、スペースキーで一時停止、Page Up、Page Down、Home、End で直近 10 分間を移動します。</translation>
+    </message>
+</context>
+<context>
+    <name>virtualkeyer::WireLog</name>
+    <message>
+        <source>Host</source>
+        <translation>ホスト</translation>
+    </message>
+    <message>
+        <source>Keyer</source>
+        <translation>キーヤー</translation>
+    </message>
+    <message>
+        <source>Seconds</source>
+        <translation>秒</translation>
+    </message>
+    <message>
+        <source>Said by</source>
+        <translation>発言者</translation>
+    </message>
+    <message>
+        <source>In words</source>
+        <translation>内容</translation>
+    </message>
+    <message>
+        <source>Bytes</source>
+        <translation>バイト</translation>
+    </message>
+</context>
+<context>
+    <name>virtualkeyer::WireLogPage</name>
+    <message>
+        <source>Said by</source>
+        <translation>発言者</translation>
+    </message>
+    <message>
+        <source>Host and keyer</source>
+        <translation>ホストとキーヤー</translation>
+    </message>
+    <message>
+        <source>The host alone</source>
+        <translation>ホストのみ</translation>
+    </message>
+    <message>
+        <source>The keyer alone</source>
+        <translation>キーヤーのみ</translation>
+    </message>
+    <message>
+        <source>Filter of the log</source>
+        <translation>記録の絞り込み</translation>
+    </message>
+    <message>
+        <source>Words or bytes</source>
+        <translation>言葉またはバイト</translation>
+    </message>
+    <message>
+        <source>Empty</source>
+        <translation>消去</translation>
+    </message>
+    <message>
+        <source>Empty the log</source>
+        <translation>記録を消去</translation>
+    </message>
+    <message>
+        <source>Save…</source>
+        <translation>保存…</translation>
+    </message>
+    <message>
+        <source>Save the log</source>
+        <translation>記録の保存</translation>
+    </message>
+    <message>
+        <source>Saves what is shown, with all its bytes.</source>
+        <translation>表示中のものを、すべてのバイトとともに保存します。</translation>
+    </message>
+    <message>
+        <source>Log of the line</source>
+        <translation>回線の記録</translation>
     </message>
 </context>
 </TS>
