@@ -1,5 +1,6 @@
 #include "keyer/KeyerWatch.h"
 
+#include "keyer/KeyerCommand.h"
 #include "keyer/WinKeyerUsb.h"
 #include "platform/Platform.h"
 
@@ -45,6 +46,7 @@ void KeyerWatch::askAgain() {
     _engine.clearSending();
     if (_engine.isPortOpen()) {
         _engine.greetAgain();
+        _engine.silence();
     } else {
         Q_EMIT connectionWanted();
     }
@@ -109,8 +111,21 @@ void KeyerWatch::checkSending() {
     } else if (left > Clock::Duration::zero()) {
         _sendingTimer = platformClock().scheduleTimer(left, this, [this] { checkSending(); });
     } else {
+        keyUp();
         report(&KeyerWatch::fellSilent);
     }
+}
+
+/// A command that has lost its end takes nulls for it, and not the key up.
+void KeyerWatch::keyUp() {
+    constexpr int nullCommands = 4;
+    if (_engine.tuneState() != 0) {
+        return; // it is to be down
+    }
+    for (int i = 0; i < nullCommands; ++i) {
+        _engine.putToWinKeyer(KeyerCommand::nullCommand());
+    }
+    _engine.keyUp();
 }
 
 void KeyerWatch::report(void (KeyerWatch::*what)()) {

@@ -13,7 +13,8 @@ class WinKeyerUsb;
 /// A keyer from which no byte comes after it was greeted is greeted again on the open port, after 2
 /// s and once more 5 s later: many a board starts anew when its port is opened, and loses what it
 /// is sent meanwhile. One that answers is greeted once. A keyer that does not answer at all is
-/// reported, and so is one from which nothing comes for 10 s while a character is on its way to it.
+/// reported, and so is one from which nothing comes for 10 s while a character is on its way to it:
+/// the byte may have been lost, or come as another one that put the key down, so the key goes up.
 /// Main thread only.
 class KeyerWatch final : public QObject {
     Q_OBJECT
@@ -21,8 +22,8 @@ class KeyerWatch final : public QObject {
     /// `engine` must outlive the watch.
     KeyerWatch(WinKeyerUsb& engine, QObject* parent);
 
-    /// Forgets the text and greets the keyer anew, as often as after connecting. A port that is not
-    /// open is asked for.
+    /// Forgets the text and greets the keyer anew, as often as after connecting, which then keys
+    /// nothing of what it has been given before. A port that is not open is asked for.
     void askAgain();
 
   Q_SIGNALS:
@@ -42,6 +43,7 @@ class KeyerWatch final : public QObject {
     void followLink();
     void followSending();
     void checkSending();
+    void keyUp();
     void report(void (KeyerWatch::*what)());
 
     WinKeyerUsb& _engine;
