@@ -24,6 +24,8 @@ KeyingRecord::KeyingRecord(WinKeyerUsb& engine, const QString& path)
     connect(&_engine, &WinKeyerUsb::activityChanged, this, &KeyingRecord::follow);
     connect(&_engine, &WinKeyerUsb::sendingProgressed, this, &KeyingRecord::follow);
     connect(&_engine, &WinKeyerUsb::tuneStateChanged, this, &KeyingRecord::follow);
+    connect(&_engine, &WinKeyerUsb::sendingCutShort, this,
+            [this] { _wasCutShortInTune = _engine.tuneState() != 0; });
     follow();
 }
 
@@ -81,9 +83,10 @@ void KeyingRecord::follow() {
     if (isConnected && !wasConnected) {
         linkIsUp();
     }
+    const bool isLost = !_engine.isConnected() && std::exchange(_wasCutShortInTune, false);
     if (isConnected) {
         keep(_owed, presentKeying());
-    } else if (wasConnected && _now == Keying::Tune) {
+    } else if (isLost || (wasConnected && _now == Keying::Tune)) {
         // Key up can reach it no more.
         keep(Keying::TuneOfLostKeyer, Keying::None);
     } else {
@@ -92,6 +95,7 @@ void KeyingRecord::follow() {
 }
 
 void KeyingRecord::linkIsUp() {
+    _wasCutShortInTune = false;
     if (_owed == Keying::None) {
         return;
     }

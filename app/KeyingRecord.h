@@ -44,6 +44,9 @@ class KeyingRecord final : public QObject {
     WinKeyerUsb& _engine;
     const QString _path;
     bool _isConnected = false;
+    /// The port was closed by another in tune; the key up that went out first may have gone
+    /// nowhere.
+    bool _wasCutShortInTune = false;
     /// What was left behind, of which the keyer has not been told yet.
     Keying _owed;
     Keying _now = Keying::None;

@@ -40,6 +40,7 @@ class KeyingRecordTest : public QObject {
     void theFirstConnectionAfterADeathKeysUp();
     void aDeathThatNoConnectionFollowedIsRememberedOn();
     void aTuneOfALostKeyerEndsWhenItIsBack();
+    void aTuneOfAPortThatGoesIsOwedThoughItTookTheKeyUp();
     void aTuneBehindALineThatTakesNothingIsOwed();
     void textForALostKeyerIsNotOwed();
     void anEndWithoutTheSignalsOfTheEngineLeavesNothing();
@@ -199,6 +200,25 @@ void KeyingRecordTest::aTuneOfALostKeyerEndsWhenItIsBack() {
     QVERIFY(_bench->written().endsWith(" 07 0b 00"));
     QCOMPARE(notices.size(), 1);
     QVERIFY(notices.first().first().toString().contains(u"unplugged"));
+    QVERIFY(!QFile::exists(_path));
+}
+
+/// An adapter that is being pulled may take bytes that it never sends.
+void KeyingRecordTest::aTuneOfAPortThatGoesIsOwedThoughItTookTheKeyUp() {
+    static_cast<void>(ORSSerialPortManager::sharedSerialPortManager());
+    auto& engine = _bench->engine();
+    QVERIFY(_bench->connect());
+    tune(true);
+    static_cast<void>(_bench->written());
+    QObject::connect(&engine, &WinKeyerUsb::silenced, &*_record,
+                     [&engine] { engine.setTuneState(0); });
+    _bench->platform().devices().unplug(_bench->device());
+    QVERIFY(_bench->written().startsWith("0b 00 0a 00 03"));
+    QCOMPARE(engine.tuneState(), 0);
+    QCOMPARE(kept(), "tune of a lost keyer\n");
+    _bench->platform().devices().plug(EngineBench::portName, _bench->line().path());
+    QVERIFY(engine.connect(nullptr));
+    QVERIFY(_bench->written().endsWith(" 07 0b 00"));
     QVERIFY(!QFile::exists(_path));
 }
 
