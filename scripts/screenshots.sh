@@ -133,6 +133,11 @@ shoot_window() {
     xdotool key ctrl+m
     wait_while quorvel 60 keyed CQTESTN0CA
     take main-window
+    xdotool key ctrl+j
+    wait_while quorvel 20 active_window_is Sent
+    picture sent
+    xdotool key Escape
+    wait_while quorvel 20 windows_are 1
     xdotool key Escape key ctrl+t
     wait_while quorvel 20 active_window_is TRANSMITTING
     picture tune
