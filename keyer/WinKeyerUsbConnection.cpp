@@ -295,8 +295,10 @@ void WinKeyerUsb::serialPortWasOpened(ORSSerialPort& port) {
     }
 }
 
+/// One that comes during the sleep is of the closing, or of what was under way then.
 void WinKeyerUsb::serialPortDidEncounterError(ORSSerialPort& port, const Error&) {
-    if (&port == _winKeyerSerialPort.get() && _isToBeGreetedAgain && !isPortOpen()) {
+    if (&port == _winKeyerSerialPort.get() && _isToBeGreetedAgain && !isPortOpen() &&
+        !ORSSerialPortManager::sharedSerialPortManager().isAsleep()) {
         _isAsleep = false;
         Q_EMIT reopeningFailed();
     }

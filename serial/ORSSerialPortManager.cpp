@@ -148,6 +148,7 @@ void ORSSerialPortManager::setPortTerminatedNotificationIterator(quint32 iterato
 }
 
 void ORSSerialPortManager::systemWillSleep(const Notification&) {
+    _isAsleep = true;
     endWaitForDevices();
     const auto ports = _availablePorts.value_or(Ports());
     for (const auto& port : ports) {
@@ -169,6 +170,7 @@ void ORSSerialPortManager::awaitLastOutput() const {
 }
 
 void ORSSerialPortManager::systemDidWake(const Notification&) {
+    _isAsleep = false;
     endWaitForDevices();
     _endOfWait = Platform::current().clock().now() + longestWait;
     reopenAfterSleep();

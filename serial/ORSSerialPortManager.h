@@ -87,6 +87,8 @@ class ORSSerialPortManager final : public QObject {
     /// Opens the remembered ports that are still there, and forgets them all. One whose device is
     /// still being closed is opened once that is done, within ten seconds.
     void systemDidWake(const Notification& notification);
+    /// Whether the machine has said that it goes to sleep, and not yet that it woke up.
+    [[nodiscard]] bool isAsleep() const { return _isAsleep; }
 
     /// Whether the port is listed and the machine has its device: one that has gone while an alert
     /// is up leaves the list only afterwards.
@@ -120,6 +122,7 @@ class ORSSerialPortManager final : public QObject {
     Ports _portsToReopenAfterSleep;
     std::shared_ptr<Timer> _waitForDevices;
     Clock::Duration _endOfWait{0};
+    bool _isAsleep = false;
     quint32 _portPublishedNotificationIterator = 0;
     quint32 _portTerminatedNotificationIterator = 0;
 };

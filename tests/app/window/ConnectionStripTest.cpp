@@ -1,6 +1,7 @@
 #include "app/window/ConnectionStrip.h"
 
 #include "platform/NotificationCenter.h"
+#include "serial/ORSSerialPort.h"
 #include "tests/app/window/MainWindowFixture.h"
 #include "tests/support/RegisteredTest.h"
 
@@ -27,6 +28,7 @@ class ConnectionStripTest : public QObject, private MainWindowFixture {
     void itSaysWhatBecomesOfTheText();
     void whatIsEnteredAsleepWaitsForTheOperator_data();
     void whatIsEnteredAsleepWaitsForTheOperator();
+    void aLateErrorOfAPortThatSleepsIsNoNews();
     void itLeadsToTheChoiceOfPort();
     void itLeadsToTheCheckOfThePorts();
     void nothingIsCountedAsWaiting();
@@ -110,6 +112,21 @@ void ConnectionStripTest::whatIsEnteredAsleepWaitsForTheOperator() {
         QCOMPARE(_bench->written(), "4b");
     }
     QVERIFY(!find<QAbstractButton>(u"pauseButton"_s)->isChecked());
+}
+
+/// Those who read the port, and its closing, report from threads of their own.
+void ConnectionStripTest::aLateErrorOfAPortThatSleepsIsNoNews() {
+    auto& notifications = _bench->platform().notifications();
+    notifications.post(NSWorkspaceWillSleepNotification, nullptr);
+    const auto port = ORSSerialPort::serialPortWithPath(_bench->line().path());
+    port->notifyDelegateOfPosixError();
+    QVERIFY(find<QLabel>(u"connectionLabel"_s)->text().contains(u"waits until you take Pause off"));
+    QVERIFY(!find<QWidget>(u"answerStrip"_s)->isVisible());
+    type(u"cq"_s);
+    notifications.post(NSWorkspaceDidWakeNotification, nullptr);
+    QTRY_VERIFY(!strip().isVisible());
+    QCOMPARE(_bench->engine().keyboardBuffer(), u"CQ"_s);
+    QVERIFY(find<QAbstractButton>(u"pauseButton"_s)->isChecked());
 }
 
 void ConnectionStripTest::itLeadsToTheChoiceOfPort() {
