@@ -179,7 +179,7 @@ bool RecordFile::prepareTables() {
         return false;
     }
     QSqlQuery query(_database);
-    if (!prepare(query, u"PRAGMA user_version"_s) || !execute(query) || !query.next()) {
+    if (!prepare(query, u"PRAGMA user_version"_s) || !execute(query) || !next(query)) {
         return false;
     }
     const int found = query.value(0).toInt();
@@ -326,12 +326,25 @@ RunNumbers RecordFile::numbers() {
     if (!open()) {
         return {};
     }
+    RunNumbers numbers;
     QSqlQuery query(_database);
-    const bool isThere =
-        prepare(query, u"SELECT (SELECT min(number) FROM run), (SELECT max(number) FROM run)"_s) &&
-        execute(query) && query.next() && !query.isNull(0);
-    return isThere ? RunNumbers{query.value(0).toLongLong(), query.value(1).toLongLong()}
-                   : RunNumbers{};
+    if (prepare(query, u"SELECT (SELECT min(number) FROM run), (SELECT max(number) FROM run)"_s) &&
+        execute(query) && next(query) && !query.isNull(0)) {
+        numbers = {query.value(0).toLongLong(), query.value(1).toLongLong()};
+    }
+    finishReading(query);
+    return numbers;
+}
+
+/// Whether there is one more row.
+bool RecordFile::next(QSqlQuery& query) {
+    return query.next() || (query.lastError().isValid() && take(query.lastError()));
+}
+
+/// Any question may be the first to come upon damage.
+void RecordFile::finishReading(QSqlQuery& query) {
+    query.clear(); // it belongs to the file that may be put aside
+    recoverIfDamaged();
 }
 
 QList<StoredRun> RecordFile::read(qint64 first, qint64 last) {
@@ -352,13 +365,10 @@ QList<StoredRun> RecordFile::runsOf(const QString& condition) {
         return runs;
     }
     QSqlQuery query(_database);
-    if (!prepare(query, u"SELECT %1 FROM run WHERE %2 ORDER BY number"_s.arg(columns, condition)) ||
-        !execute(query)) {
-        query.clear();
-        recoverIfDamaged();
-        return runs;
-    }
-    while (query.next()) {
+    const bool isBegun =
+        prepare(query, u"SELECT %1 FROM run WHERE %2 ORDER BY number"_s.arg(columns, condition)) &&
+        execute(query);
+    while (isBegun && next(query)) {
         const auto value = [&query](int column) { return query.value(column); };
         runs.append({value(0).toLongLong(),
                      {.begun = value(1).toLongLong(),
@@ -370,11 +380,7 @@ QList<StoredRun> RecordFile::runsOf(const QString& condition) {
                       .name = value(8).toString(),
                       .ending = choiceOf(value(9), RecordedRun::Ending::LinkLost)}});
     }
-    const auto error = query.lastError();
-    query.clear();
-    if (error.isValid() && !take(error)) {
-        recoverIfDamaged();
-    }
+    finishReading(query);
     return runs;
 }
 
@@ -389,17 +395,18 @@ QList<qint64> RecordFile::find(const QString& words, qsizetype most) {
                                        : QString();
     QList<qint64> found;
     QSqlQuery query(_database);
-    if (!prepare(query,
-                 u"SELECT number FROM run WHERE text LIKE :words ESCAPE '\\' OR name LIKE "
-                 ":words ESCAPE '\\' OR (%1) %2 ORDER BY number DESC LIMIT %3"_s.arg(key, date)
-                     .arg(most))) {
-        return found;
+    const bool isPrepared = prepare(
+        query, u"SELECT number FROM run WHERE text LIKE :words ESCAPE '\\' OR name LIKE "
+               ":words ESCAPE '\\' OR (%1) %2 ORDER BY number DESC LIMIT %3"_s.arg(key, date)
+                   .arg(most));
+    if (isPrepared) {
+        query.bindValue(u":words"_s, patternOf(words));
     }
-    query.bindValue(u":words"_s, patternOf(words));
-    if (execute(query)) {
-        while (query.next()) {
+    if (isPrepared && execute(query)) {
+        while (next(query)) {
             found.append(query.value(0).toLongLong());
         }
     }
+    finishReading(query);
     return found;
 }

@@ -49,7 +49,8 @@ class RecordFile {
     /// name, their key or their date. At most so many; the newest first.
     [[nodiscard]] QList<qint64> find(const QString& words, qsizetype most);
 
-    /// What has come up since the last call.
+    /// What has come up since it was last taken.
+    [[nodiscard]] const Trouble& trouble() const { return _trouble; }
     [[nodiscard]] Trouble takeTrouble();
 
   private:
@@ -72,6 +73,8 @@ class RecordFile {
     [[nodiscard]] bool insert(const QList<RecordedRun>& runs);
     [[nodiscard]] bool removeOld(qint64 oldest);
     [[nodiscard]] QList<StoredRun> runsOf(const QString& condition);
+    [[nodiscard]] bool next(QSqlQuery& query);
+    void finishReading(QSqlQuery& query);
     void fail(const QString& problem);
     [[nodiscard]] bool recover();
     void recoverIfDamaged();

@@ -36,6 +36,7 @@ struct RecordStore::State {
     [[nodiscard]] qint64 oldest() const { return wallClock() - days * millisecondsOfDay; }
     void store(RecordFile& file, std::unique_lock<std::mutex>& lock);
     void work(RecordFile& file, std::unique_lock<std::mutex>& lock);
+    void tellNumbers(const RunNumbers& numbers);
     void tellTrouble(RecordFile& file);
     void lockAgain(std::unique_lock<std::mutex>& lock) const;
 
@@ -191,14 +192,14 @@ void RecordStore::find(const QString& words, qsizetype most, QObject* context,
 }
 
 void RecordStore::save(const QString& path, const QList<qint64>& numbers, QObject* context,
-                       Receiver<QString> receiver) {
+                       Receiver<SavedTable> receiver) {
     auto table = std::make_shared<RunTable>(path, numbers);
     addPart(_state, table,
             [queue = _state->queue, to = QPointer<QObject>(context),
-             receiver = std::move(receiver)](const QString& problem) {
-                queue->async([to, receiver, problem] {
+             receiver = std::move(receiver)](const SavedTable& saved) {
+                queue->async([to, receiver, saved] {
                     if (to) {
-                        receiver(problem);
+                        receiver(saved);
                     }
                 });
             });
@@ -207,20 +208,25 @@ void RecordStore::save(const QString& path, const QList<qint64>& numbers, QObjec
 
 /// Piece by piece, so that runs are stored meanwhile.
 void RecordStore::addPart(const std::shared_ptr<State>& state,
-                          const std::shared_ptr<RunTable>& table, Receiver<QString> receiver) {
-    const std::scoped_lock lock(state->mutex);
-    if (state->isEnding) {
-        return;
-    }
-    state->jobs.push_back([weak = std::weak_ptr(state), table, receiver](RecordFile& file) {
+                          const std::shared_ptr<RunTable>& table, Receiver<SavedTable> receiver) {
+    addJob(state, [weak = std::weak_ptr(state), table, receiver](RecordFile& file) {
+        const bool hasMore = table->writeNext(file);
         const auto owner = weak.lock();
-        if (!table->writeNext(file)) {
-            receiver(table->finish());
-        } else if (owner) {
+        if (owner && hasMore) {
             addPart(owner, table, receiver);
+        } else if (owner) {
+            addJob(owner, [table, receiver](RecordFile&) { receiver(table->finish()); });
         }
     });
-    state->changed.notify_all();
+}
+
+/// Unless it ends.
+void RecordStore::addJob(const std::shared_ptr<State>& state, Job job) {
+    const std::scoped_lock lock(state->mutex);
+    if (!state->isEnding) {
+        state->jobs.push_back(std::move(job));
+        state->changed.notify_all();
+    }
 }
 
 void RecordStore::takeTrouble(const QString& problem, const QString& aside) {
@@ -262,11 +268,7 @@ void RecordStore::State::store(RecordFile& file, std::unique_lock<std::mutex>& l
     lockAgain(lock);
     if (isStored) {
         waiting.remove(0, runs.size());
-        queue->async([store = owner, numbers] {
-            if (store) {
-                Q_EMIT store->grown(numbers);
-            }
-        });
+        tellNumbers(numbers);
     }
 }
 
@@ -275,6 +277,9 @@ void RecordStore::State::work(RecordFile& file, std::unique_lock<std::mutex>& lo
     jobs.pop_front();
     lock.unlock();
     job(file);
+    if (!file.trouble().aside.isNull()) {
+        tellNumbers(file.numbers()); // those of a new record
+    }
     tellTrouble(file);
     lockAgain(lock);
 }
@@ -287,6 +292,14 @@ void RecordStore::State::lockAgain(std::unique_lock<std::mutex>& lock) const {
         ::pause();
         lock.lock();
     }
+}
+
+void RecordStore::State::tellNumbers(const RunNumbers& numbers) {
+    queue->async([store = owner, numbers] {
+        if (store) {
+            Q_EMIT store->grown(numbers);
+        }
+    });
 }
 
 void RecordStore::State::tellTrouble(RecordFile& file) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "record/SavedTable.h"
 #include "record/StoredRun.h"
 
 #include <QList>
@@ -50,13 +51,12 @@ class RecordStore final : public QObject {
     void find(const QString& words, qsizetype most, QObject* context,
               Receiver<QList<qint64>> receiver);
 
-    /// Writes a table of those runs, or of all if there are none, and says why it could not; a
-    /// null text when all went well.
+    /// Writes a table of those runs, or of all if there are none.
     void save(const QString& path, const QList<qint64>& numbers, QObject* context,
-              Receiver<QString> receiver);
+              Receiver<SavedTable> receiver);
 
   Q_SIGNALS:
-    /// Runs have been stored; the numbers of those that there are now.
+    /// Runs have been stored, or a new record begun; the numbers of those that there are now.
     void grown(const RunNumbers& numbers);
     /// What is sent cannot be recorded, and why, for the first time.
     void failed(const QString& problem);
@@ -73,7 +73,8 @@ class RecordStore final : public QObject {
     void ask(QObject* context, Receiver<Result> receiver,
              std::function<Result(RecordFile&)> question);
     static void addPart(const std::shared_ptr<State>& state, const std::shared_ptr<RunTable>& table,
-                        Receiver<QString> receiver);
+                        Receiver<SavedTable> receiver);
+    static void addJob(const std::shared_ptr<State>& state, Job job);
     void takeTrouble(const QString& problem, const QString& aside);
 
     std::shared_ptr<State> _state;

@@ -45,7 +45,9 @@ bool RunTable::begin(RecordFile& record) {
         _problem = _file.errorString();
         return false;
     }
-    _range = _isAll ? record.numbers() : RunNumbers{0, _numbers.size() - 1};
+    if (!findRange(record)) {
+        return false;
+    }
     _next = _range.first;
     QStringList headings;
     for (int column = 0; column < RunText::Columns; ++column) {
@@ -53,6 +55,33 @@ bool RunTable::begin(RecordFile& record) {
     }
     writeLine(headings);
     return true;
+}
+
+/// Of a record that cannot be read there is no table, rather than an empty one.
+bool RunTable::findRange(RecordFile& record) {
+    if (!_isAll) {
+        _range = {0, _numbers.size() - 1};
+        return true;
+    }
+    _range = record.numbers();
+    const auto& trouble = record.trouble();
+    if (!trouble.aside.isNull()) {
+        _problem = tr("the record is damaged");
+    } else {
+        _problem = trouble.problem;
+    }
+    return _problem.isNull();
+}
+
+/// Old runs that have gone meanwhile are none of them.
+void RunTable::countMissing(RecordFile& record, qint64 end, qsizetype found) {
+    if (found == end - _next) {
+        return;
+    }
+    const auto oldest = record.numbers().first;
+    const auto first = std::lower_bound(_numbers.begin(), _numbers.end(), oldest);
+    const auto begin = _isAll ? oldest : first - _numbers.begin();
+    _missing += std::max<qint64>(0, end - std::max<qint64>(_next, begin) - found);
 }
 
 bool RunTable::writeNext(RecordFile& record) {
@@ -69,13 +98,14 @@ bool RunTable::writeNext(RecordFile& record) {
         }
         writeLine(values);
     }
+    countMissing(record, end, runs.size());
     _next = end;
     return _next <= _range.last && _file.error() == QFileDevice::NoError;
 }
 
-QString RunTable::finish() {
-    if (!_problem.isNull()) {
-        return _problem;
+SavedTable RunTable::finish() {
+    if (_problem.isNull() && !_file.commit()) {
+        _problem = _file.errorString();
     }
-    return _file.commit() ? QString() : _file.errorString();
+    return {_problem, _missing};
 }

@@ -1,7 +1,9 @@
 #pragma once
 
+#include "record/SavedTable.h"
 #include "record/StoredRun.h"
 
+#include <QCoreApplication>
 #include <QList>
 #include <QSaveFile>
 #include <QString>
@@ -14,20 +16,23 @@ class RecordFile;
 /// A text that a spreadsheet would take for a formula has an apostrophe ahead of it: what loggers
 /// send, anyone on this machine may have made up. One thread.
 class RunTable {
+    Q_DECLARE_TR_FUNCTIONS(RunTable)
   public:
     /// Of those runs, in any order; of all of the record if there are none.
     RunTable(const QString& path, const QList<qint64>& numbers);
 
     /// Writes the next thousand; false when there are no more, or something stands in the way.
     [[nodiscard]] bool writeNext(RecordFile& record);
-    /// Puts the file in its place; why it could not, or a null text.
-    [[nodiscard]] QString finish();
+    /// Puts the file in its place.
+    [[nodiscard]] SavedTable finish();
 
     /// A value as it stands in the file.
     [[nodiscard]] static QString field(const QString& value);
 
   private:
     [[nodiscard]] bool begin(RecordFile& record);
+    [[nodiscard]] bool findRange(RecordFile& record);
+    void countMissing(RecordFile& record, qint64 end, qsizetype found);
     void writeLine(const QStringList& values);
 
     QSaveFile _file;
@@ -35,5 +40,6 @@ class RunTable {
     const bool _isAll;
     RunNumbers _range;
     qint64 _next = 0;
+    qint64 _missing = 0;
     QString _problem;
 };

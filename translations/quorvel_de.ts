@@ -2187,6 +2187,13 @@ Die eigenen Optionen des Toolkits wie -platform und -style gelten auch. Die Anle
     </message>
 </context>
 <context>
+    <name>RunTable</name>
+    <message>
+        <source>the record is damaged</source>
+        <translation>die Aufzeichnung ist beschädigt</translation>
+    </message>
+</context>
+<context>
     <name>RunText</name>
     <message>
         <source>UTC</source>
@@ -2428,6 +2435,10 @@ Die eigenen Optionen des Toolkits wie -platform und -style gelten auch. Die Anle
     <message>
         <source>Send Again</source>
         <translation>Erneut senden</translation>
+    </message>
+    <message>
+        <source>Saved as %1, without %2 that could not be read</source>
+        <translation>Gesichert als %1, ohne %2, die nicht zu lesen waren</translation>
     </message>
 </context>
 <context>

@@ -2187,6 +2187,13 @@ También valen las opciones de la biblioteca gráfica, como -platform y -style. 
     </message>
 </context>
 <context>
+    <name>RunTable</name>
+    <message>
+        <source>the record is damaged</source>
+        <translation>el registro está dañado</translation>
+    </message>
+</context>
+<context>
     <name>RunText</name>
     <message>
         <source>UTC</source>
@@ -2428,6 +2435,10 @@ También valen las opciones de la biblioteca gráfica, como -platform y -style. 
     <message>
         <source>Send Again</source>
         <translation>Transmitir de nuevo</translation>
+    </message>
+    <message>
+        <source>Saved as %1, without %2 that could not be read</source>
+        <translation>Guardado como %1, sin %2 que no se pudieron leer</translation>
     </message>
 </context>
 <context>

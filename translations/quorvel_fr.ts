@@ -2187,6 +2187,13 @@ Les options de la bibliothèque graphique, comme -platform et -style, sont admis
     </message>
 </context>
 <context>
+    <name>RunTable</name>
+    <message>
+        <source>the record is damaged</source>
+        <translation>le journal est endommagé</translation>
+    </message>
+</context>
+<context>
     <name>RunText</name>
     <message>
         <source>UTC</source>
@@ -2428,6 +2435,10 @@ Les options de la bibliothèque graphique, comme -platform et -style, sont admis
     <message>
         <source>Send Again</source>
         <translation>Émettre de nouveau</translation>
+    </message>
+    <message>
+        <source>Saved as %1, without %2 that could not be read</source>
+        <translation>Enregistré sous %1, sans %2 qui n’ont pas pu être lus</translation>
     </message>
 </context>
 <context>

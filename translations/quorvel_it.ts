@@ -2187,6 +2187,13 @@ Valgono anche le opzioni della libreria grafica, come -platform e -style. La gui
     </message>
 </context>
 <context>
+    <name>RunTable</name>
+    <message>
+        <source>the record is damaged</source>
+        <translation>il registro è danneggiato</translation>
+    </message>
+</context>
+<context>
     <name>RunText</name>
     <message>
         <source>UTC</source>
@@ -2428,6 +2435,10 @@ Valgono anche le opzioni della libreria grafica, come -platform e -style. La gui
     <message>
         <source>Send Again</source>
         <translation>Trasmetti di nuovo</translation>
+    </message>
+    <message>
+        <source>Saved as %1, without %2 that could not be read</source>
+        <translation>Salvato come %1, senza %2 che non si sono potuti leggere</translation>
     </message>
 </context>
 <context>

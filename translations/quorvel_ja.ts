@@ -2187,6 +2187,13 @@ WinKeyer USB キーヤーを通してモールス符号を送信します。
     </message>
 </context>
 <context>
+    <name>RunTable</name>
+    <message>
+        <source>the record is damaged</source>
+        <translation>記録が壊れています</translation>
+    </message>
+</context>
+<context>
     <name>RunText</name>
     <message>
         <source>UTC</source>
@@ -2428,6 +2435,10 @@ WinKeyer USB キーヤーを通してモールス符号を送信します。
     <message>
         <source>Send Again</source>
         <translation>もう一度送信</translation>
+    </message>
+    <message>
+        <source>Saved as %1, without %2 that could not be read</source>
+        <translation>%1 に保存しました（読み取れなかった %2 件を除く）</translation>
     </message>
 </context>
 <context>

@@ -331,14 +331,22 @@ void SentWindow::chooseFile() {
     dialog->open();
 }
 
+QString SentWindow::savedText(const QString& path, const SavedTable& table) {
+    if (!table.problem.isNull()) {
+        return tr("Not saved: %1").arg(table.problem);
+    }
+    return table.missing == 0 ? tr("Saved as %1").arg(path)
+                              : tr("Saved as %1, without %2 that could not be read")
+                                    .arg(path, QLocale().toString(table.missing));
+}
+
 void SentWindow::save(const QString& path) {
     if (_model->isSearch() && _model->found().isEmpty()) {
         return;
     }
     _save->setEnabled(false);
-    _store.save(path, _model->found(), this, [this, path](const QString& problem) {
+    _store.save(path, _model->found(), this, [this, path](const SavedTable& table) {
         _save->setEnabled(true);
-        _count->setText(problem.isNull() ? tr("Saved as %1").arg(path)
-                                         : tr("Not saved: %1").arg(problem));
+        _count->setText(savedText(path, table));
     });
 }

@@ -17,6 +17,7 @@ class QVBoxLayout;
 class RecordStore;
 class SentModel;
 class WinKeyerUsb;
+struct SavedTable;
 
 /// What was sent, run by run, in a window that stays open beside the work.
 ///
@@ -39,6 +40,7 @@ class SentWindow final : public QDialog {
     void sendRequested(const QString& text);
 
   private:
+    [[nodiscard]] static QString savedText(const QString& path, const SavedTable& table);
     void addSearch(QVBoxLayout& layout);
     void addTable(QVBoxLayout& layout);
     void addSettings(QVBoxLayout& layout);

@@ -13,6 +13,7 @@
 #include <QTest>
 
 #include <csignal>
+#include <functional>
 #include <optional>
 #include <sys/resource.h>
 #include <sys/stat.h>
@@ -70,6 +71,8 @@ class RecordFileTest : public QObject {
     void aDamagedFileIsPutAside_data();
     void aDamagedFileIsPutAside();
     void aFileThatIsDamagedWithinIsPutAside();
+    void damageIsFoundByAnyQuestion_data();
+    void damageIsFoundByAnyQuestion();
     void aLockedFileIsTold();
     void twoProgramsShareOneFile();
     void aFullDiskIsToldAndLeavesASoundFile();
@@ -260,6 +263,37 @@ void RecordFileTest::aFileThatIsDamagedWithinIsPutAside() {
     QVERIFY(isStored);
     QCOMPARE(asides().size(), 1);
     QVERIFY(!_file->takeTrouble().aside.isNull());
+}
+
+void RecordFileTest::damageIsFoundByAnyQuestion_data() {
+    QTest::addColumn<std::function<void(RecordFile&)>>("question");
+    const auto row = [](const char* name, const std::function<void(RecordFile&)>& question) {
+        QTest::newRow(name) << question;
+    };
+    row("a search", [](RecordFile& file) { static_cast<void>(file.find(u"E"_s, 10'000)); });
+    row("the numbers", [](RecordFile& file) { static_cast<void>(file.numbers()); });
+    row("a reading", [](RecordFile& file) { static_cast<void>(file.read(1, 10'000)); });
+}
+
+/// The file is open when it comes to grief.
+void RecordFileTest::damageIsFoundByAnyQuestion() {
+    QFETCH(std::function<void(RecordFile&)>, question);
+    QVERIFY(_file->append(QList<RecordedRun>(2000, runOf(QString(100, u'E'))), 0));
+    restart();
+    QVERIFY(_file->read(0, 0).isEmpty());
+    QFile file(_path);
+    QVERIFY(file.open(QIODevice::ReadWrite));
+    constexpr qint64 firstPage = 4096;
+    file.seek(firstPage);
+    file.write(QByteArray(static_cast<qsizetype>(file.size() - firstPage), '\x55'));
+    file.close();
+    const LogKeeper log;
+    question(*_file);
+    QCOMPARE(asides().size(), 1);
+    QCOMPARE(QFileInfo(_file->takeTrouble().aside).fileName(), asides().first());
+    QVERIFY(append(u"CQ"_s));
+    QCOMPARE(texts(), QStringList{u"CQ"_s});
+    QVERIFY(_file->takeTrouble().aside.isNull());
 }
 
 void RecordFileTest::aLockedFileIsTold() {

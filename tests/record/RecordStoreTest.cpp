@@ -242,18 +242,19 @@ void RecordStoreTest::aTableIsSaved() {
         }
     }
     const auto name = _directory->filePath(u"sent.csv"_s);
-    std::optional<QString> problem;
-    _store->save(name, {}, this, [&](const QString& answer) { problem = answer; });
-    QTRY_VERIFY_WITH_TIMEOUT(problem.has_value(), patience);
-    QVERIFY(problem->isNull());
+    std::optional<SavedTable> saved;
+    _store->save(name, {}, this, [&](const SavedTable& answer) { saved = answer; });
+    QTRY_VERIFY_WITH_TIMEOUT(saved.has_value(), patience);
+    QVERIFY(saved->problem.isNull());
+    QCOMPARE(saved->missing, 0);
     QFile file(name);
     QVERIFY(file.open(QIODevice::ReadOnly));
     QCOMPARE(file.readAll().count('\n'), stored().size() + 1);
-    problem.reset();
+    saved.reset();
     _store->save(_directory->filePath(u"no/sent.csv"_s), {}, this,
-                 [&](const QString& answer) { problem = answer; });
-    QTRY_VERIFY_WITH_TIMEOUT(problem.has_value(), patience);
-    QVERIFY(!problem->isEmpty());
+                 [&](const SavedTable& answer) { saved = answer; });
+    QTRY_VERIFY_WITH_TIMEOUT(saved.has_value(), patience);
+    QVERIFY(!saved->problem.isEmpty());
 }
 
 void RecordStoreTest::theDataDirectoryIsWhereItIs() {

@@ -10,6 +10,18 @@
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+/// But for its beginning and its end.
+void damageMiddle(const QString& name) {
+    QFile file(name);
+    QVERIFY(file.open(QIODevice::ReadWrite));
+    file.seek(file.size() / 2);
+    file.write(QByteArray(static_cast<qsizetype>(file.size() / 4), '\x55'));
+}
+
+} // namespace
+
 class RunTableTest : public QObject {
     Q_OBJECT
 
@@ -20,6 +32,10 @@ class RunTableTest : public QObject {
     void chosenRunsAreWritten();
     void anEmptyRecordIsHeadingsAlone();
     void whatCannotBeWrittenIsTold();
+    void runsThatCannotBeReadAreCounted_data();
+    void runsThatCannotBeReadAreCounted();
+    void runsThatGoMeanwhileAreNotMissed();
+    void ofARecordThatCannotBeReadThereIsNoTable();
 
   private:
     [[nodiscard]] QString path(const QString& name) const { return _directory.filePath(name); }
@@ -62,7 +78,7 @@ void RunTableTest::allRunsAreWritten() {
     RunTable table(path(u"all.csv"_s), {});
     while (table.writeNext(record)) {
     }
-    QCOMPARE(table.finish(), QString());
+    QCOMPARE(table.finish().problem, QString());
     QFile file(path(u"all.csv"_s));
     QVERIFY(file.open(QIODevice::ReadOnly));
     const auto lines = QString::fromUtf8(file.readAll()).split(u"\r\n"_s);
@@ -78,7 +94,7 @@ void RunTableTest::chosenRunsAreWritten() {
     RunTable table(path(u"some.csv"_s), {3, 1});
     while (table.writeNext(record)) {
     }
-    QCOMPARE(table.finish(), QString());
+    QCOMPARE(table.finish().problem, QString());
     QFile file(path(u"some.csv"_s));
     QVERIFY(file.open(QIODevice::ReadOnly));
     const auto text = QString::fromUtf8(file.readAll());
@@ -91,7 +107,7 @@ void RunTableTest::anEmptyRecordIsHeadingsAlone() {
     RunTable table(path(u"empty.csv"_s), {});
     while (table.writeNext(record)) {
     }
-    QCOMPARE(table.finish(), QString());
+    QCOMPARE(table.finish().problem, QString());
     QFile file(path(u"empty.csv"_s));
     QVERIFY(file.open(QIODevice::ReadOnly));
     QCOMPARE(file.readAll().count('\n'), 1);
@@ -101,7 +117,65 @@ void RunTableTest::whatCannotBeWrittenIsTold() {
     RecordFile record(path(u"r.db"_s));
     RunTable table(path(u"no/such/folder.csv"_s), {});
     QVERIFY(!table.writeNext(record));
-    QVERIFY(!table.finish().isEmpty());
+    QVERIFY(!table.finish().problem.isEmpty());
+}
+
+void RunTableTest::runsThatCannotBeReadAreCounted_data() {
+    QTest::addColumn<bool>("isAll");
+    QTest::newRow("of all") << true;
+    QTest::newRow("of some") << false;
+}
+
+void RunTableTest::runsThatCannotBeReadAreCounted() {
+    QFETCH(bool, isAll);
+    const auto name = path(isAll ? u"damaged-all.db"_s : u"damaged-some.db"_s);
+    const QList<RecordedRun> runs(2500, {.begun = 1, .text = QString(50, u'E')});
+    QVERIFY(RecordFile(name).append(runs, 0));
+    RecordFile record(name);
+    QList<qint64> numbers;
+    for (qint64 number = 1; !isAll && number <= 2500; ++number) {
+        numbers.append(number);
+    }
+    RunTable table(path(u"damaged.csv"_s), numbers);
+    QVERIFY(table.writeNext(record));
+    damageMiddle(name);
+    const LogKeeper log;
+    while (table.writeNext(record)) {
+    }
+    const auto saved = table.finish();
+    QVERIFY(saved.problem.isNull());
+    QVERIFY(saved.missing > 0);
+    QVERIFY(!record.takeTrouble().aside.isNull());
+    QFile file(path(u"damaged.csv"_s));
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QCOMPARE(file.readAll().count('\n'), 1 + 2500 - saved.missing);
+}
+
+void RunTableTest::runsThatGoMeanwhileAreNotMissed() {
+    RecordFile record(path(u"trimmed.db"_s));
+    QList<RecordedRun> runs(2500, {.begun = 1, .text = u"E"_s});
+    runs.last().begun = 10;
+    QVERIFY(record.append(runs, 0));
+    RunTable table(path(u"trimmed.csv"_s), {});
+    QVERIFY(table.writeNext(record));
+    record.trim(5);
+    while (table.writeNext(record)) {
+    }
+    QCOMPARE(table.finish().missing, 0);
+}
+
+void RunTableTest::ofARecordThatCannotBeReadThereIsNoTable() {
+    const auto name = path(u"bad.db"_s);
+    QFile bad(name);
+    QVERIFY(bad.open(QIODevice::WriteOnly));
+    bad.write(QByteArray(5000, 'x'));
+    bad.close();
+    const LogKeeper log;
+    RecordFile record(name);
+    RunTable table(path(u"bad.csv"_s), {});
+    QVERIFY(!table.writeNext(record));
+    QVERIFY(!table.finish().problem.isEmpty());
+    QVERIFY(!QFile::exists(path(u"bad.csv"_s)));
 }
 
 static const RegisteredTest<RunTableTest> registered;

@@ -2,10 +2,12 @@
 
 #include "app/window/SentModel.h"
 #include "keyer/MessageSettings.h"
+#include "record/RecordFile.h"
 #include "record/RecordSettings.h"
 #include "record/RecordStore.h"
 #include "record/RunText.h"
 #include "tests/keyer/EngineBench.h"
+#include "tests/support/LogKeeper.h"
 #include "tests/support/RegisteredTest.h"
 
 #include <QCheckBox>
@@ -15,6 +17,7 @@
 #include <QGuiApplication>
 #include <QLabel>
 #include <QLineEdit>
+#include <QLocale>
 #include <QMenu>
 #include <QPushButton>
 #include <QSignalSpy>
@@ -60,6 +63,7 @@ class SentWindowTest : public QObject {
     void aMessageIsReplacedWhenTheOperatorSaysSo();
     void linesAreCopied();
     void theTableIsSaved();
+    void aTableTellsWhatItLacks();
     void theSettingsAreThere();
     void anOtherFileIsShownAnew();
     void escapeClosesIt();
@@ -377,6 +381,30 @@ void SentWindowTest::theTableIsSaved() {
     QCOMPARE(all.readAll().count('\n'), 3);
     const auto found = some.readAll();
     QVERIFY(found.contains(",TU,") && !found.contains(",CQ,"));
+}
+
+/// The record is damaged where nobody has looked yet; what is shown then is the new one.
+void SentWindowTest::aTableTellsWhatItLacks() {
+    const QList<RecordedRun> runs(2000, {.begun = 1, .text = QString(100, u'E')});
+    QVERIFY(RecordFile(_store->path()).append(runs, 0));
+    QFile file(_store->path());
+    QVERIFY(file.open(QIODevice::ReadWrite));
+    file.seek(file.size() / 2);
+    file.write(QByteArray(static_cast<qsizetype>(file.size() / 4), '\x55'));
+    file.close();
+    show();
+    QTRY_COMPARE_WITH_TIMEOUT(table().model()->rowCount(), 2000, patience);
+    const LogKeeper log;
+    const auto path = _directory->filePath(u"all.csv"_s);
+    _window->save(path);
+    const auto& label = find<QLabel>(u"sentCountLabel"_s);
+    QTRY_VERIFY_WITH_TIMEOUT(label.text().startsWith(u"Saved as %1, without "_s.arg(path)),
+                             patience);
+    QCOMPARE(table().model()->rowCount(), 0);
+    QFile saved(path);
+    QVERIFY(saved.open(QIODevice::ReadOnly));
+    const auto lines = saved.readAll().count('\n') - 1;
+    QVERIFY(label.text().contains(u' ' + QLocale().toString(2000 - lines) + u' '));
 }
 
 void SentWindowTest::theSettingsAreThere() {
