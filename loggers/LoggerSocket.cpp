@@ -4,11 +4,7 @@
 #include "loggers/LoggerQueue.h"
 #include "loggers/SocketUsers.h"
 #include "platform/Log.h"
-#include "platform/MainQueue.h"
-#include "platform/Platform.h"
-#include "platform/WorkerThread.h"
-
-#include <algorithm>
+#include "platform/SettingsStore.h"
 
 using namespace Qt::StringLiterals;
 
@@ -17,24 +13,18 @@ namespace {
 /// A round of the event loop with so many takes a fraction of a millisecond.
 constexpr int mostAtATime = 16;
 
-/// A name takes milliseconds to find, and a program may send from ever other ports.
-constexpr Clock::Duration betweenLooks = std::chrono::seconds(2);
-
 } // namespace
 
 LoggerSocket::LoggerSocket(LoggerQueue& queue, SettingsStore& settings, QObject* parent)
-    : QObject(parent), _queue(queue), _settings(settings), _reports(std::make_shared<MainQueue>()) {
+    : QObject(parent), _queue(queue), _settings(settings) {
     for (auto& socket : _sockets) {
         QObject::connect(&socket, &QUdpSocket::readyRead, this, [this, &socket] { read(socket); });
     }
     QObject::connect(&_queue, &LoggerQueue::replied, this, &LoggerSocket::send);
     QObject::connect(&_queue, &LoggerQueue::began, this, &LoggerSocket::noteSender);
+    QObject::connect(&_names, &SenderNames::found, this, &LoggerSocket::showSender);
     QObject::connect(&_settings, &SettingsStore::changed, this, &LoggerSocket::followSettings);
     followSettings(AcceptLoggers);
-}
-
-LoggerSocket::~LoggerSocket() {
-    _reports->shutDown();
 }
 
 bool LoggerSocket::isOpen() const {
@@ -121,18 +111,11 @@ void LoggerSocket::send(const QByteArray& reply, const LoggerAddress& to) {
     }
 }
 
-/// A machine with many programs takes long to look through, and a stop waits for nobody's name.
 void LoggerSocket::noteSender(const LoggerAddress& logger) {
-    const auto now = Platform::current().clock().now();
-    if (_lastSender == logger || (_lastLook && now - *_lastLook < betweenLooks)) {
-        return;
+    if (_lastSender != logger) {
+        _lastSender = logger;
+        _names.find(logger);
     }
-    _lastSender = logger;
-    _lastLook = now;
-    _look = startWorker("logger-name", [this, logger, reports = _reports](const std::stop_token&) {
-        const auto name = SocketUsers::of(logger.port);
-        reports->async([this, logger, name] { showSender(logger, name); });
-    });
 }
 
 void LoggerSocket::showSender(const LoggerAddress& logger, const QString& name) {

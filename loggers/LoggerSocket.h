@@ -1,19 +1,16 @@
 #pragma once
 
 #include "loggers/LoggerAddress.h"
-#include "platform/Clock.h"
+#include "loggers/SenderNames.h"
 
 #include <QObject>
 #include <QString>
 #include <QUdpSocket>
 
 #include <array>
-#include <memory>
 #include <optional>
-#include <thread>
 
 class LoggerQueue;
-class MainQueue;
 class SettingsStore;
 
 /// Hears loggers on the loopback addresses of this machine, and on nothing else, while the settings
@@ -24,7 +21,6 @@ class LoggerSocket final : public QObject {
   public:
     /// Both must outlive this.
     LoggerSocket(LoggerQueue& queue, SettingsStore& settings, QObject* parent = nullptr);
-    ~LoggerSocket() override;
 
     /// What the operator is told of it, in a sentence; empty while it is switched off.
     [[nodiscard]] QString notice() const { return _notice; }
@@ -56,8 +52,5 @@ class LoggerSocket final : public QObject {
     std::array<QUdpSocket, 2> _sockets;
     QString _notice;
     std::optional<LoggerAddress> _lastSender;
-    /// When the sender's name was last looked for.
-    std::optional<Clock::Duration> _lastLook;
-    std::shared_ptr<MainQueue> _reports;
-    std::jthread _look;
+    SenderNames _names;
 };

@@ -11,6 +11,7 @@
 #include <QFile>
 #include <QNetworkDatagram>
 #include <QNetworkInterface>
+#include <QSignalSpy>
 #include <QTest>
 #include <QTimer>
 #include <QUdpSocket>
@@ -53,6 +54,7 @@ class LoggerSocketTest : public QObject {
     void aLoggersTextIsKeyedAndAnswered();
     void aLongDatagramIsLeftOut();
     void theOperatorIsToldWhoSends();
+    void whoBeginsSoonAfterAnotherIsNamedToo();
     void aPortThatIsTakenIsToldWithItsHolder();
     void anotherPortIsTakenUp();
     void switchedOffItHearsNobody();
@@ -168,6 +170,25 @@ void LoggerSocketTest::theOperatorIsToldWhoSends() {
     QVERIFY(name.open(QIODevice::ReadOnly));
     const auto own = QString::fromLocal8Bit(name.readAll()).trimmed();
     QTRY_COMPARE(_socket->notice(), u"Loggers: port %1, last from %2"_s.arg(_port).arg(own));
+}
+
+/// When the look for the first has been rested from.
+void LoggerSocketTest::whoBeginsSoonAfterAnotherIsNamedToo() {
+    switchOn(true);
+    const QSignalSpy found(&*_socket, &LoggerSocket::senderFound);
+    QUdpSocket other;
+    QVERIFY(other.bind(QHostAddress(QHostAddress::LocalHost)));
+    send("e");
+    QTRY_COMPARE(found.count(), 1);
+    other.writeDatagram("t", QHostAddress(QHostAddress::LocalHost), _port);
+    _bench->receive({'E'});
+    QTRY_COMPARE(engine().keyboardBuffer(), u"E T"_s);
+    QCOMPARE(found.count(), 1);
+    _bench->clock().advance(SenderNames::shortestRest);
+    QTRY_COMPARE(found.count(), 2);
+    QCOMPARE(found[1][0].toInt(), int(other.localPort()));
+    QCOMPARE(found[1][1], found[0][1]);
+    QVERIFY(!found[1][1].toString().isEmpty());
 }
 
 void LoggerSocketTest::aPortThatIsTakenIsToldWithItsHolder() {
