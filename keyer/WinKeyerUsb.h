@@ -7,6 +7,7 @@
 #include "keyer/SendingText.h"
 #include "keyer/SentSettings.h"
 #include "keyer/TextSource.h"
+#include "keyer/UnheardCharacters.h"
 #include "platform/Clock.h"
 #include "platform/Error.h"
 #include "serial/ORSSerialPort.h"
@@ -245,16 +246,19 @@ class WinKeyerUsb final : public QObject, public ORSSerialPortDelegate {
     /// Index of the first character of keyboardBuffer that the keyer has been given and has not
     /// echoed; outputBufferIndex() when there is none.
     [[nodiscard]] qsizetype inFlightIndex() const { return _text.inFlightIndex(); }
+    /// As inFlightIndex(), but of a near keyer, too, only an echo counts. With echoes switched off
+    /// it is the same.
+    [[nodiscard]] qsizetype unheardIndex() const;
 
     /// What has been handed over of the call sign at the "~" that was come upon last.
     [[nodiscard]] const QString& takenOfCallsign() const { return _text.takenOfCallsign(); }
     /// How many of the characters at the place in the text that the keyer has come to have no echo.
-    [[nodiscard]] qsizetype unheardAtOldest() const { return _onTheirWay.countAtOldest(); }
+    [[nodiscard]] qsizetype unheardAtOldest() const;
 
   Q_SIGNALS:
     /// activity() or serialPortName() is another one now.
     void activityChanged();
-    /// inFlightIndex() or outputBufferIndex() may be another one now.
+    /// inFlightIndex(), unheardIndex() or outputBufferIndex() may be another one now.
     void sendingProgressed();
     /// What was sent in place of the "~" at `position` of keyboardBuffer, all of it by now: the
     /// call sign may have changed meanwhile, or since.
@@ -325,6 +329,7 @@ class WinKeyerUsb final : public QObject, public ORSSerialPortDelegate {
     void followEchoes();
     void tellSentCall();
     void endCallsign();
+    void noteUnheard(char character, bool isJoined);
     void takeBackUnheard();
     void forgetOnTheirWay();
     void awaitSilence();
@@ -374,6 +379,7 @@ class WinKeyerUsb final : public QObject, public ORSSerialPortDelegate {
     bool _sendingState = false;
     bool _sendIsDue = false;
     CharactersOnTheirWay _onTheirWay;
+    UnheardCharacters _unheard;
     /// Where in the text begins what is sent with the next plain character.
     qsizetype _unitBegin = 0;
     /// A call sign that is not yet keyed as a whole, and the place of its sign.

@@ -193,6 +193,7 @@ void WinKeyerUsb::beginHostMode() {
     _sentSettings.clear();
     _mayBeKeying = false;
     _isKeyerPlaying = false;
+    _unheard.clear();
     _lastStatus.reset();
 }
 

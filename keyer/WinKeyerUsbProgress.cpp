@@ -2,6 +2,7 @@
 
 #include "keyer/GeneralSettings.h"
 #include "keyer/KeyerCommand.h"
+#include "keyer/KeyerSettings.h"
 #include "keyer/ReceivedByte.h"
 #include "keyer/WinKeyerUsb.h"
 #include "platform/Platform.h"
@@ -21,6 +22,7 @@ constexpr Clock::Duration longestAnswer = std::chrono::seconds(2);
 void WinKeyerUsb::restrictToText() {
     _text.restrictToText();
     _onTheirWay.restrictPlaces(_text.index());
+    _unheard.restrictPlaces(_text.index());
     _unitBegin = std::min(_unitBegin, _text.index());
 }
 
@@ -53,6 +55,27 @@ void WinKeyerUsb::endCallsign() {
     followEchoes();
 }
 
+qsizetype WinKeyerUsb::unheardIndex() const {
+    return std::min(inFlightIndex(), _unheard.oldestPlace().value_or(inFlightIndex()));
+}
+
+qsizetype WinKeyerUsb::unheardAtOldest() const {
+    return _onTheirWay.isOneAtATime() ? _unheard.countAtOldest() : _onTheirWay.countAtOldest();
+}
+
+/// With more than one on their way those themselves say what is heard.
+void WinKeyerUsb::noteUnheard(char character, bool isJoined) {
+    const bool isEchoed = SettingsStore::standardUserDefaults().boolForKey(WKSerialEchoback);
+    if (!_onTheirWay.isOneAtATime() || !isEchoed) {
+        return;
+    }
+    if (isJoined) {
+        _unheard.addJoined(character, _unitBegin);
+    } else {
+        _unheard.add(character, _unitBegin);
+    }
+}
+
 void WinKeyerUsb::takeBackUnheard() {
     if (isAwaitingEcho()) {
         _text.takeBack();
@@ -64,12 +87,14 @@ void WinKeyerUsb::takeBackUnheard() {
 
 void WinKeyerUsb::forgetOnTheirWay() {
     _onTheirWay.clear();
+    _unheard.clear();
     _sentCall.reset();
     endSilence();
 }
 
 void WinKeyerUsb::takeEcho(std::uint8_t echo) {
     _onTheirWay.takeEcho(echo);
+    _unheard.takeEcho(echo);
     send();
     awaitSilence();
 }
@@ -83,13 +108,15 @@ void WinKeyerUsb::handleBreakIn() {
     clearSending();
 }
 
-/// What a keyer far away tells of being idle may be older than what is on its way to it. Only when
-/// nothing comes behind it were echoes lost. A keyer that is paused says nothing in any case.
+/// What a keyer tells of being idle may be older than what is on its way to it. Only when nothing
+/// comes behind it were echoes lost. A keyer that is paused says nothing in any case.
 void WinKeyerUsb::awaitSilence() {
     endSilence();
     const bool isIdle = (_lastStatus.value_or(0) & KeyerStatus::anything) == 0;
-    const bool isOpen = _mayBeKeying || _onTheirWay.oldestPlace();
-    if (isIdle && isOpen && _pauseState == 0 && !_onTheirWay.isOneAtATime()) {
+    const bool isOpen = _onTheirWay.isOneAtATime()
+                            ? _unheard.areThere()
+                            : _mayBeKeying || _onTheirWay.oldestPlace().has_value();
+    if (isIdle && isOpen && _pauseState == 0) {
         _silenceTimer = Platform::current().clock().scheduleTimer(longestAnswer, this,
                                                                   [this] { countAsKeyed(); });
     }
@@ -101,10 +128,16 @@ void WinKeyerUsb::endSilence() {
     }
 }
 
+/// One that is near is given the next character by its own answers alone.
 void WinKeyerUsb::countAsKeyed() {
-    _onTheirWay.clear();
     _silenceTimer.reset();
-    _mayBeKeying = false;
-    send();
+    _unheard.clear();
+    if (_onTheirWay.isOneAtATime()) {
+        Q_EMIT sendingProgressed();
+    } else {
+        _onTheirWay.clear();
+        _mayBeKeying = false;
+        send();
+    }
     Q_EMIT countedAsKeyed();
 }

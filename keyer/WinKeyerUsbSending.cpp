@@ -190,6 +190,7 @@ WinKeyerUsb::Step WinKeyerUsb::sendCharacter(char character) {
 
 WinKeyerUsb::Step WinKeyerUsb::sendPlain(char character) {
     _onTheirWay.addPlain(character, _unitBegin);
+    noteUnheard(character, false);
     if (!_text.isReadingCallsign()) {
         _unitBegin = _text.index();
     }
@@ -226,8 +227,10 @@ WinKeyerUsb::Step WinKeyerUsb::mergeLetters() {
         // sends what then follows it as plain characters.
         return Step::WaitForEcho;
     }
-    _onTheirWay.addJoined(letters->first, _unitBegin);
-    _onTheirWay.addJoined(letters->second, _unitBegin);
+    for (const char each : {letters->first, letters->second}) {
+        _onTheirWay.addJoined(each, _unitBegin);
+        noteUnheard(each, true);
+    }
     sendText(KeyerCommand::mergeLetters(letters->first, letters->second));
     return Step::GoOn;
 }
@@ -252,6 +255,7 @@ void WinKeyerUsb::clearSending() {
     _sendingState = false;
     _sendIsDue = false;
     _onTheirWay.abandon();
+    _unheard.abandon();
     _sentCall.reset();
     awaitSilence();
     if (_runTimer) {

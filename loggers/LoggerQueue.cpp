@@ -285,7 +285,7 @@ void LoggerQueue::handOver(const QString& text) {
 /// what it waits for yet.
 bool LoggerQueue::isPieceKeyed() const {
     const bool isLastAwaited = _engine.outputBufferIndex() <= _end && _engine.isAwaitingEcho();
-    return _engine.inFlightIndex() >= _end && !isLastAwaited &&
+    return _engine.unheardIndex() >= _end && !isLastAwaited &&
            (!_isJoined || _engine.activity() == KeyerActivity::Idle);
 }
 

@@ -79,7 +79,7 @@ void RunFollower::followProgress() {
             each.unheard = _engine.unheardAtOldest();
         }
     }
-    confirm(index - _engine.inFlightIndex());
+    confirm(index - _engine.unheardIndex());
     endFinishedRuns();
 }
 

@@ -1,3 +1,4 @@
+#include "keyer/KeyerSettings.h"
 #include "tests/loggers/LoggerQueueFixture.h"
 #include "tests/support/RegisteredTest.h"
 
@@ -16,6 +17,9 @@ class LoggerQueueTest : public QObject, private LoggerQueueFixture {
 
     void aTextIsHandedOverOneByOne();
     void repliesComeWithTheLastEcho();
+    void theReplyWaitsForTheLastEchoBehindASpace();
+    void withoutEchoesTheReplyComesWhenTheKeyerIsIdle();
+    void aReplyWaitsNoLongerForALostEcho();
     void aReplyIsForTheNextTextAlone();
     void repliesGoToWhoeverAsked();
     void textsGoInTheirOrder();
@@ -55,6 +59,40 @@ void LoggerQueueTest::repliesComeWithTheLastEcho() {
     QCOMPARE(replies(), QStringList());
     echo();
     QCOMPARE(replies(), QStringList({u"4001 hid"_s, u"4001 cq"_s}));
+}
+
+/// The keyer tells that it is idle behind a space, when the next letter is on its way already: so
+/// one more is written, and from then on two are with the keyer.
+void LoggerQueueTest::theReplyWaitsForTheLastEchoBehindASpace() {
+    take("e ti^");
+    _bench->receive({0xC4});
+    _bench->receive({'E'});
+    _bench->receive({' '});
+    _bench->receive({0xC0});
+    QCOMPARE(_bench->written(), QByteArray("45 20 54 49"));
+    _bench->receive({0xC4});
+    _bench->receive({'T'});
+    QCOMPARE(replies(), QStringList());
+    _bench->receive({'I'});
+    QCOMPARE(replies(), QStringList(u"4001 e ti"_s));
+}
+
+void LoggerQueueTest::withoutEchoesTheReplyComesWhenTheKeyerIsIdle() {
+    _bench->settings().setObject(false, WKSerialEchoback);
+    take("e^");
+    _bench->receive({0xC4});
+    QCOMPARE(replies(), QStringList());
+    _bench->receive({0xC0});
+    QCOMPARE(replies(), QStringList(u"4001 e"_s));
+}
+
+void LoggerQueueTest::aReplyWaitsNoLongerForALostEcho() {
+    take("e^");
+    _bench->receive({0xC4});
+    _bench->receive({0xC0});
+    QCOMPARE(replies(), QStringList());
+    _bench->clock().advance(std::chrono::seconds(2));
+    QCOMPARE(replies(), QStringList(u"4001 e"_s));
 }
 
 void LoggerQueueTest::aReplyIsForTheNextTextAlone() {

@@ -27,6 +27,7 @@ class RunEndingsTest : public QObject, private RunFollowerFixture {
     void stopDropsMessagesThatHadNotBegun();
     void aStopBehindTheEndIsNone();
     void aBreakInTellsWhere();
+    void aStopBehindASpaceTellsWhere();
     void aLostLinkTellsWhere();
     void aPortThatGoesTellsWhere();
     void whatALostLinkLeftIsAnotherRun();
@@ -119,6 +120,21 @@ void RunEndingsTest::aBreakInTellsWhere() {
     rest();
     QCOMPARE(_runs.size(), 2);
     QCOMPARE(_runs[1].text, u"K"_s);
+}
+
+/// From a space on two letters are with the keyer, of which it is at the first.
+void RunEndingsTest::aStopBehindASpaceTellsWhere() {
+    _bench->type(u"E TIK"_s);
+    _bench->receive({0xC4});
+    _bench->receive({'E'});
+    _bench->receive({' '});
+    _bench->receive({idle});
+    _bench->receive({0xC4});
+    QVERIFY(_bench->written().endsWith("45 20 54 49"));
+    engine().stopMessageSending(nullptr);
+    QCOMPARE(_runs.size(), 1);
+    QCOMPARE(_runs[0].text, u"E T"_s);
+    QCOMPARE(_runs[0].rest, u"IK"_s);
 }
 
 void RunEndingsTest::aLostLinkTellsWhere() {
