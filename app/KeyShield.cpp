@@ -8,8 +8,8 @@
 
 namespace {
 
-/// By how much the end of a wait is noticed late only where the program could not run, which has kept
-/// keys from it, too.
+/// By how much the end of a wait is noticed late only where the program could not run, which has
+/// kept keys from it, too.
 constexpr std::chrono::milliseconds lateness{100};
 
 /// Whether the event is a part of the way of a key, or of an input method, to a window.
