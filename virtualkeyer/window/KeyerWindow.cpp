@@ -45,6 +45,9 @@ QScrollArea* scrolled(QWidget* content, bool keepsWidth = false) {
     area->setWidget(content);
     area->setWidgetResizable(true);
     area->setFrameShape(QFrame::NoFrame);
+    // As if it were not there.
+    area->viewport()->setAutoFillBackground(false);
+    content->setAutoFillBackground(false);
     area->setFocusPolicy(Qt::NoFocus);
     if (keepsWidth) {
         area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -112,9 +115,10 @@ QWidget* KeyerWindow::makeHands(const CommandLine& commandLine, LiveSidetone& si
     connect(_paddle, &PaddlePanel::moved, this, &KeyerWindow::movePaddle);
     auto* layout = new QVBoxLayout(hands);
     layout->setContentsMargins(0, 0, 0, 0);
+    // What is most in use first, since a small screen does not show all.
+    layout->addWidget(_paddle);
     layout->addWidget(makeKnob(commandLine.profile.potWpm));
     layout->addWidget(makeButtons());
-    layout->addWidget(_paddle);
     layout->addWidget(makeVolume(sidetone));
     layout->addStretch();
     return hands;
