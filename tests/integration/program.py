@@ -39,14 +39,16 @@ class Keyer(Process):
     plugged_in = "Plugged in as"
 
     def __init__(self, environment, directory, speed=SPEED, profile="default", is_paddled=False,
-                 is_headless=True):
+                 is_headless=True, is_scripted=False):
         self._transcript = directory / "transcript.txt"
         self._registers = directory / "registers.txt"
         super().__init__([VIRTUAL_KEYER, *(["--headless"] if is_headless else []), "--speed", str(speed), "--profile", profile,
                           "--transcript", self._transcript, "--registers", self._registers,
-                          *(["--paddle"] if is_paddled else [])],
+                          *(["--paddle"] if is_paddled else []),
+                          *(["--script", "-"] if is_scripted else [])],
                          environment, directory,
-                         stdin=subprocess.PIPE if is_paddled else subprocess.DEVNULL)
+                         stdin=(subprocess.PIPE if is_paddled or is_scripted
+                                else subprocess.DEVNULL))
         self.wait_for("the keyer", lambda: self.plugged_in in self.errors())
 
     def keyed(self):

@@ -15,7 +15,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 QByteArray echoRequest(char byte) {
-    return "\0\4"_ba + byte;
+    return QByteArray("\0\4", 2) + byte;
 }
 
 } // namespace

@@ -128,12 +128,12 @@ void TroubledLineTest::bytesAreLateByChanceAndInOrder() {
     QCOMPARE(valuesOf(arrived), sent);
     Time longest{0};
     for (std::size_t i = 0; i < arrived.size(); ++i) {
-        const Time late = arrived[i].completeAt - (i + 1) * 10ms;
-        QVERIFY(late >= Time{0} && late < 300ms);
+        const Time late = arrived[i].completeAt - (i + 1) * std::chrono::milliseconds{10};
+        QVERIFY(late >= Time{0} && late < Time{300ms});
         QVERIFY(i == 0 || arrived[i].completeAt >= arrived[i - 1].completeAt);
         longest = std::max(longest, late);
     }
-    QVERIFY(longest > 250ms);
+    QVERIFY(longest > Time{250ms});
 }
 
 void TroubledLineTest::delayIsTheSameForEveryByte() {
