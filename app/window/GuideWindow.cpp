@@ -1,5 +1,6 @@
 #include "app/window/GuideWindow.h"
 
+#include "app/window/GuidePage.h"
 #include "app/window/SpokenNotice.h"
 
 #include <QKeyEvent>
@@ -10,14 +11,13 @@
 #include <QShortcut>
 #include <QSignalBlocker>
 #include <QSplitter>
-#include <QTextBrowser>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The page's width is that of its pictures.
+/// Has room for the widest picture as it is.
 constexpr int pageWidth = 812;
 constexpr int listWidth = 200;
 constexpr int preferredHeight = 640;
@@ -57,7 +57,7 @@ GuideWindow::GuideWindow(QWidget* parent)
       _spoken(new SpokenNotice(this)),
       _contents(new QListWidget),
       _matches(new QListWidget),
-      _page(new QTextBrowser) {
+      _page(new GuidePage) {
     setWindowTitle(tr("Quorvel Guide"));
     setUpSearch();
     setUpLists();
@@ -159,6 +159,7 @@ void GuideWindow::followPage() {
     choose(*_contents, static_cast<int>(chapter));
     _page->setAccessibleName(_guide.chapters()[chapter].title);
     _page->document()->setDocumentMargin(margin);
+    _page->fitPictures();
     markMatches();
 }
 

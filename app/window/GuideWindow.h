@@ -4,10 +4,10 @@
 
 #include <QWidget>
 
+class GuidePage;
 class QLabel;
 class QLineEdit;
 class QListWidget;
-class QTextBrowser;
 class SpokenNotice;
 
 /// The operator's guide, in a window of its own that stays open beside the work: a page, the table
@@ -45,5 +45,5 @@ class GuideWindow final : public QWidget {
     SpokenNotice* _spoken;
     QListWidget* _contents;
     QListWidget* _matches;
-    QTextBrowser* _page;
+    GuidePage* _page;
 };

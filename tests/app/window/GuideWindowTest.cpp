@@ -7,9 +7,12 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QScrollBar>
 #include <QTest>
 #include <QTextBlock>
 #include <QTextBrowser>
+
+#include <cmath>
 
 using namespace Qt::StringLiterals;
 
@@ -26,6 +29,8 @@ class GuideWindowTest : public QObject, private MainWindowFixture {
     void theContentsTurnThePages();
     void everyChapterIsListedOnce();
     void everyLinkAndPictureIsThere();
+    void picturesAreNoWiderThanThePage_data();
+    void picturesAreNoWiderThanThePage();
     void aLinkIsFollowedByTheContents();
     void aChapterIsShownByItsName();
     void theSearchGoesThroughAllChapters();
@@ -126,6 +131,43 @@ void GuideWindowTest::everyLinkAndPictureIsThere() {
     }
     QVERIFY(links >= 10);
     QVERIFY(pictures >= 5);
+}
+
+void GuideWindowTest::picturesAreNoWiderThanThePage_data() {
+    QTest::addColumn<int>("width");
+    QTest::addColumn<bool>("isReduced");
+    QTest::newRow("a narrow window") << 600 << true;
+    QTest::newRow("a wide one") << 1500 << false;
+}
+
+/// As on a screen where everything is twice the size. They follow the window.
+void GuideWindowTest::picturesAreNoWiderThanThePage() {
+    QFETCH(const int, width);
+    QFETCH(const bool, isReduced);
+    page().window()->resize(900, 500);
+    QTRY_COMPARE(page().window()->width(), 900);
+    page().window()->resize(width, 500);
+    QTRY_COMPARE(page().window()->width(), width);
+    int reduced = 0;
+    for (auto block = page().document()->begin(); block.isValid(); block = block.next()) {
+        for (auto at = block.begin(); !at.atEnd(); ++at) {
+            const auto picture = at.fragment().charFormat().toImageFormat();
+            if (picture.isValid()) {
+                const auto size = page()
+                                      .document()
+                                      ->resource(QTextDocument::ImageResource, picture.name())
+                                      .value<QImage>()
+                                      .size();
+                QVERIFY(picture.width() < page().viewport()->width());
+                QVERIFY(picture.width() <= size.width());
+                const auto height = picture.width() * size.height() / size.width();
+                QVERIFY(std::abs(picture.height() - height) <= 1);
+                reduced += picture.width() < size.width() ? 1 : 0;
+            }
+        }
+    }
+    QCOMPARE(reduced > 0, isReduced);
+    QCOMPARE(page().horizontalScrollBar()->maximum(), 0);
 }
 
 void GuideWindowTest::aLinkIsFollowedByTheContents() {
