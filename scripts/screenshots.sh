@@ -297,6 +297,7 @@ mkfifo "$private_directory/paddle" "$private_directory/sleep"
 exec 9<>"$private_directory/paddle" 8<>"$private_directory/sleep"
 export XDG_RUNTIME_DIR=$private_directory/runtime
 export XDG_CONFIG_HOME=$private_directory/config
+export XDG_DATA_HOME=$private_directory/data
 export XDG_STATE_HOME=$private_directory/state
 export DBUS_SESSION_BUS_ADDRESS=disabled:
 export QT_QPA_PLATFORM=xcb

@@ -75,6 +75,7 @@ run() {
     mkdir -m 700 "$private_directory/runtime"
     export XDG_RUNTIME_DIR=$private_directory/runtime
     export XDG_CONFIG_HOME=$private_directory/config
+    export XDG_DATA_HOME=$private_directory/data
     # Whatever bus this shell can reach belongs to another session.
     export DBUS_SESSION_BUS_ADDRESS=disabled:
     export QT_QPA_PLATFORM=xcb
