@@ -107,6 +107,7 @@ class WinKeyerUsb final : public QObject, public ORSSerialPortDelegate {
     void serialPortWasOpened(ORSSerialPort& port) override;
     /// Only looked at when a port was to be opened after a sleep.
     void serialPortDidEncounterError(ORSSerialPort& port, const Error& error) override;
+    [[nodiscard]] bool hearsErrorsOfOpenPort() const override { return false; }
     /// Sends the keyer, on the open port, all that connecting sends it; a refused write is logged.
     /// Text that was on its way, to a keyer that has not heard it, is sent once more.
     void greetAgain();

@@ -150,6 +150,7 @@ ORSSerialPortDelegate* ORSSerialPort::delegate() const {
 
 void ORSSerialPort::setDelegate(ORSSerialPortDelegate* delegate) {
     _delegate = delegate;
+    _areErrorsHeard = delegate != nullptr && delegate->hearsErrorsOfOpenPort();
     _delegateLifetime = delegate != nullptr ? delegate->lifetime() : std::weak_ptr<const void>();
 }
 

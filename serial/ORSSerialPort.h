@@ -138,6 +138,8 @@ class ORSSerialPort final : public QObject, public std::enable_shared_from_this<
     void dropOutput();
     /// Hands bytes to the delegate as received.
     void receiveData(const QByteArray& data);
+    /// Whether errors of the open port mean anything to the delegate. Any thread.
+    [[nodiscard]] bool areErrorsHeard() const { return _areErrorsHeard; }
     /// Reports the calling thread's errno to the delegate, at once.
     void notifyDelegateOfPosixError();
 
@@ -236,6 +238,7 @@ class ORSSerialPort final : public QObject, public std::enable_shared_from_this<
     QPointer<LivePorts> _livePorts;
     std::shared_ptr<MainQueue> _mainQueue;
     ORSSerialPortDelegate* _delegate = nullptr;
+    std::atomic<bool> _areErrorsHeard = false;
     std::weak_ptr<const void> _delegateLifetime;
     DeviceHandle _ioKitDevice = noDevice;
     QString _path;

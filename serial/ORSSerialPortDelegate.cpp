@@ -11,3 +11,7 @@ void ORSSerialPortDelegate::serialPortWasClosed(ORSSerialPort&) {}
 void ORSSerialPortDelegate::serialPortWasRemovedFromSystem(ORSSerialPort&) {}
 
 void ORSSerialPortDelegate::serialPortDidEncounterError(ORSSerialPort&, const Error&) {}
+
+bool ORSSerialPortDelegate::hearsErrorsOfOpenPort() const {
+    return true;
+}

@@ -37,6 +37,11 @@ class ORSSerialPortDelegate {
     /// sendData() returns.
     virtual void serialPortDidEncounterError(ORSSerialPort& port, const Error& error);
 
+    /// Whether errors of an open port mean anything to it; it stays so. Where they do not, it need
+    /// not be told of those of its poller, which on a line without modem lines are a hundred a
+    /// second. Main thread.
+    [[nodiscard]] virtual bool hearsErrorsOfOpenPort() const;
+
     /// Expires with the delegate.
     [[nodiscard]] std::weak_ptr<const void> lifetime() const { return _lifetime; }
 

@@ -51,7 +51,9 @@ void PinPoller::run(const std::stop_token& stop) {
 void PinPoller::tick(const std::stop_token& stop) {
     int word = 0;
     if (::ioctl(_descriptor, TIOCMGET, &word) != 0) {
-        _mainQueue->sync([port = _port] { port->notifyDelegateOfPosixError(); }, stop);
+        if (_port->areErrorsHeard()) {
+            _mainQueue->sync([port = _port] { port->notifyDelegateOfPosixError(); }, stop);
+        }
         return;
     }
     for (const auto& line : inputLines) {

@@ -242,6 +242,18 @@ class ORSSerialPortLinesTest : public QObject {
         QCOMPARE(bench.delegate.count(u"error"_s), count);
     }
 
+    void aDelegateThatHearsNoErrorsIsNotWokenByTheTicks() {
+        PortBench bench;
+        bench.delegate.setHearsErrorsOfOpenPort(false);
+        bench.port->setDelegate(&bench.delegate);
+        bench.faults.failIoctl(TIOCMGET, ENOTTY);
+        bench.port->open();
+        QTRY_VERIFY(bench.faults.countIoctl(TIOCMGET) >= 20);
+        // The opening's own report comes all the same.
+        QTRY_COMPARE(bench.delegate.events(), (QStringList{u"error"_s, u"opened"_s}));
+        QCOMPARE(bench.delegate.count(u"error"_s), 1);
+    }
+
     void inputLinesStayAsTheyWereWhenTheDeviceFails() {
         PortBench bench;
         QVERIFY(bench.open());

@@ -25,6 +25,10 @@ class RecordingDelegate final : public ORSSerialPortDelegate {
         _reaction = std::move(reaction);
     }
 
+    /// As an application that has no use for them. Before it is made a port's delegate.
+    void setHearsErrorsOfOpenPort(bool hears) { _hearsErrors = hears; }
+    [[nodiscard]] bool hearsErrorsOfOpenPort() const override { return _hearsErrors; }
+
     void serialPortDidReceiveData(ORSSerialPort& port, const QByteArray& data) override;
     void serialPortWasOpened(ORSSerialPort& port) override;
     void serialPortWillBeClosed(ORSSerialPort& port) override;
@@ -35,6 +39,7 @@ class RecordingDelegate final : public ORSSerialPortDelegate {
   private:
     void record(ORSSerialPort& port, const QString& event);
 
+    bool _hearsErrors = true;
     QStringList _events;
     QStringList _all;
     QByteArray _received;
