@@ -5,7 +5,6 @@ Usage: sent_test.py QUORVEL VIRTUAL_KEYER [TEST...]
 
 import contextlib
 import csv
-import pathlib
 import signal
 import sqlite3
 import stat
@@ -13,56 +12,16 @@ import subprocess
 import time
 
 from logger_station import QUORVEL_SEND, free_port
-from program import LONG_TEXT, SETTINGS, ProgramTest, run_tests
+from program import LONG_TEXT, SETTINGS, run_tests
+from sent_record import SentRecordTest
 
-HEADINGS = 5
 
-
-class SentTest(ProgramTest):
-    def setUp(self):
-        super().setUp()
-        self.environment["XDG_DATA_HOME"] = str(self.home / "data")
-        self.record = self.home / "data/quorvel/sent.db"
-
-    def rows(self):
-        """Text, key, name and ending of each run, the oldest first."""
-        if not self.record.exists():
-            return []
-        with contextlib.closing(sqlite3.connect(self.record, timeout=30)) as record:
-            try:
-                return record.execute(
-                    "SELECT text, source_number, name, ending FROM run ORDER BY number").fetchall()
-            except sqlite3.OperationalError:
-                return []
-
+class SentTest(SentRecordTest):
     def texts(self):
         return [each[0] for each in self.rows()]
 
     def wait_for_texts(self, quorvel, *texts):
         quorvel.wait_for(f"{texts} in the record", lambda: self.texts() == list(texts))
-
-    def open_window(self, quorvel):
-        self.desktop.press("ctrl+j")
-        return quorvel.wait_for("the window of the record", lambda: self.sent_window(quorvel))
-
-    def sent_window(self, quorvel):
-        application = self.desktop.application(quorvel.pid)
-        if self.desktop.active_title().split(" ")[0] != "Sent":
-            return None
-        return next((each for each in application.children()
-                     if each.role() in ("dialog", "frame") and each.name().startswith("Sent")), None)
-
-    def table(self, quorvel):
-        window = self.sent_window(quorvel)
-        return window and next((each for each in window.all() if "table" == each.role()), None)
-
-    def lines(self, quorvel):
-        """What the list says, a line each; none while a line comes and not all of it can be read."""
-        table = self.table(quorvel)
-        cells = [each.name() for each in table.children() if each.role() == "table cell"] if table else []
-        if len(cells) % HEADINGS:
-            return []
-        return [cells[first:first + HEADINGS] for first in range(0, len(cells), HEADINGS)]
 
     def wait_for_lines(self, quorvel, *texts):
         quorvel.wait_for(f"the lines {texts}", lambda: [

@@ -45,14 +45,14 @@ class Tail:
 class TrafficStation(EndingStation):
     """A station for one test, whose acts are given from outside."""
 
-    def start_traffic(self):
+    def start_traffic(self, more_settings=""):
         self._bus, address = self.desktop.start_bus()
         self.addCleanup(self._bus.end)
         bus = dict(self.environment, DBUS_SYSTEM_BUS_ADDRESS=address)
         self._service = Helper(HERE / "login_service.py", environment=bus)
         self.addCleanup(self._service.end)
         self._service.hear()
-        self.start_station({"DBUS_SYSTEM_BUS_ADDRESS": address}, "", is_paddled=True)
+        self.start_station({"DBUS_SYSTEM_BUS_ADDRESS": address}, more_settings, is_paddled=True)
         self._transcript_path = self.home / "transcript.txt"
         self._transcript = Tail(self._transcript_path)
         self._echoes = ""
