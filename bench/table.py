@@ -22,6 +22,8 @@ RESULT = pathlib.Path(sys.argv[3])
 PATIENCE = 120
 IDLE_SECONDS = 10
 PORT = "line"
+# The echo that was asked for, the version, where the pot stands, and that it is idle.
+ANSWER = b"\x55\x17\x80\xc0"
 
 
 def run(name, *arguments):
@@ -115,6 +117,10 @@ class Program:
         while select.select([self.keyer], [], [], 0.5)[0]:
             os.read(self.keyer, 1000)
 
+    def answer(self):
+        """As a keyer answers a greeting: one that is silent is greeted again every few seconds."""
+        os.write(self.keyer, ANSWER)
+
     def proportional_set_size(self):
         """In MiB."""
         lines = pathlib.Path(f"/proc/{self.pid}/smaps_rollup").read_text().splitlines()
@@ -149,6 +155,7 @@ def start_and_idle(directory):
     with Program(directory, True) as program:
         program.first_byte()
         program.drain()
+        program.answer()
         time.sleep(3)
         size = program.proportional_set_size()
         switches, share = program.idle()
