@@ -6,6 +6,7 @@
 #include "virtualkeyer/window/LampRow.h"
 #include "virtualkeyer/window/MessageList.h"
 #include "virtualkeyer/window/PaddlePanel.h"
+#include "virtualkeyer/window/PracticePage.h"
 #include "virtualkeyer/window/RegisterTable.h"
 #include "virtualkeyer/window/ScopePage.h"
 #include "virtualkeyer/window/WireLogPage.h"
@@ -60,12 +61,12 @@ QScrollArea* scrolled(QWidget* content, bool keepsWidth = false) {
 } // namespace
 
 KeyerWindow::KeyerWindow(const CommandLine& commandLine, KeyerLink& link, WireTap& wire,
-                         ScopeTap& scope, LiveSidetone& sidetone)
+                         ScopeTap& scope, ScopeTap& practice, LiveSidetone& sidetone)
     : _link(link) {
     setWindowTitle(tr("Virtual keyer"));
     auto* middle = new QSplitter(Qt::Horizontal);
     middle->addWidget(scrolled(makeHands(commandLine, sidetone), true));
-    middle->addWidget(makeInside(commandLine, wire, scope));
+    middle->addWidget(makeInside(commandLine, wire, scope, practice));
     middle->setStretchFactor(1, 1);
     middle->setSizes({1, QWIDGETSIZE_MAX});
     auto* all = new QSplitter(Qt::Vertical);
@@ -188,7 +189,8 @@ QWidget* KeyerWindow::makeButtons() {
     return box;
 }
 
-QWidget* KeyerWindow::makeInside(const CommandLine& commandLine, WireTap& wire, ScopeTap& scope) {
+QWidget* KeyerWindow::makeInside(const CommandLine& commandLine, WireTap& wire, ScopeTap& scope,
+                                 ScopeTap& practice) {
     auto* pages = new QTabWidget;
     _registers = new RegisterTable;
     _messages = new MessageList;
@@ -198,6 +200,7 @@ QWidget* KeyerWindow::makeInside(const CommandLine& commandLine, WireTap& wire, 
     pages->addTab(_kinds, tr("Kind of keyer"));
     pages->addTab(new ScopePage(scope), tr("Scope"));
     pages->addTab(new WireLogPage(wire), tr("Line log"));
+    pages->addTab(new PracticePage(practice), tr("Practice"));
     connect(_messages, &MessageList::played, this,
             [this](int number) { _link.order(PlayMessage{number}); });
     connect(_kinds, &KindList::chosen, this,

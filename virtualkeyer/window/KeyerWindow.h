@@ -27,7 +27,7 @@ class KeyerWindow : public QWidget {
   public:
     /// All must outlive the window.
     KeyerWindow(const CommandLine& commandLine, KeyerLink& link, WireTap& wire, ScopeTap& scope,
-                LiveSidetone& sidetone);
+                ScopeTap& practice, LiveSidetone& sidetone);
 
   private:
     [[nodiscard]] QWidget* makeTop(const QString& port);
@@ -36,7 +36,7 @@ class KeyerWindow : public QWidget {
     [[nodiscard]] QWidget* makeVolume(LiveSidetone& sidetone);
     [[nodiscard]] QWidget* makeButtons();
     [[nodiscard]] QWidget* makeInside(const CommandLine& commandLine, WireTap& wire,
-                                      ScopeTap& scope);
+                                      ScopeTap& scope, ScopeTap& practice);
     [[nodiscard]] QWidget* makeText();
     void movePaddle(bool dit, bool dah);
     void turnKnob(int wpm);

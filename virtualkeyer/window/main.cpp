@@ -41,13 +41,15 @@ int run(const CommandLine& commandLine, const StopSignals& stopSignals) {
     KeyerLink link;
     WireTap wire;
     ScopeTap scope;
+    ScopeTap practice;
     LiveSidetone sidetone;
     Session session(commandLine);
     session.add(link, link);
     session.add(wire);
     session.add(scope);
+    session.add(practice);
     session.add(sidetone);
-    KeyerWindow window(commandLine, link, wire, scope, sidetone);
+    KeyerWindow window(commandLine, link, wire, scope, practice, sidetone);
     KeyerThread keyer(session);
     QObject::connect(&keyer, &KeyerThread::failed, &window, [&window](const QString& reason) {
         QMessageBox::critical(&window, {}, reason);

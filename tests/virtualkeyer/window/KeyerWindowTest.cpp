@@ -36,8 +36,9 @@ void KeyerWindowTest::itFitsASmallScreen() {
     KeyerLink link;
     WireTap wire;
     ScopeTap scope;
+    ScopeTap practice;
     LiveSidetone sidetone;
-    KeyerWindow window(commandLine, link, wire, scope, sidetone);
+    KeyerWindow window(commandLine, link, wire, scope, practice, sidetone);
     window.show();
     QVERIFY(QTest::qWaitForWindowExposed(&window));
     auto* pages = window.findChild<QTabWidget*>();
