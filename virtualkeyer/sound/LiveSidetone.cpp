@@ -7,6 +7,7 @@
 #include <QTimer>
 
 #include <algorithm>
+#include <memory>
 #include <utility>
 
 namespace virtualkeyer {
@@ -115,21 +116,21 @@ void LiveSidetone::run() {
         return;
     }
     const qsizetype size = sink.bufferSize();
-    QTimer timer;
-    timer.setTimerType(Qt::PreciseTimer);
-    connect(&timer, &QTimer::timeout, &timer, [this, &sink, &timer, store, size] {
-        timer.setInterval(feedInterval);
+    const auto timer = std::make_unique<QTimer>();
+    timer->setTimerType(Qt::PreciseTimer);
+    connect(timer.get(), &QTimer::timeout, timer.get(), [this, &sink, &timer, store, size] {
+        timer->setInterval(feedInterval);
         const qsizetype free = sink.bytesFree();
         const auto samples = next(static_cast<std::size_t>(free / bytesPerSample),
                                   static_cast<std::size_t>((size - free) / bytesPerSample));
         store->write(reinterpret_cast<const char*>(samples.data()),
                      static_cast<qint64>(samples.size()) * bytesPerSample);
         if (mayRest()) {
-            timer.stop();
+            timer->stop();
         }
     });
-    setFeeder(&timer);
-    timer.start(feedInterval);
+    setFeeder(timer.get());
+    timer->start(feedInterval);
     exec();
     setFeeder(nullptr);
     sink.stop();

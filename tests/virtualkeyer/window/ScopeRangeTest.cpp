@@ -4,8 +4,9 @@
 
 #include <QTest>
 
-using namespace std::chrono_literals;
 using namespace virtualkeyer;
+using Milliseconds = std::chrono::milliseconds;
+using Seconds = std::chrono::seconds;
 
 class ScopeRangeTest : public QObject {
     Q_OBJECT
@@ -24,98 +25,99 @@ class ScopeRangeTest : public QObject {
 
 void ScopeRangeTest::itEndsWithThePresent() {
     ScopeRange range;
-    range.setBounds(0s, 10s);
-    QVERIFY(range.right() == 10s && range.left() == 6s);
-    range.setBounds(0s, 11s);
-    QVERIFY(range.right() == 11s);
+    range.setBounds(Seconds{0}, Seconds{10});
+    QVERIFY(range.right() == Seconds{10} && range.left() == Seconds{6});
+    range.setBounds(Seconds{0}, Seconds{11});
+    QVERIFY(range.right() == Seconds{11});
 }
 
 void ScopeRangeTest::pausedItStays() {
     ScopeRange range;
-    range.setBounds(0s, 10s);
+    range.setBounds(Seconds{0}, Seconds{10});
     range.setPaused(true);
-    range.setBounds(0s, 20s);
-    QVERIFY(range.right() == 10s);
+    range.setBounds(Seconds{0}, Seconds{20});
+    QVERIFY(range.right() == Seconds{10});
     range.setPaused(false);
-    QVERIFY(range.right() == 20s);
+    QVERIFY(range.right() == Seconds{20});
 }
 
 void ScopeRangeTest::itGoesBackAsFarAsThereIsSomething() {
     ScopeRange range;
-    range.setBounds(100s, 200s);
-    range.moveTo(150s);
-    QVERIFY(range.isPaused() && range.right() == 150s);
-    range.moveTo(0s);
-    QVERIFY(range.left() == 100s);
+    range.setBounds(Seconds{100}, Seconds{200});
+    range.moveTo(Seconds{150});
+    QVERIFY(range.isPaused() && range.right() == Seconds{150});
+    range.moveTo(Seconds{0});
+    QVERIFY(range.left() == Seconds{100});
     range.moveToNewest();
-    QVERIFY(range.right() == 200s && range.isPaused());
+    QVERIFY(range.right() == Seconds{200} && range.isPaused());
     range.moveToOldest();
-    QVERIFY(range.left() == 100s);
-    range.moveTo(900s);
-    QVERIFY(range.right() == 200s);
+    QVERIFY(range.left() == Seconds{100});
+    range.moveTo(Seconds{900});
+    QVERIFY(range.right() == Seconds{200});
 }
 
 void ScopeRangeTest::whatIsShorterThanTheRangeStandsAtItsEnd() {
     ScopeRange range;
-    range.setBounds(0s, 1s);
+    range.setBounds(Seconds{0}, Seconds{1});
     range.moveToOldest();
-    QVERIFY(range.right() == 1s);
+    QVERIFY(range.right() == Seconds{1});
 }
 
 void ScopeRangeTest::zoomingKeepsTheMiddle() {
     ScopeRange range;
-    range.setBounds(0s, 100s);
+    range.setBounds(Seconds{0}, Seconds{100});
     range.zoomIn();
-    QVERIFY(range.span() == 2s && range.right() == 100s);
-    range.moveTo(50s);
+    QVERIFY(range.span() == Seconds{2} && range.right() == Seconds{100});
+    range.moveTo(Seconds{50});
     range.zoomOut();
-    QVERIFY(range.span() == 4s && range.right() == 51s && range.left() == 47s);
+    QVERIFY(range.span() == Seconds{4} && range.right() == Seconds{51} &&
+            range.left() == Seconds{47});
     range.zoomIn();
-    QVERIFY(range.right() == 50s);
+    QVERIFY(range.right() == Seconds{50});
 }
 
 void ScopeRangeTest::zoomingIsBounded() {
     ScopeRange range;
-    range.setBounds(0s, 600s);
+    range.setBounds(Seconds{0}, Seconds{600});
     for (int i = 0; i < 20; ++i) {
         range.zoomIn();
     }
-    QVERIFY(range.span() == 125ms);
+    QVERIFY(range.span() == Milliseconds{125});
     for (int i = 0; i < 20; ++i) {
         range.zoomOut();
     }
-    QVERIFY(range.span() == 128s);
+    QVERIFY(range.span() == Seconds{128});
 }
 
 void ScopeRangeTest::cursorsMoveAndMeasure() {
     ScopeRange range;
-    range.setBounds(0s, 10s);
+    range.setBounds(Seconds{0}, Seconds{10});
     QVERIFY(!range.cursor(0) && !range.measured());
-    range.moveCursor(0, 10ms);
-    QVERIFY(range.cursor(0) == Time{8s} && range.isPaused());
-    range.moveCursor(0, -10ms);
-    QVERIFY(range.cursor(0) == Time{7990ms});
+    range.moveCursor(0, Milliseconds{10});
+    QVERIFY(range.cursor(0) == Time{Seconds{8}} && range.isPaused());
+    range.moveCursor(0, -Milliseconds{10});
+    QVERIFY(range.cursor(0) == Time{Milliseconds{7990}});
     QVERIFY(!range.measured());
-    range.setCursor(1, 7s);
-    QVERIFY(range.measured() == Time{990ms});
+    range.setCursor(1, Seconds{7});
+    QVERIFY(range.measured() == Time{Milliseconds{990}});
 }
 
 void ScopeRangeTest::aCursorIsBroughtIntoSight() {
     ScopeRange range;
-    range.setBounds(0s, 100s);
-    range.setCursor(0, 50s);
-    QVERIFY(range.left() < 50s && range.right() > 50s);
-    range.setCursor(0, 80s);
-    QVERIFY(range.left() < 80s && range.right() > 80s);
+    range.setBounds(Seconds{0}, Seconds{100});
+    range.setCursor(0, Seconds{50});
+    QVERIFY(range.left() < Seconds{50} && range.right() > Seconds{50});
+    range.setCursor(0, Seconds{80});
+    QVERIFY(range.left() < Seconds{80} && range.right() > Seconds{80});
 }
 
 void ScopeRangeTest::aCursorStaysWhereThereIsSomething() {
     ScopeRange range;
-    range.setBounds(20s, 100s);
-    range.setCursor(0, 10s);
-    QVERIFY(range.cursor(0) == Time{20s});
-    range.setCursor(0, 200s);
-    QVERIFY(range.cursor(0) == Time{100s});
+    range.setBounds(Seconds{20}, Seconds{100});
+    range.setCursor(0, Seconds{10});
+    QVERIFY(range.cursor(0) == Time{Seconds{20}});
+    range.setCursor(0, Seconds{200});
+    QVERIFY(range.cursor(0) == Time{Seconds{100}});
 }
 
 static const RegisteredTest<ScopeRangeTest> registered;

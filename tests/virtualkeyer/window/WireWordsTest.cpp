@@ -13,8 +13,8 @@ using Kind = WireLine::Kind;
 
 namespace {
 
-WireLine lineOf(Kind kind, const QByteArray& bytes) {
-    return {.kind = kind, .at = {}, .bytes = {bytes.begin(), bytes.end()}};
+WireLine lineOf(Kind kind, const QByteArray& raw) {
+    return {.kind = kind, .at = {}, .bytes = {raw.begin(), raw.end()}};
 }
 
 } // namespace
