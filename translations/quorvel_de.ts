@@ -3537,6 +3537,10 @@ das ihn öffnet, und gibt auf der Standardausgabe aus, was er tastet.</translati
         <source>Line log</source>
         <translation>Leitungsprotokoll</translation>
     </message>
+    <message>
+        <source>Practice</source>
+        <translation>Üben</translation>
+    </message>
 </context>
 <context>
     <name>virtualkeyer::KindList</name>
@@ -3651,6 +3655,93 @@ das ihn öffnet, und gibt auf der Standardausgabe aus, was er tastet.</translati
     <message>
         <source>Dah paddle</source>
         <translation>Strich-Paddle</translation>
+    </message>
+</context>
+<context>
+    <name>virtualkeyer::PracticePage</name>
+    <message>
+        <source>Text to be sent</source>
+        <translation>Zu gebender Text</translation>
+    </message>
+    <message>
+        <source>Letters that work the paddle are letters while this has the keyboard; Enter begins, and hands them back.</source>
+        <translation>Buchstaben, die das Paddle bedienen, sind Buchstaben, solange dieses Feld die Tastatur hat; die Eingabetaste beginnt und gibt sie zurück.</translation>
+    </message>
+    <message>
+        <source>Begin anew</source>
+        <translation>Neu beginnen</translation>
+    </message>
+    <message>
+        <source>X for A: X was sent instead of A. No A: A was left out. And X: X was one too many.</source>
+        <translation>X für A: X wurde statt A gegeben. Kein A: A wurde ausgelassen. Und X: X war zu viel.</translation>
+    </message>
+    <message>
+        <source>Lengths in dits</source>
+        <translation>Längen in Punkten</translation>
+    </message>
+    <message>
+        <source>Element</source>
+        <translation>Zeichenteil</translation>
+    </message>
+    <message>
+        <source>Sent</source>
+        <translation>Gegeben</translation>
+    </message>
+    <message>
+        <source>Ideal</source>
+        <translation>Ideal</translation>
+    </message>
+    <message>
+        <source>Mean</source>
+        <translation>Mittel</translation>
+    </message>
+    <message>
+        <source>From half to 1.5 of the ideal</source>
+        <translation>Vom Halben bis zum 1,5-Fachen des Ideals</translation>
+    </message>
+    <message>
+        <source>Dit</source>
+        <translation>Punkt</translation>
+    </message>
+    <message>
+        <source>Dah</source>
+        <translation>Strich</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>Abstand</translation>
+    </message>
+    <message>
+        <source>Letter space</source>
+        <translation>Buchstabenabstand</translation>
+    </message>
+    <message>
+        <source>Word space</source>
+        <translation>Wortabstand</translation>
+    </message>
+    <message>
+        <source>Right: %1 of %2</source>
+        <translation>Richtig: %1 von %2</translation>
+    </message>
+    <message>
+        <source>space</source>
+        <translation>Leerzeichen</translation>
+    </message>
+    <message>
+        <source>%1 for %2</source>
+        <translation>%1 für %2</translation>
+    </message>
+    <message>
+        <source>no %1</source>
+        <translation>kein %1</translation>
+    </message>
+    <message>
+        <source>and %1</source>
+        <translation>und %1</translation>
+    </message>
+    <message>
+        <source>Send the text with the paddle.</source>
+        <translation>Geben Sie den Text mit dem Paddle.</translation>
     </message>
 </context>
 <context>

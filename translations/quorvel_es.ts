@@ -3537,6 +3537,10 @@ que lo abre, y escribe lo que manipula en la salida estándar.</translation>
         <source>Line log</source>
         <translation>Registro de línea</translation>
     </message>
+    <message>
+        <source>Practice</source>
+        <translation>Práctica</translation>
+    </message>
 </context>
 <context>
     <name>virtualkeyer::KindList</name>
@@ -3651,6 +3655,93 @@ que lo abre, y escribe lo que manipula en la salida estándar.</translation>
     <message>
         <source>Dah paddle</source>
         <translation>Pala de rayas</translation>
+    </message>
+</context>
+<context>
+    <name>virtualkeyer::PracticePage</name>
+    <message>
+        <source>Text to be sent</source>
+        <translation>Texto que se ha de enviar</translation>
+    </message>
+    <message>
+        <source>Letters that work the paddle are letters while this has the keyboard; Enter begins, and hands them back.</source>
+        <translation>Las letras que mueven las palas son letras mientras este campo tiene el teclado; Intro empieza y las devuelve.</translation>
+    </message>
+    <message>
+        <source>Begin anew</source>
+        <translation>Empezar de nuevo</translation>
+    </message>
+    <message>
+        <source>X for A: X was sent instead of A. No A: A was left out. And X: X was one too many.</source>
+        <translation>X por A: se envió X en vez de A. Sin A: se omitió A. Y X: X sobraba.</translation>
+    </message>
+    <message>
+        <source>Lengths in dits</source>
+        <translation>Duraciones en puntos</translation>
+    </message>
+    <message>
+        <source>Element</source>
+        <translation>Elemento</translation>
+    </message>
+    <message>
+        <source>Sent</source>
+        <translation>Enviados</translation>
+    </message>
+    <message>
+        <source>Ideal</source>
+        <translation>Ideal</translation>
+    </message>
+    <message>
+        <source>Mean</source>
+        <translation>Media</translation>
+    </message>
+    <message>
+        <source>From half to 1.5 of the ideal</source>
+        <translation>De la mitad a 1,5 del ideal</translation>
+    </message>
+    <message>
+        <source>Dit</source>
+        <translation>Punto</translation>
+    </message>
+    <message>
+        <source>Dah</source>
+        <translation>Raya</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>Espacio</translation>
+    </message>
+    <message>
+        <source>Letter space</source>
+        <translation>Espacio entre letras</translation>
+    </message>
+    <message>
+        <source>Word space</source>
+        <translation>Espacio entre palabras</translation>
+    </message>
+    <message>
+        <source>Right: %1 of %2</source>
+        <translation>Correctos: %1 de %2</translation>
+    </message>
+    <message>
+        <source>space</source>
+        <translation>espacio</translation>
+    </message>
+    <message>
+        <source>%1 for %2</source>
+        <translation>%1 por %2</translation>
+    </message>
+    <message>
+        <source>no %1</source>
+        <translation>sin %1</translation>
+    </message>
+    <message>
+        <source>and %1</source>
+        <translation>y %1</translation>
+    </message>
+    <message>
+        <source>Send the text with the paddle.</source>
+        <translation>Envíe el texto con las palas.</translation>
     </message>
 </context>
 <context>

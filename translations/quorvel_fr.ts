@@ -3537,6 +3537,10 @@ qui l’ouvre, et écrit ce qu’il manipule sur la sortie standard.</translatio
         <source>Line log</source>
         <translation>Journal de ligne</translation>
     </message>
+    <message>
+        <source>Practice</source>
+        <translation>Entraînement</translation>
+    </message>
 </context>
 <context>
     <name>virtualkeyer::KindList</name>
@@ -3651,6 +3655,93 @@ qui l’ouvre, et écrit ce qu’il manipule sur la sortie standard.</translatio
     <message>
         <source>Dah paddle</source>
         <translation>Palette des traits</translation>
+    </message>
+</context>
+<context>
+    <name>virtualkeyer::PracticePage</name>
+    <message>
+        <source>Text to be sent</source>
+        <translation>Texte à manipuler</translation>
+    </message>
+    <message>
+        <source>Letters that work the paddle are letters while this has the keyboard; Enter begins, and hands them back.</source>
+        <translation>Les lettres qui actionnent les palettes restent des lettres tant que ce champ a le clavier ; Entrée commence et les rend.</translation>
+    </message>
+    <message>
+        <source>Begin anew</source>
+        <translation>Recommencer</translation>
+    </message>
+    <message>
+        <source>X for A: X was sent instead of A. No A: A was left out. And X: X was one too many.</source>
+        <translation>X pour A : X a été manipulé au lieu de A. Pas de A : A a été omis. Et X : X était de trop.</translation>
+    </message>
+    <message>
+        <source>Lengths in dits</source>
+        <translation>Longueurs en points</translation>
+    </message>
+    <message>
+        <source>Element</source>
+        <translation>Élément</translation>
+    </message>
+    <message>
+        <source>Sent</source>
+        <translation>Manipulés</translation>
+    </message>
+    <message>
+        <source>Ideal</source>
+        <translation>Idéal</translation>
+    </message>
+    <message>
+        <source>Mean</source>
+        <translation>Moyenne</translation>
+    </message>
+    <message>
+        <source>From half to 1.5 of the ideal</source>
+        <translation>De la moitié à 1,5 fois l’idéal</translation>
+    </message>
+    <message>
+        <source>Dit</source>
+        <translation>Point</translation>
+    </message>
+    <message>
+        <source>Dah</source>
+        <translation>Trait</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>Espace</translation>
+    </message>
+    <message>
+        <source>Letter space</source>
+        <translation>Espace entre lettres</translation>
+    </message>
+    <message>
+        <source>Word space</source>
+        <translation>Espace entre mots</translation>
+    </message>
+    <message>
+        <source>Right: %1 of %2</source>
+        <translation>Justes : %1 sur %2</translation>
+    </message>
+    <message>
+        <source>space</source>
+        <translation>espace</translation>
+    </message>
+    <message>
+        <source>%1 for %2</source>
+        <translation>%1 pour %2</translation>
+    </message>
+    <message>
+        <source>no %1</source>
+        <translation>pas de %1</translation>
+    </message>
+    <message>
+        <source>and %1</source>
+        <translation>et %1</translation>
+    </message>
+    <message>
+        <source>Send the text with the paddle.</source>
+        <translation>Manipulez le texte avec les palettes.</translation>
     </message>
 </context>
 <context>

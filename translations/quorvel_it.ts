@@ -3537,6 +3537,10 @@ che la apre, e scrive ciò che manipola sull’uscita standard.</translation>
         <source>Line log</source>
         <translation>Registro di linea</translation>
     </message>
+    <message>
+        <source>Practice</source>
+        <translation>Esercizio</translation>
+    </message>
 </context>
 <context>
     <name>virtualkeyer::KindList</name>
@@ -3651,6 +3655,93 @@ che la apre, e scrive ciò che manipola sull’uscita standard.</translation>
     <message>
         <source>Dah paddle</source>
         <translation>Paddle delle linee</translation>
+    </message>
+</context>
+<context>
+    <name>virtualkeyer::PracticePage</name>
+    <message>
+        <source>Text to be sent</source>
+        <translation>Testo da trasmettere</translation>
+    </message>
+    <message>
+        <source>Letters that work the paddle are letters while this has the keyboard; Enter begins, and hands them back.</source>
+        <translation>Le lettere che muovono il paddle sono lettere finché questo campo ha la tastiera; Invio comincia e le restituisce.</translation>
+    </message>
+    <message>
+        <source>Begin anew</source>
+        <translation>Ricomincia</translation>
+    </message>
+    <message>
+        <source>X for A: X was sent instead of A. No A: A was left out. And X: X was one too many.</source>
+        <translation>X per A: X è stata trasmessa al posto di A. Senza A: A è stata omessa. E X: X era di troppo.</translation>
+    </message>
+    <message>
+        <source>Lengths in dits</source>
+        <translation>Durate in punti</translation>
+    </message>
+    <message>
+        <source>Element</source>
+        <translation>Elemento</translation>
+    </message>
+    <message>
+        <source>Sent</source>
+        <translation>Trasmessi</translation>
+    </message>
+    <message>
+        <source>Ideal</source>
+        <translation>Ideale</translation>
+    </message>
+    <message>
+        <source>Mean</source>
+        <translation>Media</translation>
+    </message>
+    <message>
+        <source>From half to 1.5 of the ideal</source>
+        <translation>Dalla metà a 1,5 dell’ideale</translation>
+    </message>
+    <message>
+        <source>Dit</source>
+        <translation>Punto</translation>
+    </message>
+    <message>
+        <source>Dah</source>
+        <translation>Linea</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>Spazio</translation>
+    </message>
+    <message>
+        <source>Letter space</source>
+        <translation>Spazio tra lettere</translation>
+    </message>
+    <message>
+        <source>Word space</source>
+        <translation>Spazio tra parole</translation>
+    </message>
+    <message>
+        <source>Right: %1 of %2</source>
+        <translation>Giusti: %1 su %2</translation>
+    </message>
+    <message>
+        <source>space</source>
+        <translation>spazio</translation>
+    </message>
+    <message>
+        <source>%1 for %2</source>
+        <translation>%1 per %2</translation>
+    </message>
+    <message>
+        <source>no %1</source>
+        <translation>senza %1</translation>
+    </message>
+    <message>
+        <source>and %1</source>
+        <translation>e %1</translation>
+    </message>
+    <message>
+        <source>Send the text with the paddle.</source>
+        <translation>Trasmetti il testo con il paddle.</translation>
     </message>
 </context>
 <context>

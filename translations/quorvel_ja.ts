@@ -3537,6 +3537,10 @@ program that opens it, and prints what it keys to standard output.</source>
         <source>Line log</source>
         <translation>回線の記録</translation>
     </message>
+    <message>
+        <source>Practice</source>
+        <translation>練習</translation>
+    </message>
 </context>
 <context>
     <name>virtualkeyer::KindList</name>
@@ -3651,6 +3655,93 @@ program that opens it, and prints what it keys to standard output.</source>
     <message>
         <source>Dah paddle</source>
         <translation>長点パドル</translation>
+    </message>
+</context>
+<context>
+    <name>virtualkeyer::PracticePage</name>
+    <message>
+        <source>Text to be sent</source>
+        <translation>送るテキスト</translation>
+    </message>
+    <message>
+        <source>Letters that work the paddle are letters while this has the keyboard; Enter begins, and hands them back.</source>
+        <translation>この欄に入力している間、パドルのキーは文字になります。Enter で始まり、パドルに戻ります。</translation>
+    </message>
+    <message>
+        <source>Begin anew</source>
+        <translation>最初から</translation>
+    </message>
+    <message>
+        <source>X for A: X was sent instead of A. No A: A was left out. And X: X was one too many.</source>
+        <translation>A の代わりに X: A ではなく X を送りました。A なし: A が抜けました。余分な X: X が余分です。</translation>
+    </message>
+    <message>
+        <source>Lengths in dits</source>
+        <translation>短点を単位とした長さ</translation>
+    </message>
+    <message>
+        <source>Element</source>
+        <translation>要素</translation>
+    </message>
+    <message>
+        <source>Sent</source>
+        <translation>送出数</translation>
+    </message>
+    <message>
+        <source>Ideal</source>
+        <translation>理想</translation>
+    </message>
+    <message>
+        <source>Mean</source>
+        <translation>平均</translation>
+    </message>
+    <message>
+        <source>From half to 1.5 of the ideal</source>
+        <translation>理想の半分から 1.5 倍まで</translation>
+    </message>
+    <message>
+        <source>Dit</source>
+        <translation>短点</translation>
+    </message>
+    <message>
+        <source>Dah</source>
+        <translation>長点</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>間隔</translation>
+    </message>
+    <message>
+        <source>Letter space</source>
+        <translation>字間</translation>
+    </message>
+    <message>
+        <source>Word space</source>
+        <translation>語間</translation>
+    </message>
+    <message>
+        <source>Right: %1 of %2</source>
+        <translation>正解: %2 のうち %1</translation>
+    </message>
+    <message>
+        <source>space</source>
+        <translation>空白</translation>
+    </message>
+    <message>
+        <source>%1 for %2</source>
+        <translation>%2 の代わりに %1</translation>
+    </message>
+    <message>
+        <source>no %1</source>
+        <translation>%1 なし</translation>
+    </message>
+    <message>
+        <source>and %1</source>
+        <translation>余分な %1</translation>
+    </message>
+    <message>
+        <source>Send the text with the paddle.</source>
+        <translation>パドルでテキストを送ってください。</translation>
     </message>
 </context>
 <context>
