@@ -1,6 +1,7 @@
 #include "app/window/GuidePage.h"
 
 #include <QImage>
+#include <QScrollBar>
 #include <QTextBlock>
 #include <QTextCursor>
 
@@ -16,9 +17,11 @@ void GuidePage::fitPictures() {
             }
         }
     }
+    // Whether the scroll bar is there or not: a picture that took its place would bring it back.
+    const auto bar = verticalScrollBar()->sizeHint().width();
     const auto margins = static_cast<int>(std::ceil(2 * document()->documentMargin()));
     for (const auto& each : pictures) {
-        setWidth(each, viewport()->width() - margins);
+        setWidth(each, maximumViewportSize().width() - bar - margins);
     }
 }
 
