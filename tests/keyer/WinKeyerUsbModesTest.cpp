@@ -142,7 +142,8 @@ void WinKeyerUsbModesTest::beaconWaitsItsIntervalAsItStandsAtTheIdleReport() {
 void WinKeyerUsbModesTest::aBusyReportStopsTheBeacon() {
     _bench->engine().setBeaconState(1);
     _bench->engine().appendMessage(u"E"_s);
-    _bench->receive({'E', 0xC0});
+    _bench->receive({'E'});
+    _bench->receive({0xC0});
     QCOMPARE(_bench->clock().pendingTimers().size(), 1);
     _bench->receive({0xC4});
     QVERIFY(_bench->clock().pendingTimers().isEmpty());

@@ -12,12 +12,12 @@ namespace {
 /// More are told as a number.
 constexpr std::size_t mostToldElements = 8;
 
-QString milliseconds(Time time) {
+QString inMilliseconds(Time time) {
     return QString::number(std::chrono::duration<double, std::milli>(time).count(), 'f', 1);
 }
 
 QString words(const TraceElement& element) {
-    const QString length = milliseconds(element.stretch.length());
+    const QString length = inMilliseconds(element.stretch.length());
     switch (element.kind) {
     case TraceElement::Kind::Dit:
         return ScopeWords::tr("dit %1").arg(length);
@@ -78,8 +78,8 @@ QString ScopeWords::of(const KeyTrace& trace, const ScopeRange& range) {
     if (!first || !second) {
         return between.isEmpty() ? tr("One cursor is set.") : tr("%1 ms").arg(between);
     }
-    return between.isEmpty() ? tr("%1 ms").arg(milliseconds(to - from))
-                             : tr("%1 ms: %2").arg(milliseconds(to - from), between);
+    return between.isEmpty() ? tr("%1 ms").arg(inMilliseconds(to - from))
+                             : tr("%1 ms: %2").arg(inMilliseconds(to - from), between);
 }
 
 std::optional<Time> ScopeWords::nextEdge(const KeyTrace& trace, Time from, bool isForward) {
