@@ -35,7 +35,8 @@ class SidetoneRenderer {
     /// left out, when there is a tone up to then.
     bool skipTo(std::int64_t sample);
 
-    /// Leaves samples out, up to `sample`, whatever is heard: what is to change by then has changed.
+    /// Leaves samples out, up to `sample`, whatever is heard: what is to change by then has
+    /// changed.
     void jumpTo(std::int64_t sample);
 
     /// How many calls of setTone() are still to take effect.
