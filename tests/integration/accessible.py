@@ -138,8 +138,8 @@ class Accessible:
     def find(self, name):
         """The element of that name in it: the control, if there is one, rather than its label,
         and none of the menus, which name many a thing again. None when there is none."""
-        found = [each for each in self.all()
-                 if each.name() == name and "menu" not in each.role()]
+        found = [each for each in self.all() if each.name() == name
+                 and ("menu" not in each.role() or each.role() == "push button menu")]
         return next((each for each in found if each.is_in_state("focusable")),
                     found[0] if found else None)
 
