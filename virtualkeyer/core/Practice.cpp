@@ -24,16 +24,16 @@ void Practice::key(bool isDown, const Timing& timing, Time at) {
 
 void Practice::advance(Time now) {
     _decoder.advance(now);
-    _sent += _decoder.takeText();
+    // Whoever goes on keying something else needs no more of it compared.
+    const auto enough = 2 * _text.size() + 20;
+    const auto text = _decoder.takeText();
+    if (_sent.size() < enough) {
+        _sent += text;
+    }
 }
 
 std::vector<PracticeScore::Mark> Practice::marks() const {
-    auto marks = PracticeScore::compare(_text, _sent);
-    // What is still to come is no mistake.
-    while (!marks.empty() && marks.back().kind == PracticeScore::Mark::Kind::Missing) {
-        marks.pop_back();
-    }
-    return marks;
+    return PracticeScore::compare(_text, _sent);
 }
 
 } // namespace virtualkeyer

@@ -10,8 +10,8 @@
 
 namespace virtualkeyer {
 
-/// Follows somebody who sends a text with the paddle, and scores it. Times come in order. Not
-/// thread-safe.
+/// Follows somebody who sends a text, with the paddle or otherwise, and scores it. Times come in
+/// order. Not thread-safe.
 class Practice {
   public:
     /// Begins anew, with a text that is to be sent.

@@ -49,8 +49,9 @@ class Distances {
                                      std::size_t w, std::size_t s) const {
         const std::size_t wantedLeft = wanted.size() - w;
         const std::size_t sentLeft = sent.size() - s;
+        // What is still to come is no mistake.
         if (wantedLeft == 0 || sentLeft == 0) {
-            return wantedLeft + sentLeft;
+            return sentLeft;
         }
         const std::size_t both = (*this)(w + 1, s + 1) + (wanted[w] == sent[s] ? 0 : 1);
         return std::min({both, (*this)(w + 1, s) + 1, (*this)(w, s + 1) + 1});
@@ -69,14 +70,14 @@ std::vector<Mark> PracticeScore::compare(std::string_view wanted, std::string_vi
     std::vector<Mark> marks;
     std::size_t w = 0;
     std::size_t s = 0;
-    while (w < text.size() || s < heard.size()) {
+    while (s < heard.size()) {
         const std::size_t now = mistakes(w, s);
-        const bool hasBoth = w < text.size() && s < heard.size();
-        if (hasBoth && text[w] == heard[s] && mistakes(w + 1, s + 1) == now) {
+        const bool isWanted = w < text.size();
+        if (isWanted && text[w] == heard[s] && mistakes(w + 1, s + 1) == now) {
             marks.push_back({Mark::Kind::Right, text[w++], heard[s++]});
-        } else if (hasBoth && mistakes(w + 1, s + 1) + 1 == now) {
+        } else if (isWanted && mistakes(w + 1, s + 1) + 1 == now) {
             marks.push_back({Mark::Kind::Wrong, text[w++], heard[s++]});
-        } else if (w < text.size() && mistakes(w + 1, s) + 1 == now) {
+        } else if (isWanted && mistakes(w + 1, s) + 1 == now) {
             marks.push_back({Mark::Kind::Missing, text[w++], 0});
         } else {
             marks.push_back({Mark::Kind::TooMany, 0, heard[s++]});

@@ -38,7 +38,8 @@ class PracticeScore {
 
     /// Compares letters and, where both have words, the spaces between them with the fewest
     /// mistakes. Lower case is as upper case; spaces at the ends and repeated ones count for
-    /// nothing. What was sent beyond the end of the text is too many.
+    /// nothing. What was sent beyond the end of the text is too many; what of the text is still to
+    /// come is not compared.
     [[nodiscard]] static std::vector<Mark> compare(std::string_view wanted, std::string_view sent);
 
     /// Takes an element, whose ideal is of dits of this length.

@@ -26,7 +26,10 @@ class TroubledLine {
     /// When the oldest byte arrives; nothing while none is under way.
     [[nodiscard]] std::optional<Time> nextArrival() const;
     /// What is under way is lost.
-    void clear() { _underWay.clear(); }
+    void clear() {
+        _underWay.clear();
+        _last = Time{0};
+    }
 
   private:
     [[nodiscard]] bool isLost(std::uint8_t byte, const Troubles& troubles);

@@ -13,7 +13,9 @@ namespace virtualkeyer {
 
 namespace {
 
-using Kind = TraceElement::Kind;
+/// A text of more is no exercise.
+constexpr int longestText = 500;
+
 using Mark = PracticeScore::Mark;
 
 enum Column { Element, Count, Ideal, Mean, Spread, ColumnCount };
@@ -41,6 +43,7 @@ PracticePage::PracticePage(ScopeTap& tap, QWidget* parent)
       _result(new QLabel),
       _count(new QLabel),
       _lengths(new QTableWidget(PracticeScore::kindCount, ColumnCount)) {
+    _text->setMaxLength(longestText);
     _text->setAccessibleName(tr("Text to be sent"));
     _text->setToolTip(tr("Letters that work the paddle are letters while this has the keyboard; "
                          "Enter begins, and hands them back."));
@@ -108,7 +111,14 @@ void PracticePage::take() {
         _letterEnd.start(
             std::chrono::ceil<std::chrono::milliseconds>(std::max(Time{0}, *due - now)));
     }
+    if (isVisible()) {
+        refresh();
+    }
+}
+
+void PracticePage::showEvent(QShowEvent* event) {
     refresh();
+    QWidget::showEvent(event);
 }
 
 void PracticePage::refresh() {
@@ -147,7 +157,7 @@ QString PracticePage::marked() const {
 
 void PracticePage::showLengths() {
     for (int row = 0; row < _lengths->rowCount(); ++row) {
-        const auto& lengths = _practice.score().lengths(static_cast<Kind>(row));
+        const auto& lengths = _practice.score().lengths(static_cast<TraceElement::Kind>(row));
         _lengths->item(row, Count)->setText(QString::number(lengths.count));
         _lengths->item(row, Ideal)->setText(QString::number(lengths.ideal));
         _lengths->item(row, Mean)->setText(

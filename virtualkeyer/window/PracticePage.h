@@ -19,6 +19,9 @@ class PracticePage : public QWidget {
     /// `tap` must outlive the page, and is its own.
     explicit PracticePage(ScopeTap& tap, QWidget* parent = nullptr);
 
+  protected:
+    void showEvent(QShowEvent* event) override;
+
   private:
     void makeTable();
     void start();

@@ -88,6 +88,10 @@ void ScopePage::hideEvent(QHideEvent* event) {
 void ScopePage::take() {
     const Time now = _tap.now();
     _view->take(_tap.takeEdges(), now);
+    if (_view->range().isPaused()) {
+        // What is seen stands still, and comes to lie further back.
+        placeBar();
+    }
     if (isVisible() && !_view->range().isPaused() && _view->isActive(now) && !_frames.isActive()) {
         constexpr double second = 1000;
         _frames.start(static_cast<int>(second / std::max(1.0, screen()->refreshRate())));
@@ -103,17 +107,20 @@ void ScopePage::follow() {
 }
 
 void ScopePage::adoptChoice() {
+    placeBar();
     const ScopeRange& range = _view->range();
-    {
-        const QSignalBlocker blocker(_place);
-        _place->setPageStep(milliseconds(range.span()));
-        _place->setValue(_place->maximum() - milliseconds(range.newest() - range.right()));
-    }
     _pause->setChecked(range.isPaused());
     _measurement->setText(_view->measurement());
     if (!range.isPaused()) {
         take();
     }
+}
+
+void ScopePage::placeBar() {
+    const ScopeRange& range = _view->range();
+    const QSignalBlocker blocker(_place);
+    _place->setPageStep(milliseconds(range.span()));
+    _place->setValue(_place->maximum() - milliseconds(range.newest() - range.right()));
 }
 
 void ScopePage::savePicture() {

@@ -27,6 +27,7 @@ class ScopePage : public QWidget {
     void take();
     void follow();
     void adoptChoice();
+    void placeBar();
     void savePicture();
     void saveTable();
 

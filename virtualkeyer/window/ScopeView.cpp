@@ -206,6 +206,10 @@ void ScopeView::wheelEvent(QWheelEvent* event) {
     constexpr int notch = 120;
     const QPoint angle = event->angleDelta();
     const int turned = angle.y() != 0 ? angle.y() : angle.x();
+    if (turned == 0) {
+        event->ignore(); // a touchpad's begin or end
+        return;
+    }
     if (event->modifiers().testFlag(Qt::ControlModifier)) {
         turned > 0 ? zoomIn() : zoomOut();
     } else {

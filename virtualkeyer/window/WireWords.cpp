@@ -15,9 +15,9 @@ namespace virtualkeyer {
 namespace {
 
 using Parameters = std::span<const std::uint8_t>;
-using Kind = WireLine::Kind;
+using LineKind = WireLine::Kind;
 
-constexpr int stepMs = 10;
+constexpr int stepOfTimesMs = 10;
 constexpr int wpmOfHundredLetters = 20;
 
 QString translated(const char* words) {
@@ -52,7 +52,7 @@ QString raw(const QString& words, Parameters parameters) {
 }
 
 QString tens(const QString& words, Parameters parameters) {
-    return words.arg(stepMs * parameters[0]).arg(stepMs * parameters[1]);
+    return words.arg(stepOfTimesMs * parameters[0]).arg(stepOfTimesMs * parameters[1]);
 }
 
 QString letters(const QString& words, Parameters parameters) {
@@ -318,25 +318,25 @@ QString answerWords(AdminCommand question, Parameters bytes) {
 QString WireWords::of(const WireLine& line) {
     constexpr int knobValue = 0x3F;
     switch (line.kind) {
-    case Kind::Command:
+    case LineKind::Command:
         return commandWords(line.bytes);
-    case Kind::Discarded:
+    case LineKind::Discarded:
         return tr("discarded by the keyer");
-    case Kind::Lost:
+    case LineKind::Lost:
         return tr("lost, the keyer is starting");
-    case Kind::Unfinished:
+    case LineKind::Unfinished:
         return tr("unfinished command");
-    case Kind::Restarted:
+    case LineKind::Restarted:
         return tr("the keyer starts anew");
-    case Kind::Echo:
+    case LineKind::Echo:
         return tr("echo %1").arg(character(line.bytes.front()));
-    case Kind::Status:
+    case LineKind::Status:
         return statusWords(line.bytes.front());
-    case Kind::Buttons:
+    case LineKind::Buttons:
         return buttonWords(line.bytes.front());
-    case Kind::Knob:
+    case LineKind::Knob:
         return tr("knob: %1 WPM").arg(line.knobMinimum + (line.bytes.front() & knobValue));
-    case Kind::Answer:
+    case LineKind::Answer:
         return answerWords(line.question, line.bytes);
     }
     return {};

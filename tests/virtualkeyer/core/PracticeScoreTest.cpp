@@ -55,7 +55,10 @@ void PracticeScoreTest::lettersAreCompared_data() {
     row("PARIS", "PAXIS", "..[RX]..");
     row("PARIS", "PAIS", "..-R..");
     row("PARIS", "PARRIS", "...+R..");
-    row("PARIS", "PAR", "...-I-S");
+    row("PARIS", "PAR", "...");
+    row("CQ CQ DE N0CALL", "E", "[CE]");
+    row("THE QUICK BROWN FOX", "THX", "..[EX]");
+    row("PARIS PARIS", "PAS", "..[RS]");
     row("PAR", "PARIS", "...+I+S");
     row("CQ CQ", "CQCQ", "..- ..");
     row("CQ", "C Q", ".+ .");

@@ -21,6 +21,7 @@ class PracticeTest : public QObject {
     void mistakesAreMarked();
     void lengthsAreMeasuredAgainstTheSpeed();
     void itBeginsAnew();
+    void whatIsKeyedWithoutEndIsNotKept();
 
   private:
     /// Sends with all lengths `percent` of what they should be.
@@ -99,6 +100,14 @@ void PracticeTest::itBeginsAnew() {
     QCOMPARE(_practice.score().lengths(Kind::Dit).count, std::size_t{0});
     send("CQ");
     QCOMPARE(count(Mark::Kind::Right), 2);
+}
+
+void PracticeTest::whatIsKeyedWithoutEndIsNotKept() {
+    send("CQ DE");
+    send(std::string(1000, 'T'));
+    QCOMPARE_LE(_practice.sent().size(), 40U);
+    QCOMPARE(count(Mark::Kind::Right), 5);
+    QCOMPARE(_practice.score().lengths(Kind::Dah).count, std::size_t{1006});
 }
 
 static const RegisteredTest<PracticeTest> registered;

@@ -127,6 +127,11 @@ void ScopePageTest::theBarGoesBack() {
     const Time newest = view()->range().newest();
     bar->setValue(bar->maximum() - 30'000);
     QVERIFY(view()->range().right() == newest - 30s);
+    // What comes meanwhile has it lie further back.
+    _tap->keyerDid({newest + 60s, PttLine{true}}, Registers(20));
+    QTRY_VERIFY(view()->range().newest() >= newest + 60s);
+    QVERIFY(view()->range().right() == newest - 30s);
+    QTRY_VERIFY(bar->value() <= bar->maximum() - 90'000);
     QTest::keyClick(view(), Qt::Key_End);
     QCOMPARE(bar->value(), bar->maximum());
 }
