@@ -116,7 +116,9 @@ void KeyerWatch::checkSending() {
     }
 }
 
-/// A command that has lost its end takes nulls for it, and not the key up.
+/// A command that has lost its end takes nulls for it, and not the key up. What that makes of it
+/// may hold the key for a time of its own, which only clearing ends; a keyer that is idle, as far
+/// as it has said, has nothing to lose by that.
 void KeyerWatch::keyUp() {
     constexpr int nullCommands = 4;
     if (_engine.tuneState() != 0) {
@@ -126,6 +128,9 @@ void KeyerWatch::keyUp() {
         _engine.putToWinKeyer(KeyerCommand::nullCommand());
     }
     _engine.keyUp();
+    if (_engine.activity() == KeyerActivity::Idle) {
+        _engine.putToWinKeyer(KeyerCommand::clearBuffer());
+    }
 }
 
 void KeyerWatch::report(void (KeyerWatch::*what)()) {

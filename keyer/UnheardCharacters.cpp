@@ -11,8 +11,11 @@ void UnheardCharacters::addJoined(char character, qsizetype place) {
 }
 
 void UnheardCharacters::takeEcho(std::uint8_t echo) {
-    if (_characters.isEmpty() || takeAbandoned(echo)) {
+    if (_characters.isEmpty() || takeAbandoned(echo) || isOfNoCharacter(echo)) {
         return;
+    }
+    if (isFirstLost(echo)) {
+        _characters.removeFirst();
     }
     const auto isIt = [echo](const Character& each) { return each.byte == echo || !each.isJoined; };
     const auto found = std::find_if(_characters.begin(), _characters.end(), isIt);
@@ -29,6 +32,17 @@ bool UnheardCharacters::takeAbandoned(std::uint8_t echo) {
         _abandoned.clear();
     }
     return isAbandoned;
+}
+
+/// Some keyers echo the sign for half a space, which is none of the characters.
+bool UnheardCharacters::isOfNoCharacter(std::uint8_t echo) const {
+    return echo == '|' && _characters.constFirst().byte != '|';
+}
+
+/// One echo may be lost: the next one's tells of both.
+bool UnheardCharacters::isFirstLost(std::uint8_t echo) const {
+    return _characters.size() > 1 && _characters.constFirst().byte != echo &&
+           !_characters.at(1).isJoined && _characters.at(1).byte == echo;
 }
 
 void UnheardCharacters::restrictPlaces(qsizetype size) {

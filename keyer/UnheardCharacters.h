@@ -41,6 +41,8 @@ class UnheardCharacters {
     };
 
     [[nodiscard]] bool takeAbandoned(std::uint8_t echo);
+    [[nodiscard]] bool isOfNoCharacter(std::uint8_t echo) const;
+    [[nodiscard]] bool isFirstLost(std::uint8_t echo) const;
 
     QList<Character> _characters;
     QByteArray _abandoned;

@@ -113,9 +113,9 @@ void WinKeyerUsb::handleBreakIn() {
 void WinKeyerUsb::awaitSilence() {
     endSilence();
     const bool isIdle = (_lastStatus.value_or(0) & KeyerStatus::anything) == 0;
-    const bool isOpen = _onTheirWay.isOneAtATime()
-                            ? _unheard.areThere()
-                            : _mayBeKeying || _onTheirWay.oldestPlace().has_value();
+    const bool isFar = !_onTheirWay.isOneAtATime();
+    const bool isOpen = _unheard.areThere() ||
+                        (isFar && (_mayBeKeying || _onTheirWay.oldestPlace().has_value()));
     if (isIdle && isOpen && _pauseState == 0) {
         _silenceTimer = Platform::current().clock().scheduleTimer(longestAnswer, this,
                                                                   [this] { countAsKeyed(); });

@@ -87,8 +87,11 @@ class ORSSerialPortManager final : public QObject {
     /// Opens the remembered ports that are still there, and forgets them all. One whose device is
     /// still being closed is opened once that is done, within ten seconds.
     void systemDidWake(const Notification& notification);
-    /// Whether the machine has said that it goes to sleep, and not yet that it woke up.
-    [[nodiscard]] bool isAsleep() const { return _isAsleep; }
+    /// Whether the machine has said that it goes to sleep, and not yet that it woke up, or a device
+    /// is still being closed since.
+    [[nodiscard]] bool isAsleep() const {
+        return _isAsleep || (_waitForDevices && _waitForDevices->isValid());
+    }
 
     /// Whether the port is listed and the machine has its device: one that has gone while an alert
     /// is up leaves the list only afterwards.

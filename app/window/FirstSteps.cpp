@@ -140,6 +140,7 @@ void FirstSteps::setEngine(const WinKeyerUsb& engine) {
         _virtualKeyerButton->setEnabled(!isConnected);
     };
     QObject::connect(&engine, &WinKeyerUsb::activityChanged, this, follow);
+    QObject::connect(&engine, &WinKeyerUsb::reopeningFailed, this, follow);
     follow();
 }
 

@@ -13,7 +13,8 @@ SingleClick::SingleClick(QAbstractButton& button) : QObject(&button) {
 
 bool SingleClick::eventFilter(QObject* watched, QEvent* event) {
     const bool isSecond = event->type() == QEvent::MouseButtonDblClick;
-    if (isSecond || event->type() == QEvent::MouseButtonPress) {
+    if ((isSecond || event->type() == QEvent::MouseButtonPress) &&
+        static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton) {
         const auto now = static_cast<QMouseEvent*>(event)->timestamp();
         const auto last = std::exchange(_lastPress, now);
         const auto interval =

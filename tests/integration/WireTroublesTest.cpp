@@ -60,6 +60,7 @@ class WireTroublesTest : public QObject {
     void doubledBytesKeyNothingElse();
     void noiseEndsWithTheKeyUpAndIsToldOf();
     void aKeyThatNoiseHasPutDownGoesUpByItself();
+    void aKeyForATimeThatNoiseMadeOfALetterGoesUp();
     void lateBytesKeyTheSame_data();
     void lateBytesKeyTheSame();
     void joinedBytesKeyTheSame();
@@ -185,6 +186,24 @@ void WireTroublesTest::aKeyThatNoiseHasPutDownGoesUpByItself() {
     station.pass(5s);
     QVERIFY(station.isKeyDown());
     station.pass(6s);
+    QVERIFY(!station.isKeyDown());
+    QVERIFY(station.hasComplained());
+}
+
+/// What ends the command that was cut short makes it hold the key for as long as that says.
+void WireTroublesTest::aKeyForATimeThatNoiseMadeOfALetterGoesUp() {
+    WatchedStation station;
+    QVERIFY(station.setUp());
+    station.type(u"E"_s);
+    QVERIFY(station.waitForQuiet());
+    station.setTroubles(troubles("lost:1"));
+    station.type(u"EY"_s);
+    station.pass(100ms);
+    station.setTroubles({});
+    station.engine().putToWinKeyer("\x19");
+    station.pass(12s);
+    QVERIFY(!station.isKeyDown());
+    station.pass(20s);
     QVERIFY(!station.isKeyDown());
     QVERIFY(station.hasComplained());
 }

@@ -184,7 +184,7 @@ void KeyerWatchTest::aCharacterWithoutAnEchoIsReported() {
     pass(1h);
     QCOMPARE(_fellSilent->size(), 1);
     // A wrong byte may have put the key down, or have cut a command short.
-    QCOMPARE(_bench->written(), "43 13 13 13 13 0b 00");
+    QCOMPARE(_bench->written(), "43 13 13 13 13 0b 00 0a");
     _bench->receive({'C'});
     QCOMPARE(_settled->size(), 1);
 }

@@ -14,6 +14,8 @@ class UnheardCharactersTest : public QObject {
     void joinedLettersAreEchoedOrNot();
     void theEchoOfAnAbandonedOneTakesNone();
     void thePlacesAreWhereTheTextEnds();
+    void oneEchoMayBeLost();
+    void theEchoOfHalfASpaceTakesNone();
 };
 
 void UnheardCharactersTest::anyEchoTakesTheOldest() {
@@ -72,6 +74,22 @@ void UnheardCharactersTest::thePlacesAreWhereTheTextEnds() {
     characters.add('A', 7);
     characters.restrictPlaces(3);
     QCOMPARE(characters.oldestPlace(), std::optional<qsizetype>(3));
+}
+
+void UnheardCharactersTest::oneEchoMayBeLost() {
+    UnheardCharacters characters;
+    characters.add('A', 0);
+    characters.add('B', 1);
+    characters.add('C', 2);
+    characters.takeEcho('B');
+    QCOMPARE(characters.oldestPlace(), std::optional<qsizetype>(2));
+}
+
+void UnheardCharactersTest::theEchoOfHalfASpaceTakesNone() {
+    UnheardCharacters characters;
+    characters.add('A', 0);
+    characters.takeEcho('|');
+    QVERIFY(characters.areThere());
 }
 
 static const RegisteredTest<UnheardCharactersTest> registered;
