@@ -34,7 +34,9 @@ constexpr auto chips = std::to_array<SerialChip>({
 
 const SerialChip* SerialChips::find(const UsbChip& chip) {
     const auto* const found = std::ranges::find_if(chips, [&](const SerialChip& each) {
-        return chip.vendor == each.vendor && chip.product.startsWith(each.product);
+        // To newer releases of the toolkit a null string does not even begin with an empty one.
+        return chip.vendor == each.vendor &&
+               (each.product.isEmpty() || chip.product.startsWith(each.product));
     });
     return found != chips.end() ? found : nullptr;
 }
