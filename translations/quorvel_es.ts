@@ -1878,11 +1878,11 @@ También valen las opciones de la biblioteca gráfica, como -platform y -style. 
     </message>
     <message>
         <source>How long the transmitter stays on after text from the computer, beyond a letter space. Needs PTT enabled.</source>
-        <translation>Cuánto sigue en emisión tras un texto del ordenador, además de un espacio entre letras. Necesita PTT activo.</translation>
+        <translation>Cuánto sigue en emisión tras un texto del ordenador, además del espacio de letra. Necesita PTT activo.</translation>
     </message>
     <message>
         <source>Paddle &amp;hang</source>
-        <translation>Rete&amp;nción palas</translation>
+        <translation>Rete&amp;nción</translation>
     </message>
     <message>
         <source>How long the transmitter stays on after the paddle: short to hear sooner, long to spare the relay. Needs PTT enabled.</source>
