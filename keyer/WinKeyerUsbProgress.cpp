@@ -114,8 +114,8 @@ void WinKeyerUsb::awaitSilence() {
     endSilence();
     const bool isIdle = (_lastStatus.value_or(0) & KeyerStatus::anything) == 0;
     const bool isFar = !_onTheirWay.isOneAtATime();
-    const bool isOpen = _unheard.areThere() ||
-                        (isFar && (_mayBeKeying || _onTheirWay.oldestPlace().has_value()));
+    const bool isOpen =
+        _unheard.areThere() || (isFar && (_mayBeKeying || _onTheirWay.oldestPlace().has_value()));
     if (isIdle && isOpen && _pauseState == 0) {
         _silenceTimer = Platform::current().clock().scheduleTimer(longestAnswer, this,
                                                                   [this] { countAsKeyed(); });
