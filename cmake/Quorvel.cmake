@@ -15,8 +15,9 @@ target_compile_definitions(quorvel-flags INTERFACE
     QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS
     QT_DISABLE_DEPRECATED_BEFORE=0x060400)
 if(QUORVEL_SANITIZE)
-    # Checks that stand before every access to a member and take a third of the compiling: what a null
-    # pointer does the address sanitizer reports as well. The fuzzer's build has them.
+    # Checks that stand before every access to a member and take a third of the compiling. What a null
+    # pointer does the address sanitizer reports as well; the others are left to the fuzzer's build,
+    # which has them all.
     if(NOT QUORVEL_FUZZ AND QUORVEL_SANITIZE MATCHES undefined)
         set(QUORVEL_SANITIZE_NOT -fno-sanitize=null,alignment,object-size,vptr)
     endif()
@@ -72,7 +73,7 @@ add_custom_target(plain-tests)
 
 # quorvel_plain_tests(TEST test... NEEDS target...)
 # Has these tests run without a sanitizer, too, or only so. All others `./dev test` runs under
-# sanitizers alone, which sees the same and more, and saves building them twice.
+# sanitizers alone, which saves building them twice.
 function(quorvel_plain_tests)
     cmake_parse_arguments(PARSE_ARGV 0 arg "" "" "TEST;NEEDS")
     set_property(TEST ${arg_TEST} APPEND PROPERTY LABELS plain)

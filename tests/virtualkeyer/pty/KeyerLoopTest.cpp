@@ -45,8 +45,7 @@ class RunningKeyer {
     }
 
     [[nodiscard]] FileDescriptor openPort() const {
-        return FileDescriptor(
-            ::open(_port.path().c_str(), O_RDWR | O_NOCTTY | O_CLOEXEC | O_NONBLOCK));
+        return FileDescriptor(::open(_path.c_str(), O_RDWR | O_NOCTTY | O_CLOEXEC | O_NONBLOCK));
     }
     void stop() {
         const std::uint64_t one = 1;
@@ -62,6 +61,7 @@ class RunningKeyer {
     FileDescriptor _stop;
     QTemporaryDir _runtime;
     KeyerPort _port{_runtime.path().toStdString(), "keyer"};
+    const std::string _path = _port.path(); ///< the link's, which is made anew on the other thread
     SerialKeyer _keyer;
     KeyerLoop _loop;
     std::future<void> _end;
