@@ -14,7 +14,7 @@ namespace virtualkeyer {
 namespace {
 
 /// A text of more is no exercise.
-constexpr int longestText = 500;
+constexpr int longestExercise = 500;
 
 using Mark = PracticeScore::Mark;
 
@@ -43,7 +43,7 @@ PracticePage::PracticePage(ScopeTap& tap, QWidget* parent)
       _result(new QLabel),
       _count(new QLabel),
       _lengths(new QTableWidget(PracticeScore::kindCount, ColumnCount)) {
-    _text->setMaxLength(longestText);
+    _text->setMaxLength(longestExercise);
     _text->setAccessibleName(tr("Text to be sent"));
     _text->setToolTip(tr("Letters that work the paddle are letters while this has the keyboard; "
                          "Enter begins, and hands them back."));
